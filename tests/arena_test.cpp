@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include "EngLexicon.h"
+#include "MemoryStack.h"
+#include "TtsString.h"
+
+namespace kavi {
+namespace {
+
+constexpr std::size_t HUGE_SIZE = std::numeric_limits<std::size_t>::max();
+
+TEST(Arena, RandomOrderKeepsBlocksApartAndComesBackToNothing) {
+    mem_stack_handle arena = mem_stack_create(0);
+    struct Block {
+        unsigned char* p;
+        std::size_t size;
+        unsigned char fill;
+    };
+    std::vector<Block> blocks;
+    std::mt19937 random(1);
+    for (int step = 0; step < 4000; ++step) {
+        if (blocks.size() < 200 && random() % 5 < 3) {
+            const std::size_t size = random() % 4 == 0 ? random() % 70000 : random() % 600;
+            auto* p = static_cast<unsigned char*>(mem_stack_request_buf(size, MEM_COMMON, arena));
+            ASSERT_NE(p, nullptr);
+            ASSERT_EQ(reinterpret_cast<std::uintptr_t>(p) % alignof(std::max_align_t), 0U);
+            const auto fill = static_cast<unsigned char>(step);
+            std::memset(p, fill, size);
+            blocks.push_back({p, size, fill});
+        } else if (!blocks.empty()) {
+            std::swap(blocks[random() % blocks.size()], blocks.back());
+            const Block block = blocks.back();
+            for (std::size_t i = 0; i < block.size; ++i)
+                ASSERT_EQ(block.p[i], block.fill);
+            mem_stack_release_buf(block.p, random() % 2 == 0 ? 0 : block.size, MEM_COMMON, arena);
+            blocks.pop_back();
+        }
+    }
+    EXPECT_GT(mem_stack_used(arena), 0U);
+    for (const Block& block : blocks)
+        mem_stack_release_buf(block.p, 0, MEM_COMMON, arena);
+    EXPECT_EQ(mem_stack_used(arena), 0U);
+    EXPECT_GT(mem_stack_peak(arena), 0U);
+    mem_stack_destroy(arena);
+}
+
+TEST(Arena, CapacityBoundsWhatIsInUseAndRefusalHarmsNothing) {
+    for (const std::size_t size : {std::size_t{1}, std::size_t{500}, std::size_t{40000}}) {
+        mem_stack_handle arena = mem_stack_create(100000);
+        std::vector<void*> blocks;
+        while (void* p = mem_stack_request_buf(size, MEM_COMMON, arena)) {
+            std::memset(p, 1, size);
+            blocks.push_back(p);
+        }
+        EXPECT_LE(mem_stack_used(arena), 100000U);
+        EXPECT_GT(mem_stack_used(arena) + size + 1100, 100000U) << "refused long before the end";
+        mem_stack_release_buf(blocks.back(), size, MEM_COMMON, arena);
+        blocks.back() = mem_stack_request_buf(size, MEM_COMMON, arena);
+        EXPECT_NE(blocks.back(), nullptr) << "usable again after a refusal";
+        mem_stack_destroy(arena);  // takes the blocks that are out with it
+    }
+}
+
+TEST(Arena, RefusesWhatCannotBeHad) {
+    mem_stack_handle arena = mem_stack_create(0);
+    EXPECT_EQ(mem_stack_request_buf(HUGE_SIZE, MEM_COMMON, arena), nullptr);
+    EXPECT_EQ(mem_stack_request_buf(HUGE_SIZE / 2, MEM_COMMON, arena), nullptr);
+    EXPECT_EQ(mem_stack_request_buf(8, MEM_MAX_CNT, arena), nullptr);
+    EXPECT_EQ(mem_stack_request_buf(8, MEM_COMMON, nullptr), nullptr);
+    EXPECT_EQ(mem_stack_release_buf(nullptr, 0, MEM_COMMON, arena), 0);
+    EXPECT_EQ(mem_stack_used(arena), 0U);
+    EXPECT_EQ(mem_stack_peak(arena), 0U);
+    void* nothing = mem_stack_request_buf(0, MEM_COMMON, arena);
+    EXPECT_NE(nothing, nullptr);
+    mem_stack_release_buf(nothing, 0, MEM_COMMON, arena);
+    mem_stack_destroy(arena);
+    mem_stack_destroy(nullptr);
+}
+
+TEST(Strings, BoundedAppendIsAllOrNothing) {
+    struct Row {
+        const char* held;
+        const char* added;
+        int n;
+        int cap;
+        int result;
+        const char* left;
+    };
+    const Row rows[] = {
+        {"ab", "cd", 2, 5, 0, "abcd"}, {"ab", "cd", 2, 4, -1, "ab"}, {"ab", "cdef", 1, 4, 0, "abc"},
+        {"ab", "c", 100, 4, 0, "abc"}, {"ab", "", 0, 3, 0, "ab"},    {"ab", "c", 1, 0, -1, "ab"},
+        {"ab", "c", -1, 10, -1, "ab"}, {"abc", "", 0, 2, -1, "abc"}, {"", "abc", 3, 4, 0, "abc"},
+    };
+    for (const Row& row : rows) {
+        char text[16] = {};
+        std::strcpy(text, row.held);
+        EXPECT_EQ(safe_strncat(text, row.added, row.n, row.cap), row.result) << row.added;
+        EXPECT_STREQ(text, row.left);
+    }
+}
+
+TEST(Strings, FormattedPrintIsAlwaysTerminated) {
+    char text[8];
+    EXPECT_EQ(tts_snprintf(text, 8, "</%s>", "poem"), 7);
+    EXPECT_STREQ(text, "</poem>");
+    EXPECT_EQ(tts_snprintf(text, 4, "<%s=", "poem"), 6);
+    EXPECT_STREQ(text, "<po");
+    EXPECT_EQ(tts_snprintf(text, 0, "x"), -1);
+    EXPECT_STREQ(text, "<po");
+}
+
+TEST(Lexicon, KnowsNoWord) {
+    char out[4] = "abc";
+    EXPECT_LT(eng_lexicon_lookup("word", out, 4), 0);
+    EXPECT_STREQ(out, "");
+}
+
+}  // namespace
+}  // namespace kavi

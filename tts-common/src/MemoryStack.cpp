@@ -1,0 +1,223 @@
+// Size classes with free lists over chunks.
+//
+// A block is a header and its bytes. A released block goes to the free list of its class, so a
+// request and a release are a few instructions in any order. A class without a free block carves
+// one from the current chunk; when that is used up and everything has been given back, the arena
+// rewinds to its first chunk, so a host that works sentence by sentence settles on a few chunks.
+// Blocks above the largest class are had from and given back to the system one by one.
+
+#include "MemoryStack.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <limits>
+#include <new>
+
+namespace kavi {
+
+namespace {
+
+constexpr std::size_t ALIGNMENT = alignof(std::max_align_t);
+constexpr std::size_t SMALL_STEP = 16;    // classes of 16, 32, ... 1024 bytes
+constexpr std::size_t SMALL_MAX = 1024;   //
+constexpr std::size_t CLASS_MAX = 32768;  // then four classes to every doubling, up to this
+constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
+constexpr std::size_t CLASSES = SMALL_CLASSES + 4 * 5;
+constexpr std::size_t CHUNK_BYTES = std::size_t{64} * 1024;
+
+static_assert(SMALL_MAX << 5 == CLASS_MAX, "five doublings of four classes each");
+static_assert(SMALL_STEP % ALIGNMENT == 0, "every class keeps the alignment");
+
+struct alignas(std::max_align_t) BlockHeader {
+    std::size_t cost;        // what the block counts for: its bytes and its book-keeping
+    std::size_t size_class;  // CLASSES for a large block
+};
+
+// A released block; the link stands in the bytes that nobody uses now.
+struct FreeBlock {
+    BlockHeader header;
+    FreeBlock* next;
+};
+
+struct LargeBlock {
+    LargeBlock* next;
+    LargeBlock** link;  // where the pointer to this block stands
+    BlockHeader header;
+};
+
+static_assert(sizeof(FreeBlock) <= sizeof(BlockHeader) + SMALL_STEP, "the link fits every class");
+static_assert(sizeof(LargeBlock) == offsetof(LargeBlock, header) + sizeof(BlockHeader),
+              "the user's bytes begin right behind the header");
+
+struct alignas(std::max_align_t) Chunk {
+    Chunk* next;
+    std::size_t bytes;  // behind this record
+};
+
+constexpr std::size_t round_up(std::size_t n, std::size_t step) {
+    return (n + step - 1) / step * step;
+}
+
+// The class of a request of `size` bytes, and the bytes of that class. CLASSES: too large for any.
+struct SizeClass {
+    std::size_t index;
+    std::size_t bytes;
+};
+
+SizeClass class_of(std::size_t size) {
+    if (size <= SMALL_MAX) {
+        const std::size_t steps = size == 0 ? 1 : (size + SMALL_STEP - 1) / SMALL_STEP;
+        return {steps - 1, steps * SMALL_STEP};
+    }
+    if (size > CLASS_MAX) return {CLASSES, round_up(size, ALIGNMENT)};
+    std::size_t base = SMALL_MAX;
+    std::size_t index = SMALL_CLASSES;
+    while (size > 2 * base) {
+        base *= 2;
+        index += 4;
+    }
+    const std::size_t quarters = (size - base + base / 4 - 1) / (base / 4);
+    return {index + quarters - 1, base + quarters * (base / 4)};
+}
+
+}  // namespace
+
+struct tag_mem_stack_array {
+    std::size_t capacity;
+    std::size_t used;
+    std::size_t peak;
+    Chunk* first_chunk;
+    Chunk* chunk;            // the one being carved
+    std::size_t chunk_used;  // bytes carved from it
+    LargeBlock* large;
+    FreeBlock* free_list[CLASSES];
+};
+
+namespace {
+
+BlockHeader* new_large(tag_mem_stack_array& arena, std::size_t cost) {
+    void* memory = std::malloc(cost);
+    if (memory == nullptr) return nullptr;
+    auto* block = new (memory) LargeBlock{arena.large, &arena.large, {cost, CLASSES}};
+    if (arena.large != nullptr) arena.large->link = &block->next;
+    arena.large = block;
+    return &block->header;
+}
+
+void free_large(LargeBlock* block) {
+    *block->link = block->next;
+    if (block->next != nullptr) block->next->link = block->link;
+    std::free(block);
+}
+
+LargeBlock* large_block(BlockHeader* header) {
+    return reinterpret_cast<LargeBlock*>(reinterpret_cast<char*>(header) -
+                                         offsetof(LargeBlock, header));
+}
+
+BlockHeader* reuse(tag_mem_stack_array& arena, std::size_t size_class) {
+    FreeBlock* block = arena.free_list[size_class];
+    arena.free_list[size_class] = block->next;
+    return &block->header;
+}
+
+void rewind(tag_mem_stack_array& arena) {
+    std::fill(std::begin(arena.free_list), std::end(arena.free_list), nullptr);
+    arena.chunk = arena.first_chunk;
+    arena.chunk_used = 0;
+}
+
+bool has_room(const tag_mem_stack_array& arena, std::size_t cost) {
+    return arena.chunk != nullptr && arena.chunk->bytes - arena.chunk_used >= cost;
+}
+
+// Makes a chunk with room for `cost` bytes the current one: the arena's next, or a new one.
+bool next_chunk(tag_mem_stack_array& arena, std::size_t cost) {
+    if (arena.used == 0) rewind(arena);
+    while (!has_room(arena, cost)) {
+        Chunk** next = arena.chunk != nullptr ? &arena.chunk->next : &arena.first_chunk;
+        if (*next == nullptr) {
+            const std::size_t bytes = std::max(cost, std::min(CHUNK_BYTES, arena.capacity));
+            void* memory = std::malloc(sizeof(Chunk) + bytes);
+            if (memory == nullptr) return false;
+            *next = new (memory) Chunk{nullptr, bytes};
+        }
+        arena.chunk = *next;
+        arena.chunk_used = 0;
+    }
+    return true;
+}
+
+BlockHeader* carve(tag_mem_stack_array& arena, std::size_t cost, std::size_t size_class) {
+    if (!has_room(arena, cost) && !next_chunk(arena, cost)) return nullptr;
+    char* memory = reinterpret_cast<char*>(arena.chunk + 1) + arena.chunk_used;
+    arena.chunk_used += cost;
+    return new (memory) BlockHeader{cost, size_class};
+}
+
+}  // namespace
+
+mem_stack_handle mem_stack_create(std::size_t n_capacity) {
+    void* memory = std::malloc(sizeof(mem_stack_array));
+    if (memory == nullptr) return nullptr;
+    auto* arena = new (memory) mem_stack_array{};
+    arena->capacity = n_capacity != 0 ? n_capacity : std::numeric_limits<std::size_t>::max();
+    return arena;
+}
+
+void mem_stack_destroy(mem_stack_handle arena) {
+    if (arena == nullptr) return;
+    while (arena->large != nullptr)
+        free_large(arena->large);
+    for (Chunk* chunk = arena->first_chunk; chunk != nullptr;) {
+        Chunk* next = chunk->next;
+        std::free(chunk);
+        chunk = next;
+    }
+    std::free(arena);
+}
+
+std::size_t mem_stack_used(mem_stack_handle arena) {
+    return arena != nullptr ? arena->used : 0;
+}
+
+std::size_t mem_stack_peak(mem_stack_handle arena) {
+    return arena != nullptr ? arena->peak : 0;
+}
+
+void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
+    if (arena == nullptr || type < MEM_COMMON || type >= MEM_MAX_CNT) return nullptr;
+    const std::size_t left = arena->capacity - arena->used;
+    if (size > std::min(left, std::numeric_limits<std::size_t>::max() / 2)) return nullptr;
+    const SizeClass wanted = class_of(size);
+    const bool large = wanted.index == CLASSES;
+    const std::size_t cost = wanted.bytes + (large ? sizeof(LargeBlock) : sizeof(BlockHeader));
+    if (cost > left) return nullptr;
+
+    BlockHeader* block = large ? new_large(*arena, cost)
+                         : arena->free_list[wanted.index] != nullptr
+                             ? reuse(*arena, wanted.index)
+                             : carve(*arena, cost, wanted.index);
+    if (block == nullptr) return nullptr;
+    arena->used += cost;
+    arena->peak = std::max(arena->peak, arena->used);
+    return block + 1;
+}
+
+int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,
+                          mem_stack_handle arena) {
+    if (p == nullptr || arena == nullptr) return 0;
+    BlockHeader* header = static_cast<BlockHeader*>(p) - 1;
+    arena->used -= header->cost;
+    if (header->size_class == CLASSES) {
+        free_large(large_block(header));
+    } else {
+        auto* block = reinterpret_cast<FreeBlock*>(header);
+        block->next = arena->free_list[header->size_class];
+        arena->free_list[header->size_class] = block;
+    }
+    return 0;
+}
+
+}  // namespace kavi

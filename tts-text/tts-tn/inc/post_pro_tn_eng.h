@@ -1,0 +1,284 @@
+// The English text-normalisation post-processor: the one object that a host engine owns.
+#ifndef KAVI_POST_PRO_TN_ENG_H
+#define KAVI_POST_PRO_TN_ENG_H
+
+#include "MemoryStack.h"
+
+namespace kavi {
+
+constexpr int WORD_MAX_LEN = 500;              // word and reading buffers
+constexpr int SZ_TEXT_MAX_LEN = 4096;          // sentence and output texts
+constexpr int MEMORY_SIZE_TAG_LABEL_TN = 512;  // tag name buffers
+constexpr int ABBREVIATIONNUMBER = 23;         // rows of the abbreviation table
+
+// The class of a section, decided by the first byte of its text.
+constexpr int STRINGSYMBOL = 0;  // an ASCII letter
+constexpr int NUMBERSYMBOL = 1;  // a digit
+constexpr int MARKSYMBOL = 2;    // anything else: blank, punctuation, markup tag, bytes above 127
+
+// One token of a sentence. A queue of them is known by its head.
+struct Section {
+    char sz_char[WORD_MAX_LEN];  // the text, at most 499 characters
+    int m_nmark;                 // its class
+    Section* m_pnext;            // null at the tail
+    Section* m_pprevious;        // null at the head
+};
+
+// ---- The word tables: {key, word} rows, searched in row order; the first equal key wins. ----
+
+// clang-format off
+
+// Abbreviations that end in a full stop. Each is found as written, in lower case, capitalised and
+// in capitals, in this order.
+inline constexpr char s_spec_word_abbrevi[ABBREVIATIONNUMBER][2][20] = {
+    {"Dr.",   "doctor"},
+    {"nr.",   "near"},
+    {"Nr.",   "near"},
+    {"ack.",  "acknowledge"},
+    {"adv.",  "advantage"},
+    {"afr.",  "Africa"},
+    {"ft.",   "feet"},
+    {"Ft.",   "flat"},
+    {"vs.",   "versus"},
+    {"Jan.",  "January"},
+    {"Feb.",  "February"},
+    {"Mar.",  "March"},
+    {"Apr.",  "April"},
+    {"May.",  "May"},
+    {"Jun.",  "June"},
+    {"Jul.",  "July"},
+    {"Aug.",  "August"},
+    {"Sept.", "September"},
+    {"Oct.",  "October"},
+    {"Nov.",  "November"},
+    {"Dec.",  "December"},
+    {"B.",    "B"},
+    {"e.g.",  "for example"},
+};
+
+// Month numbers.
+inline constexpr char s_number_to_month[21][2][20] = {
+    {"1",  "January"},
+    {"2",  "February"},
+    {"3",  "March"},
+    {"4",  "April"},
+    {"5",  "May"},
+    {"6",  "June"},
+    {"7",  "July"},
+    {"8",  "August"},
+    {"9",  "September"},
+    {"10", "October"},
+    {"11", "November"},
+    {"12", "December"},
+    {"01", "January"},
+    {"02", "February"},
+    {"03", "March"},
+    {"04", "April"},
+    {"05", "May"},
+    {"06", "June"},
+    {"07", "July"},
+    {"08", "August"},
+    {"09", "September"},
+};
+
+// Month abbreviations; the names in the second column are month names too.
+inline constexpr char s_string_to_month[12][2][20] = {
+    {"Jan",  "January"},
+    {"Feb",  "February"},
+    {"Mar",  "March"},
+    {"Apr",  "April"},
+    {"May",  "May"},
+    {"Jun",  "June"},
+    {"Jul",  "July"},
+    {"Aug",  "August"},
+    {"Sept", "September"},
+    {"Oct",  "October"},
+    {"Nov",  "November"},
+    {"Dec",  "December"},
+};
+
+// Cardinal words. The last row is what stands for anything but a digit.
+inline constexpr char s_number_to_char[29][2][15] = {
+    {"0",  "zero"},
+    {"1",  "one"},
+    {"2",  "two"},
+    {"3",  "three"},
+    {"4",  "four"},
+    {"5",  "five"},
+    {"6",  "six"},
+    {"7",  "seven"},
+    {"8",  "eight"},
+    {"9",  "nine"},
+    {"10", "ten"},
+    {"11", "eleven"},
+    {"12", "twelve"},
+    {"13", "thirteen"},
+    {"14", "fourteen"},
+    {"15", "fifteen"},
+    {"16", "sixteen"},
+    {"17", "seventeen"},
+    {"18", "eighteen"},
+    {"19", "nineteen"},
+    {"20", "twenty"},
+    {"30", "thirty"},
+    {"40", "forty"},
+    {"50", "fifty"},
+    {"60", "sixty"},
+    {"70", "seventy"},
+    {"80", "eighty"},
+    {"90", "ninety"},
+    {"00", " "},
+};
+
+// Ordinal words.
+inline constexpr char s_number_to_turn[27][2][15] = {
+    {"1",  "first"},
+    {"2",  "second"},
+    {"3",  "third"},
+    {"4",  "forth"},
+    {"5",  "fifth"},
+    {"6",  "sixth"},
+    {"7",  "seventh"},
+    {"8",  "eighth"},
+    {"9",  "ninth"},
+    {"10", "tenth"},
+    {"11", "eleventh"},
+    {"12", "twelvth"},
+    {"13", "thirteenth"},
+    {"14", "fourteenth"},
+    {"15", "fifteenth"},
+    {"16", "sixteenth"},
+    {"17", "seventeenth"},
+    {"18", "eighteenth"},
+    {"19", "ninteenth"},
+    {"20", "twentieth"},
+    {"30", "thirtieth"},
+    {"40", "fortieth"},
+    {"50", "fiftieth"},
+    {"60", "sixtieth"},
+    {"70", "seventieth"},
+    {"80", "eightieth"},
+    {"90", "ninetieth"},
+};
+
+// clang-format on
+
+// The data's way, and the folder under src/post_pro_tn_eng that holds each step:
+//
+//   raw text -> one sentence          eng_text_normalize    pipeline/
+//   sentence -> sections              text_to_queue         pipeline/
+//   sections -> speakable text        section_process       pipeline/, readers/, numbers/
+//
+// The object holds nothing but the arena it takes its working memory from: every block goes back
+// before the call that took it returns. It owns no memory, keeps nothing between calls and takes no
+// lock; calls that share an arena must not overlap. No argument may be null, and every text is
+// NUL-terminated; any bytes may stand in it.
+class PostProTnEng {
+  public:
+    PostProTnEng();
+    ~PostProTnEng();
+
+    // Binds the engine to the host's arena, which must outlive its use here. May be called again.
+    // Needed before anything that takes memory; an unbound engine answers as if the arena were
+    // full.
+    void init(mem_stack_handle mem_handle);
+
+    // ---- Raw text to one sentence: pipeline/normalize, pipeline/abbreviation ----
+
+    // Cuts the first sentence off `sz_source_text`: up to and including the first of "." "?" "!"
+    // ";" "," ":" that ends one. Abbreviations are expanded, markup spans still open at the cut are
+    // closed in the sentence and opened again in front of the rest.
+    //   sz_source_text  read only; of what does not fit sz_next_text nothing is handed back
+    //   sz_target_text  4096 bytes, zero-filled; receives the sentence
+    //   sz_next_text    4096 bytes holding a text, normally ""; the rest of the source is appended
+    // Always 0. Text remains when sz_next_text grew: call again on a copy of it. Malformed markup
+    // (a closing tag that closes nothing or another kind, an eleventh open tag, an opening tag
+    // above 199 characters, no room for a closing tag) ends the sentence there, unclosed, and the
+    // rest of the source is dropped.
+    int eng_text_normalize(char* sz_source_text, char* sz_target_text, char* sz_next_text);
+
+    // Expands the abbreviation that the first "." of `sz_source_text` ends, if it ends one, in
+    // `sz_target` (4096 bytes, holding the text written so far, which ends with that "."). Returns
+    // the source position after the abbreviation. Null when there is none: the target's final "."
+    // is removed and `*c_stop` set to 1; null too, without `*c_stop`, when the expansion has no
+    // room.
+    char* abbreviation(char* sz_source_text, char* sz_target, char* c_stop);
+
+    // ---- Sentence to speakable text: pipeline/section_queue, pipeline/dispatcher ----
+
+    // Appends the speakable text of one sentence to `sz_target_text` (4096 bytes holding a text,
+    // normally ""). 0 when done. -1 when a section could not be had (the target is unchanged) or
+    // the text did not fit (the target keeps what was written).
+    int eng_text_tokenize(char* sz_source_text, char* sz_target_text);
+
+    // Cuts a text into sections, appended in text order to the queue with head `sz_section`. 0, or
+    // -1 when the arena refused one; those before it stay in the queue. The caller owns the
+    // sections and gives each back with mem_stack_release_buf.
+    int text_to_queue(char* sz_source_text, Section*& sz_section);
+
+    // Appends one section with the text `sz_source` (cut at 499 characters) to the queue; an empty
+    // text adds nothing. 0, or -1 when the arena refused the block.
+    int add_section(char* sz_source, Section*& p_section);
+
+    // Appends what the queue with head `p_section` (may be null) reads as to `sz_target_text` (4096
+    // bytes holding a text). Texts of sections may change on the way, their links do not. 0 when
+    // done, -1 when the text did not fit; the target then keeps what was written.
+    int section_process(Section* p_section, char* sz_target_text);
+
+  private:
+    friend class SectionDispatcher;
+    friend struct PostProTnEngPeer;  // lets the tests reach the readers
+
+    void re_regular(char* sz_source_text);
+
+    // Readers append the reading of the pattern that begins at a section to a 500-byte buffer and
+    // return the last section they consumed, or the buffer; tests answer 1 or 0. A reader that
+    // the arena refuses its scratch buffer writes nothing and consumes its first section only.
+
+    // ---- readers/telephone ----
+    int phone_number_decide(Section* p_section);
+    Section* phone_number_read(Section* p_section, char* sz_target_text);
+
+    // ---- readers/dates ----
+    int month_def(char* sz_source);
+    char* month_read(char* sz_source_text, char* sz_target_text);
+    int data_decide(Section* p_section);
+    Section* data_number(Section* p_section, char* sz_target_text);
+    char* year_read(char* sz_source_text, char* sz_target_text);
+
+    // ---- readers/amounts ----
+    int fraction_decide(Section* pSection);
+    Section* fraction_number(Section* pSection, char* sz_target_text);
+    int decimal_decide(Section* pSection);
+    Section* decimal_number(Section* psection, char* sz_target_text);
+    int currency_decide(Section* pSection);
+    Section* currrency_read(Section* pSection, char* sz_target_text);  // null: the queue ran out
+
+    // ---- readers/clock_times: the form code, 1 short or 2 long, travels in m_nmark ----
+    int time_decide(Section* pSection);
+    Section* time_number(Section* psection, char* sz_target_text);  // null: incomplete, no scratch
+
+    // ---- readers/number_tokens ----
+    Section* str_number(Section* p_section, char* sz_target_text);  // null: the queue ran out
+    Section* turn(Section* p_section, char* sz_target_text);
+    int process_upper_case(Section* m_ptemp_section, char* sz_target);
+
+    // ---- readers/marks: the first two write to the 4096-byte output itself ----
+    bool process_bracket(Section*& p_temp_section, char* sz_target);  // false: the output is full
+    Section* process_plus(Section* p_temp_section, char* sz_target);  // null: the output is full
+    Section* country_code_read(Section* p_number, char* sz_scratch, char* sz_target);  // likewise
+    Section* process_single_quote(Section* p_temp_section, char* sz_target);
+
+    // ---- numbers/ ----
+    char* number_read(char* sz_source_text, char* sz_target_text);
+    char* number_to_normal(char* sz_source_text, char* sz_target_text);
+    int number_def(char* sz_source);
+    char* str_turn(char* sz_source_text, char* sz_target_text);  // null: not one to three digits
+    char* number_to_string(char* sz_source_text, char* sz_target_text);
+
+    mem_stack_handle _mem_handle;
+};
+
+}  // namespace kavi
+
+#endif  // KAVI_POST_PRO_TN_ENG_H

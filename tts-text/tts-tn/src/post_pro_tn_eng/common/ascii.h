@@ -1,0 +1,28 @@
+// Character classes. ASCII only, whatever the locale and the signedness of char.
+#ifndef KAVI_TN_ASCII_H
+#define KAVI_TN_ASCII_H
+
+namespace kavi::tn {
+
+constexpr bool is_digit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool is_upper(char c) {
+    return c >= 'A' && c <= 'Z';
+}
+constexpr bool is_lower(char c) {
+    return c >= 'a' && c <= 'z';
+}
+constexpr bool is_letter(char c) {
+    return is_upper(c) || is_lower(c);
+}
+constexpr char to_lower(char c) {
+    return is_upper(c) ? static_cast<char>(c - 'A' + 'a') : c;
+}
+constexpr char to_upper(char c) {
+    return is_lower(c) ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_ASCII_H

@@ -1,0 +1,53 @@
+// A text that grows at the end of a caller's buffer and knows its length, so that no append walks
+// over what is already there.
+#ifndef KAVI_TN_BOUNDED_TEXT_H
+#define KAVI_TN_BOUNDED_TEXT_H
+
+#include <cstring>
+#include <string_view>
+
+#include "TtsString.h"
+
+namespace kavi::tn {
+
+class BoundedText {
+  public:
+    // `text` is a NUL-terminated text in a buffer of `capacity` bytes; one without a terminator
+    // there counts as full.
+    BoundedText(char* text, int capacity) : text_(text), capacity_(capacity) {
+        const void* end = std::memchr(text, '\0', static_cast<std::size_t>(capacity));
+        length_ =
+            end != nullptr ? static_cast<int>(static_cast<const char*>(end) - text) : capacity;
+    }
+
+    // Appends all of `words` and answers true, or nothing and answers false.
+    bool append(std::string_view words) {
+        const auto n = static_cast<int>(words.size());
+        if (safe_strncat(text_ + length_, words.data(), n, capacity_ - length_) != 0) return false;
+        length_ += n;
+        return true;
+    }
+
+    // Takes in what someone else has appended to the same buffer.
+    void catch_up() { length_ += static_cast<int>(std::strlen(text_ + length_)); }
+
+    // Removes the last `n` characters, or all when there are fewer.
+    void cut(int n) {
+        length_ -= n < length_ ? n : length_;
+        text_[length_] = '\0';
+    }
+
+    bool fits(std::size_t n) const { return n < static_cast<std::size_t>(capacity_ - length_); }
+    bool ends_with(char c) const { return length_ > 0 && text_[length_ - 1] == c; }
+    int length() const { return length_; }
+    char* text() { return text_; }
+
+  private:
+    char* text_;
+    int capacity_;
+    int length_;
+};
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_BOUNDED_TEXT_H

@@ -1,0 +1,30 @@
+// Search in the {key, word} tables.
+#ifndef KAVI_TN_WORD_TABLE_H
+#define KAVI_TN_WORD_TABLE_H
+
+#include <cstddef>
+#include <cstring>
+
+namespace kavi::tn {
+
+// The word of the first row whose key is `key`, or null.
+template <std::size_t Rows, std::size_t Width>
+const char* find_word(const char (&table)[Rows][2][Width], const char* key) {
+    for (const auto& row : table) {
+        if (std::strcmp(row[0], key) == 0) return row[1];
+    }
+    return nullptr;
+}
+
+// The same for a number word, whose key is one digit or two (`second` is NUL for one). A key that
+// is not in the table has the empty word.
+template <std::size_t Rows, std::size_t Width>
+const char* number_word(const char (&table)[Rows][2][Width], char first, char second = '\0') {
+    const char key[] = {first, second, '\0'};
+    const char* word = find_word(table, key);
+    return word != nullptr ? word : "";
+}
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_WORD_TABLE_H

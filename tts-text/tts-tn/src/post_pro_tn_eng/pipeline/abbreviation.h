@@ -1,0 +1,29 @@
+// The search for the abbreviation that a full stop ends.
+#ifndef KAVI_TN_ABBREVIATION_H
+#define KAVI_TN_ABBREVIATION_H
+
+#include "../common/bounded_text.h"
+#include "../common/forward_finder.h"
+#include "post_pro_tn_eng.h"
+
+namespace kavi::tn {
+
+// Serves one scan of one source text: remembers which case forms lie ahead, so that even a text
+// made of near misses is searched once for each.
+class AbbreviationSearch {
+  public:
+    // Expands the abbreviation that the full stop at `dot` ends, where `stretch` is where the
+    // search begins, the end of the last abbreviation or decimal point; the contract of
+    // PostProTnEng::abbreviation otherwise. Stretches move forward from call to call.
+    char* expand(char* stretch, const char* dot, BoundedText& target, char& stop);
+
+  private:
+    bool is_accepted(int row, const char* stretch, const char* dot);
+
+    static constexpr int CASE_FORMS = 4;  // as written, lower case, capitalised, capitals
+    ForwardFinder ahead_[ABBREVIATIONNUMBER][CASE_FORMS];
+};
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_ABBREVIATION_H

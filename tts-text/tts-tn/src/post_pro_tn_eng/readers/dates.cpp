@@ -1,0 +1,97 @@
+// Month names, numeric dates and years.
+
+#include <cstring>
+
+#include "../common/ascii.h"
+#include "../common/word_table.h"
+#include "parts.h"
+
+namespace kavi {
+
+using namespace tn;
+
+namespace {
+
+// The full name of the month that a text names, or null. Every key is a number or begins with a
+// capital letter, so most words are answered by their first character.
+const char* month_name(const char* text) {
+    if (is_digit(*text)) return find_word(s_number_to_month, text);
+    if (!is_upper(*text)) return nullptr;
+    if (const char* name = find_word(s_string_to_month, text)) return name;
+    for (const auto& row : s_string_to_month) {
+        if (std::strcmp(row[1], text) == 0) return row[1];
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+int PostProTnEng::month_def(char* sz_source) {
+    return month_name(sz_source) != nullptr ? 1 : 0;
+}
+
+char* PostProTnEng::month_read(char* sz_source_text, char* sz_target_text) {
+    const char* name = month_name(sz_source_text);
+    return std::strcpy(sz_target_text, name != nullptr ? name : sz_source_text);
+}
+
+// Day, "/" or "-", month, "/", year. No value is tested.
+int PostProTnEng::data_decide(Section* p_section) {
+    const auto is_part = [this](Section* part) {
+        return part != nullptr && (number_def(part->sz_char) == 1 || month_def(part->sz_char) == 1);
+    };
+    const Section* separator = ahead(p_section, 1);
+    const bool is_date = (is_mark(separator, '/') || is_mark(separator, '-')) &&
+                         is_part(ahead(p_section, 2)) && is_mark(ahead(p_section, 3), '/') &&
+                         is_part(ahead(p_section, 4));
+    return is_date ? 1 : 0;
+}
+
+Section* PostProTnEng::data_number(Section* p_section, char* sz_target_text) {
+    Scratch scratch(_mem_handle);
+    if (!scratch) return p_section;
+    Section* month = ahead(p_section, 2);
+    Section* year = ahead(p_section, 4);
+    Reading reading(sz_target_text);
+    reading.append(" the ");
+    str_turn(p_section->sz_char, scratch.text());
+    reading.take(scratch);
+    reading.append(" of ");
+    month_read(month->sz_char, scratch.text());
+    reading.take(scratch);
+    reading.append(" ");
+    if (is_number(year)) {
+        year_read(year->sz_char, scratch.text());
+    } else {
+        month_read(year->sz_char, scratch.text());
+    }
+    reading.take(scratch);
+    return year;
+}
+
+char* PostProTnEng::year_read(char* sz_source_text, char* sz_target_text) {
+    const std::size_t length = std::strlen(sz_source_text);
+    if (length != 2 && length != 4) return sz_target_text;
+    Scratch scratch(_mem_handle);
+    if (!scratch) return sz_target_text;
+    Reading reading(sz_target_text);
+    char* years = sz_source_text + length - 2;
+    if (length == 2) {
+        reading.append("two thousand ");
+    } else {
+        char century[] = {sz_source_text[0], sz_source_text[1], '\0'};
+        if (std::strcmp(century, "20") == 0) {
+            reading.append(" two thousand ");
+        } else {
+            number_read(century, scratch.text());
+            reading.take(scratch);
+        }
+        const long value = value_of(years);
+        if (value > 0 && value < 10) reading.append(" zero ");
+    }
+    number_read(years, scratch.text());
+    reading.take(scratch);
+    return sz_target_text;
+}
+
+}  // namespace kavi

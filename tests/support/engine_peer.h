@@ -29,6 +29,12 @@ struct PostProTnEngPeer {
     static constexpr SectionTest phone_number_decide = &PostProTnEng::phone_number_decide;
     static constexpr SectionTest time_decide = &PostProTnEng::time_decide;
     static constexpr auto time_number = &PostProTnEng::time_number;
+    static constexpr auto insert_punc = &PostProTnEng::insert_punc;
+    static constexpr auto insert_pause = &PostProTnEng::insert_pause;
+    static char* parse_tag(PostProTnEng& engine, char* text, char* name, char* value,
+                           char* content) {
+        return engine.parse_tag(text, name, value, content);
+    }
 };
 
 // An engine on an arena of its own. Every test ends with nothing in use there.

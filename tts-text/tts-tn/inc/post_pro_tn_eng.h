@@ -3,8 +3,14 @@
 #define KAVI_POST_PRO_TN_ENG_H
 
 #include "MemoryStack.h"
+#include "ShareObj.h"
 
 namespace kavi {
+
+namespace tn {
+class ForwardFinder;
+class Scanner;
+}  // namespace tn
 
 constexpr int WORD_MAX_LEN = 500;              // word and reading buffers
 constexpr int SZ_TEXT_MAX_LEN = 4096;          // sentence and output texts
@@ -168,11 +174,12 @@ inline constexpr char s_number_to_turn[27][2][15] = {
 //   raw text -> one sentence          eng_text_normalize    pipeline/
 //   sentence -> sections              text_to_queue         pipeline/
 //   sections -> speakable text        section_process       pipeline/, readers/, numbers/
+//   speakable text -> records         eng_text_to_utterance_syllable    utterance/
 //
-// The object holds nothing but the arena it takes its working memory from: every block goes back
-// before the call that took it returns. It owns no memory, keeps nothing between calls and takes no
-// lock; calls that share an arena must not overlap. No argument may be null, and every text is
-// NUL-terminated; any bytes may stand in it.
+// The object holds nothing but the arena it takes its memory from. Working memory goes back before
+// the call that took it returns; the records of an utterance pass to the host. The object owns no
+// memory, keeps nothing between calls and takes no lock; calls that share an arena must not
+// overlap. No argument may be null, and every text is NUL-terminated; any bytes may stand in it.
 class PostProTnEng {
   public:
     PostProTnEng();
@@ -225,8 +232,70 @@ class PostProTnEng {
     // done, -1 when the text did not fit; the target then keeps what was written.
     int section_process(Section* p_section, char* sz_target_text);
 
+    // ---- Speakable text to records: utterance/builder ----
+
+    // Makes an array of one record per word of `sz_source_text` (read only, of any length), with
+    // the punctuation, break times and markup that its tags give each word. Record 0, the head,
+    // holds no word but the marks before the first. `p_utt` receives the array, `n_utt` its number
+    // of records: 1 more than there are words.
+    // The array and each record's `syllable` and `zhuyin` belong to the caller, who releases them
+    // with their sizes: `n_utt` records, `syl_len` and `zy_len` bytes.
+    // 0 when every word was stored. -1 with `p_utt` null and `n_utt` 0 when the arena refused the
+    // array or the working buffers before it. -1 with both set when it refused a word's storage or
+    // a later buffer, or nested spans outgrew their 199 characters of names or values: the records
+    // stored so far are complete, the others zero.
+    int eng_text_to_utterance_syllable(char* sz_source_text, UtteranceSyllable*& p_utt, int& n_utt);
+
+    // ---- One record at a time: utterance/records, utterance/attributes ----
+    // `utt` is an array as above, `n` the number of records written so far, head included. Values
+    // are cut to 19 characters.
+
+    // Stores a word of at most 499 characters in record `n`, at the default pause. False when its
+    // storage could not be had: the record's `syllable` is null, and nothing is kept.
+    bool insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf);
+
+    // Set one attribute of record `n` - 1: true. An effect is appended to the effects there: false
+    // when it does not fit, and the field is unchanged. A prosody list «rate="2" pitch="low"» sets
+    // what it names: false at the first unknown name, those before it set.
+    bool insert_breaktime(int n, UtteranceSyllable* utt, char* time_str);
+    bool insert_emphasis_in(int n, UtteranceSyllable* utt, const char* value_str);
+    bool insert_poem_in(int n, UtteranceSyllable* utt, const char* value_str);
+    bool insert_quill_effect_in(int n, UtteranceSyllable* utt, const char* value_str);
+    bool insert_prosody_in(int n, UtteranceSyllable* utt, const char* value_str);
+
+    // Sets the attributes of record `n` - 1 that a chain of spans gives it: names and values,
+    // outermost first, each list joined by tabs. False at the first pair that cannot be applied,
+    // those before it applied.
+    bool insert_ssml_info_in(int n, UtteranceSyllable* utt, const char* value_str,
+                             const char* tag_type);
+
+    // Stores the words of the span `buffer_target` in the records from `n` on, with the attributes
+    // of the chain, and moves `n` past them. False when a word's storage or the working buffers
+    // could not be had or the chain outgrew 199 characters; the words stored so far stay.
+    bool insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
+                          char* buffer_target, const char* tag_type);
+
+    // ---- Reading tagged text: utterance/scanner ----
+
+    // One step of the scan of `p_word_text` at position `i`, which lies inside the text:
+    //   sz_char_buf  500 bytes, the word read so far, `j` characters
+    //   sz_tag       512 bytes, the name of the tag that this step read, else as it was
+    //   sz_value, sz_target  each as large as the text: that tag's value and paired content
+    //   mark         1 when this step completed the word, else 0
+    // After a completed word the caller empties the buffers and sets `j` to 0; after a tag it
+    // empties what it has used. Always true.
+    bool filter_text(char* p_word_text, char* sz_char_buf, char* sz_tag, char* sz_value,
+                     char* sz_target, int& i, int& j, int& mark);
+
+    // Adds the number of words in the span `buffer_target` to `n`, nested spans included. False
+    // when the working buffers could not be had; `n` is then the count so far.
+    bool count_embed_word(int& n, char* buffer_target);
+
   private:
     friend class SectionDispatcher;
+    friend class tn::Scanner;
+    friend class WordFiller;
+    friend class WordCounter;
     friend struct PostProTnEngPeer;  // lets the tests reach the readers
 
     void re_regular(char* sz_source_text);
@@ -275,6 +344,15 @@ class PostProTnEng {
     int number_def(char* sz_source);
     char* str_turn(char* sz_source_text, char* sz_target_text);  // null: not one to three digits
     char* number_to_string(char* sz_source_text, char* sz_target_text);
+
+    // ---- utterance/ ----
+    bool insert_punc(int n, UtteranceSyllable* utt, char* punc_str);
+    bool insert_pause(int n, UtteranceSyllable* utt, char ch);
+    // Null: no tag of the language, or not closed. `p_closings` is what the scan of the text knows
+    // of the closing tags ahead; null for a tag by itself.
+    char* parse_tag(char* sz_text, char* sz_tag, char* sz_value, char* sz_target,
+                    tn::ForwardFinder* p_closings = nullptr);
+    bool count_words(int& n, char* buffer_target, int n_depth);
 
     mem_stack_handle _mem_handle;
 };

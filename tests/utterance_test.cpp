@@ -1,0 +1,274 @@
+#include "engine_peer.h"
+#include "records.h"
+
+namespace kavi {
+namespace {
+
+using Peer = PostProTnEngPeer;
+
+class Utterance : public EngineTest {
+  protected:
+    std::string build(std::string text, int expected = 0) {
+        UtteranceSyllable* utt = nullptr;
+        int n_utt = -1;
+        EXPECT_EQ(engine.eng_text_to_utterance_syllable(text.data(), utt, n_utt), expected) << text;
+        std::string records = to_text(utt, n_utt);
+        kavi::release(utt, n_utt, arena);
+        return records;
+    }
+
+    struct Row {
+        std::string text;
+        std::string records;
+    };
+    void expect(const std::vector<Row>& rows) {
+        for (const Row& row : rows)
+            EXPECT_EQ(build(row.text), row.records) << row.text;
+    }
+};
+
+TEST_F(Utterance, OneSentenceEndToEnd) {
+    const Cut cut = normalize("<prosody=rate=\"2\">we have 2 cats, ok</prosody>");
+    EXPECT_EQ(cut.sentence, "<prosody=rate=\"2\">we have 2 cats,</prosody>");
+    EXPECT_EQ(cut.rest, "<prosody=rate=\"2\">ok</prosody>");
+    const std::string speakable = tokenize(cut.sentence);
+    EXPECT_EQ(speakable, "<prosody=rate=\"2\"> we have  two  cats <punc=dou> </prosody>");
+    EXPECT_EQ(build(speakable), "|we(rate=2)|have(rate=2)|two(rate=2)|cats+dou!(rate=2)");
+}
+
+TEST_F(Utterance, WordsAndMarks) {
+    const std::string long_run(600, 'x');
+    expect({
+        {"", ""},
+        {"hello world", "|hello|world"},
+        {"  a  b ", "|a|b"},
+        {"a\tb", "|a\tb"},
+        {"x", "|x"},
+        {"hello <punc=dou> world <punc=ju> ", "|hello+dou!|world+ju!"},
+        {"<punc=zuoyin> hi", "+zuoyin|hi"},
+        {"<punc=ju>", "+ju!"},
+        {"a <breaktime=500ms> b", "|a(breaktime=500ms)|b"},
+        {"a <breaktime=1><breaktime=2> b", "|a(breaktime=2)|b"},
+        {"a <punc=xyz><punc=pozhe> b", "|a+?+pozhe|b"},
+        {"a <punc=pozhe><punc=pozhe> b", "|a+pozhe+pozhe!|b"},
+        {"a <py=b1>b</py> c", "|a|c"},
+        {"<letter=1>b</letter> c", "|c"},
+        {"<poem1=a>b</poem1> c", "|c"},  // paired by its beginning, and no span
+        {"a b<orgLen=1>", "|a"},
+        {"ab<orgLen=3>cd ef", "|abcd|ef"},
+        {"<sil> <silence=1> <pause=1>x <punctuation=ju> y", "|x|y"},
+        {long_run, "|" + long_run.substr(0, 499) + "|" + long_run.substr(499)},
+        {long_run.substr(0, 499), "|" + long_run.substr(0, 499)},
+    });
+    std::string marks = "a ";
+    for (int i = 0; i < 11; ++i)
+        marks += i < 10 ? "<punc=dun>" : "<punc=ju>";
+    EXPECT_EQ(build(marks), "|a+dun+dun+dun+dun+dun+dun+dun+dun+dun+dun!");
+}
+
+TEST_F(Utterance, SpansGiveTheirWordsAttributes) {
+    const std::string v20(20, 'v');
+    expect({
+        {"x <emphasis=strong>a b</emphasis> y", "|x|a(emphasis=strong)|b(emphasis=strong)|y"},
+        {"<prosody=rate=\"fast\" pitch=\"high\">a</prosody>", "|a(pitch=high rate=fast)"},
+        {"<prosody=volume=\"1\"  spectrum=\"2\">a</prosody>", "|a(volume=1 spectrum=2)"},
+        {"<prosody=rate=2>a</prosody>", "|a"},
+        {"<prosody=rate=>a</prosody>", "|a"},
+        {"<prosody=rate=\"1\" speed=\"1\" pitch=\"2\">a</prosody> b", "|a(rate=1)|b"},
+        {"<emphasis=strong><prosody=rate=\"low\">a</prosody></emphasis>",
+         "|a(emphasis=strong rate=low)"},
+        {"<emphasis=e>a <poem=p>b</poem> c</emphasis> d",  // the chain is cut back behind the poem
+         "|a(emphasis=e)|b(emphasis=e poem=p)|c(emphasis=e)|d"},
+        {"<poem=a><poem=b>x</poem></poem>", "|x(poem=b)"},
+        {"<poem=a>x <poem=b>y</poem> z</poem> w", "|x(poem=a)|y(poem=b)|z(poem=a)|w"},
+        {"<quill_effect=ab><quill_effect=cd>x</quill_effect></quill_effect>", "|x(effect=abcd)"},
+        {"<emphasis=><poem=x>a</poem></emphasis>", "|a(emphasis=x)"},
+        {"a <emphasis=strong><punc=zuoyin> b</emphasis>", "|a+zuoyin|b(emphasis=strong)"},
+        {"a <emphasis=strong>b <breaktime=300> c</emphasis>",
+         "|a|b(breaktime=300 emphasis=strong)|c(emphasis=strong)"},
+        {"<emphasis=" + v20 + ">a</emphasis>", "|a(emphasis=" + v20.substr(1) + ")"},
+        {"a <breaktime=" + v20 + ">", "|a(breaktime=" + v20.substr(1) + ")"},
+        {"<quill_effect=" + v20 + "><poem=p>a</poem></quill_effect>", "|a"},
+        {"<emphasis=s></emphasis>x", "|x"},
+        {"<prosody=pitch=\"" + std::string(150, 'p') + "\">a</prosody>",
+         "|a(pitch=" + std::string(19, 'p') + ")"},
+    });
+}
+
+TEST_F(Utterance, TextOutsideTheContractLosesNoWord) {
+    const std::string name511 = "py" + std::string(509, 'x');
+    expect({
+        {"a<b c", "|a<b|c"},
+        {"a <", "|a|<"},
+        {"<b>x</b>", "|<b>x</b>"},
+        {"<punc=ju", "|<punc=ju"},
+        {"a</poem>b </py> c</emphasis>", "|a|b|c"},
+        {"</poem", "|</poem"},
+        {"a<punc=ju>b", "|a+ju!|b"},
+        {"a<breaktime=1>b", "|a(breaktime=1)|b"},
+        {"a<poem=p>b</poem>c", "|a|b(poem=p)|c"},
+        {"<poem=a>x</poem> <poem=b>y</poem>", "|x(poem=a)|y(poem=b)"},
+        {"<emphasis=e><poem=a>x</poem> <poem=b>y</poem> z</emphasis> w",
+         "|x(emphasis=e poem=a)|y(emphasis=e poem=b)|z(emphasis=e)|w"},
+        {"a <py=1>b c", "|a|b|c"},
+        {"a <poem1=1>b c", "|a|b|c"},
+        {"a <poem=p>b c", "|a|b(poem=p)|c(poem=p)"},
+        {"<poem=a><poem=b>x</poem> y", "|x(poem=b)|y(poem=a)"},
+        {"<" + name511 + "=1>a", "|a"},
+        {"<" + name511 + "x=1>a",
+         "|<" + (name511 + "x=1>a").substr(0, 498) + "|" + (name511 + "x=1>a").substr(498)},
+    });
+}
+
+TEST_F(Utterance, ChainsAreBounded) {
+    const auto nest = [](const std::string& value, int depth) {
+        std::string text;
+        for (int i = 0; i < depth; ++i)
+            text += "<poem=" + value + ">";
+        text += "x";
+        for (int i = 0; i < depth; ++i)
+            text += "</poem>";
+        return text + " y";
+    };
+    EXPECT_EQ(build(nest("a", 40)), "|x(poem=a)|y");  // 40 names make 199 characters
+    EXPECT_EQ(build(nest("a", 41), -1), "||");        // one more does not fit
+    EXPECT_EQ(build(nest(std::string(199, 'v'), 1)), "|x(poem=" + std::string(19, 'v') + ")|y");
+    EXPECT_EQ(build(nest(std::string(200, 'v'), 1), -1), "||");
+    EXPECT_EQ(build(nest("", 100), -1), "|");            // too deep to be counted
+    EXPECT_EQ(build("a " + nest("a", 41), -1), "|a||");  // what was stored stays
+}
+
+TEST_F(Utterance, RecordsAreSizedAndInitialised) {
+    char buffer[] = "";
+    UtteranceSyllable utt[3] = {};
+    for (const auto& [length, zhuyin] :
+         std::vector<std::pair<std::size_t, int>>{{0, 128}, {12, 128}, {13, 130}, {499, 4990}}) {
+        const std::string word(length, 'w');
+        ASSERT_TRUE(engine.insert_syllable(1, utt, word.c_str()));
+        EXPECT_EQ(utt[1].syllable, word);
+        EXPECT_EQ(utt[1].syl_len, static_cast<short>(length + 1));
+        EXPECT_EQ(utt[1].zy_len, zhuyin);
+        EXPECT_EQ(std::string(utt[1].zhuyin, static_cast<std::size_t>(zhuyin)),
+                  std::string(static_cast<std::size_t>(zhuyin), '\0'));
+        EXPECT_EQ(utt[1].pause_type, PAUSE_WORD_FE);
+        EXPECT_EQ(utt[1].pausetype_ta, PAUSE_WORD_FE);
+        EXPECT_EQ(utt[1].pause_type_tn, PAUSE_WORD_FE);
+        EXPECT_EQ(utt[1].pause_pl_type, PAUSE_SYLLABLE_FE);
+        mem_stack_release_buf(utt[1].syllable, 0, MEM_COMMON, arena);
+        mem_stack_release_buf(utt[1].zhuyin, 0, MEM_COMMON, arena);
+    }
+    const char* names[] = {"dun",    "dou",     "fen",    "ju",     "wen",    "tan",    "mao",
+                           "zuoshu", "youshu",  "zuoyin", "youyin", "zuokuo", "youkuo", "shenglue",
+                           "pozhe",  "tnbegin", "tnend",  "POIB",   "POIE"};
+    for (int kind = 1; kind <= 19; ++kind) {
+        UtteranceSyllable record = {};
+        std::string name = names[kind - 1];
+        EXPECT_TRUE((engine.*Peer::insert_punc)(1, &record, name.data()));
+        EXPECT_EQ(record.punc_arr[0], kind);
+        const bool forces = kind <= 7 || kind == PUNC_SHENGLUE_FE;
+        EXPECT_EQ(record.pause_type, forces ? PAUSE_INTONATION_PHRASE_FORCE_FE : 0) << name;
+        EXPECT_EQ(record.pause_type_tn, record.pause_type);
+    }
+    EXPECT_TRUE((engine.*Peer::insert_punc)(1, utt, buffer));
+    EXPECT_EQ(utt[0].n_punc, 1);
+}
+
+TEST_F(Utterance, PauseCharacters) {
+    const std::pair<char, PAUSE_type> rows[] = {{'&', PAUSE_SYLLABLE_FORCE_FE},
+                                                {'+', PAUSE_SYLLABLE_FORCE_FE},
+                                                {' ', PAUSE_WORD_FORCE_FE},
+                                                {'|', PAUSE_PHRASE_FORCE_FE},
+                                                {'#', PAUSE_INTONATION_PHRASE_FORCE_FE},
+                                                {'*', PAUSE_PHRASE_FE}};
+    for (const auto& [ch, pause] : rows) {
+        UtteranceSyllable record = {};
+        record.pause_type = record.pause_type_tn = PAUSE_PHRASE_FE;
+        EXPECT_TRUE((engine.*Peer::insert_pause)(1, &record, ch));
+        EXPECT_EQ(record.pause_type, pause) << ch;
+        EXPECT_EQ(record.pause_type_tn, pause) << ch;
+    }
+}
+
+TEST_F(Utterance, AttributesOneByOne) {
+    UtteranceSyllable utt[1] = {};
+    EXPECT_TRUE(engine.insert_poem_in(1, utt, "p"));
+    EXPECT_TRUE(engine.insert_emphasis_in(1, utt, "e"));
+    EXPECT_TRUE(engine.insert_quill_effect_in(1, utt, "0123456789"));
+    EXPECT_FALSE(engine.insert_quill_effect_in(1, utt, "0123456789"));
+    EXPECT_TRUE(engine.insert_prosody_in(1, utt, ""));
+    EXPECT_FALSE(engine.insert_prosody_in(1, utt, "rate=\"1\" x"));
+    EXPECT_EQ(to_text(utt[0]), "(emphasis=e rate=1 poem=p effect=0123456789)");
+    EXPECT_FALSE(engine.insert_ssml_info_in(1, utt, "a\tb\tc", "poem\tother\temphasis"));
+    EXPECT_TRUE(engine.insert_ssml_info_in(1, utt, "", ""));
+    EXPECT_EQ(to_text(utt[0]), "(emphasis=e rate=1 poem=a effect=0123456789)");
+}
+
+TEST_F(Utterance, TagsAreCutIntoTheirParts) {
+    char name[MEMORY_SIZE_TAG_LABEL_TN];
+    char value[100];
+    char content[100];
+    struct TagRow {
+        std::string text;
+        const char* name;
+        const char* value;
+        const char* content;
+        int end;  // -1: no tag
+    };
+    const TagRow rows[] = {
+        {"<punc=dou>", "punc", "dou", "", 10},
+        {"<sil>x", "sil", "", "", 5},
+        {"<prosody=rate=\"2\">a b</prosody> c", "prosody", "rate=\"2\"", "a b", 31},
+        {"<poem=a>x <poem=b>y</poem> z</poem> w", "poem", "a", "x <poem=b>y</poem> z", 35},
+        {"<poem=a>x</poem><poem=b>y</poem>", "poem", "a", "x", 16},
+        {"<py=1>x", "py", "1", "", 6},
+        {"<poem=1>x", "poem", "1", "x", 9},
+        {"<punc=dou", "", "", "", -1},
+        {"<b>", "", "", "", -1},
+    };
+    for (const TagRow& row : rows) {
+        std::string text = row.text;
+        char* end = Peer::parse_tag(engine, text.data(), name, value, content);
+        EXPECT_EQ(end == nullptr ? -1 : end - text.data(), row.end) << row.text;
+        EXPECT_STREQ(name, row.name);
+        EXPECT_STREQ(value, row.value);
+        EXPECT_STREQ(content, row.content);
+    }
+}
+
+TEST_F(Utterance, StepsAndCountsByThemselves) {
+    for (const auto& [text, words] :
+         std::vector<std::pair<std::string, int>>{{"a <emphasis=x>b c</emphasis> d", 4},
+                                                  {"a<orgLen=1>b c", 2},
+                                                  {"a <punc=dou> b", 2},
+                                                  {std::string(1200, 'x'), 3},
+                                                  {"", 0}}) {
+        int n = 10;
+        std::string span = text;
+        EXPECT_TRUE(engine.count_embed_word(n, span.data()));
+        EXPECT_EQ(n, 10 + words) << text;
+    }
+    char text[] = "ab <sil=1>c";
+    char word[WORD_MAX_LEN] = {};
+    char tag[MEMORY_SIZE_TAG_LABEL_TN] = {};
+    char value[16] = {};
+    char target[16] = {};
+    int i = 0;
+    int j = 0;
+    int mark = -1;
+    const auto step = [&] {
+        return engine.filter_text(text, word, tag, value, target, i, j, mark);
+    };
+    for (int n = 0; n < 3; ++n)
+        EXPECT_TRUE(step());
+    EXPECT_EQ(std::string(word) + std::to_string(i) + std::to_string(j) + std::to_string(mark),
+              "ab321");
+    word[0] = '\0';
+    j = 0;
+    EXPECT_TRUE(step());
+    EXPECT_STREQ(tag, "sil");
+    EXPECT_EQ(i, 10);
+    EXPECT_EQ(mark, 0);
+}
+
+}  // namespace
+}  // namespace kavi

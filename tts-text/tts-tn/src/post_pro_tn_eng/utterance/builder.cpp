@@ -1,0 +1,55 @@
+// The builder: a text is read twice, once to count its words and once to store them, so that the
+// array is had once and at its size.
+
+#include <cassert>
+#include <cstring>
+
+#include "text_reader.h"
+#include "word_counter.h"
+#include "word_filler.h"
+
+namespace kavi {
+
+bool PostProTnEng::count_embed_word(int& n, char* buffer_target) {
+    return count_words(n, buffer_target, 1);
+}
+
+bool PostProTnEng::count_words(int& n, char* buffer_target, int n_depth) {
+    tn::SpanBuffers buffers(_mem_handle, buffer_target);
+    WordCounter counter(*this, n, n_depth);
+    return buffers && tn::read_text(*this, buffer_target, buffers.word(), buffers.tag(), counter);
+}
+
+int PostProTnEng::eng_text_to_utterance_syllable(char* sz_source_text, UtteranceSyllable*& p_utt,
+                                                 int& n_utt) {
+    p_utt = nullptr;
+    n_utt = 0;
+    const std::size_t length = std::strlen(sz_source_text);
+    char temp[WORD_MAX_LEN] = {};
+    char sz_tag[MEMORY_SIZE_TAG_LABEL_TN] = {};
+    tn::Scratch sz_value(_mem_handle, length);
+    tn::Scratch sz_target(_mem_handle, length);
+    if (length > 0 && (!sz_value || !sz_target)) return -1;
+    const tn::TagBuffers tag = {sz_tag, sz_value.text(), sz_target.text()};
+
+    int word_num = 0;
+    WordCounter counter(*this, word_num, 0);
+    if (!tn::read_text(*this, sz_source_text, temp, tag, counter)) return -1;
+    ++word_num;  // the head record
+
+    const std::size_t array_size = static_cast<std::size_t>(word_num) * sizeof(UtteranceSyllable);
+    auto* array =
+        static_cast<UtteranceSyllable*>(mem_stack_request_buf(array_size, MEM_COMMON, _mem_handle));
+    if (array == nullptr) return -1;
+    std::memset(array, 0, array_size);
+    p_utt = array;
+    n_utt = word_num;
+
+    int curr_n_utt = 1;
+    WordFiller filler(*this, curr_n_utt, p_utt);
+    if (!tn::read_text(*this, sz_source_text, temp, tag, filler)) return -1;
+    assert(word_num == curr_n_utt);
+    return 0;
+}
+
+}  // namespace kavi

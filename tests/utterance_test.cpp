@@ -235,6 +235,27 @@ TEST_F(Utterance, TagsAreCutIntoTheirParts) {
     }
 }
 
+TEST_F(Utterance, EveryCapacityGivesSuccessOrCleanFailure) {
+    std::string sentence = "<poem=p>NASA paid $1,234.50 on 3/1/2020 (86) 10-5<punc=ju> ok</poem>";
+    int successes = 0;
+    for (std::size_t capacity = 16; successes < 3; capacity += 16) {
+        mem_stack_handle small = mem_stack_create(capacity);
+        engine.init(small);
+        char speakable[SZ_TEXT_MAX_LEN] = {};
+        const int tokenized = engine.eng_text_tokenize(sentence.data(), speakable);
+        EXPECT_EQ(mem_stack_used(small), 0U);
+        UtteranceSyllable* utt = nullptr;
+        int n_utt = 0;
+        const int built = engine.eng_text_to_utterance_syllable(sentence.data(), utt, n_utt);
+        kavi::release(utt, n_utt, small);
+        EXPECT_EQ(mem_stack_used(small), 0U) << capacity;
+        EXPECT_LE(mem_stack_peak(small), capacity);
+        if (tokenized == 0 && built == 0) ++successes;
+        mem_stack_destroy(small);
+    }
+    engine.init(arena);
+}
+
 TEST_F(Utterance, StepsAndCountsByThemselves) {
     for (const auto& [text, words] :
          std::vector<std::pair<std::string, int>>{{"a <emphasis=x>b c</emphasis> d", 4},

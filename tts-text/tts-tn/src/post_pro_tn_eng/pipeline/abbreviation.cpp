@@ -35,14 +35,10 @@ constexpr auto DOT_OFFSETS = make_dot_offsets();
 char in_case_form(const char* abbreviation, int i, int form) {
     const char c = abbreviation[i];
     switch (form) {
-        case 0:
-            return c;
-        case 1:
-            return to_lower(c);
-        case 2:
-            return i == 0 ? to_upper(c) : to_lower(c);
-        default:
-            return to_upper(c);
+        case 0: return c;
+        case 1: return to_lower(c);
+        case 2: return i == 0 ? to_upper(c) : to_lower(c);
+        default: return to_upper(c);
     }
 }
 

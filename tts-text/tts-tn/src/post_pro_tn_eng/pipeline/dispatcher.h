@@ -9,7 +9,35 @@
 
 namespace kavi {
 
-// One walk over one queue. Nothing of it outlives the walk.
+// How one step of the dispatcher read what it consumed, or why it was the last.
+enum class ReadingRule {
+    full,  // an append did not fit
+    end,   // a reader ended the walk
+    word,
+    capital_letters,
+    month,
+    telephone_label,
+    telephone_number,
+    separated_number,
+    ordinal,
+    date,
+    fraction,
+    money,
+    decimal,
+    clock_time,
+    year,
+    ordinal_day,
+    cardinal,
+    markup_tag,
+    bracket,
+    plus_sign,
+    contraction,
+    mark,
+    silent,  // a blank, or a byte that nothing is written for
+};
+
+// One walk over one queue, step by step: `section` is what the step will look at first, and after
+// the step, what it consumed last. Nothing of it outlives the walk.
 class SectionDispatcher {
   public:
     // Everything is appended to `sz_target_text`, a text in a buffer of SZ_TEXT_MAX_LEN bytes.
@@ -18,9 +46,13 @@ class SectionDispatcher {
     // 0 when the queue has been read or a reader ended it, -1 when an append did not fit.
     int run();
 
-  private:
-    enum class Step { on, end, full };
+    // For a walk of one's own: while there is a section, step, and go on from it unless the rule
+    // was full or end.
+    Section* section() const { return section_; }
+    ReadingRule step();
+    void advance(const Section* first_of_step);
 
+  private:
     // "The next section of a kind", asked again and again while the walk moves on: no stretch of
     // the queue is searched twice.
     class NextSection {
@@ -44,19 +76,20 @@ class SectionDispatcher {
         bool known_ = false;
     };
 
-    Step dispatch();
-    Step word();
-    Step telephone();
-    Step number();
-    Step clock_time();
-    Step plain_number();
-    Step mark();
-    Step dollars();
-    Step smaller();
+    ReadingRule word();
+    ReadingRule telephone();
+    ReadingRule number();
+    ReadingRule date();
+    ReadingRule money(Section* amount);
+    ReadingRule clock_time();
+    ReadingRule plain_number();
+    ReadingRule mark();
+    ReadingRule smaller();
 
-    Step append(std::string_view words);
-    Step append_reading();
-    Step append_reading(Section* last);
+    ReadingRule append(std::string_view words, ReadingRule rule);
+    ReadingRule append_spaced(std::string_view words, ReadingRule rule);
+    ReadingRule append_reading(ReadingRule rule);
+    ReadingRule append_reading(Section* last, ReadingRule rule);
     bool is_amount_before_dollar();
     bool is_month(Section* section);
 

@@ -34,10 +34,8 @@ constexpr bool is_special(char c) {
         case '?':
         case ';':
         case '!':
-        case ',':
-            return true;
-        default:
-            return false;
+        case ',': return true;
+        default: return false;
     }
 }
 
@@ -81,25 +79,14 @@ class SentenceCutter {
     bool take_next() {
         const char c = *next_;
         switch (c) {
-            case '.':
-                full_stop();
-                return true;
-            case '<':
-                return markup();
-            case ':':
-                mark(!between_digits());
-                return true;
-            case ',':
-                mark(!between_digits());
-                return true;
+            case '.': full_stop(); return true;
+            case '<': return markup();
+            case ':': mark(!between_digits()); return true;
+            case ',': mark(!between_digits()); return true;
             case '?':
             case ';':
-            case '!':
-                mark(true);
-                return true;
-            default:
-                run();
-                return true;
+            case '!': mark(true); return true;
+            default: run(); return true;
         }
     }
 
@@ -167,16 +154,10 @@ class SentenceCutter {
         }
         const std::string_view text(next_, static_cast<std::size_t>(end + 1 - next_));
         switch (tag->kind) {
-            case TagKind::removed:
-                next_ += text.size();
-                return true;
-            case TagKind::kept:
-                keep(text);
-                return true;
-            case TagKind::span_open:
-                return open_span(text);
-            case TagKind::span_close:
-                break;
+            case TagKind::removed: next_ += text.size(); return true;
+            case TagKind::kept: keep(text); return true;
+            case TagKind::span_open: return open_span(text);
+            case TagKind::span_close: break;
         }
         return close_span(*tag);
     }

@@ -115,20 +115,11 @@ bool PostProTnEng::insert_pause(int n, UtteranceSyllable* utt, char ch) {
     assert(ch == '&' || ch == ' ' || ch == '|' || ch == '#' || ch == '*' || ch == '+');
     switch (ch) {
         case '&':
-        case '+':
-            force_pause(utt[n - 1], PAUSE_SYLLABLE_FORCE_FE);
-            break;
-        case ' ':
-            force_pause(utt[n - 1], PAUSE_WORD_FORCE_FE);
-            break;
-        case '|':
-            force_pause(utt[n - 1], PAUSE_PHRASE_FORCE_FE);
-            break;
-        case '#':
-            force_pause(utt[n - 1], PAUSE_INTONATION_PHRASE_FORCE_FE);
-            break;
-        default:
-            break;
+        case '+': force_pause(utt[n - 1], PAUSE_SYLLABLE_FORCE_FE); break;
+        case ' ': force_pause(utt[n - 1], PAUSE_WORD_FORCE_FE); break;
+        case '|': force_pause(utt[n - 1], PAUSE_PHRASE_FORCE_FE); break;
+        case '#': force_pause(utt[n - 1], PAUSE_INTONATION_PHRASE_FORCE_FE); break;
+        default: break;
     }
     return true;
 }

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "PostProcTN.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
@@ -42,13 +43,21 @@ inline constexpr MarkupTag MARKUP_TAGS[] = {
 // clang-format on
 
 constexpr std::size_t MARKUP_TAG_MAX = WORD_MAX_LEN - 1;  // no section holds a longer tag
+constexpr std::size_t SAVED_TAG_MAX = sizeof SsmlTagArr::begin_tag_arr[0] - 1;
+constexpr int OPEN_TAGS_MAX =
+    static_cast<int>(sizeof SsmlTagArr::begin_tag_arr / sizeof SsmlTagArr::begin_tag_arr[0]);
 
+// Whether a NUL-terminated text, or a piece of one, begins with `prefix`.
 inline bool begins_with(const char* text, std::string_view prefix) {
     return std::strncmp(text, prefix.data(), prefix.size()) == 0;
 }
+inline bool begins_with(std::string_view text, std::string_view prefix) {
+    return text.substr(0, prefix.size()) == prefix;
+}
 
 // The row of the tag that `text` begins with, or null.
-inline const MarkupTag* find_markup_tag(const char* text) {
+template <typename Text>
+const MarkupTag* find_markup_tag(Text text) {
     for (const MarkupTag& tag : MARKUP_TAGS) {
         if (begins_with(text, tag.prefix)) return &tag;
     }

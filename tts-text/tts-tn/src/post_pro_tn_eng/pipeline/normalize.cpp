@@ -178,7 +178,7 @@ class SentenceCutter {
     }
 
     bool open_span(std::string_view tag) {
-        if (tags_.begin_arr_len == MAX_OPEN) return false;
+        if (tags_.begin_arr_len == OPEN_TAGS_MAX) return false;
         if (tag.size() > SAVED_TAG_MAX) {
             target_.append(tag.substr(0, SAVED_TAG_MAX + 1));  // as far as the entry took it
             return false;
@@ -206,10 +206,6 @@ class SentenceCutter {
         }
         return true;
     }
-
-    static constexpr int MAX_OPEN =
-        static_cast<int>(sizeof SsmlTagArr::begin_tag_arr / sizeof SsmlTagArr::begin_tag_arr[0]);
-    static constexpr std::size_t SAVED_TAG_MAX = sizeof SsmlTagArr::begin_tag_arr[0] - 1;
 
     char* source_;
     char* source_end_;

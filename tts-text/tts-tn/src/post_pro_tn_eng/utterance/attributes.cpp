@@ -4,6 +4,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "../common/markup_tags.h"
 #include "text_reader.h"
 #include "word_filler.h"
 
@@ -32,10 +33,6 @@ std::string_view next_field(std::string_view& list, char separator) {
     return field;
 }
 
-bool begins(std::string_view text, std::string_view prefix) {
-    return text.substr(0, prefix.size()) == prefix;
-}
-
 struct ProsodyField {
     std::string_view prefix;
     Field CssmlTag::*field;
@@ -51,7 +48,7 @@ constexpr ProsodyField PROSODY_FIELDS[] = {
 // One «name="value"»: the character behind "=" and the last one are the quotes.
 bool set_prosody_field(CssmlTag& tag, std::string_view attribute) {
     for (const ProsodyField& row : PROSODY_FIELDS) {
-        if (!begins(attribute, row.prefix)) continue;
+        if (!tn::begins_with(attribute, row.prefix)) continue;
         const std::string_view quoted = attribute.substr(row.prefix.size());
         set_field(tag.*row.field, quoted.size() < 2 ? "" : quoted.substr(1, quoted.size() - 2));
         return true;
@@ -68,11 +65,11 @@ bool set_prosody(CssmlTag& tag, std::string_view attributes) {
 }
 
 bool set_attribute(CssmlTag& tag, std::string_view name, std::string_view value) {
-    if (begins(name, "quill_effect")) return append_field(tag.quill_effect, value);
-    if (begins(name, "prosody")) return set_prosody(tag, value);
-    if (begins(name, "poem")) {
+    if (tn::begins_with(name, "quill_effect")) return append_field(tag.quill_effect, value);
+    if (tn::begins_with(name, "prosody")) return set_prosody(tag, value);
+    if (tn::begins_with(name, "poem")) {
         set_field(tag.poem, value);
-    } else if (begins(name, "emphasis")) {
+    } else if (tn::begins_with(name, "emphasis")) {
         set_field(tag.emphasis, value);
     } else {
         return false;

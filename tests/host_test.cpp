@@ -1,0 +1,221 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <thread>
+
+#include "host_reader.h"
+
+namespace kavi {
+namespace {
+
+// The words of all records, whatever marks and attributes they have.
+std::vector<std::string> words_of(std::string_view text) {
+    std::vector<std::string> words;
+    TtsHost host;
+    EXPECT_TRUE(host.read(
+        text,
+        [&](const HostSentence& sentence) {
+            for (int i = 1; i < sentence.n_records; ++i) {
+                words.emplace_back(sentence.records[i].syllable);
+            }
+        },
+        [](const Diagnostic&) {}));
+    return words;
+}
+
+// A word for every number, without digits and without the end of an abbreviation.
+std::string nth_word(std::size_t n) {
+    std::string word = "w";
+    for (; n > 0; n /= 10) word += "eghijklmop"[n % 10];
+    return word;
+}
+
+std::string random_text(std::mt19937& random, std::size_t size) {
+    static const char* const pieces[] = {"word ",       "Dr. ",
+                                         "dr. ",        "ack. ",
+                                         "and ",        "$5.50 ",
+                                         "1,234 ",      "10:30 ",
+                                         "3/1/2020 ",   "3.14 ",
+                                         ". ",          "! ",
+                                         ", ",          "? ",
+                                         "\n",          "'",
+                                         "\"",          "it's ",
+                                         "(86) 10-5 ",  "<poem=p>",
+                                         "</poem>",     "<emphasis=strong>",
+                                         "</emphasis>", "<punc=dou>",
+                                         "<pause=3>",   "<breaktime=5>",
+                                         "< ",          "\xc3\xa9t\xc3\xa9 ",
+                                         "Tel. 5-5 ",   "  ",
+                                         "NASA ",       "12345678901234 "};
+    std::string text;
+    while (text.size() < size)
+        text += pieces[random() % std::size(pieces)];
+    return text;
+}
+
+TEST(Host, ShortTextsComeOutAsByHand) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 300; ++round) {
+        std::string text = random_text(random, random() % 4000);
+        text.resize(std::min<std::size_t>(text.size(), SZ_TEXT_MAX_LEN - 1));
+        const ReadText layer = read_by_layer(text);
+        const bool malformed =
+            std::any_of(layer.diagnostics.begin(), layer.diagnostics.end(),
+                        [](const Diagnostic& d) { return d.finding < Finding::tag_too_long; });
+        EXPECT_TRUE(layer.all_read);
+        if (malformed) continue;  // by hand, the engine drops the rest
+        const ReadText hand = read_by_hand(text);
+        ASSERT_EQ(layer.normalized, hand.normalized) << text;
+        ASSERT_EQ(layer.speakable, hand.speakable) << text;
+        ASSERT_EQ(layer.records, hand.records) << text;
+    }
+}
+
+TEST(Host, SourcesOfSentencesCoverTheText) {
+    const std::string text = "  Dr. X <poem=p>said: \"no!\" \r\n Then</poem> 'left'. ";
+    const ReadText read = read_by_layer(text);
+    EXPECT_EQ(read.covered, text.size());
+    EXPECT_EQ(read.sources, (std::vector<std::string>{"  Dr. X <poem=p>said: \"", "no!\" \r\n",
+                                                      " Then</poem> 'left'. "}));
+    EXPECT_EQ(read.normalized,
+              (std::vector<std::string>{" doctor  X <poem=p>said:</poem>", "<poem=p>no!</poem>",
+                                        "<poem=p> Then</poem> 'left'."}));
+}
+
+TEST(Host, NoWordOfALongTextIsLost) {
+    for (const std::size_t every :
+         {std::size_t{0}, std::size_t{17}}) {  // a stop every so many words
+        std::string text = "<emphasis=strong>";
+        std::vector<std::string> expected;
+        for (std::size_t n = 0; text.size() < 10'000'000; ++n) {
+            expected.push_back(nth_word(n));
+            text += expected.back() + (every != 0 && n % every == 0 ? ". " : " ");
+        }
+        text += "</emphasis>";
+        EXPECT_EQ(words_of(text), expected);
+    }
+}
+
+TEST(Host, LongTextsAreCutAtBlanksAndCarrySpansOn) {
+    std::string text = "<poem=p>";
+    for (int i = 0; i < 3000; ++i)
+        text += "<prosody=rate=\"2\">ack </prosody>x ";
+    for (const std::string& sentence : read_by_layer(text).records) {
+        ASSERT_EQ(sentence.substr(0, 20), "|ack(rate=2 poem=p)|");
+        ASSERT_EQ(sentence.find_first_not_of("|ack(rte=2 pom)x"), std::string::npos);
+    }
+    // What grows when it is read: abbreviations, marks, numbers.
+    for (const char* piece : {"ack. ", "ack.", ") ", ")", "777777 ", "7:", "\"", "e.g."}) {
+        std::string grown;
+        while (grown.size() < 20000)
+            grown += piece;
+        const ReadText read = read_by_layer(grown);
+        EXPECT_TRUE(read.all_read) << piece;
+        EXPECT_EQ(read.covered, grown.size()) << piece;
+        for (const std::string& speakable : read.speakable)
+            ASSERT_LT(speakable.size(), 4096U);
+    }
+    std::string many;
+    for (int i = 0; i < 4000; ++i)
+        many += "ack. ";
+    EXPECT_EQ(words_of(many), std::vector<std::string>(4000, "acknowledge"));
+    // No blank at all: words are cut where they are too long for a section.
+    const std::vector<std::string> pieces = words_of(std::string(100000, 'x'));
+    std::size_t total = 0;
+    for (const std::string& piece : pieces)
+        total += piece.size();
+    EXPECT_EQ(total, 100000U);
+    std::string unbroken;
+    for (int i = 0; i < 10000; ++i)
+        unbroken += "word-";
+    EXPECT_EQ(words_of(unbroken), std::vector<std::string>(10000, "word"));
+}
+
+TEST(Host, ReportsWhatTheEnginePassesOver) {
+    const std::string x200(200, 'x');
+    const std::string ten =
+        "<poem=0><poem=1><poem=2><poem=3><poem=4><poem=5><poem=6><poem=7>"
+        "<poem=8><poem=9>";
+    const std::string ten_closed =
+        "</poem></poem></poem></poem></poem></poem></poem></poem></poem>"
+        "</poem>";
+    const struct {
+        std::string text;
+        std::vector<std::pair<std::size_t, Finding>> findings;
+        std::string records;  // of all sentences
+    } rows[] = {
+        {"a</poem> b", {{1, Finding::stray_closing_tag}}, "|a|b"},
+        {"<poem=p>a</prosody> b</poem> c",
+         {{9, Finding::mismatched_closing_tag}},
+         "|a(poem=p)|b(poem=p)|c"},
+        {ten + "<prosody=rate=\"1\">a</prosody>" + ten_closed + " b",
+         {{80, Finding::too_many_open_tags}},
+         "|a(poem=9)|b"},
+        {"a <emphasis=" + x200 + ">b</emphasis> c", {{2, Finding::tag_too_long}}, "|a|b|c"},
+        {"<emphasis=" + x200.substr(0, 150) + "><poem=" + x200.substr(0, 50) +
+             ">b</poem></emphasis> c",
+         {{161, Finding::too_much_open_markup}},
+         "|b(emphasis=" + x200.substr(0, 19) + ")|c"},
+        {"a <punc=" + x200 + x200 + x200 + ">", {{2, Finding::tag_too_long}}, ""},
+        {"a <poem=p", {{2, Finding::tag_never_closed}}, "|a|poem|equal|p"},
+        {std::string("a\0b", 3), {{1, Finding::nul_byte}}, "|a|b"},
+        {"x 1234567890123 y", {{2, Finding::digits_not_read}}, ""},
+        {"x 3.1234567890123 y", {}, ""},
+        {"1234567890123.5", {{0, Finding::digits_not_read}}, ""},
+        {"(86) 12345678901234", {}, ""},
+        {"<pause=1234567890123>x 123456789012 1234567890123th",
+         {{36, Finding::digits_not_read}},
+         ""},
+        {"a! b 3." + std::string(100, '7'), {{7, Finding::reading_cut}}, ""},
+        {"999999999999:999999999999:999999999999", {}, ""},
+        {"777777777777:777777777777:777777777777", {{0, Finding::reading_cut}}, ""},
+    };
+    for (const auto& row : rows) {
+        const ReadText read = read_by_layer(row.text);
+        std::vector<std::pair<std::size_t, Finding>> findings;
+        for (const Diagnostic& d : read.diagnostics)
+            findings.emplace_back(d.offset, d.finding);
+        EXPECT_EQ(findings, row.findings) << row.text;
+        EXPECT_TRUE(read.all_read);
+        if (row.records.empty()) continue;
+        std::string records;
+        for (const std::string& sentence : read.records)
+            records += sentence;
+        EXPECT_EQ(records, row.records) << row.text;
+    }
+    for (int i = 0; i <= static_cast<int>(Finding::arena_too_small); ++i) {
+        EXPECT_GT(std::strlen(describe(static_cast<Finding>(i))), 10U);
+    }
+}
+
+TEST(Host, ASmallArenaPassesSentencesOverAndGoesOn) {
+    const std::string text = "One two three four five six seven eight nine ten. Yes. No.";
+    for (std::size_t capacity = 1; capacity < 60000; capacity += 500) {
+        const ReadText read = read_by_layer(text, capacity);
+        const auto small = std::count_if(
+            read.diagnostics.begin(), read.diagnostics.end(),
+            [](const Diagnostic& d) { return d.finding == Finding::arena_too_small; });
+        EXPECT_EQ(static_cast<std::size_t>(small) + read.records.size(), 3U);
+        EXPECT_EQ(read.all_read, small == 0);
+    }
+    EXPECT_EQ(read_by_layer(text, 8000).records, (std::vector<std::string>{"|Yes+ju!", "|No+ju!"}));
+}
+
+TEST(Host, TwoInTwoThreadsDoNotInterfere) {
+    const auto text = [](unsigned seed) {
+        std::mt19937 random(seed);
+        return random_text(random, 30000);
+    };
+    const ReadText expected[] = {read_by_layer(text(1)), read_by_layer(text(2))};
+    ReadText read[2];
+    std::thread first([&] { read[0] = read_by_layer(text(1)); });
+    std::thread second([&] { read[1] = read_by_layer(text(2)); });
+    first.join();
+    second.join();
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(read[i].records, expected[i].records);
+}
+
+}  // namespace
+}  // namespace kavi

@@ -36,15 +36,13 @@ TEST(Arena, RandomOrderKeepsBlocksApartAndComesBackToNothing) {
         } else if (!blocks.empty()) {
             std::swap(blocks[random() % blocks.size()], blocks.back());
             const Block block = blocks.back();
-            for (std::size_t i = 0; i < block.size; ++i)
-                ASSERT_EQ(block.p[i], block.fill);
+            for (std::size_t i = 0; i < block.size; ++i) ASSERT_EQ(block.p[i], block.fill);
             mem_stack_release_buf(block.p, random() % 2 == 0 ? 0 : block.size, MEM_COMMON, arena);
             blocks.pop_back();
         }
     }
     EXPECT_GT(mem_stack_used(arena), 0U);
-    for (const Block& block : blocks)
-        mem_stack_release_buf(block.p, 0, MEM_COMMON, arena);
+    for (const Block& block : blocks) mem_stack_release_buf(block.p, 0, MEM_COMMON, arena);
     EXPECT_EQ(mem_stack_used(arena), 0U);
     EXPECT_GT(mem_stack_peak(arena), 0U);
     mem_stack_destroy(arena);

@@ -49,8 +49,7 @@ std::string random_text(std::mt19937& random, std::size_t size) {
                                          "Tel. 5-5 ",   "  ",
                                          "NASA ",       "12345678901234 "};
     std::string text;
-    while (text.size() < size)
-        text += pieces[random() % std::size(pieces)];
+    while (text.size() < size) text += pieces[random() % std::size(pieces)];
     return text;
 }
 
@@ -99,8 +98,7 @@ TEST(Host, NoWordOfALongTextIsLost) {
 
 TEST(Host, LongTextsAreCutAtBlanksAndCarrySpansOn) {
     std::string text = "<poem=p>";
-    for (int i = 0; i < 3000; ++i)
-        text += "<prosody=rate=\"2\">ack </prosody>x ";
+    for (int i = 0; i < 3000; ++i) text += "<prosody=rate=\"2\">ack </prosody>x ";
     for (const std::string& sentence : read_by_layer(text).records) {
         ASSERT_EQ(sentence.substr(0, 20), "|ack(rate=2 poem=p)|");
         ASSERT_EQ(sentence.find_first_not_of("|ack(rte=2 pom)x"), std::string::npos);
@@ -108,27 +106,22 @@ TEST(Host, LongTextsAreCutAtBlanksAndCarrySpansOn) {
     // What grows when it is read: abbreviations, marks, numbers.
     for (const char* piece : {"ack. ", "ack.", ") ", ")", "777777 ", "7:", "\"", "e.g."}) {
         std::string grown;
-        while (grown.size() < 20000)
-            grown += piece;
+        while (grown.size() < 20000) grown += piece;
         const ReadText read = read_by_layer(grown);
         EXPECT_TRUE(read.all_read) << piece;
         EXPECT_EQ(read.covered, grown.size()) << piece;
-        for (const std::string& speakable : read.speakable)
-            ASSERT_LT(speakable.size(), 4096U);
+        for (const std::string& speakable : read.speakable) ASSERT_LT(speakable.size(), 4096U);
     }
     std::string many;
-    for (int i = 0; i < 4000; ++i)
-        many += "ack. ";
+    for (int i = 0; i < 4000; ++i) many += "ack. ";
     EXPECT_EQ(words_of(many), std::vector<std::string>(4000, "acknowledge"));
     // No blank at all: words are cut where they are too long for a section.
     const std::vector<std::string> pieces = words_of(std::string(100000, 'x'));
     std::size_t total = 0;
-    for (const std::string& piece : pieces)
-        total += piece.size();
+    for (const std::string& piece : pieces) total += piece.size();
     EXPECT_EQ(total, 100000U);
     std::string unbroken;
-    for (int i = 0; i < 10000; ++i)
-        unbroken += "word-";
+    for (int i = 0; i < 10000; ++i) unbroken += "word-";
     EXPECT_EQ(words_of(unbroken), std::vector<std::string>(10000, "word"));
 }
 
@@ -174,14 +167,12 @@ TEST(Host, ReportsWhatTheEnginePassesOver) {
     for (const auto& row : rows) {
         const ReadText read = read_by_layer(row.text);
         std::vector<std::pair<std::size_t, Finding>> findings;
-        for (const Diagnostic& d : read.diagnostics)
-            findings.emplace_back(d.offset, d.finding);
+        for (const Diagnostic& d : read.diagnostics) findings.emplace_back(d.offset, d.finding);
         EXPECT_EQ(findings, row.findings) << row.text;
         EXPECT_TRUE(read.all_read);
         if (row.records.empty()) continue;
         std::string records;
-        for (const std::string& sentence : read.records)
-            records += sentence;
+        for (const std::string& sentence : read.records) records += sentence;
         EXPECT_EQ(records, row.records) << row.text;
     }
     for (int i = 0; i <= static_cast<int>(Finding::arena_too_small); ++i) {
@@ -213,8 +204,7 @@ TEST(Host, TwoInTwoThreadsDoNotInterfere) {
     std::thread second([&] { read[1] = read_by_layer(text(2)); });
     first.join();
     second.join();
-    for (int i = 0; i < 2; ++i)
-        EXPECT_EQ(read[i].records, expected[i].records);
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(read[i].records, expected[i].records);
 }
 
 }  // namespace

@@ -103,8 +103,7 @@ TEST_F(Refusal, ReadersWithoutScratchWriteNothingAndTakeOneSection) {
         arena.first_refused = arena.last_refused = arena.requests;  // the first reader's
         EXPECT_EQ(engine.section_process(head, speakable), 0);
         std::string words = speakable;
-        while (!words.empty() && words.back() == ' ')
-            words.pop_back();
+        while (!words.empty() && words.back() == ' ') words.pop_back();
         EXPECT_EQ(words, row.speakable) << row.sentence;
         while (head != nullptr) {
             Section* next = head->m_pnext;

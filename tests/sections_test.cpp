@@ -46,8 +46,7 @@ TEST_F(Sections, CutAtClassesBlanksAndTags) {
         {"<poem=1", {"<", "poem", "=", "1"}},
         {"a<", {"a", "<"}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(cut(row.text), row.sections) << row.text;
+    for (const auto& row : rows) EXPECT_EQ(cut(row.text), row.sections) << row.text;
     EXPECT_EQ(cut(long_tag), (Texts{"<", "punc", "=", std::string(494, 'x'), ">"}));
     EXPECT_EQ(cut(long_tag.substr(1)), (Texts{"punc", "=", std::string(494, 'x'), ">"}));
     const std::string longest_tag = "<punc=" + std::string(492, 'x') + ">";

@@ -1,5 +1,6 @@
 #include "engine_peer.h"
 #include "records.h"
+#include "table.h"
 
 namespace kavi {
 namespace {
@@ -16,15 +17,6 @@ class Utterance : public EngineTest {
         kavi::release(utt, n_utt, arena);
         return records;
     }
-
-    struct Row {
-        std::string text;
-        std::string records;
-    };
-    void expect(const std::vector<Row>& rows) {
-        for (const Row& row : rows)
-            EXPECT_EQ(build(row.text), row.records) << row.text;
-    }
 };
 
 TEST_F(Utterance, OneSentenceEndToEnd) {
@@ -36,98 +28,33 @@ TEST_F(Utterance, OneSentenceEndToEnd) {
     EXPECT_EQ(build(speakable), "|we(rate=2)|have(rate=2)|two(rate=2)|cats+dou!(rate=2)");
 }
 
-TEST_F(Utterance, WordsAndMarks) {
-    const std::string long_run(600, 'x');
-    expect({
-        {"", ""},
-        {"hello world", "|hello|world"},
-        {"  a  b ", "|a|b"},
-        {"a\tb", "|a\tb"},
-        {"x", "|x"},
-        {"hello <punc=dou> world <punc=ju> ", "|hello+dou!|world+ju!"},
-        {"<punc=zuoyin> hi", "+zuoyin|hi"},
-        {"<punc=ju>", "+ju!"},
-        {"a <breaktime=500ms> b", "|a(breaktime=500ms)|b"},
-        {"a <breaktime=1><breaktime=2> b", "|a(breaktime=2)|b"},
-        {"a <punc=xyz><punc=pozhe> b", "|a+?+pozhe|b"},
-        {"a <punc=pozhe><punc=pozhe> b", "|a+pozhe+pozhe!|b"},
-        {"a <py=b1>b</py> c", "|a|c"},
-        {"<letter=1>b</letter> c", "|c"},
-        {"<poem1=a>b</poem1> c", "|c"},  // paired by its beginning, and no span
-        {"a b<orgLen=1>", "|a"},
-        {"ab<orgLen=3>cd ef", "|abcd|ef"},
-        {"<sil> <silence=1> <pause=1>x <punctuation=ju> y", "|x|y"},
-        {long_run, "|" + long_run.substr(0, 499) + "|" + long_run.substr(499)},
-        {long_run.substr(0, 499), "|" + long_run.substr(0, 499)},
-    });
+TEST_F(Utterance, AsInTheTables) {
+    for (const char* table : {"words", "spans", "outside_the_language"}) {
+        expect_table(table, [this](const std::string& text) {
+            return TableRow{text, build(text)};
+        });
+    }
+}
+
+TEST_F(Utterance, LongWordsAndNamesAndManyMarks) {
+    const std::string run(600, 'x');
+    EXPECT_EQ(build(run), "|" + run.substr(0, 499) + "|" + run.substr(499));
+    EXPECT_EQ(build(run.substr(0, 499)), "|" + run.substr(0, 499));
+    const std::string name = "py" + std::string(509, 'x');
+    EXPECT_EQ(build("<" + name + "=1>a"), "|a");
+    const std::string no_name = "<" + name + "x=1>a";
+    EXPECT_EQ(build(no_name), "|" + no_name.substr(0, 499) + "|" + no_name.substr(499));
     std::string marks = "a ";
-    for (int i = 0; i < 11; ++i)
-        marks += i < 10 ? "<punc=dun>" : "<punc=ju>";
+    for (int i = 0; i < 11; ++i) marks += i < 10 ? "<punc=dun>" : "<punc=ju>";
     EXPECT_EQ(build(marks), "|a+dun+dun+dun+dun+dun+dun+dun+dun+dun+dun!");
-}
-
-TEST_F(Utterance, SpansGiveTheirWordsAttributes) {
-    const std::string v20(20, 'v');
-    expect({
-        {"x <emphasis=strong>a b</emphasis> y", "|x|a(emphasis=strong)|b(emphasis=strong)|y"},
-        {"<prosody=rate=\"fast\" pitch=\"high\">a</prosody>", "|a(pitch=high rate=fast)"},
-        {"<prosody=volume=\"1\"  spectrum=\"2\">a</prosody>", "|a(volume=1 spectrum=2)"},
-        {"<prosody=rate=2>a</prosody>", "|a"},
-        {"<prosody=rate=>a</prosody>", "|a"},
-        {"<prosody=rate=\"1\" speed=\"1\" pitch=\"2\">a</prosody> b", "|a(rate=1)|b"},
-        {"<emphasis=strong><prosody=rate=\"low\">a</prosody></emphasis>",
-         "|a(emphasis=strong rate=low)"},
-        {"<emphasis=e>a <poem=p>b</poem> c</emphasis> d",  // the chain is cut back behind the poem
-         "|a(emphasis=e)|b(emphasis=e poem=p)|c(emphasis=e)|d"},
-        {"<poem=a><poem=b>x</poem></poem>", "|x(poem=b)"},
-        {"<poem=a>x <poem=b>y</poem> z</poem> w", "|x(poem=a)|y(poem=b)|z(poem=a)|w"},
-        {"<quill_effect=ab><quill_effect=cd>x</quill_effect></quill_effect>", "|x(effect=abcd)"},
-        {"<emphasis=><poem=x>a</poem></emphasis>", "|a(emphasis=x)"},
-        {"a <emphasis=strong><punc=zuoyin> b</emphasis>", "|a+zuoyin|b(emphasis=strong)"},
-        {"a <emphasis=strong>b <breaktime=300> c</emphasis>",
-         "|a|b(breaktime=300 emphasis=strong)|c(emphasis=strong)"},
-        {"<emphasis=" + v20 + ">a</emphasis>", "|a(emphasis=" + v20.substr(1) + ")"},
-        {"a <breaktime=" + v20 + ">", "|a(breaktime=" + v20.substr(1) + ")"},
-        {"<quill_effect=" + v20 + "><poem=p>a</poem></quill_effect>", "|a"},
-        {"<emphasis=s></emphasis>x", "|x"},
-        {"<prosody=pitch=\"" + std::string(150, 'p') + "\">a</prosody>",
-         "|a(pitch=" + std::string(19, 'p') + ")"},
-    });
-}
-
-TEST_F(Utterance, TextOutsideTheContractLosesNoWord) {
-    const std::string name511 = "py" + std::string(509, 'x');
-    expect({
-        {"a<b c", "|a<b|c"},
-        {"a <", "|a|<"},
-        {"<b>x</b>", "|<b>x</b>"},
-        {"<punc=ju", "|<punc=ju"},
-        {"a</poem>b </py> c</emphasis>", "|a|b|c"},
-        {"</poem", "|</poem"},
-        {"a<punc=ju>b", "|a+ju!|b"},
-        {"a<breaktime=1>b", "|a(breaktime=1)|b"},
-        {"a<poem=p>b</poem>c", "|a|b(poem=p)|c"},
-        {"<poem=a>x</poem> <poem=b>y</poem>", "|x(poem=a)|y(poem=b)"},
-        {"<emphasis=e><poem=a>x</poem> <poem=b>y</poem> z</emphasis> w",
-         "|x(emphasis=e poem=a)|y(emphasis=e poem=b)|z(emphasis=e)|w"},
-        {"a <py=1>b c", "|a|b|c"},
-        {"a <poem1=1>b c", "|a|b|c"},
-        {"a <poem=p>b c", "|a|b(poem=p)|c(poem=p)"},
-        {"<poem=a><poem=b>x</poem> y", "|x(poem=b)|y(poem=a)"},
-        {"<" + name511 + "=1>a", "|a"},
-        {"<" + name511 + "x=1>a",
-         "|<" + (name511 + "x=1>a").substr(0, 498) + "|" + (name511 + "x=1>a").substr(498)},
-    });
 }
 
 TEST_F(Utterance, ChainsAreBounded) {
     const auto nest = [](const std::string& value, int depth) {
         std::string text;
-        for (int i = 0; i < depth; ++i)
-            text += "<poem=" + value + ">";
+        for (int i = 0; i < depth; ++i) text += "<poem=" + value + ">";
         text += "x";
-        for (int i = 0; i < depth; ++i)
-            text += "</poem>";
+        for (int i = 0; i < depth; ++i) text += "</poem>";
         return text + " y";
     };
     EXPECT_EQ(build(nest("a", 40)), "|x(poem=a)|y");  // 40 names make 199 characters
@@ -279,8 +206,7 @@ TEST_F(Utterance, StepsAndCountsByThemselves) {
     const auto step = [&] {
         return engine.filter_text(text, word, tag, value, target, i, j, mark);
     };
-    for (int n = 0; n < 3; ++n)
-        EXPECT_TRUE(step());
+    for (int n = 0; n < 3; ++n) EXPECT_TRUE(step());
     EXPECT_EQ(std::string(word) + std::to_string(i) + std::to_string(j) + std::to_string(mark),
               "ab321");
     word[0] = '\0';

@@ -17,8 +17,7 @@ inline std::string to_text(const UtteranceSyllable& record) {
                                         "zuoyin", "youyin",  "zuokuo", "youkuo", "shenglue",
                                         "pozhe",  "tnbegin", "tnend",  "POIB",   "POIE"};
     std::string text = record.syllable != nullptr ? record.syllable : "";
-    for (int i = 0; i < record.n_punc; ++i)
-        text += std::string("+") + names[record.punc_arr[i]];
+    for (int i = 0; i < record.n_punc; ++i) text += std::string("+") + names[record.punc_arr[i]];
     if (record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE) text += "!";
     const CssmlTag& tag = record.cssml_tag;
     const std::pair<const char*, const char*> fields[] = {
@@ -35,8 +34,7 @@ inline std::string to_text(const UtteranceSyllable& record) {
 // All records, the head first: "|" between them.
 inline std::string to_text(const UtteranceSyllable* utt, int n_utt) {
     std::string text;
-    for (int i = 0; i < n_utt; ++i)
-        text += (i == 0 ? "" : "|") + to_text(utt[i]);
+    for (int i = 0; i < n_utt; ++i) text += (i == 0 ? "" : "|") + to_text(utt[i]);
     return text;
 }
 

@@ -168,8 +168,7 @@ mem_stack_handle mem_stack_create(std::size_t n_capacity) {
 
 void mem_stack_destroy(mem_stack_handle arena) {
     if (arena == nullptr) return;
-    while (arena->large != nullptr)
-        free_large(arena->large);
+    while (arena->large != nullptr) free_large(arena->large);
     for (Chunk* chunk = arena->first_chunk; chunk != nullptr;) {
         Chunk* next = chunk->next;
         std::free(chunk);

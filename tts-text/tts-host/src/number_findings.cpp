@@ -23,10 +23,8 @@ bool has_long_number(std::string_view text) {
         if (!tn::is_digit(text[i])) continue;
         std::size_t begin = i;
         std::size_t end = i;
-        while (begin > 0 && tn::is_digit(text[begin - 1]))
-            --begin;
-        while (end < text.size() && tn::is_digit(text[end]))
-            ++end;
+        while (begin > 0 && tn::is_digit(text[begin - 1])) --begin;
+        while (end < text.size() && tn::is_digit(text[end])) ++end;
         if (end - begin >= LONG_NUMBER) return true;
     }
     return false;

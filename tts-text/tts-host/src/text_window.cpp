@@ -200,8 +200,7 @@ bool TextWindow::markup_fits(std::string_view tag) const {
 
 bool TextWindow::copy(std::string_view piece) {
     if (piece.size() > room()) return false;
-    for (const char c : piece)
-        window_[length_++] = c == '\0' ? ' ' : c;
+    for (const char c : piece) window_[length_++] = c == '\0' ? ' ' : c;
     next_ += piece.size();
     fed_ += piece.size();
     return true;
@@ -251,8 +250,7 @@ std::size_t TextWindow::cut_position(std::size_t size) const {
 void TextWindow::consume(std::size_t cut, std::size_t handed_back) {
     const std::size_t end = fed_ - (length_ - cut);
     std::size_t open = 0;
-    for (const std::string_view tag : spans_)
-        open += tag.size();
+    for (const std::string_view tag : spans_) open += tag.size();
     std::size_t n_events = 0;
     for (const SpanEvent& event : events_) {
         if (event.at >= end) break;
@@ -282,8 +280,7 @@ void TextWindow::rebuild_prefix(std::size_t open) {
     std::memmove(window_ + open, window_ + length_ - left, left);
     char* p = window_;
     for (const std::string_view tag : spans_) {
-        for (const char c : tag)
-            *p++ = c == '\0' ? ' ' : c;
+        for (const char c : tag) *p++ = c == '\0' ? ' ' : c;
     }
     prefix_ = open;
     length_ = open + left;

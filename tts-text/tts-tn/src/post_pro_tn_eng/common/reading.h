@@ -48,11 +48,9 @@ class Reading {
         std::memcpy(text_ + length_, words.data(), room);
         std::size_t end = ROOM;
         if (words[room] != ' ') {
-            while (end > 0 && text_[end - 1] != ' ')
-                --end;
+            while (end > 0 && text_[end - 1] != ' ') --end;
         }
-        while (end > 0 && text_[end - 1] == ' ')
-            --end;
+        while (end > 0 && text_[end - 1] == ' ') --end;
         length_ = end;
         text_[length_] = '\0';
     }

@@ -10,8 +10,7 @@ namespace kavi::tn {
 
 // The section `n` places on, or null.
 inline Section* ahead(Section* section, int n) {
-    while (section != nullptr && n-- > 0)
-        section = section->m_pnext;
+    while (section != nullptr && n-- > 0) section = section->m_pnext;
     return section;
 }
 

@@ -34,8 +34,7 @@ class NumberWords {
     explicit NumberWords(char* target) : end_(target + std::strlen(target)) {}
 
     void append(const char* words) {
-        while (*words != '\0')
-            *end_++ = *words++;
+        while (*words != '\0') *end_++ = *words++;
         *end_ = '\0';
     }
 

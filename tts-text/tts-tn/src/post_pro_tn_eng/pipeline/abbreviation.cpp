@@ -16,8 +16,7 @@ namespace {
 
 constexpr int dot_offset(const char* abbreviation) {
     int offset = 0;
-    while (abbreviation[offset] != '.')
-        ++offset;
+    while (abbreviation[offset] != '.') ++offset;
     return offset;
 }
 

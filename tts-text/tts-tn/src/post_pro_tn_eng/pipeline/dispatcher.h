@@ -60,8 +60,7 @@ class SectionDispatcher {
         template <typename Predicate>
         const Section* find(const Section* from, Predicate is_wanted) {
             if (!known_) {
-                while (from != nullptr && !is_wanted(from))
-                    from = from->m_pnext;
+                while (from != nullptr && !is_wanted(from)) from = from->m_pnext;
                 found_ = from;
                 known_ = true;
             }

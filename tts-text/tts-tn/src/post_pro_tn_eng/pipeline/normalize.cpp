@@ -61,10 +61,8 @@ class SentenceCutter {
 
     // Appends the open tags and the rest of the source to the text handed back.
     void hand_back(char* sz_next_text) {
-        while (is_blank(*next_) || *next_ == '\'' || *next_ == '"')
-            ++next_;
-        while (*next_ == '\r' || *next_ == '\n')
-            ++next_;
+        while (is_blank(*next_) || *next_ == '\'' || *next_ == '"') ++next_;
+        while (*next_ == '\r' || *next_ == '\n') ++next_;
         if (next_ == source_end_) return;
         BoundedText next_text(sz_next_text, SZ_TEXT_MAX_LEN);
         for (int i = 0; i < tags_.begin_arr_len; ++i) {
@@ -110,8 +108,7 @@ class SentenceCutter {
     void run() {
         const char* begin = next_;
         const char* limit = begin + (SENTENCE_MAX + 1 - target_.length());
-        while (next_ < limit && !is_special(*next_))
-            ++next_;
+        while (next_ < limit && !is_special(*next_)) ++next_;
         target_.append({begin, static_cast<std::size_t>(next_ - begin)});
         const char before_last = next_ - begin > 1 ? next_[-2] : previous_;
         previous_ = next_[-1];

@@ -19,8 +19,7 @@ namespace {
 constexpr std::size_t SECTION_TEXT_MAX = WORD_MAX_LEN - 1;
 
 Section* last_of(Section* section) {
-    while (section != nullptr && section->m_pnext != nullptr)
-        section = section->m_pnext;
+    while (section != nullptr && section->m_pnext != nullptr) section = section->m_pnext;
     return section;
 }
 
@@ -45,8 +44,7 @@ bool append_section(std::string_view text, Section*& head, Section*& tail, mem_s
 template <typename Predicate>
 std::size_t run_length(const char* text, Predicate belongs) {
     std::size_t length = 0;
-    while (length < SECTION_TEXT_MAX && belongs(text[length]))
-        ++length;
+    while (length < SECTION_TEXT_MAX && belongs(text[length])) ++length;
     return length;
 }
 

@@ -51,8 +51,7 @@ Section* PostProTnEng::decimal_number(Section* psection, char* sz_target_text) {
 
 int PostProTnEng::currency_decide(Section* pSection) {
     const Section* end = pSection;
-    while (end != nullptr && belongs_to_amount(end))
-        end = end->m_pnext;
+    while (end != nullptr && belongs_to_amount(end)) end = end->m_pnext;
     return is_dollar(end) ? 1 : 0;
 }
 

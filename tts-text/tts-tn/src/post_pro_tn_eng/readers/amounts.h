@@ -11,8 +11,7 @@ namespace kavi::tn {
 inline bool belongs_to_amount(const Section* section) {
     const char* c = section->sz_char;
     if (*c == ',' || *c == '.') return true;
-    while (is_digit(*c))
-        ++c;
+    while (is_digit(*c)) ++c;
     return *c == '\0';
 }
 

@@ -110,13 +110,11 @@ Section* PostProTnEng::turn(Section* p_section, char* sz_target_text) {
 int PostProTnEng::process_upper_case(Section* m_ptemp_section, char* sz_target) {
     const char* word = m_ptemp_section->sz_char;
     std::size_t n_length = 0;
-    while (is_upper(word[n_length]))
-        ++n_length;
+    while (is_upper(word[n_length])) ++n_length;
     if (word[n_length] != '\0') return 0;
     Scratch sz_desc(_mem_handle, n_length + 2, n_length + 2);
     if (sz_desc) {
-        for (std::size_t i = 0; i < n_length; ++i)
-            sz_desc.text()[i] = to_lower(word[i]);
+        for (std::size_t i = 0; i < n_length; ++i) sz_desc.text()[i] = to_lower(word[i]);
         sz_desc.text()[n_length] = '\0';
         char sz_phone[256] = {};
         static_cast<void>(eng_lexicon_lookup(sz_desc.text(), sz_phone, sizeof sz_phone));

@@ -43,8 +43,7 @@ constexpr bool is_special(char c) {
 class SentenceCutter {
   public:
     SentenceCutter(char* source, char* target)
-        : source_(source),
-          source_end_(source + std::strlen(source)),
+        : source_end_(source + std::strlen(source)),
           next_(source),
           stretch_(source),
           target_(target, SZ_TEXT_MAX_LEN) {}
@@ -204,7 +203,6 @@ class SentenceCutter {
         return true;
     }
 
-    char* source_;
     char* source_end_;
     char* next_;     // the read position
     char* stretch_;  // where the next abbreviation search begins

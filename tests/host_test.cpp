@@ -152,6 +152,7 @@ TEST(Host, ReportsWhatTheEnginePassesOver) {
          "|b(emphasis=" + x200.substr(0, 19) + ")|c"},
         {"a <punc=" + x200 + x200 + x200 + ">", {{2, Finding::tag_too_long}}, ""},
         {"a <poem=p", {{2, Finding::tag_never_closed}}, "|a|poem|equal|p"},
+        {std::string("<punc=\0ju>a", 11), {{6, Finding::nul_byte}}, "+?|a"},
         {std::string("a\0b", 3), {{1, Finding::nul_byte}}, "|a|b"},
         {"x 1234567890123 y", {{2, Finding::digits_not_read}}, ""},
         {"x 3.1234567890123 y", {}, ""},

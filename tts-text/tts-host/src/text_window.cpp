@@ -24,6 +24,9 @@ constexpr std::size_t REMOVED_TAG_MAX = 500;
 // The chains of names and values in the engine's builder hold this much.
 constexpr std::size_t CHAIN_MAX = 199;
 
+// A NUL would end the engine's text; a blank keeps the words around it apart.
+char without_nul(char c) { return c == '\0' ? ' ' : c; }
+
 bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
@@ -100,13 +103,7 @@ std::size_t TextWindow::find_from_here(char c, std::size_t& memo) const {
 bool TextWindow::feed() {
     switch (text_[next_]) {
         case '<': return feed_tag();
-        case '\0':
-            if (room() == 0) return false;
-            report(Finding::nul_byte);
-            window_[length_++] = ' ';  // so that the words around it stay apart
-            ++next_;
-            ++fed_;
-            return true;
+        case '\0': return copy(rest().substr(0, 1));
         default: return feed_run();
     }
 }
@@ -200,9 +197,12 @@ bool TextWindow::markup_fits(std::string_view tag) const {
 
 bool TextWindow::copy(std::string_view piece) {
     if (piece.size() > room()) return false;
-    for (const char c : piece) window_[length_++] = c == '\0' ? ' ' : c;
-    next_ += piece.size();
     fed_ += piece.size();
+    for (const char c : piece) {
+        if (c == '\0') report(Finding::nul_byte);
+        window_[length_++] = without_nul(c);
+        ++next_;
+    }
     return true;
 }
 
@@ -280,7 +280,7 @@ void TextWindow::rebuild_prefix(std::size_t open) {
     std::memmove(window_ + open, window_ + length_ - left, left);
     char* p = window_;
     for (const std::string_view tag : spans_) {
-        for (const char c : tag) *p++ = c == '\0' ? ' ' : c;
+        for (const char c : tag) *p++ = without_nul(c);
     }
     prefix_ = open;
     length_ = open + left;

@@ -33,10 +33,11 @@ class SpanBuffers {
 
 // Reads `text` to its end and hands what it meets to the visitor: word(word), punc(name),
 // breaktime(value) and span(name, value, content). Each answers whether to go on; false when one
-// did not. The buffers hold empty texts, the tag's as large as the text.
+// did not. The tag buffers hold empty texts and are as large as the text.
 template <typename Visitor>
 bool read_text(PostProTnEng& engine, char* text, char* word, TagBuffers tag, Visitor& visitor) {
     Scanner scanner(engine, text, word, tag);
+    scanner.clear_word();  // of an earlier pass, a word that nothing completed may be left
     while (!scanner.at_end()) {
         const bool word_completed = scanner.step();
         bool go_on = true;

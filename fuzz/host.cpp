@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (capacity != 0) return 0;
     if (!layer.all_read) std::abort();
     const bool changed =
-        found([](Finding f) { return f <= Finding::tag_too_long || f == Finding::nul_byte; });
+        found([](Finding f) { return f <= Finding::tag_never_closed || f == Finding::nul_byte; });
     const bool long_sentence =
         std::any_of(layer.normalized.begin(), layer.normalized.end(),
                     [](const std::string& sentence) { return sentence.size() > 1400; });

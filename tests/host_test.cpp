@@ -151,6 +151,9 @@ TEST(Host, ReportsWhatTheEnginePassesOver) {
          {{161, Finding::too_much_open_markup}},
          "|b(emphasis=" + x200.substr(0, 19) + ")|c"},
         {"a <punc=" + x200 + x200 + x200 + ">", {{2, Finding::tag_too_long}}, ""},
+        {"<poem=p>a <poem=q b",
+         {{10, Finding::tag_never_closed}},
+         "|a(poem=p)|poem(poem=p)|equal(poem=p)|q(poem=p)|b(poem=p)"},
         {"a <poem=p", {{2, Finding::tag_never_closed}}, "|a|poem|equal|p"},
         {std::string("<punc=\0ju>a", 11), {{6, Finding::nul_byte}}, "+?|a"},
         {std::string("a\0b", 3), {{1, Finding::nul_byte}}, "|a|b"},
@@ -181,17 +184,28 @@ TEST(Host, ReportsWhatTheEnginePassesOver) {
     }
 }
 
-TEST(Host, ASmallArenaPassesSentencesOverAndGoesOn) {
+TEST(Host, ASmallArenaGetsShorterPiecesOrIsReported) {
     const std::string text = "One two three four five six seven eight nine ten. Yes. No.";
     for (std::size_t capacity = 1; capacity < 60000; capacity += 500) {
         const ReadText read = read_by_layer(text, capacity);
-        const auto small = std::count_if(
-            read.diagnostics.begin(), read.diagnostics.end(),
-            [](const Diagnostic& d) { return d.finding == Finding::arena_too_small; });
-        EXPECT_EQ(static_cast<std::size_t>(small) + read.records.size(), 3U);
-        EXPECT_EQ(read.all_read, small == 0);
+        EXPECT_EQ(read.all_read, read.diagnostics.empty());
+        for (const Diagnostic& d : read.diagnostics) EXPECT_EQ(d.finding, Finding::arena_too_small);
+        EXPECT_TRUE(!read.all_read || read.covered == text.size());
     }
-    EXPECT_EQ(read_by_layer(text, 8000).records, (std::vector<std::string>{"|Yes+ju!", "|No+ju!"}));
+    EXPECT_EQ(read_by_layer(text, 8000).records,
+              (std::vector<std::string>{"|One|two|three|four", "|five|six|seven|eight",
+                                        "|nine|ten+ju!", "|Yes+ju!", "|No+ju!"}));
+}
+
+// The telephone number takes the closing tag with it, and the chains of the spans then nested are
+// too long for the builder.
+TEST(Host, WhatTheBuilderRefusesIsCutToo) {
+    const std::string open = "<emphasis=" + std::string(150, 'x') + ">";
+    const std::string text = open + "(5) 5</emphasis> x " + open + "y</emphasis> z";
+    const ReadText read = read_by_layer(text);
+    EXPECT_TRUE(read.all_read);
+    EXPECT_EQ(read.covered, text.size());
+    EXPECT_GT(read.records.size(), 1U);
 }
 
 TEST(Host, TwoInTwoThreadsDoNotInterfere) {

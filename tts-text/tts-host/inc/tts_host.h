@@ -60,10 +60,11 @@ class TtsHost {
     // behind the last sentence at the end.
     //
     // A text of up to 4,095 bytes with sentences of up to 3,000 comes out as if the engine had been
-    // called by hand. A sentence that its buffers do not hold is cut at a blank, with its markup
-    // spans closed and opened again. Malformed markup at which the engine would stop is left out,
-    // with a diagnostic. A sentence for which the arena is too small is passed over, with a
-    // diagnostic. True when there was none.
+    // called by hand. A sentence that the engine's buffers or the arena do not hold is cut at
+    // blanks, with its markup spans closed and opened again. Malformed markup at which the engine
+    // would stop is left out, with a diagnostic. Where the arena is too small even for a short
+    // piece, that piece is passed over, with a diagnostic. True when there was none of these.
+    // The handlers must not throw.
     bool read(std::string_view text, const SentenceHandler& on_sentence,
               const DiagnosticHandler& on_diagnostic);
 

@@ -25,7 +25,9 @@ constexpr std::size_t REMOVED_TAG_MAX = 500;
 constexpr std::size_t CHAIN_MAX = 199;
 
 // A NUL would end the engine's text; a blank keeps the words around it apart.
-char without_nul(char c) { return c == '\0' ? ' ' : c; }
+char without_nul(char c) {
+    return c == '\0' ? ' ' : c;
+}
 
 bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
@@ -130,11 +132,7 @@ bool TextWindow::feed_tag() {
     const std::string_view text = here.substr(0, end + 1 - next_);
     const bool never_closed = end == text_.size();
     const bool too_long = tag->kind == tn::TagKind::kept && text.size() > tn::MARKUP_TAG_MAX;
-    if (never_closed || too_long) {  // the engine reads it as text
-        if (room() == 0) return false;
-        report(never_closed ? Finding::tag_never_closed : Finding::tag_too_long);
-        return copy(here.substr(0, 1));
-    }
+    if (never_closed || too_long) return feed_as_text(never_closed);
     switch (tag->kind) {
         case tn::TagKind::span_open: return feed_opening(text, tag);
         case tn::TagKind::span_close: return feed_closing(text, tn::find_markup_tag(tag->partner));
@@ -149,12 +147,25 @@ bool TextWindow::feed_tag() {
     return copy(text);
 }
 
+// A tag that the engine reads as text. Inside a span its "<" is left out: with the ">" of the
+// closing tag that is put behind the sentence it would make a tag, and the words between be lost.
+bool TextWindow::feed_as_text(bool never_closed) {
+    if (room() == 0) return false;
+    report(never_closed ? Finding::tag_never_closed : Finding::tag_too_long);
+    if (open_spans() == 0) return copy(rest().substr(0, 1));
+    leave_out(1);
+    return true;
+}
+
+int TextWindow::open_spans() const {
+    return static_cast<int>(std::count_if(fed_spans_.begin(), fed_spans_.end(),
+                                          [](const Span& span) { return !span.left_out; }));
+}
+
 // A tag that is left out takes its closing tag with it.
 bool TextWindow::feed_opening(std::string_view tag, const void* kind) {
-    const auto open = std::count_if(fed_spans_.begin(), fed_spans_.end(),
-                                    [](const Span& span) { return !span.left_out; });
     const bool too_long = tag.size() > tn::SAVED_TAG_MAX;
-    const bool too_many = open == tn::OPEN_TAGS_MAX;
+    const bool too_many = open_spans() == tn::OPEN_TAGS_MAX;
     if (too_long || too_many || !markup_fits(tag)) {
         report(too_long   ? Finding::tag_too_long
                : too_many ? Finding::too_many_open_tags

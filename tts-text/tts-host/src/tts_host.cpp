@@ -49,17 +49,15 @@ class TtsHost::State {
               const DiagnosticHandler& on_diagnostic);
 
   private:
-    enum class Outcome { done, too_long, no_memory };
-
     // Sentences that normalise to more are tried again as a shorter piece, so that there is always
     // room for what closes them.
     static constexpr std::size_t SENTENCE_MAX = 3500;
     static constexpr std::size_t LONG_PIECE = 3000;  // the first such piece; then half, and so on
     static constexpr std::size_t SHORTEST_PIECE = 16;
 
-    Outcome read_sentence(std::size_t cut);
-    Outcome read_piece();
-    bool deliver(HostSentence sentence, const SentenceHandler& on_sentence);
+    bool read_piece();
+    bool read_sentence(std::size_t cut);
+    void release_records();
     void report_up_to(std::size_t offset, const DiagnosticHandler& on_diagnostic);
 
     mem_stack_handle arena_;
@@ -70,6 +68,8 @@ class TtsHost::State {
     char normalized_[SZ_TEXT_MAX_LEN] = {};
     char handed_back_[SZ_TEXT_MAX_LEN] = {};
     char speakable_[SZ_TEXT_MAX_LEN] = {};
+    UtteranceSyllable* utt_ = nullptr;
+    int n_utt_ = 0;
 };
 
 bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sentence,
@@ -79,38 +79,40 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
     window_.begin(text);
     while (window_.fill()) {
         const std::size_t offset = window_.source_offset();
-        const Outcome outcome = read_piece();
+        const bool done = read_piece();
         window_.consume(cut_, std::strlen(handed_back_));
-        HostSentence sentence = {
-            offset, window_.source_offset() - offset, normalized_, speakable_, nullptr, 0};
-        if (outcome == Outcome::done) {
-            host::find_unread_numbers(engine_, arena_, normalized_,
-                                      text.substr(offset, sentence.length), offset, diagnostics_);
+        const std::size_t length = window_.source_offset() - offset;
+        if (done) {
+            host::find_unread_numbers(engine_, arena_, normalized_, text.substr(offset, length),
+                                      offset, diagnostics_);
+        } else {
+            diagnostics_.push_back({offset, Finding::arena_too_small});
+            all_read = false;
         }
-        report_up_to(offset + sentence.length, on_diagnostic);
-        if (sentence.normalized.empty()) continue;
-        if (outcome == Outcome::done && deliver(sentence, on_sentence)) continue;
-        on_diagnostic({offset, Finding::arena_too_small});
-        all_read = false;
+        report_up_to(offset + length, on_diagnostic);
+        if (done && normalized_[0] != '\0') {
+            on_sentence({offset, length, normalized_, speakable_, utt_, n_utt_});
+        }
+        release_records();
     }
     report_up_to(text.size(), on_diagnostic);
     return all_read;
 }
 
 // The first sentence of the window, or of a shorter and shorter piece of it until the engine's
-// buffers hold what it reads as.
-TtsHost::State::Outcome TtsHost::State::read_piece() {
+// buffers and the arena hold what it reads as. False when not even the shortest was read.
+bool TtsHost::State::read_piece() {
     cut_ = window_.length();
-    Outcome outcome = read_sentence(cut_);
-    for (std::size_t size = LONG_PIECE; outcome == Outcome::too_long && size >= SHORTEST_PIECE;
-         size /= 2) {
+    bool done = read_sentence(cut_);
+    for (std::size_t size = LONG_PIECE; !done && size >= SHORTEST_PIECE; size /= 2) {
         cut_ = window_.cut_position(size);
-        outcome = read_sentence(cut_);
+        done = read_sentence(cut_);
     }
-    return outcome;
+    return done;
 }
 
-TtsHost::State::Outcome TtsHost::State::read_sentence(std::size_t cut) {
+bool TtsHost::State::read_sentence(std::size_t cut) {
+    release_records();
     std::memset(normalized_, 0, sizeof normalized_);
     handed_back_[0] = '\0';
     speakable_[0] = '\0';
@@ -119,30 +121,22 @@ TtsHost::State::Outcome TtsHost::State::read_sentence(std::size_t cut) {
     source[cut] = '\0';
     static_cast<void>(engine_.eng_text_normalize(source, normalized_, handed_back_));
     source[cut] = behind;
-    if (std::strlen(normalized_) > SENTENCE_MAX) return Outcome::too_long;
-    if (engine_.eng_text_tokenize(normalized_, speakable_) == 0) return Outcome::done;
-    return speakable_[0] != '\0' ? Outcome::too_long : Outcome::no_memory;
+    return std::strlen(normalized_) <= SENTENCE_MAX &&
+           engine_.eng_text_tokenize(normalized_, speakable_) == 0 &&
+           engine_.eng_text_to_utterance_syllable(speakable_, utt_, n_utt_) == 0;
 }
 
-// False when the arena has no room for the records.
-bool TtsHost::State::deliver(HostSentence sentence, const SentenceHandler& on_sentence) {
-    UtteranceSyllable* utt = nullptr;
-    int n_utt = 0;
-    const bool built = engine_.eng_text_to_utterance_syllable(speakable_, utt, n_utt) == 0;
-    if (built) {
-        sentence.records = utt;
-        sentence.n_records = n_utt;
-        on_sentence(sentence);
-    }
+void TtsHost::State::release_records() {
     const auto release = [this](void* block, std::size_t size) {
         mem_stack_release_buf(block, size, MEM_COMMON, arena_);
     };
-    for (int i = 0; i < n_utt; ++i) {
-        release(utt[i].syllable, static_cast<std::size_t>(utt[i].syl_len));
-        release(utt[i].zhuyin, static_cast<std::size_t>(utt[i].zy_len));
+    for (int i = 0; i < n_utt_; ++i) {
+        release(utt_[i].syllable, static_cast<std::size_t>(utt_[i].syl_len));
+        release(utt_[i].zhuyin, static_cast<std::size_t>(utt_[i].zy_len));
     }
-    release(utt, static_cast<std::size_t>(n_utt) * sizeof(UtteranceSyllable));
-    return built;
+    release(utt_, static_cast<std::size_t>(n_utt_) * sizeof(UtteranceSyllable));
+    utt_ = nullptr;
+    n_utt_ = 0;
 }
 
 void TtsHost::State::report_up_to(std::size_t offset, const DiagnosticHandler& on_diagnostic) {

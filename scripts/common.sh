@@ -1,7 +1,9 @@
 # What every script begins with: the project's folder, --help from the script's own head, and the
 # packages it needs.
 set -euo pipefail
+caller=$PWD
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+project=$PWD
 if [ "${1:-}" = --help ]; then
     sed -n '2,/^[^#]/{s/^# \{0,1\}//p}' "$0"
     exit 0

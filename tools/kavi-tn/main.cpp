@@ -1,13 +1,16 @@
 // kavi-tn: text in, speakable sentences out.
 
 #include <CLI/CLI.hpp>
+#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "normalizer.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+int run(int argc, char** argv) {
     using kavi::tool::Stage;
 
     CLI::App app{"Turns English text into speakable words, a sentence a line."};
@@ -50,4 +53,15 @@ int main(int argc, char** argv) {
         return 1;
     }
     return normalizer.succeeded() ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "kavi-tn: " << error.what() << '\n';
+        return 1;
+    }
 }

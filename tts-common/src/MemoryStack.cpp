@@ -23,7 +23,7 @@ constexpr std::size_t SMALL_STEP = 16;    // classes of 16, 32, ... 1024 bytes
 constexpr std::size_t SMALL_MAX = 1024;   //
 constexpr std::size_t CLASS_MAX = 32768;  // then four classes to every doubling, up to this
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
-constexpr std::size_t CLASSES = SMALL_CLASSES + 4 * 5;
+constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
 constexpr std::size_t CHUNK_BYTES = std::size_t{64} * 1024;
 
 static_assert(SMALL_MAX << 5 == CLASS_MAX, "five doublings of four classes each");
@@ -168,7 +168,11 @@ mem_stack_handle mem_stack_create(std::size_t n_capacity) {
 
 void mem_stack_destroy(mem_stack_handle arena) {
     if (arena == nullptr) return;
-    while (arena->large != nullptr) free_large(arena->large);
+    for (LargeBlock* block = arena->large; block != nullptr;) {
+        LargeBlock* next = block->next;
+        std::free(block);
+        block = next;
+    }
     for (Chunk* chunk = arena->first_chunk; chunk != nullptr;) {
         Chunk* next = chunk->next;
         std::free(chunk);

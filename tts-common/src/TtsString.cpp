@@ -30,8 +30,9 @@ int safe_strncat(char* dst, const char* src, int n, int cap) {
 
 int tts_snprintf(char* buf, int size, const char* fmt, ...) {
     if (size <= 0) return -1;
-    std::va_list args;
+    va_list args;
     va_start(args, fmt);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): clang-tidy 14 overlooks the va_start
     const int length = std::vsnprintf(buf, static_cast<std::size_t>(size), fmt, args);
     va_end(args);
     return length;

@@ -183,7 +183,7 @@ inline constexpr char s_number_to_turn[27][2][15] = {
 class PostProTnEng {
   public:
     PostProTnEng();
-    ~PostProTnEng();
+    ~PostProTnEng() = default;
 
     // Binds the engine to the host's arena, which must outlive its use here. May be called again.
     // Needed before anything that takes memory; an unbound engine answers as if the arena were

@@ -2,7 +2,9 @@
 #ifndef KAVI_TN_MARKUP_TAGS_H
 #define KAVI_TN_MARKUP_TAGS_H
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <string_view>
 
 #include "PostProcTN.h"
@@ -67,10 +69,9 @@ const MarkupTag* find_markup_tag(Text text) {
 // Whether `text` begins with a tag of sentences. "<punc=english>" is one: a removed tag that comes
 // to a sentence by another way is an ordinary punctuation tag.
 inline bool begins_sentence_tag(const char* text) {
-    for (const MarkupTag& tag : MARKUP_TAGS) {
-        if (tag.kind != TagKind::removed && begins_with(text, tag.prefix)) return true;
-    }
-    return false;
+    return std::any_of(std::begin(MARKUP_TAGS), std::end(MARKUP_TAGS), [=](const MarkupTag& tag) {
+        return tag.kind != TagKind::removed && begins_with(text, tag.prefix);
+    });
 }
 
 }  // namespace kavi::tn

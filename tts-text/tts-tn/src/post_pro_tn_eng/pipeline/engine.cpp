@@ -11,8 +11,6 @@ namespace kavi {
 
 PostProTnEng::PostProTnEng() : _mem_handle(nullptr) {}
 
-PostProTnEng::~PostProTnEng() = default;
-
 void PostProTnEng::init(mem_stack_handle mem_handle) {
     _mem_handle = mem_handle;
 }

@@ -78,7 +78,7 @@ class SentenceCutter {
         switch (c) {
             case '.': full_stop(); return true;
             case '<': return markup();
-            case ':': mark(!between_digits()); return true;
+            case ':':
             case ',': mark(!between_digits()); return true;
             case '?':
             case ';':

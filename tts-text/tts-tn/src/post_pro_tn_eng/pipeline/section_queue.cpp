@@ -32,7 +32,7 @@ int class_of(char first) {
 bool append_section(std::string_view text, Section*& head, Section*& tail, mem_stack_handle arena) {
     void* memory = mem_stack_request_buf(sizeof(Section), MEM_COMMON, arena);
     if (memory == nullptr) return false;
-    auto* section = new (memory) Section{};
+    Section* section = new (memory) Section();
     std::memcpy(section->sz_char, text.data(), text.size());
     section->m_nmark = class_of(text[0]);
     section->m_pprevious = tail;

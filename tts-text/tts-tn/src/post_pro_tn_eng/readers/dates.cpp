@@ -32,7 +32,9 @@ int PostProTnEng::month_def(char* sz_source) {
 
 char* PostProTnEng::month_read(char* sz_source_text, char* sz_target_text) {
     const char* name = month_name(sz_source_text);
-    return std::strcpy(sz_target_text, name != nullptr ? name : sz_source_text);
+    if (name == nullptr) name = sz_source_text;
+    std::memcpy(sz_target_text, name, std::strlen(name) + 1);
+    return sz_target_text;
 }
 
 // Day, "/" or "-", month, "/", year. No value is tested.
@@ -49,9 +51,9 @@ int PostProTnEng::data_decide(Section* p_section) {
 
 Section* PostProTnEng::data_number(Section* p_section, char* sz_target_text) {
     Scratch scratch(_mem_handle);
-    if (!scratch) return p_section;
     Section* month = ahead(p_section, 2);
-    Section* year = ahead(p_section, 4);
+    Section* year = ahead(month, 2);
+    if (!scratch || year == nullptr) return p_section;
     Reading reading(sz_target_text);
     reading.append(" the ");
     str_turn(p_section->sz_char, scratch.text());

@@ -59,7 +59,9 @@ Section* PostProTnEng::country_code_read(Section* p_number, char* sz_scratch, ch
 Section* PostProTnEng::process_single_quote(Section* p_temp_section, char* /*sz_target*/) {
     Section* word = p_temp_section->m_pnext;
     if (word == nullptr) return p_temp_section;
-    if (const char* full = find_word(CONTRACTIONS, word->sz_char)) std::strcpy(word->sz_char, full);
+    if (const char* full = find_word(CONTRACTIONS, word->sz_char)) {
+        std::memcpy(word->sz_char, full, std::strlen(full) + 1);
+    }
     return p_temp_section;
 }
 

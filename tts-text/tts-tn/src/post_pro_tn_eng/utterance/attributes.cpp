@@ -47,13 +47,13 @@ constexpr ProsodyField PROSODY_FIELDS[] = {
 
 // One «name="value"»: the character behind "=" and the last one are the quotes.
 bool set_prosody_field(CssmlTag& tag, std::string_view attribute) {
-    for (const ProsodyField& row : PROSODY_FIELDS) {
-        if (!tn::begins_with(attribute, row.prefix)) continue;
-        const std::string_view quoted = attribute.substr(row.prefix.size());
-        set_field(tag.*row.field, quoted.size() < 2 ? "" : quoted.substr(1, quoted.size() - 2));
-        return true;
-    }
-    return false;
+    const auto* row =
+        std::find_if(std::begin(PROSODY_FIELDS), std::end(PROSODY_FIELDS),
+                     [=](const auto& field) { return tn::begins_with(attribute, field.prefix); });
+    if (row == std::end(PROSODY_FIELDS)) return false;
+    const std::string_view quoted = attribute.substr(row->prefix.size());
+    set_field(tag.*row->field, quoted.size() < 2 ? "" : quoted.substr(1, quoted.size() - 2));
+    return true;
 }
 
 bool set_prosody(CssmlTag& tag, std::string_view attributes) {

@@ -29,12 +29,13 @@ int PostProTnEng::eng_text_to_utterance_syllable(char* sz_source_text, Utterance
     char sz_tag[MEMORY_SIZE_TAG_LABEL_TN] = {};
     tn::Scratch sz_value(_mem_handle, length);
     tn::Scratch sz_target(_mem_handle, length);
-    if (length > 0 && (!sz_value || !sz_target)) return -1;
+    const bool has_text = length > 0;
+    if (has_text && (!sz_value || !sz_target)) return -1;
     const tn::TagBuffers tag = {sz_tag, sz_value.text(), sz_target.text()};
 
     int word_num = 0;
     WordCounter counter(*this, word_num, 0);
-    if (!tn::read_text(*this, sz_source_text, temp, tag, counter)) return -1;
+    if (has_text && !tn::read_text(*this, sz_source_text, temp, tag, counter)) return -1;
     ++word_num;  // the head record
 
     const std::size_t array_size = static_cast<std::size_t>(word_num) * sizeof(UtteranceSyllable);
@@ -47,7 +48,7 @@ int PostProTnEng::eng_text_to_utterance_syllable(char* sz_source_text, Utterance
 
     int curr_n_utt = 1;
     WordFiller filler(*this, curr_n_utt, p_utt);
-    if (!tn::read_text(*this, sz_source_text, temp, tag, filler)) return -1;
+    if (has_text && !tn::read_text(*this, sz_source_text, temp, tag, filler)) return -1;
     assert(word_num == curr_n_utt);
     return 0;
 }

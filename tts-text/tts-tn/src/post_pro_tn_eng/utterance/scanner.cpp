@@ -1,5 +1,6 @@
 #include "scanner.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cstring>
 
@@ -144,7 +145,7 @@ char* PostProTnEng::parse_tag(char* sz_text, char* sz_tag, char* sz_value, char*
     const std::string_view name = tn::tag_name(sz_text + 1, end);
     if (name.size() > tn::TAG_NAME_MAX) return nullptr;
     tn::copy(name, sz_tag);
-    const char* value = name.end() < end ? name.end() + 1 : end;
+    const char* value = std::min<const char*>(name.data() + name.size() + 1, end);
     tn::copy({value, static_cast<std::size_t>(end - value)}, sz_value);
 
     char* content = end + 1;

@@ -27,7 +27,7 @@ class Scanner {
   public:
     // `word` holds WORD_MAX_LEN bytes; a scan that goes on begins at `position`, with
     // `word_length` characters there.
-    Scanner(PostProTnEng& engine, char* text, char* word, TagBuffers tag, int position = 0,
+    Scanner(PostProTnEng& engine, char* text, char* word, const TagBuffers& tag, int position = 0,
             int word_length = 0)
         : engine_(engine),
           text_(text),

@@ -35,7 +35,8 @@ class SpanBuffers {
 // breaktime(value) and span(name, value, content). Each answers whether to go on; false when one
 // did not. The tag buffers hold empty texts and are as large as the text.
 template <typename Visitor>
-bool read_text(PostProTnEng& engine, char* text, char* word, TagBuffers tag, Visitor& visitor) {
+bool read_text(PostProTnEng& engine, char* text, char* word, const TagBuffers& tag,
+               Visitor& visitor) {
     Scanner scanner(engine, text, word, tag);
     scanner.clear_word();  // of an earlier pass, a word that nothing completed may be left
     while (!scanner.at_end()) {

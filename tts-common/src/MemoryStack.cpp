@@ -24,6 +24,7 @@ constexpr std::size_t SMALL_MAX = 1024;   //
 constexpr std::size_t CLASS_MAX = 32768;  // then four classes to every doubling, up to this
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
 constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
+constexpr std::size_t REQUEST_MAX = std::numeric_limits<std::size_t>::max() / 4;  // of any memory
 constexpr std::size_t CHUNK_BYTES = std::size_t{64} * 1024;
 
 static_assert(SMALL_MAX << 5 == CLASS_MAX, "five doublings of four classes each");
@@ -192,7 +193,7 @@ std::size_t mem_stack_peak(mem_stack_handle arena) {
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
     if (arena == nullptr || type < MEM_COMMON || type >= MEM_MAX_CNT) return nullptr;
     const std::size_t left = arena->capacity - arena->used;
-    if (size > std::min(left, std::numeric_limits<std::size_t>::max() / 2)) return nullptr;
+    if (size > std::min(left, REQUEST_MAX)) return nullptr;
     const SizeClass wanted = class_of(size);
     const bool large = wanted.index == CLASSES;
     const std::size_t cost = wanted.bytes + (large ? sizeof(LargeBlock) : sizeof(BlockHeader));

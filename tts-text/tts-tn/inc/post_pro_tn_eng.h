@@ -12,15 +12,16 @@ class ForwardFinder;
 class Scanner;
 }  // namespace tn
 
-constexpr int WORD_MAX_LEN = 500;              // word and reading buffers
-constexpr int SZ_TEXT_MAX_LEN = 4096;          // sentence and output texts
-constexpr int MEMORY_SIZE_TAG_LABEL_TN = 512;  // tag name buffers
-constexpr int ABBREVIATIONNUMBER = 23;         // rows of the abbreviation table
+inline constexpr int WORD_MAX_LEN = 500;              // word and reading buffers
+inline constexpr int SZ_TEXT_MAX_LEN = 4096;          // sentence and output texts
+inline constexpr int MEMORY_SIZE_TAG_LABEL_TN = 512;  // tag name buffers
+inline constexpr int ABBREVIATIONNUMBER = 23;         // rows of the abbreviation table
 
 // The class of a section, decided by the first byte of its text.
-constexpr int STRINGSYMBOL = 0;  // an ASCII letter
-constexpr int NUMBERSYMBOL = 1;  // a digit
-constexpr int MARKSYMBOL = 2;    // anything else: blank, punctuation, markup tag, bytes above 127
+inline constexpr int STRINGSYMBOL = 0;  // an ASCII letter
+inline constexpr int NUMBERSYMBOL = 1;  // a digit
+inline constexpr int MARKSYMBOL =
+    2;  // anything else: blank, punctuation, markup tag, bytes above 127
 
 // One token of a sentence. A queue of them is known by its head.
 struct Section {

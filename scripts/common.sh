@@ -31,3 +31,10 @@ need_compiler() {
     need ninja ninja-build
     need g++ g++
 }
+
+# What the command line is built with.
+need_tool_libraries() {
+    need_file /usr/include/CLI/CLI.hpp libcli11-dev
+    need_file /usr/include/nlohmann/json.hpp nlohmann-json3-dev
+    need_file /usr/include/utf8.h libutfcpp-dev
+}

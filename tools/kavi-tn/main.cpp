@@ -3,56 +3,57 @@
 #include <CLI/CLI.hpp>
 #include <exception>
 #include <iostream>
+#include <map>
 #include <string>
-#include <vector>
 
-#include "normalizer.h"
+#include "pipeline.h"
 
 namespace {
 
-int run(int argc, char** argv) {
-    using kavi::tool::Stage;
+using kavi::tool::FormatName;
+using kavi::tool::Options;
+using kavi::tool::Stage;
 
+constexpr int WRONG_USAGE = 2;
+
+int run(int argc, char** argv) {
+    Options options;
     CLI::App app{"Turns English text into speakable words, a sentence a line."};
     app.footer(
         "Every input line is a text of its own. Messages go to standard error as "
         "NAME:LINE:BYTE: text.\nExit status: 0 when everything was normalised, 1 when something "
-        "could not be read, normalised or written, 2 for wrong usage.");
+        "could not be read, normalised or written, 2 for wrong usage, 130 when interrupted.");
     app.set_version_flag("--version", "kavi-tn " KAVI_VERSION);
-    std::string text;
-    std::vector<std::string> files;
-    bool words = false;
-    const CLI::Option* text_option = app.add_option("-t,--text", text, "Read TEXT first");
-    app.add_option("FILE", files, "Files to read, \"-\" for standard input (the default)");
-    app.add_flag("--words", words, "Write a table of the words of each sentence");
+    const CLI::Option* text = app.add_option("-t,--text", options.text, "Read TEXT first");
+    app.add_option("FILE", options.files, "Files to read, \"-\" for standard input (the default)");
+    app.add_option("-o,--output", options.output, "Write to FILE instead of standard output");
+    const CLI::Option* nul =
+        app.add_flag("-0,--null", "Texts end with a NUL byte instead of a line end");
+    app.add_option("-j,--jobs", options.jobs, "Read with N threads; the output stays the same")
+        ->check(CLI::Range(1, 256));
+    const std::map<std::string, FormatName> formats = {
+        {"text", FormatName::text}, {"jsonl", FormatName::jsonl}, {"html", FormatName::html}};
+    app.add_option("--format", options.format, "text (the default), jsonl or html")
+        ->transform(CLI::CheckedTransformer(formats));
+    auto* stage = app.add_option_group("stage", "What text shows of each sentence");
+    stage->require_option(0, 1);
+    const auto add_stage = [&](const char* name, Stage value, const char* description) {
+        stage->add_flag_callback(
+            name, [&options, value] { options.stage = value; }, description);
+    };
+    add_stage("--sentences", Stage::sentences, "The sentence, abbreviations expanded");
+    add_stage("--speakable", Stage::speakable, "The words to be spoken (the default)");
+    add_stage("--words", Stage::words, "A table of the words with pauses, marks and markup");
+    add_stage("--explain", Stage::explain, "Its sections, what was written for them and why");
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        constexpr int WRONG_USAGE = 2;
         return app.exit(error) == 0 ? 0 : WRONG_USAGE;
     }
-
-    std::ios::sync_with_stdio(false);
-    kavi::tool::Normalizer normalizer(words ? Stage::words : Stage::speakable, std::cout,
-                                      std::cerr);
-    if (*text_option) {
-        normalizer.read_text("TEXT", text);
-    } else if (files.empty()) {
-        files.emplace_back("-");
-    }
-    for (const std::string& file : files) {
-        if (file == "-") {
-            normalizer.read_stream("standard input", std::cin);
-        } else {
-            normalizer.read_file(file);
-        }
-    }
-    std::cout.flush();
-    if (!std::cout && normalizer.succeeded()) {
-        std::cerr << "kavi-tn: cannot write\n";
-        return 1;
-    }
-    return normalizer.succeeded() ? 0 : 1;
+    options.has_text = text->count() > 0;
+    if (nul->count() > 0) options.delimiter = '\0';
+    if (!options.has_text && options.files.empty()) options.files.emplace_back("-");
+    return kavi::tool::run_pipeline(options);
 }
 
 }  // namespace

@@ -1,0 +1,47 @@
+// The input in blocks of whole texts.
+#ifndef KAVI_TOOL_BLOCK_READER_H
+#define KAVI_TOOL_BLOCK_READER_H
+
+#include <cstdio>
+#include <string>
+
+#include "options.h"
+
+namespace kavi::tool {
+
+struct Block {
+    std::string input;      // the name that messages and records give
+    std::size_t first = 1;  // number of the first text in its input
+    std::string bytes;      // whole texts, each but perhaps the last with its delimiter
+    std::string failure;    // why the input could not be read, or read on
+};
+
+// Reads all inputs in order. A text longer than a block makes a larger block.
+class BlockReader {
+  public:
+    explicit BlockReader(const Options& options);
+    ~BlockReader();
+    BlockReader(const BlockReader&) = delete;
+    BlockReader& operator=(const BlockReader&) = delete;
+
+    // The next block; false at the end of the last input.
+    bool next(Block& block);
+
+  private:
+    bool next_of_file(Block& block);
+    void open(const std::string& name);
+    void close();
+
+    const Options& options_;
+    bool text_pending_;
+    std::size_t next_file_ = 0;
+    std::string name_;
+    std::FILE* file_ = nullptr;
+    std::string failure_;
+    std::size_t number_ = 1;  // of the next text
+    std::string carry_;       // what was read behind the last delimiter
+};
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_BLOCK_READER_H

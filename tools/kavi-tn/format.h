@@ -1,0 +1,44 @@
+// How sentences are written.
+#ifndef KAVI_TOOL_FORMAT_H
+#define KAVI_TOOL_FORMAT_H
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "options.h"
+#include "tts_host.h"
+
+namespace kavi::tool {
+
+// Where a sentence comes from.
+struct Place {
+    std::string_view input;
+    std::size_t line;      // the text's number in its input
+    std::size_t sentence;  // its number in the text
+    std::string_view source;
+};
+
+class Format {
+  public:
+    virtual ~Format() = default;
+    virtual std::string prologue() const { return {}; }
+    virtual std::string epilogue() const { return {}; }
+
+    // Appends what is to be written for one sentence, in whole lines.
+    virtual void write(const Place& place, const HostSentence& sentence,
+                       const std::vector<Diagnostic>& diagnostics, std::string& out) = 0;
+};
+
+// One format object serves one thread.
+std::unique_ptr<Format> make_format(const Options& options);
+
+// The formats, each in a room of its own.
+std::unique_ptr<Format> make_text_format(Stage stage);
+std::unique_ptr<Format> make_json_format(bool explain);
+std::unique_ptr<Format> make_html_format();
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_FORMAT_H

@@ -1,0 +1,26 @@
+// What the command line asks for.
+#ifndef KAVI_TOOL_OPTIONS_H
+#define KAVI_TOOL_OPTIONS_H
+
+#include <string>
+#include <vector>
+
+namespace kavi::tool {
+
+enum class Stage { sentences, speakable, words, explain };
+enum class FormatName { text, jsonl, html };
+
+struct Options {
+    Stage stage = Stage::speakable;
+    FormatName format = FormatName::text;
+    std::vector<std::string> files;  // "-" is standard input
+    bool has_text = false;
+    std::string text;    // read before the files
+    std::string output;  // empty: standard output
+    char delimiter = '\n';
+    unsigned jobs = 1;
+};
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_OPTIONS_H

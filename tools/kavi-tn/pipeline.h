@@ -1,0 +1,16 @@
+// From the inputs to the output, with as many threads as asked for.
+#ifndef KAVI_TOOL_PIPELINE_H
+#define KAVI_TOOL_PIPELINE_H
+
+#include "options.h"
+
+namespace kavi::tool {
+
+// Reads, renders and writes everything; the output is in input order and the same for every number
+// of threads. The exit status: 0, or 1 when something could not be read, normalised or written. An
+// interrupt ends the process between two lines of output.
+int run_pipeline(const Options& options);
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_PIPELINE_H

@@ -1,0 +1,37 @@
+// A block of texts to what is written for it.
+#ifndef KAVI_TOOL_RENDERER_H
+#define KAVI_TOOL_RENDERER_H
+
+#include <memory>
+#include <string>
+
+#include "block_reader.h"
+#include "format.h"
+
+namespace kavi::tool {
+
+struct Rendered {
+    std::string output;    // whole lines
+    std::string messages;  // whole lines
+    bool all_read = true;
+};
+
+// One renderer serves one thread. The result depends on the block alone.
+class Renderer {
+  public:
+    explicit Renderer(const Options& options);
+
+    Rendered render(const Block& block);
+
+  private:
+    void render_text(const Block& block, std::size_t line, std::string_view text,
+                     Rendered& rendered);
+
+    char delimiter_;
+    TtsHost host_;
+    std::unique_ptr<Format> format_;
+};
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_RENDERER_H

@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "kavi_version.h"
 #include "pipeline.h"
 
 namespace {

@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# The ways in which a host gets at the library, each from a scratch directory.
+# Usage: install_test.sh SOURCE-TREE BUILD-TREE COMPILER
+set -euo pipefail
+source=$1 build=$2
+export CXX=$3
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+# says NAME PROGRAM: the example, however it was built, says what it should.
+says() {
+    "$2" | grep -q 'It is  ten   thirty' || { echo "FAILED: $1"; exit 1; }
+    echo "ok: $1"
+}
+
+# cmake_host NAME LINES [OPTIONS...]: a host's own CMake project around the example.
+cmake_host() {
+    local name=$1 lines=$2
+    shift 2
+    mkdir "$name"
+    cp "$source/examples/link_the_engine.cpp" "$name"
+    cat >"$name/CMakeLists.txt" <<TXT
+cmake_minimum_required(VERSION 3.22)
+project(host CXX)
+$lines
+add_executable(host link_the_engine.cpp)
+target_link_libraries(host PRIVATE kavi::host)
+get_directory_property(leaked COMPILE_OPTIONS)
+get_target_property(options host COMPILE_OPTIONS)
+if(leaked OR options OR KAVI_BUILD_TESTS OR TARGET kavi_tests)
+    message(FATAL_ERROR "leaks into the host's build: \${leaked} \${options}")
+endif()
+TXT
+    cmake -S "$name" -B "$name/build" "$@" >/dev/null
+    cmake --build "$name/build" >/dev/null
+    says "$name" "$name/build/host"
+}
+
+# pkg_config_host NAME: a host that knows nothing but pkg-config.
+pkg_config_host() {
+    # shellcheck disable=SC2046
+    $CXX -std=c++17 "$source/examples/link_the_engine.cpp" $(pkg-config --cflags --libs kavi) -o "$1"
+    says "$1" "./$1"
+}
+
+cmake --install "$build" --prefix "$work/prefix" >/dev/null
+cmake_host installed 'find_package(kavi 0.1 CONFIG REQUIRED)' "-DCMAKE_PREFIX_PATH=$work/prefix"
+cmake_host build-tree 'find_package(kavi 0.1 CONFIG REQUIRED)' "-Dkavi_DIR=$build"
+cmake_host subdirectory "add_subdirectory($source kavi)"
+cmake_host shared "add_subdirectory($source kavi)" -DBUILD_SHARED_LIBS=ON
+cmake_host fetched "include(FetchContent)
+FetchContent_Declare(kavi SOURCE_DIR $source)
+FetchContent_MakeAvailable(kavi)"
+PKG_CONFIG_PATH=$(dirname "$(find prefix -name kavi.pc)") pkg_config_host pkg-config-installed
+PKG_CONFIG_PATH=$build pkg_config_host pkg-config-build-tree
+
+# The shared library shows nothing of its inside.
+if nm -DC --defined-only shared/build/kavi/libkavi_tn.so | grep -E ' [TWVBDR] ' |
+    grep -vE 'kavi::(PostProTnEng::|mem_stack_|safe_strncat|tts_snprintf|eng_lexicon_lookup|SectionDispatcher::|tn::release_sections)'; then
+    echo 'FAILED: symbols that should be hidden'
+    exit 1
+fi
+
+for file in share/man/man1/kavi-tn.1 share/bash-completion/completions/kavi-tn \
+    share/zsh/site-functions/_kavi-tn share/fish/vendor_completions.d/kavi-tn.fish; do
+    [ -s "prefix/$file" ] || { echo "FAILED: no $file"; exit 1; }
+done
+bash -n prefix/share/bash-completion/completions/kavi-tn
+options() { grep -oE -- '--[a-z]+' | sort -u; }
+for file in prefix/share/man/man1/kavi-tn.1 prefix/share/bash-completion/completions/kavi-tn; do
+    diff <(prefix/bin/kavi-tn --help | options) <(sed 's/\\//g' "$file" | options) ||
+        { echo "FAILED: $file and --help differ"; exit 1; }
+done
+
+# The Debian package installs and runs.
+cpack --config "$build/CPackConfig.cmake" -B "$work/package" >/dev/null 2>&1
+mkdir root
+dpkg-deb -x package/*.deb root
+[ "$(root/usr/bin/kavi-tn -t 'a 2')" = 'a  two' ]
+if [ "$(id -u)" = 0 ] && [ -n "${CI:-}" ]; then
+    dpkg -i package/*.deb >/dev/null
+    [ "$(kavi-tn -t 'a 2')" = 'a  two' ]
+    dpkg -r kavi >/dev/null
+fi
+echo 'ok: the Debian package'

@@ -1,0 +1,14 @@
+# bash completion for kavi-tn
+_kavi_tn() {
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    case $previous in
+        --format) mapfile -t COMPREPLY < <(compgen -W "text jsonl html" -- "$current") && return ;;
+        -t | --text | -j | --jobs) return ;;
+    esac
+    case $current in
+        -*) mapfile -t COMPREPLY < <(compgen -W "-t --text -o --output -0 --null -j --jobs --format
+            --sentences --speakable --words --explain -h --help --version" -- "$current") ;;
+        *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+    esac
+}
+complete -o filenames -F _kavi_tn kavi-tn

@@ -1,0 +1,12 @@
+# fish completion for kavi-tn
+complete -c kavi-tn -s t -l text -x -d 'Read TEXT first'
+complete -c kavi-tn -s o -l output -r -d 'Write to FILE'
+complete -c kavi-tn -s 0 -l null -d 'Texts end with a NUL byte'
+complete -c kavi-tn -s j -l jobs -x -d 'Read with N threads'
+complete -c kavi-tn -l format -x -a 'text jsonl html' -d 'How to write'
+complete -c kavi-tn -l sentences -d 'The sentences as cut'
+complete -c kavi-tn -l speakable -d 'The words to be spoken'
+complete -c kavi-tn -l words -d 'A table of the words'
+complete -c kavi-tn -l explain -d 'Sections, readings and rules'
+complete -c kavi-tn -s h -l help -d 'Show help'
+complete -c kavi-tn -l version -d 'Show the version'

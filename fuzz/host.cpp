@@ -30,6 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                     [](const std::string& sentence) { return sentence.size() > 1400; });
     if (text.size() >= SZ_TEXT_MAX_LEN || changed || long_sentence) return 0;
     const ReadText hand = read_by_hand(text);
+    if (!hand.all_read) return 0;  // the engine alone does not hold it
     if (layer.normalized != hand.normalized || layer.speakable != hand.speakable ||
         layer.records != hand.records) {
         std::abort();

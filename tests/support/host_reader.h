@@ -42,6 +42,7 @@ inline ReadText read_by_layer(std::string_view text, std::size_t capacity = 0) {
 // The calling order of a host that has the engine alone. For texts of up to 4095 bytes.
 inline ReadText read_by_hand(std::string_view text) {
     ReadText result;
+    result.all_read = true;
     mem_stack_handle arena = mem_stack_create(0);
     PostProTnEng engine;
     engine.init(arena);
@@ -52,10 +53,11 @@ inline ReadText read_by_hand(std::string_view text) {
         source = next;
         if (target[0] == '\0') continue;
         char speakable[SZ_TEXT_MAX_LEN] = {};
-        engine.eng_text_tokenize(target, speakable);
+        const bool tokenized = engine.eng_text_tokenize(target, speakable) == 0;
         UtteranceSyllable* utt = nullptr;
         int n_utt = 0;
-        engine.eng_text_to_utterance_syllable(speakable, utt, n_utt);
+        const bool built = engine.eng_text_to_utterance_syllable(speakable, utt, n_utt) == 0;
+        result.all_read = result.all_read && tokenized && built;
         result.normalized.emplace_back(target);
         result.speakable.emplace_back(speakable);
         result.records.push_back(to_text(utt, n_utt));

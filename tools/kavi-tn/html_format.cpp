@@ -34,9 +34,9 @@ body { margin: 0 auto; padding: 1rem; max-width: 60rem; color: var(--ink); backg
 article { padding: .7rem 0; border-bottom: 1px solid var(--line); content-visibility: auto;
   contain-intrinsic-size: auto 6rem; }
 h2 { margin: 0 0 .4rem; font-size: .75rem; font-weight: normal; color: var(--soft); }
-.row { display: flex; flex-wrap: wrap; gap: .5rem .3rem; align-items: flex-end; }
+.row { display: flex; flex-wrap: wrap; gap: .5rem .3rem; align-items: flex-start; }
 .run { display: inline-flex; flex-direction: column; max-width: 100%; }
-.written { overflow-wrap: anywhere; padding: 0 .2rem; font-size: .75rem; color: var(--soft); }
+.written { min-height: 1.4em; overflow-wrap: anywhere; padding: 0 .2rem; font-size: .75rem; color: var(--soft); }
 .said { display: flex; flex-wrap: wrap; gap: .2rem; }
 .word { overflow-wrap: anywhere; padding: .1rem .4rem; border: 1px solid var(--line);
   border-radius: .4rem; background: var(--chip); }
@@ -151,10 +151,12 @@ class HtmlFormat : public Format {
         out += "<article><h2>" + escape(place.input) + ", line " + std::to_string(place.line) +
                "</h2><div class=\"row\">";
         append_what_follows(sentence.records[0], out);
+        const Abbreviations abbreviations =
+            TtsExplainer::explain_abbreviations(place.source, sentence.normalized);
         int next = 1;
         for (const ExplainedRun& run : explainer_.explain(sentence.normalized)) {
             const int end = std::min(next + count_words(run.reading), sentence.n_records);
-            append_run(run, sentence.records + next, end - next, out);
+            append_run(run, abbreviations, sentence.records + next, end - next, out);
             next = end;
         }
         out += "</div>";
@@ -166,13 +168,30 @@ class HtmlFormat : public Format {
     }
 
   private:
-    static void append_run(const ExplainedRun& run, const UtteranceSyllable* words, int n_words,
-                           std::string& out) {
+    using Abbreviations = std::vector<ExplainedRun>;
+
+    // What was written for a run: its sections, or the abbreviation it is the first word of;
+    // nothing for the further words of one.
+    static std::string written(const ExplainedRun& run, const Abbreviations& abbreviations) {
+        for (const ExplainedRun& abbreviation : abbreviations) {
+            if (run.at == abbreviation.at) return abbreviation.sections[0];
+            if (run.at > abbreviation.at &&
+                run.at < abbreviation.at + abbreviation.reading.size()) {
+                return "";
+            }
+        }
+        std::string text;
+        for (const std::string& section : run.sections) text += section;
+        return text;
+    }
+
+    static void append_run(const ExplainedRun& run, const Abbreviations& abbreviations,
+                           const UtteranceSyllable* words, int n_words, std::string& out) {
         if (n_words == 0) return;
-        out += "<span class=\"run\" title=\"" + std::string(run.rule) + "\"><span class=\"said\">";
+        out += "<span class=\"run\" title=\"" + std::string(run.rule) +
+               "\"><span class=\"written\">" + escape(written(run, abbreviations)) +
+               "</span><span class=\"said\">";
         for (int i = 0; i < n_words; ++i) append_word(words[i], out);
-        out += "</span><span class=\"written\">";
-        for (const std::string& section : run.sections) out += escape(section);
         out += "</span></span>";
     }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "format.h"
@@ -83,9 +84,16 @@ class ExplainFormat : public Format {
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
+        // An abbreviation stands before the words that it was expanded to.
+        std::vector<ExplainedRun> runs =
+            TtsExplainer::explain_abbreviations(place.source, sentence.normalized);
+        for (ExplainedRun& run : explainer_.explain(sentence.normalized)) {
+            runs.push_back(std::move(run));
+        }
+        std::stable_sort(runs.begin(), runs.end(),
+                         [](const auto& a, const auto& b) { return a.at < b.at; });
         Rows<3> rows;
-        append_rows(TtsExplainer::explain_abbreviations(place.source, sentence.normalized), rows);
-        append_rows(explainer_.explain(sentence.normalized), rows);
+        append_rows(runs, rows);
         append_table(rows, out);
     }
 

@@ -2,6 +2,7 @@
 #ifndef KAVI_TTS_EXPLAIN_H
 #define KAVI_TTS_EXPLAIN_H
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,6 +12,7 @@ namespace kavi {
 
 // A run of sections that were read together.
 struct ExplainedRun {
+    std::size_t at;                     // where it begins in the sentence
     std::vector<std::string> sections;  // as they were cut
     std::string reading;                // what was written for them; empty for nothing
     const char* rule;                   // the rule that chose it, in the field's words

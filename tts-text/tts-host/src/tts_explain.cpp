@@ -80,6 +80,7 @@ class TtsExplainer::State {
         if (engine_.text_to_queue(sentence.data(), queue.head) != 0) return runs;
         char speakable[SZ_TEXT_MAX_LEN] = {};
         std::size_t length = 0;
+        std::size_t at = 0;
         SectionDispatcher dispatcher(engine_, queue.head, speakable);
         while (Section* first = dispatcher.section()) {
             // Taken down before the step, which may rewrite them: of a step, at most its range.
@@ -94,7 +95,9 @@ class TtsExplainer::State {
             ahead.resize(stops || last == nullptr ? ahead.size() : distance(first, last) + 1);
             const std::string_view written = speakable + length;
             length += written.size();
-            runs.push_back({std::move(ahead), std::string(written), rule_name(rule)});
+            const std::size_t begin = at;
+            for (const std::string& section : ahead) at += section.size();
+            runs.push_back({begin, std::move(ahead), std::string(written), rule_name(rule)});
             if (stops) break;
             dispatcher.advance(first);
         }
@@ -126,10 +129,12 @@ std::vector<ExplainedRun> TtsExplainer::explain(std::string_view normalized) {
 std::vector<ExplainedRun> TtsExplainer::explain_abbreviations(std::string_view source,
                                                               std::string_view normalized) {
     std::vector<ExplainedRun> runs;
+    const char* begin = normalized.data();
     while (!source.empty() && !normalized.empty()) {
         if (const auto* row = expanded_row(source, normalized)) {
             const std::size_t written = std::strlen(row[0]);
-            runs.push_back({{std::string(source.substr(0, written))},
+            runs.push_back({static_cast<std::size_t>(normalized.data() - begin),
+                            {std::string(source.substr(0, written))},
                             std::string(row[1]) + " ",
                             "abbreviation"});
             source.remove_prefix(written);

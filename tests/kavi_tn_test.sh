@@ -66,8 +66,11 @@ expect 'a page' "$(wc -l <single)" "$("$tool" --format html corpus 2>/dev/null |
 expect 'an interrupt leaves whole lines' 0 "$(tail -c 1 cut | od -An -c | tr -d ' ' | grep -vc '\\n')"
 "$tool" corpus 2>err | head -n 1 >/dev/null
 expect 'a closed pipe' 'kavi-tn: cannot write: Broken pipe' "$(cat err)"
-(ulimit -v 600000; head -c 300000000 /dev/zero | tr '\0' 'a' | fold -w 70 | "$tool" -j 2 | wc -l) >lines 2>&1
-expect 'bounded memory' 4285715 "$(cat lines | tr -d ' ')"
+limited() { (ulimit -v 600000; "$@"); }
+if limited "$tool" --version >/dev/null 2>&1; then # a sanitizer alone takes more
+    expect 'bounded memory' 4285715 \
+        "$(head -c 300000000 /dev/zero | tr '\0' 'a' | fold -w 70 | limited "$tool" -j 2 | wc -l)"
+fi
 expect 'no colour and no progress off a terminal' 0 "$("$tool" corpus missing 2>&1 >/dev/null | grep -c $'\033')"
 
 [ $failures = 0 ] && echo 'all as expected'

@@ -74,7 +74,7 @@ for file in prefix/share/man/man1/kavi-tn.1 prefix/share/bash-completion/complet
 done
 
 # The Debian package installs and runs.
-cpack --config "$build/CPackConfig.cmake" -B "$work/package" >/dev/null 2>&1
+cpack --config "$build/CPackConfig.cmake" -B "$work/package" >cpack.log 2>&1 || { cat cpack.log; exit 1; }
 mkdir root
 dpkg-deb -x package/*.deb root
 [ "$(root/usr/bin/kavi-tn -t 'a 2')" = 'a  two' ]

@@ -116,7 +116,8 @@ bool Scanner::step() {
 Scanner::Met Scanner::meet_tag() {
     const bool is_closing = at_[1] == '/';
     const char* begin = at_ + (is_closing ? 2 : 1);
-    if (role_of(begin) == TagRole::none) return Met::no_tag;
+    const TagRole role = role_of(begin);
+    if (role == TagRole::none) return Met::no_tag;
     const char* end = tag_end_.find(begin, ">");
     if (end == nullptr) return Met::no_tag;
     const std::string_view name = tag_name(begin, end);
@@ -128,7 +129,9 @@ Scanner::Met Scanner::meet_tag() {
         return Met::tag;
     }
     at_ = engine_.parse_tag(at_, tag_.name, tag_.value, tag_.content, &closings_);
-    return Met::tag;
+    // Behind a tag that should have been closed, nothing else would complete the last word.
+    const bool never_closed = role != TagRole::simple && at_ == end + 1;
+    return never_closed && at_end() && has_word() ? Met::word_end : Met::tag;
 }
 
 }  // namespace tn

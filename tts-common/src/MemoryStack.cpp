@@ -19,9 +19,10 @@ namespace kavi {
 namespace {
 
 constexpr std::size_t ALIGNMENT = alignof(std::max_align_t);
-constexpr std::size_t SMALL_STEP = 16;    // classes of 16, 32, ... 1024 bytes
-constexpr std::size_t SMALL_MAX = 1024;   //
-constexpr std::size_t CLASS_MAX = 32768;  // then four classes to every doubling, up to this
+// Classes of 16, 32, ... 1024 bytes, then four to every doubling up to 32768.
+constexpr std::size_t SMALL_STEP = 16;
+constexpr std::size_t SMALL_MAX = 1024;
+constexpr std::size_t CLASS_MAX = 32768;
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
 constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
 constexpr std::size_t REQUEST_MAX = std::numeric_limits<std::size_t>::max() / 4;  // of any memory

@@ -74,9 +74,9 @@ struct CssmlTag {
     char breaktime[20];     // of the "<breaktime=" tag behind the word
     char emphasis[20];      // of the enclosing "<emphasis=" span
     char pro_pitch[20];     // of the enclosing "<prosody=" spans, by attribute
-    char pro_rate[20];      //
-    char pro_volume[20];    //
-    char pro_spectrum[20];  //
+    char pro_rate[20];      // likewise
+    char pro_volume[20];    // likewise
+    char pro_spectrum[20];  // likewise
     char poem[20];          // of the enclosing "<poem=" span
     char quill_effect[20];  // of the enclosing "<quill_effect=" spans, outermost first
     bool ssml_w;            // a later stage's

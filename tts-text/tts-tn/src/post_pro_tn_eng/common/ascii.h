@@ -23,6 +23,12 @@ constexpr char to_upper(char c) {
     return is_lower(c) ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
+// Whether the text is nothing but digits; the empty text is.
+inline bool is_digits(const char* text) {
+    while (is_digit(*text)) ++text;
+    return *text == '\0';
+}
+
 }  // namespace kavi::tn
 
 #endif  // KAVI_TN_ASCII_H

@@ -42,8 +42,7 @@ char* PostProTnEng::number_to_normal(char* sz_source_text, char* sz_target_text)
 }
 
 int PostProTnEng::number_def(char* sz_source) {
-    while (tn::is_digit(*sz_source)) ++sz_source;
-    return *sz_source == '\0' ? 1 : 0;
+    return tn::is_digits(sz_source) ? 1 : 0;
 }
 
 }  // namespace kavi

@@ -9,10 +9,8 @@ namespace kavi::tn {
 
 // A number, or a mark between the groups of one.
 inline bool belongs_to_amount(const Section* section) {
-    const char* c = section->sz_char;
-    if (*c == ',' || *c == '.') return true;
-    while (is_digit(*c)) ++c;
-    return *c == '\0';
+    const char first = section->sz_char[0];
+    return first == ',' || first == '.' || is_digits(section->sz_char);
 }
 
 inline bool is_dollar(const Section* section) {

@@ -14,13 +14,7 @@ using namespace tn;
 namespace {
 
 bool is_group(const Section* section) {
-    if (section == nullptr) return false;
-    const std::size_t length = std::strlen(section->sz_char);
-    if (length >= 4) return false;
-    for (std::size_t i = 0; i < length; ++i) {
-        if (!is_digit(section->sz_char[i])) return false;
-    }
-    return true;
+    return section != nullptr && is_digits(section->sz_char) && std::strlen(section->sz_char) < 4;
 }
 
 constexpr std::string_view SCALES[] = {" thousand ", " million ", " billion "};

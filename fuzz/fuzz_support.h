@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "common/ascii.h"
 #include "post_pro_tn_eng.h"
 #include "records.h"
 #include "strict_services.h"
@@ -18,35 +19,55 @@ inline void require(bool kept) {
     if (!kept) std::abort();
 }
 
-// The first two bytes say from which request on the arena refuses, and how often; the rest is text.
-// Half of the inputs refuse nothing.
-inline std::string take_refusals(const std::uint8_t*& data, std::size_t& size,
-                                 tag_mem_stack_array& arena) {
-    if (size >= 2) {
+// An engine on an arena that may refuse, and the promises that its calls keep whatever happens.
+struct StrictEngine {
+    StrictEngine() { engine.init(&arena); }
+
+    // The first two bytes of an input say from which request on the arena refuses, and how often;
+    // the rest is text, up to the first NUL as the engine sees it. Half of the inputs refuse
+    // nothing.
+    std::string take_refusals(const std::uint8_t* data, std::size_t size) {
+        if (size < 2) return {};
         if (data[0] < 128) {
             arena.first_refused = data[0];
             arena.last_refused = data[0] + (data[1] % 2 == 0 ? 0 : 1000000);
         }
-        data += 2;
-        size -= 2;
+        const std::string text(reinterpret_cast<const char*>(data) + 2, size - 2);
+        return text.c_str();
     }
-    std::string text(reinterpret_cast<const char*>(data), size);
-    return text.c_str();  // up to the first NUL, as the engine sees it
-}
 
-// Builds and releases; nothing may stay in use, and no record may be half written.
-inline void build(PostProTnEng& engine, tag_mem_stack_array& arena, char* text) {
-    UtteranceSyllable* utt = nullptr;
-    int n_utt = -1;
-    const int result = engine.eng_text_to_utterance_syllable(text, utt, n_utt);
-    require((utt == nullptr) == (n_utt == 0) && (utt != nullptr || result == -1));
-    for (int i = 1; i < n_utt; ++i) {
-        require((utt[i].syllable == nullptr) == (utt[i].zhuyin == nullptr));
-        require(utt[i].syllable != nullptr || result == -1);
+    std::string tokenize(char* text) {
+        std::string target(SZ_TEXT_MAX_LEN, '\0');
+        const bool read = engine.eng_text_tokenize(text, target.data()) == 0;
+        require(arena.in_use.empty());
+        const std::string speakable = target.c_str();
+        bool in_tag = false;
+        for (const char c : speakable) {
+            in_tag = in_tag || c == '<';
+            require(!read || in_tag || c == ' ' || tn::is_letter(c));
+            in_tag = in_tag && c != '>';
+        }
+        require(!read || speakable.empty() || speakable.back() != ' ');
+        return speakable;
     }
-    release(utt, n_utt, &arena);
-    require(arena.in_use.empty());
-}
+
+    // Builds and releases; nothing may stay in use, and no record may be half written.
+    void build(char* text) {
+        UtteranceSyllable* utt = nullptr;
+        int n_utt = -1;
+        const int result = engine.eng_text_to_utterance_syllable(text, utt, n_utt);
+        require((utt == nullptr) == (n_utt == 0) && (utt != nullptr || result == -1));
+        for (int i = 1; i < n_utt; ++i) {
+            require((utt[i].syllable == nullptr) == (utt[i].zhuyin == nullptr));
+            require(utt[i].syllable != nullptr || result == -1);
+        }
+        release(utt, n_utt, &arena);
+        require(arena.in_use.empty());
+    }
+
+    tag_mem_stack_array arena;
+    PostProTnEng engine;
+};
 
 }  // namespace kavi::fuzz
 

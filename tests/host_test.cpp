@@ -82,6 +82,13 @@ TEST(Host, SourcesOfSentencesCoverTheText) {
                                         "<poem=p> Then</poem> 'left'."}));
 }
 
+TEST(Host, SourcesCoverWhatIsSilentBetweenSentences) {
+    std::string silent;
+    while (silent.size() < 6000) silent += "<pause=3>";
+    const ReadText read = read_by_layer("a. " + silent + "b!  \r ");
+    EXPECT_EQ(read.sources, (std::vector<std::string>{"a. ", silent + "b!  \r"}));
+}
+
 TEST(Host, NoWordOfALongTextIsLost) {
     for (const std::size_t every :
          {std::size_t{0}, std::size_t{17}}) {  // a stop every so many words
@@ -155,6 +162,11 @@ TEST(Host, ReportsWhatTheEnginePassesOver) {
          {{10, Finding::tag_never_closed}},
          "|a(poem=p)|poem(poem=p)|equal(poem=p)|q(poem=p)|b(poem=p)"},
         {"a <poem=p", {{2, Finding::tag_never_closed}}, "|a|poem|equal|p"},
+        // What is left out must not make a tag of what stands around it.
+        {"<poem=p>a</</prosody>poem> b.", {{11, Finding::mismatched_closing_tag}}, ""},
+        {"<poem=p>a <<poem=q b",
+         {{11, Finding::tag_never_closed}},
+         "|a(poem=p)|poem(poem=p)|equal(poem=p)|q(poem=p)|b(poem=p)"},
         {std::string("<punc=\0ju>a", 11), {{6, Finding::nul_byte}}, "+?|a"},
         {std::string("a\0b", 3), {{1, Finding::nul_byte}}, "|a|b"},
         {"x 1234567890123 y", {{2, Finding::digits_not_read}}, ""},

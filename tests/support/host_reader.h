@@ -23,9 +23,8 @@ struct ReadText {
     bool all_read = false;
 };
 
-inline ReadText read_by_layer(std::string_view text, std::size_t capacity = 0) {
+inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
     ReadText result;
-    TtsHost host(capacity);
     result.all_read = host.read(
         text,
         [&](const HostSentence& sentence) {
@@ -37,6 +36,11 @@ inline ReadText read_by_layer(std::string_view text, std::size_t capacity = 0) {
         },
         [&](const Diagnostic& diagnostic) { result.diagnostics.push_back(diagnostic); });
     return result;
+}
+
+inline ReadText read_by_layer(std::string_view text, std::size_t capacity = 0) {
+    TtsHost host(capacity);
+    return read_by_layer(host, text);
 }
 
 // The calling order of a host that has the engine alone. For texts of up to 4095 bytes.

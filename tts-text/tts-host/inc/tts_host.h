@@ -35,7 +35,7 @@ struct Diagnostic {
 
 struct HostSentence {
     std::size_t offset;                // where its source begins, in the text given to read()
-    std::size_t length;                // of its source; the sources of all sentences cover the text
+    std::size_t length;                // of its source, which begins where the last one ended
     std::string_view normalized;       // what eng_text_normalize made of it
     std::string_view speakable;        // what eng_text_tokenize made of that; NUL-terminated
     const UtteranceSyllable* records;  // what eng_text_to_utterance_syllable made of that
@@ -57,7 +57,8 @@ class TtsHost {
     // Reads a text of any length and any bytes, which must stay as it is meanwhile, and calls
     // `on_sentence` for each sentence in order; what the call is given lives until it returns.
     // The diagnostics of a sentence come directly before it, in the order of their offsets, those
-    // behind the last sentence at the end.
+    // behind the last sentence at the end. The sources of the sentences cover the text, but for
+    // what was passed over and what is silent behind the last sentence.
     //
     // A text of up to 4,095 bytes with sentences of up to 3,000 comes out as if the engine had been
     // called by hand. A sentence that the engine's buffers or the arena do not hold is cut at

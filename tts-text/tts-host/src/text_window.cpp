@@ -85,14 +85,15 @@ void TextWindow::begin(std::string_view text) {
 
 bool TextWindow::fill() {
     if (length_ < FILL_BELOW) {
-        while (next_ < text_.size() && feed()) {
+        while (next_ < text_.size() && room() > 0 && feed()) {
         }
         window_[length_] = '\0';
     }
     return length_ > prefix_;
 }
 
-// ---- feeding: each takes one piece of the text, or answers false when it has no room ----
+// ---- feeding: each takes one piece of the text, or answers false when it needs more room than the
+// one byte that there is at least ----
 
 // The next `c` at or behind next_, or the end of the text; `memo` is where the last search ended.
 std::size_t TextWindow::find_from_here(char c, std::size_t& memo) const {
@@ -115,7 +116,7 @@ bool TextWindow::feed_run() {
         std::min(find_from_here('<', next_tag_), find_from_here('\0', next_nul_));
     const std::string_view run = text_.substr(next_, end - next_);
     if (run.size() <= room()) return copy(run);
-    const std::size_t blank = room() > 0 ? run.rfind(' ', room() - 1) : std::string_view::npos;
+    const std::size_t blank = run.rfind(' ', room() - 1);
     if (blank != std::string_view::npos) {
         copy(run.substr(0, blank + 1));
     } else if (length_ - prefix_ < RUN_MAX) {
@@ -150,7 +151,6 @@ bool TextWindow::feed_tag() {
 // A tag that the engine reads as text. Inside a span its "<" is left out: with the ">" of the
 // closing tag that is put behind the sentence it would make a tag, and the words between be lost.
 bool TextWindow::feed_as_text(bool never_closed) {
-    if (room() == 0) return false;
     report(never_closed ? Finding::tag_never_closed : Finding::tag_too_long);
     if (open_spans() == 0) return copy(rest().substr(0, 1));
     leave_out(1);
@@ -224,8 +224,12 @@ bool TextWindow::copy_event(std::string_view tag, std::string_view opening) {
     return true;
 }
 
+// Puts a blank in the place of what is left out: without it, what stands before and behind could
+// make a tag together.
 void TextWindow::leave_out(std::size_t length) {
-    gaps_.push_back({fed_, length});
+    window_[length_++] = ' ';
+    ++fed_;
+    gaps_.push_back({fed_, length - 1});
     next_ += length;
 }
 

@@ -82,7 +82,7 @@ class TextWindow {
     std::string_view text_;
     std::size_t next_ = 0;  // the next byte of the text to feed
 
-    // Positions below count the bytes that were fed, without those left out.
+    // Positions below count the bytes that were fed; what is left out counts for one.
     char window_[SZ_TEXT_MAX_LEN] = {};
     std::size_t length_ = 0;
     std::size_t prefix_ = 0;    // how much of it opens spans again

@@ -75,6 +75,7 @@ class TtsHost::State {
 bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sentence,
                           const DiagnosticHandler& on_diagnostic) {
     bool all_read = true;
+    std::size_t begin = 0;  // of the next sentence's source
     diagnostics_.clear();
     window_.begin(text);
     while (window_.fill()) {
@@ -88,10 +89,12 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
         } else {
             diagnostics_.push_back({offset, Finding::arena_too_small});
             all_read = false;
+            begin = offset + length;
         }
         report_up_to(offset + length, on_diagnostic);
         if (done && normalized_[0] != '\0') {
-            on_sentence({offset, length, normalized_, speakable_, utt_, n_utt_});
+            on_sentence({begin, offset + length - begin, normalized_, speakable_, utt_, n_utt_});
+            begin = offset + length;
         }
         release_records();
     }

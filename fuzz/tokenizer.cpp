@@ -1,0 +1,23 @@
+// Any bytes into the tokenizer, with an arena that may refuse: no byte is lost on the way to the
+// sections, and nothing but letters, blanks and tags comes out.
+
+#include "fuzz_support.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace kavi;
+    fuzz::StrictEngine strict;
+    std::string text = strict.take_refusals(data, size);
+    Section* head = nullptr;
+    const bool cut = strict.engine.text_to_queue(text.data(), head) == 0;
+    std::string sections;
+    while (head != nullptr) {
+        Section* next = head->m_pnext;
+        sections += head->sz_char;
+        mem_stack_release_buf(head, 0, MEM_COMMON, &strict.arena);
+        head = next;
+    }
+    fuzz::require(cut ? sections == text : text.compare(0, sections.size(), sections) == 0);
+    strict.arena.requests = 0;
+    strict.tokenize(text.data());
+    return 0;
+}

@@ -9,6 +9,7 @@
 #include "EngLexicon.h"
 #include "MemoryStack.h"
 #include "TtsString.h"
+#include "refused_malloc.h"
 
 namespace kavi {
 namespace {
@@ -79,6 +80,25 @@ TEST(Arena, RefusesWhatCannotBeHad) {
     mem_stack_release_buf(nothing, 0, MEM_COMMON, arena);
     mem_stack_destroy(arena);
     mem_stack_destroy(nullptr);
+    EXPECT_EQ(mem_stack_used(nullptr) + mem_stack_peak(nullptr), 0U);
+    EXPECT_EQ(mem_stack_release_buf(arena, 0, MEM_COMMON, nullptr), 0);
+}
+
+TEST(Arena, OutlivesASystemWithoutMemory) {
+    RefusedMalloc refused;
+    EXPECT_EQ(mem_stack_create(0), nullptr);
+    refused.end();
+    mem_stack_handle arena = mem_stack_create(0);
+    for (const std::size_t size : {std::size_t{8}, std::size_t{40000}}) {
+        refused.begin();
+        EXPECT_EQ(mem_stack_request_buf(size, MEM_COMMON, arena), nullptr);
+        refused.end();
+        EXPECT_EQ(mem_stack_used(arena), 0U);
+        void* block = mem_stack_request_buf(size, MEM_COMMON, arena);
+        EXPECT_NE(block, nullptr) << "usable again";
+        mem_stack_release_buf(block, size, MEM_COMMON, arena);
+    }
+    mem_stack_destroy(arena);
 }
 
 TEST(Strings, BoundedAppendIsAllOrNothing) {
@@ -117,6 +137,9 @@ TEST(Lexicon, KnowsNoWord) {
     char out[4] = "abc";
     EXPECT_LT(eng_lexicon_lookup("word", out, 4), 0);
     EXPECT_STREQ(out, "");
+    char untouched = 'u';
+    EXPECT_LT(eng_lexicon_lookup("word", &untouched, 0), 0);
+    EXPECT_EQ(untouched, 'u');
 }
 
 }  // namespace

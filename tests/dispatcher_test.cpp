@@ -7,17 +7,18 @@ class Dispatcher : public EngineTest {};
 
 TEST_F(Dispatcher, FullOutputFailsAndKeepsWhatFits) {
     for (const char* sentence : {"word ", "1999 ", "? ", "( ", "1+", "+1 2 a ", "(1) 2 a ",
-                                 "<poem=x>", "~", "Tel.5 a ", "$5 ", "3/4 ", "May "}) {
+                                 "<poem=x>", "~", "Tel.5 a ", "Tel.a ", "$5 ", "3/4 ", "May "}) {
         std::string text;
-        for (int i = 0; i < 500; ++i) text += sentence;
-        text += std::string(490, 'x') + " " + std::string(490, 'y') + " ";
-        text += text;
-        char target[SZ_TEXT_MAX_LEN + 1] = {};
-        target[SZ_TEXT_MAX_LEN] = 'g';
-        std::string source = text;
-        EXPECT_EQ(engine.eng_text_tokenize(source.data(), target), -1) << sentence;
-        EXPECT_EQ(target[SZ_TEXT_MAX_LEN], 'g');
-        EXPECT_GT(std::strlen(target), 3500U);
+        while (text.size() < 4200) text += sentence;
+        // Whatever is appended last, some lengths before it leave no room for it.
+        for (std::size_t before = 0; before < 40; ++before) {
+            std::string source = std::string(before, 'x') + " " + text;
+            char target[SZ_TEXT_MAX_LEN + 1] = {};
+            target[SZ_TEXT_MAX_LEN] = 'g';
+            EXPECT_EQ(engine.eng_text_tokenize(source.data(), target), -1) << sentence;
+            EXPECT_EQ(target[SZ_TEXT_MAX_LEN], 'g');
+            EXPECT_GT(std::strlen(target), 3500U);
+        }
     }
 }
 
@@ -26,6 +27,9 @@ TEST_F(Dispatcher, AppendsToWhatTheTargetHolds) {
     char target[SZ_TEXT_MAX_LEN] = "a ";
     EXPECT_EQ(engine.eng_text_tokenize(sentence, target), 0);
     EXPECT_STREQ(target, "a b  two");
+    std::string full(SZ_TEXT_MAX_LEN, 'x');  // no terminator, no room
+    EXPECT_EQ(engine.eng_text_tokenize(sentence, full.data()), -1);
+    EXPECT_EQ(full, std::string(SZ_TEXT_MAX_LEN, 'x'));
 }
 
 TEST_F(Dispatcher, WholePipeline) {

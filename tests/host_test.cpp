@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "host_reader.h"
+#include "table.h"
 
 namespace kavi {
 namespace {
@@ -132,81 +133,69 @@ TEST(Host, LongTextsAreCutAtBlanksAndCarrySpansOn) {
     EXPECT_EQ(words_of(unbroken), std::vector<std::string>(10000, "word"));
 }
 
-TEST(Host, ReportsWhatTheEnginePassesOver) {
-    const std::string x200(200, 'x');
-    const std::string ten =
-        "<poem=0><poem=1><poem=2><poem=3><poem=4><poem=5><poem=6><poem=7>"
-        "<poem=8><poem=9>";
-    const std::string ten_closed =
-        "</poem></poem></poem></poem></poem></poem></poem></poem></poem>"
-        "</poem>";
-    const struct {
-        std::string text;
-        std::vector<std::pair<std::size_t, Finding>> findings;
-        std::string records;  // of all sentences
-    } rows[] = {
-        {"a</poem> b", {{1, Finding::stray_closing_tag}}, "|a|b"},
-        {"<poem=p>a</prosody> b</poem> c",
-         {{9, Finding::mismatched_closing_tag}},
-         "|a(poem=p)|b(poem=p)|c"},
-        {ten + "<prosody=rate=\"1\">a</prosody>" + ten_closed + " b",
-         {{80, Finding::too_many_open_tags}},
-         "|a(poem=9)|b"},
-        {"a <emphasis=" + x200 + ">b</emphasis> c", {{2, Finding::tag_too_long}}, "|a|b|c"},
-        {"<emphasis=" + x200.substr(0, 150) + "><poem=" + x200.substr(0, 50) +
-             ">b</poem></emphasis> c",
-         {{161, Finding::too_much_open_markup}},
-         "|b(emphasis=" + x200.substr(0, 19) + ")|c"},
-        {"a <punc=" + x200 + x200 + x200 + ">", {{2, Finding::tag_too_long}}, ""},
-        {"<poem=p>a <poem=q b",
-         {{10, Finding::tag_never_closed}},
-         "|a(poem=p)|poem(poem=p)|equal(poem=p)|q(poem=p)|b(poem=p)"},
-        {"a <poem=p", {{2, Finding::tag_never_closed}}, "|a|poem|equal|p"},
-        // What is left out must not make a tag of what stands around it.
-        {"<poem=p>a</</prosody>poem> b.", {{11, Finding::mismatched_closing_tag}}, ""},
-        {"<poem=p>a <<poem=q b",
-         {{11, Finding::tag_never_closed}},
-         "|a(poem=p)|poem(poem=p)|equal(poem=p)|q(poem=p)|b(poem=p)"},
-        {std::string("<punc=\0ju>a", 11), {{6, Finding::nul_byte}}, "+?|a"},
-        {std::string("a\0b", 3), {{1, Finding::nul_byte}}, "|a|b"},
-        {"x 1234567890123 y", {{2, Finding::digits_not_read}}, ""},
-        {"x 3.1234567890123 y", {}, ""},
-        {"1234567890123.5", {{0, Finding::digits_not_read}}, ""},
-        {"(86) 12345678901234", {}, ""},
-        {"<pause=1234567890123>x 123456789012 1234567890123th",
-         {{36, Finding::digits_not_read}},
-         ""},
-        {"a! b 3." + std::string(100, '7'), {{7, Finding::reading_cut}}, ""},
-        {"999999999999:999999999999:999999999999", {}, ""},
-        {"777777777777:777777777777:777777777777", {{0, Finding::reading_cut}}, ""},
-    };
-    for (const auto& row : rows) {
-        const ReadText read = read_by_layer(row.text);
-        std::vector<std::pair<std::size_t, Finding>> findings;
-        for (const Diagnostic& d : read.diagnostics) findings.emplace_back(d.offset, d.finding);
-        EXPECT_EQ(findings, row.findings) << row.text;
-        EXPECT_TRUE(read.all_read);
-        if (row.records.empty()) continue;
-        std::string records;
-        for (const std::string& sentence : read.records) records += sentence;
-        EXPECT_EQ(records, row.records) << row.text;
+// The findings of a text as in the table, and the records of all its sentences.
+TableRow report(const std::string& text, bool with_records) {
+    static const char* const names[] = {"stray",    "mismatched", "too many",
+                                        "too much", "too long",   "never closed",
+                                        "nul",      "digits",     "cut"};
+    const ReadText read = read_by_layer(text);
+    EXPECT_TRUE(read.all_read) << text;
+    std::string findings;
+    for (const Diagnostic& d : read.diagnostics) {
+        EXPECT_GT(std::strlen(describe(d.finding)), 10U);
+        findings += (findings.empty() ? "" : ", ") + std::to_string(d.offset) + " " +
+                    names[static_cast<int>(d.finding)];
     }
-    for (int i = 0; i <= static_cast<int>(Finding::arena_too_small); ++i) {
-        EXPECT_GT(std::strlen(describe(static_cast<Finding>(i))), 10U);
+    std::string records;
+    for (const std::string& sentence : read.records) records += sentence;
+    return {text, findings, with_records ? records : ""};
+}
+
+TEST(Host, ReportsWhatTheEnginePassesOver) {
+    for (const TableRow& row : read_table("findings")) {
+        EXPECT_EQ(report(row[0], !row[2].empty()), row);
     }
 }
 
 TEST(Host, ASmallArenaGetsShorterPiecesOrIsReported) {
     const std::string text = "One two three four five six seven eight nine ten. Yes. No.";
-    for (std::size_t capacity = 1; capacity < 60000; capacity += 500) {
-        const ReadText read = read_by_layer(text, capacity);
-        EXPECT_EQ(read.all_read, read.diagnostics.empty());
-        for (const Diagnostic& d : read.diagnostics) EXPECT_EQ(d.finding, Finding::arena_too_small);
-        EXPECT_TRUE(!read.all_read || read.covered == text.size());
+    for (const std::string& tight : {text, std::string(300, 'x'), std::string("123456789012.5"),
+                                     std::string("<breaktime=12345678901234567890>a")}) {
+        for (std::size_t capacity = 1; capacity < 60000; capacity += 16 + capacity / 50) {
+            const ReadText read = read_by_layer(tight, capacity);
+            const auto refused = [](const Diagnostic& d) {
+                return d.finding == Finding::arena_too_small;
+            };
+            EXPECT_EQ(read.all_read,
+                      std::none_of(read.diagnostics.begin(), read.diagnostics.end(), refused));
+            EXPECT_TRUE(!read.all_read || read.covered == tight.size());
+        }
     }
     EXPECT_EQ(read_by_layer(text, 8000).records,
               (std::vector<std::string>{"|One|two|three|four", "|five|six|seven|eight|nine|ten+ju!",
                                         "|Yes+ju!", "|No+ju!"}));
+}
+
+TEST(Host, CutsAnywhereLoseNoWord) {
+    // A tag at every place around the end of the buffer.
+    for (std::size_t before = 4040; before < 4100; ++before) {
+        const std::string text = std::string(before, ' ') + "<poem=\"x y\">a b</poem> c";
+        EXPECT_EQ(words_of(text), (std::vector<std::string>{"a", "b", "c"})) << before;
+    }
+    // Without a blank: between words, between numbers, behind a character of several bytes, behind
+    // a tag; and where there is no such place, within the word.
+    for (const std::string piece : {"wordword-", "1234567,", "\xc3\xa9", "<poem=p>x</poem>",
+                                    "<breaktime=12345678901234567890>"}) {
+        std::string text;
+        while (text.size() < 9000) text += piece;
+        for (const std::size_t capacity : {std::size_t{0}, std::size_t{20000}}) {
+            const ReadText read = read_by_layer(text, capacity);
+            EXPECT_TRUE(read.all_read) << piece;
+            for (const std::string& source : read.sources) {
+                EXPECT_TRUE(piece[0] == '<' || source.size() % piece.size() == 0) << piece;
+            }
+        }
+    }
 }
 
 // The telephone number takes the closing tag with it, and the chains of the spans then nested are

@@ -31,13 +31,21 @@ TEST_F(Normalize, AbbreviationCalledByItself) {
     EXPECT_EQ(engine.abbreviation(other, target, &stop), nullptr);
     EXPECT_STREQ(target, "Hello");
     EXPECT_EQ(stop, 1);
-    // No room for the expansion: the cut stays, the flag is left alone.
-    const std::string full(SZ_TEXT_MAX_LEN - 4, 'x');
-    std::strcpy(target, (full + "Dr.").c_str());
-    stop = 0;
-    EXPECT_EQ(engine.abbreviation(source, target, &stop), nullptr);
-    EXPECT_EQ(target, full);
-    EXPECT_EQ(stop, 0);
+    for (const char* held :
+         {"", "Hello"}) {  // nothing to take off, and no full stop in the stretch
+        char none[] = "Hello";
+        std::strcpy(target, held);
+        EXPECT_EQ(engine.abbreviation(none, target, &stop), nullptr);
+        EXPECT_STREQ(target, held);
+    }
+    // No room for the expansion or its blank: the cut stays, the flag is left alone.
+    for (const std::string& held : {std::string(4092, 'x'), std::string(4089, 'x')}) {
+        std::strcpy(target, (held + "Dr.").c_str());
+        stop = 0;
+        EXPECT_EQ(engine.abbreviation(source, target, &stop), nullptr);
+        EXPECT_EQ(target, held + (held.size() == 4089 ? "doctor" : ""));
+        EXPECT_EQ(stop, 0);
+    }
 }
 
 TEST_F(Normalize, TagsAreBoundedInLengthAndNumber) {
@@ -76,16 +84,25 @@ TEST_F(Normalize, LongTextsAreCutAndHandedBack) {
     // No room to close a span: nothing is handed back.
     cut = normalize("<prosody=x>" + letters.substr(0, 4077) + " yz</prosody>");
     EXPECT_EQ(cut.rest, "");
+    // An opening tag without room begins the rest; a closing one ends the pass.
+    cut = normalize(letters.substr(0, 4086) + "<poem=abcde>");
+    EXPECT_EQ(cut.sentence.size(), 4086U);
+    EXPECT_EQ(cut.rest, "<poem=abcde>");
+    cut = normalize("<quill_effect=x>" + letters.substr(0, 4070) + "</quill_effect>b");
+    EXPECT_EQ(cut.rest, "");
 }
 
 TEST_F(Normalize, TheRestIsAppendedWholeOrNotAtAll) {
     std::string source = "<poem=x>A! B</poem>";
     char target[SZ_TEXT_MAX_LEN] = {};
     char next[SZ_TEXT_MAX_LEN] = {};
-    const std::string held(SZ_TEXT_MAX_LEN - 10, 'h');
-    std::strcpy(next, held.c_str());
-    EXPECT_EQ(engine.eng_text_normalize(source.data(), target, next), 0);
-    EXPECT_EQ(next, held + "<poem=x>");
+    for (const std::size_t room : {10U, 5U}) {
+        const std::string held(SZ_TEXT_MAX_LEN - room, 'h');
+        std::strcpy(next, held.c_str());
+        EXPECT_EQ(engine.eng_text_normalize(source.data(), target, next), 0);
+        EXPECT_EQ(next, held + (room == 10 ? "<poem=x>" : ""));
+        target[0] = '\0';
+    }
 }
 
 }  // namespace

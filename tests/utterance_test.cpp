@@ -61,7 +61,13 @@ TEST_F(Utterance, ChainsAreBounded) {
     EXPECT_EQ(build(nest("a", 41), -1), "||");        // one more does not fit
     EXPECT_EQ(build(nest(std::string(199, 'v'), 1)), "|x(poem=" + std::string(19, 'v') + ")|y");
     EXPECT_EQ(build(nest(std::string(200, 'v'), 1), -1), "||");
-    EXPECT_EQ(build(nest("", 100), -1), "|");            // too deep to be counted
+    EXPECT_EQ(build(nest("", 100), -1), "|");  // too deep to be counted
+    const std::string v190(190, 'v');          // no room for what joins the third value to it
+    EXPECT_EQ(build("<prosody=" + v190 + "><poem=12345678><poem=x>a</poem></poem></prosody>", -1),
+              "|");
+    std::string emphases;  // no room for the 23rd name
+    for (int i = 0; i < 23; ++i) emphases += "<emphasis=>";
+    EXPECT_EQ(build(emphases + "a", -1), "|");
     EXPECT_EQ(build("a " + nest("a", 41), -1), "|a||");  // what was stored stays
 }
 
@@ -125,6 +131,11 @@ TEST_F(Utterance, AttributesOneByOne) {
     EXPECT_TRUE(engine.insert_prosody_in(1, utt, ""));
     EXPECT_FALSE(engine.insert_prosody_in(1, utt, "rate=\"1\" x"));
     EXPECT_EQ(to_text(utt[0]), "(emphasis=e rate=1 poem=p effect=0123456789)");
+    int n = 1;
+    char words[] = "a b";
+    EXPECT_FALSE(engine.insert_ssml_info(n, utt, "", words, std::string(200, 'n').c_str()));
+    EXPECT_FALSE(engine.insert_ssml_info(n, utt, std::string(200, 'v').c_str(), words, "poem"));
+    EXPECT_EQ(n, 1);
     EXPECT_FALSE(engine.insert_ssml_info_in(1, utt, "a\tb\tc", "poem\tother\temphasis"));
     EXPECT_TRUE(engine.insert_ssml_info_in(1, utt, "", ""));
     EXPECT_EQ(to_text(utt[0]), "(emphasis=e rate=1 poem=a effect=0123456789)");
@@ -134,32 +145,11 @@ TEST_F(Utterance, TagsAreCutIntoTheirParts) {
     char name[MEMORY_SIZE_TAG_LABEL_TN];
     char value[100];
     char content[100];
-    struct TagRow {
-        std::string text;
-        const char* name;
-        const char* value;
-        const char* content;
-        int end;  // -1: no tag
-    };
-    const TagRow rows[] = {
-        {"<punc=dou>", "punc", "dou", "", 10},
-        {"<sil>x", "sil", "", "", 5},
-        {"<prosody=rate=\"2\">a b</prosody> c", "prosody", "rate=\"2\"", "a b", 31},
-        {"<poem=a>x <poem=b>y</poem> z</poem> w", "poem", "a", "x <poem=b>y</poem> z", 35},
-        {"<poem=a>x</poem><poem=b>y</poem>", "poem", "a", "x", 16},
-        {"<py=1>x", "py", "1", "", 6},
-        {"<poem=1>x", "poem", "1", "x", 9},
-        {"<punc=dou", "", "", "", -1},
-        {"<b>", "", "", "", -1},
-    };
-    for (const TagRow& row : rows) {
-        std::string text = row.text;
-        char* end = Peer::parse_tag(engine, text.data(), name, value, content);
-        EXPECT_EQ(end == nullptr ? -1 : end - text.data(), row.end) << row.text;
-        EXPECT_STREQ(name, row.name);
-        EXPECT_STREQ(value, row.value);
-        EXPECT_STREQ(content, row.content);
-    }
+    expect_table("tag_parts", [&](std::string text) {
+        const char* end = Peer::parse_tag(engine, text.data(), name, value, content);
+        const std::string at = end != nullptr ? std::to_string(end - text.data()) : "none";
+        return TableRow{text, name, value, content, at};
+    });
 }
 
 TEST_F(Utterance, EveryCapacityGivesSuccessOrCleanFailure) {

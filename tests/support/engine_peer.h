@@ -25,6 +25,8 @@ struct PostProTnEngPeer {
     static constexpr TextTest month_def = &PostProTnEng::month_def;
     using SectionTest = int (PostProTnEng::*)(Section*);
     static constexpr SectionTest data_decide = &PostProTnEng::data_decide;
+    static constexpr SectionTest fraction_decide = &PostProTnEng::fraction_decide;
+    static constexpr SectionTest decimal_decide = &PostProTnEng::decimal_decide;
     static constexpr SectionTest currency_decide = &PostProTnEng::currency_decide;
     static constexpr SectionTest phone_number_decide = &PostProTnEng::phone_number_decide;
     static constexpr SectionTest time_decide = &PostProTnEng::time_decide;

@@ -1,5 +1,5 @@
 // Tables of cases: tests/tables/*.txt, a row a line, each field in «», with \n, \r, \t, \0 and \xHH
-// for bytes that a line does not show and "#" before a remark.
+// for bytes that a line does not show, \{12:ab} for twelve times "ab", and "#" before a remark.
 #ifndef KAVI_TESTS_TABLE_H
 #define KAVI_TESTS_TABLE_H
 
@@ -25,6 +25,15 @@ inline std::string unescape(const std::string& field) {
             case 'r': text += '\r'; break;
             case 't': text += '\t'; break;
             case '0': text += '\0'; break;
+            case '{': {
+                const std::size_t colon = field.find(':', i);
+                const std::size_t close = field.find('}', i);
+                for (int n = std::stoi(field.substr(i + 1)); n > 0; --n) {
+                    text.append(field, colon + 1, close - colon - 1);
+                }
+                i = close;
+                break;
+            }
             default:
                 text += static_cast<char>(std::stoi(field.substr(i + 1, 2), nullptr, 16));
                 i += 2;

@@ -192,7 +192,7 @@ std::size_t mem_stack_peak(mem_stack_handle arena) {
 }
 
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
-    if (arena == nullptr || type < MEM_COMMON || type >= MEM_MAX_CNT) return nullptr;
+    if (arena == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
     const std::size_t left = arena->capacity - arena->used;
     if (size > std::min(left, REQUEST_MAX)) return nullptr;
     const SizeClass wanted = class_of(size);

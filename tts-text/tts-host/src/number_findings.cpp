@@ -50,7 +50,7 @@ class LongNumbers {
             at_ += std::max({tag, digits, std::size_t{1}});
             if (digits >= LONG_NUMBER) return at_ - digits;
         }
-        return at_;
+        return 0;  // the source writes it with a removed tag inside
     }
 
   private:
@@ -61,7 +61,6 @@ class LongNumbers {
 // Whether the rule reads the number digit by digit, to the last.
 bool is_read_by_digits(ReadingRule rule, const Section* first, const Section* section) {
     switch (rule) {
-        case ReadingRule::telephone_number: return true;
         case ReadingRule::decimal: return section != first;
         case ReadingRule::bracket:
         case ReadingRule::plus_sign: return section != first->m_pnext;  // the country code
@@ -73,7 +72,6 @@ bool is_read_by_digits(ReadingRule rule, const Section* first, const Section* se
 // puts behind every reading; other readings that end in a number do.
 bool is_cut(ReadingRule rule, const Section* last, std::string_view written) {
     switch (rule) {
-        case ReadingRule::telephone_number:
         case ReadingRule::bracket:
         case ReadingRule::plus_sign:
         case ReadingRule::decimal: break;
@@ -115,7 +113,7 @@ void find_unread_numbers(PostProTnEng& engine, mem_stack_handle arena, char* nor
         }
         const std::string_view written = speakable + length;
         length += written.size();
-        if (last == nullptr || rule == ReadingRule::full || rule == ReadingRule::end) break;
+        if (last == nullptr || rule == ReadingRule::end) break;
         if (first_number != std::string_view::npos && is_cut(rule, last, written)) {
             diagnostics.push_back({first_number, Finding::reading_cut});
         }

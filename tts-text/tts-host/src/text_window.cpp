@@ -33,9 +33,10 @@ bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
-// Whether text may be cut before position `at` without cutting a word, a number or a character.
+// Whether text may be cut before position `at`, which is not its start, without cutting a word, a
+// number or a character.
 bool is_boundary(std::string_view text, std::size_t at) {
-    if (at == 0 || at >= text.size()) return true;
+    if (at >= text.size()) return true;
     const char before = text[at - 1];
     const char behind = text[at];
     return !(tn::is_letter(before) && tn::is_letter(behind)) &&
@@ -66,7 +67,7 @@ std::size_t name_length(std::string_view tag) {
 }  // namespace
 
 std::size_t tag_length(std::string_view text) {
-    if (text.empty() || text[0] != '<') return 0;
+    if (text[0] != '<') return 0;
     const tn::MarkupTag* tag = tn::find_markup_tag(text);
     const std::size_t end = tag != nullptr ? text.find('>') : std::string_view::npos;
     if (end == std::string_view::npos) return 0;
@@ -97,7 +98,7 @@ bool TextWindow::fill() {
 
 // The next `c` at or behind next_, or the end of the text; `memo` is where the last search ended.
 std::size_t TextWindow::find_from_here(char c, std::size_t& memo) const {
-    if (memo < next_ || (memo == 0 && next_ == 0)) {
+    if (memo < next_ || memo == 0) {
         memo = std::min(text_.find(c, next_), text_.size());
     }
     return memo;
@@ -143,9 +144,8 @@ bool TextWindow::feed_tag() {
                 return true;
             }
             return copy(text);
-        case tn::TagKind::kept: break;
+        default: return copy(text);
     }
-    return copy(text);
 }
 
 // A tag that the engine reads as text. Inside a span its "<" is left out: with the ">" of the

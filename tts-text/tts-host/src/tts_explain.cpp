@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 #include "common/ascii.h"
@@ -13,34 +14,33 @@ namespace kavi {
 
 namespace {
 
-const char* rule_name(ReadingRule rule) {
-    switch (rule) {
-        case ReadingRule::full: return "output full";
-        case ReadingRule::end: return "incomplete, not read";
-        case ReadingRule::word: return "word";
-        case ReadingRule::capital_letters: return "word in capitals";
-        case ReadingRule::month: return "month";
-        case ReadingRule::telephone_label: return "telephone label";
-        case ReadingRule::telephone_number: return "telephone number";
-        case ReadingRule::separated_number: return "number with separators";
-        case ReadingRule::ordinal: return "ordinal";
-        case ReadingRule::date: return "date";
-        case ReadingRule::fraction: return "fraction";
-        case ReadingRule::money: return "dollars and cents";
-        case ReadingRule::decimal: return "decimal";
-        case ReadingRule::clock_time: return "clock time";
-        case ReadingRule::year: return "year";
-        case ReadingRule::ordinal_day: return "ordinal day";
-        case ReadingRule::cardinal: return "cardinal";
-        case ReadingRule::markup_tag: return "markup";
-        case ReadingRule::bracket: return "bracket or country code";
-        case ReadingRule::plus_sign: return "plus sign or country code";
-        case ReadingRule::contraction: return "contraction";
-        case ReadingRule::mark: return "mark";
-        case ReadingRule::silent: return "not spoken";
-    }
-    return "";
-}
+// In the order of ReadingRule.
+const char* const RULE_NAMES[] = {
+    "output full",
+    "incomplete, not read",
+    "word",
+    "word in capitals",
+    "month",
+    "telephone label",
+    "telephone number",
+    "number with separators",
+    "ordinal",
+    "date",
+    "fraction",
+    "dollars and cents",
+    "decimal",
+    "clock time",
+    "year",
+    "ordinal day",
+    "cardinal",
+    "markup",
+    "bracket or country code",
+    "plus sign or country code",
+    "contraction",
+    "mark",
+    "not spoken",
+};
+static_assert(std::size(RULE_NAMES) == static_cast<std::size_t>(ReadingRule::silent) + 1);
 
 bool equals_ignoring_case(std::string_view text, std::string_view other) {
     if (text.size() != other.size()) return false;
@@ -97,7 +97,8 @@ class TtsExplainer::State {
             length += written.size();
             const std::size_t begin = at;
             for (const std::string& section : ahead) at += section.size();
-            runs.push_back({begin, std::move(ahead), std::string(written), rule_name(rule)});
+            runs.push_back({begin, std::move(ahead), std::string(written),
+                            RULE_NAMES[static_cast<std::size_t>(rule)]});
             if (stops) break;
             dispatcher.advance(first);
         }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <vector>
 
 #include "number_findings.h"
@@ -12,28 +13,27 @@
 
 namespace kavi {
 
+namespace {
+
+// In the order of Finding.
+const char* const DESCRIPTIONS[] = {
+    "this closing tag closes nothing; it is left out",
+    "this closing tag is of another kind than the innermost open one; it is left out",
+    "ten tags are open here; this one is left out with its closing tag",
+    "more than 199 characters of names or values are open; this tag is left out with its closing",
+    "this tag is too long to be read as one",
+    "this tag has no \">\"; it is read as text",
+    "a NUL byte is read as a blank",
+    "the digits of this number after the twelfth are not read",
+    "the reading of this number is too long and was cut",
+    "the arena is too small for this sentence; it is passed over",
+};
+static_assert(std::size(DESCRIPTIONS) == static_cast<std::size_t>(Finding::arena_too_small) + 1);
+
+}  // namespace
+
 const char* describe(Finding finding) {
-    switch (finding) {
-        case Finding::stray_closing_tag: return "this closing tag closes nothing; it is left out";
-        case Finding::mismatched_closing_tag:
-            return "this closing tag is of another kind than the innermost open one; it is left "
-                   "out";
-        case Finding::too_many_open_tags:
-            return "ten tags are open here; this one is left out with its closing tag";
-        case Finding::too_much_open_markup:
-            return "the open tags have more than 199 characters of names or values; this one is "
-                   "left "
-                   "out with its closing tag";
-        case Finding::tag_too_long: return "this tag is too long to be read as one";
-        case Finding::tag_never_closed: return "this tag has no \">\"; it is read as text";
-        case Finding::nul_byte: return "a NUL byte is read as a blank";
-        case Finding::digits_not_read:
-            return "the digits of this number after the twelfth are not read";
-        case Finding::reading_cut: return "the reading of this number is too long and was cut";
-        case Finding::arena_too_small:
-            return "the arena is too small for this sentence; it is passed over";
-    }
-    return "";
+    return DESCRIPTIONS[static_cast<std::size_t>(finding)];
 }
 
 class TtsHost::State {

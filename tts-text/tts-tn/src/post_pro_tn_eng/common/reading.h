@@ -46,12 +46,9 @@ class Reading {
         cut_ = true;
         const std::size_t room = ROOM - length_;
         std::memcpy(text_ + length_, words.data(), room);
-        std::size_t end = ROOM;
-        if (words[room] != ' ') {
-            while (end > 0 && text_[end - 1] != ' ') --end;
-        }
-        while (end > 0 && text_[end - 1] == ' ') --end;
-        length_ = end;
+        std::string_view kept(text_, ROOM);
+        if (words[room] != ' ') kept = kept.substr(0, kept.rfind(' ') + 1);
+        length_ = kept.find_last_not_of(' ') + 1;  // 0 when there is none
         text_[length_] = '\0';
     }
 

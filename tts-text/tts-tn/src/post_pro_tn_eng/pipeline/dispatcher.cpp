@@ -166,9 +166,7 @@ ReadingRule SectionDispatcher::money(Section* amount) {
 }
 
 ReadingRule SectionDispatcher::clock_time() {
-    const int form = engine_.time_decide(section_);
-    if (form == 0) return plain_number();
-    section_->m_nmark = form;
+    section_->m_nmark = engine_.time_decide(section_);
     Section* last = engine_.time_number(section_, reading_);
     if (last == nullptr) return ReadingRule::end;
     return append_reading(last, ReadingRule::clock_time);

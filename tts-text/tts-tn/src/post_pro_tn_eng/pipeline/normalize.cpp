@@ -153,9 +153,8 @@ class SentenceCutter {
             case TagKind::removed: next_ += text.size(); return true;
             case TagKind::kept: keep(text); return true;
             case TagKind::span_open: return open_span(text);
-            case TagKind::span_close: break;
+            default: return close_span(*tag);
         }
-        return close_span(*tag);
     }
 
     void keep(std::string_view tag) {

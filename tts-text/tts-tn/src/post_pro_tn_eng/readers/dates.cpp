@@ -51,9 +51,9 @@ int PostProTnEng::data_decide(Section* p_section) {
 
 Section* PostProTnEng::data_number(Section* p_section, char* sz_target_text) {
     Scratch scratch(_mem_handle);
+    if (!scratch) return p_section;
     Section* month = ahead(p_section, 2);
     Section* year = ahead(month, 2);
-    if (!scratch || year == nullptr) return p_section;
     Reading reading(sz_target_text);
     reading.append(" the ");
     str_turn(p_section->sz_char, scratch.text());

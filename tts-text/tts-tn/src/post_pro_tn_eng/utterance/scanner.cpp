@@ -89,26 +89,28 @@ const char* find_closing(const char* content, const char* name, ForwardFinder& c
 
 }  // namespace
 
-bool Scanner::complete_word() {
-    word_[word_length_] = '\0';
-    return true;
+bool Scanner::step() {
+    const bool completed = advance();
+    if (completed) word_[word_length_] = '\0';
+    return completed;
 }
 
-bool Scanner::step() {
-    if (word_length_ == WORD_MAX_LEN - 1) return complete_word();
+// Whether the word is complete now.
+bool Scanner::advance() {
+    if (word_length_ == WORD_MAX_LEN - 1) return true;
     const char c = *at_;
     if (c == ' ') {
         ++at_;
-        return has_word() && complete_word();
+        return has_word();
     }
     const bool last = at_[1] == '\0';
     if (c == '<' && !last) {
         const Met met = meet_tag();
-        if (met != Met::no_tag) return met == Met::word_end && complete_word();
+        if (met != Met::no_tag) return met == Met::word_end;
     }
     word_[word_length_++] = c;
     ++at_;
-    return last && complete_word();
+    return last;
 }
 
 // At a "<" that is not the last character. A tag at which something is to be done, and a closing

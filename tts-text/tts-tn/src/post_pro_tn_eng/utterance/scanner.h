@@ -56,7 +56,7 @@ class Scanner {
 
     Met meet_tag();
     bool has_word() const { return word_[0] != '\0'; }
-    bool complete_word();
+    bool advance();
 
     PostProTnEng& engine_;
     char* text_;

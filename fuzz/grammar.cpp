@@ -3,13 +3,13 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
-#include <iterator>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "PostProcTN.h"
 #include "post_pro_tn_eng.h"
+#include "table.h"
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t max_size);
 
@@ -20,32 +20,13 @@ using Random = std::minstd_rand;
 
 constexpr std::size_t SETTINGS = 2;  // bytes in front of the text that say how it is to be read
 
-// In a pattern, "9" stands for some digits, "w" for a word and "A" for an abbreviation; all else
-// for itself.
-// clang-format off
-const char* const PATTERNS[] = {
-    "w", "w", "A", "A ", "w A", "9", " ", "  ", "\t", "\r\n",
-    "9,9", "9,9,9", "9,9,9,9", "9,9th", "9st", "9rd", "9th",
-    "9/9/9", "9-9/9", "9/w/9", "w 9", "9 w", "9-9", "9/9", "9.9", "19",
-    "$9", "$9.9", "$9,9.9", "9$", "9,9.9$",
-    "9:9", "9:9:9", "9:9'9", "9:w",
-    "(9) 9-9", "+9 9", "Tel. 9-9", "Tel 9", "800-9-9", "9+9",
-    "'w", "w'w", "(w)", "\"w\"", "[w]", "{w}",
-    "!", "?", ";", ",", ".", ":", "~", "@", "#", "%", "*", "-", "/", "=", "$", "+", "(", ")", "'",
-    "<", ">", "</", "\xc3\xa9", "\xff",
-    "<punc=w>", "<punc=dou>", "<punc=english>", "<punc=", "<breaktime=9>", "<pause=9>", "<orgLen=9>",
-    "<emphasis=w>", "</emphasis>", "<quill_effect=w>", "</quill_effect>", "<poem=w>", "</poem>",
-    "<prosody=rate=\"9\" pitch=\"w\">", "<prosody=volume=\"w\" spectrum=\"9\">", "</prosody>",
-    "<emphasis=w>w</emphasis>", "<poem=w>w <prosody=rate=\"9\">w</prosody></poem>",
-    "<py=w>", "</py>", "<letter=w>", "</letter>", "<sil>", "<silratio=9>", "<poem1=w>", "</poem1>",
-    "<emphasis=", "<prosody=", "<poem=w",
-};
-const char* const WORDS[] = {
-    "a", "we", "word", "NASA", "st", "th", "s", "m", "ll", "re", "t", "punc", "Tel", "B", "X",
-    "Jan", "May", "Sept", "January", "December", "rate", "pitch", "volume", "english",
-    "dun", "dou", "fen", "ju", "shenglue",
-};
-// clang-format on
+// The only fields of a table's rows. In a pattern, "9" stands for some digits, "w" for a word and
+// "A" for an abbreviation; all else for itself.
+std::vector<std::string> first_fields(const char* table) {
+    std::vector<std::string> fields;
+    for (const TableRow& row : read_table(table)) fields.push_back(row[0]);
+    return fields;
+}
 
 std::size_t below(Random& random, std::size_t n) {
     return random() % n;
@@ -57,21 +38,23 @@ void add_digits(std::string& text, Random& random) {
 }
 
 void add_word(std::string& text, Random& random) {
+    static const std::vector<std::string> words = first_fields("fuzz_words");
     if (below(random, 20) == 0) {
         text.append(below(random, 600), 'x');
     } else {
-        text += WORDS[below(random, std::size(WORDS))];
+        text += words[below(random, words.size())];
     }
 }
 
 std::string piece(Random& random) {
+    static const std::vector<std::string> patterns = first_fields("fuzz_patterns");
     std::string text;
-    for (const char* c = PATTERNS[below(random, std::size(PATTERNS))]; *c != '\0'; ++c) {
-        switch (*c) {
+    for (const char c : patterns[below(random, patterns.size())]) {
+        switch (c) {
             case '9': add_digits(text, random); break;
             case 'w': add_word(text, random); break;
             case 'A': text += s_spec_word_abbrevi[below(random, ABBREVIATIONNUMBER)][0]; break;
-            default: text += *c;
+            default: text += c;
         }
     }
     return text;

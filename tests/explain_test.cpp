@@ -1,5 +1,5 @@
+#include "expect_table.h"
 #include "refused_malloc.h"
-#include "table.h"
 #include "tts_explain.h"
 
 namespace kavi {

@@ -1,5 +1,5 @@
 #include "engine_peer.h"
-#include "table.h"
+#include "expect_table.h"
 
 namespace kavi {
 namespace {

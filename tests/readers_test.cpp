@@ -1,7 +1,7 @@
 #include <map>
 
 #include "engine_peer.h"
-#include "table.h"
+#include "expect_table.h"
 
 namespace kavi {
 namespace {

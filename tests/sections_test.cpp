@@ -1,4 +1,5 @@
 #include "engine_peer.h"
+#include "expect_table.h"
 
 namespace kavi {
 namespace {
@@ -26,39 +27,12 @@ class Sections : public EngineTest {
     }
 };
 
-using Texts = std::vector<std::string>;
-
 TEST_F(Sections, CutAtClassesBlanksAndTags) {
-    const std::string long_tag = "<punc=" + std::string(494, 'x') + ">";  // one more than a section
-    const struct {
-        const char* text;
-        Texts sections;
-    } rows[] = {
-        {"", {}},
-        {"It costs $25.50!", {"It", " ", "costs", " ", "$", "25", ".", "50", "!"}},
-        {"abc123def", {"abc", "123", "def"}},
-        {"Hello.", {"Hello", "."}},
-        {"a  b\t", {"a", " ", " ", "b", "\t"}},
-        {"\xc3\xa9t", {"\xc3", "\xa9", "t"}},
-        {"<poem=1>Hi</poem>", {"<poem=1>", "Hi", "</poem>"}},
-        {"<punc=english>Hi", {"<punc=english>", "Hi"}},
-        {"<pause=3>", {"<", "pause", "=", "3", ">"}},
-        {"<poem=1", {"<", "poem", "=", "1"}},
-        {"a<", {"a", "<"}},
-    };
-    for (const auto& row : rows) EXPECT_EQ(cut(row.text), row.sections) << row.text;
-    EXPECT_EQ(cut(long_tag), (Texts{"<", "punc", "=", std::string(494, 'x'), ">"}));
-    EXPECT_EQ(cut(long_tag.substr(1)), (Texts{"punc", "=", std::string(494, 'x'), ">"}));
-    const std::string longest_tag = "<punc=" + std::string(492, 'x') + ">";
-    EXPECT_EQ(cut(longest_tag), Texts{longest_tag});
-}
-
-TEST_F(Sections, LongRunsAreCutAt499) {
-    const Texts texts = cut(std::string(1000, 'a'));
-    ASSERT_EQ(texts.size(), 3U);
-    EXPECT_EQ(texts[0].size(), 499U);
-    EXPECT_EQ(texts[1].size(), 499U);
-    EXPECT_EQ(texts[2].size(), 2U);
+    expect_table("sections", [this](const std::string& text) {
+        TableRow row = cut(text);
+        row.insert(row.begin(), text);
+        return row;
+    });
 }
 
 TEST_F(Sections, OneIsAppendedZeroFilledOrNoneForNoText) {

@@ -1,6 +1,6 @@
 #include "engine_peer.h"
+#include "expect_table.h"
 #include "records.h"
-#include "table.h"
 
 namespace kavi {
 namespace {

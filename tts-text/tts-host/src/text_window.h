@@ -28,7 +28,6 @@ class TextWindow {
 
     char* text() { return window_; }
     std::size_t length() const { return length_; }
-    std::size_t prefix_length() const { return prefix_; }
 
     // Where to cut the buffer so that at most about `size` bytes of new text stand before the cut:
     // behind a blank if there is one, never inside a tag or a word that fits a section. Always some

@@ -37,7 +37,6 @@ class BoundedText {
         text_[length_] = '\0';
     }
 
-    bool fits(std::size_t n) const { return n < static_cast<std::size_t>(capacity_ - length_); }
     bool ends_with(char c) const { return length_ > 0 && text_[length_ - 1] == c; }
     int length() const { return length_; }
     char* text() { return text_; }

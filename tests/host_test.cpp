@@ -120,9 +120,9 @@ TEST(Host, LongTextsAreCutAtBlanksAndCarrySpansOn) {
 
 // The findings of a text as in the table, and the records of all its sentences.
 TableRow report(const std::string& text, bool with_records) {
-    static const char* const names[] = {"stray",    "mismatched", "too many",
-                                        "too much", "too long",   "never closed",
-                                        "nul",      "digits",     "cut"};
+    static const char* const names[] = {"stray",    "mismatched", "too many",     "too much",
+                                        "too long", "inside",     "never closed", "nul",
+                                        "digits",   "cut"};
     const ReadText read = read_by_layer(text);
     EXPECT_TRUE(read.all_read) << text;
     std::string findings;

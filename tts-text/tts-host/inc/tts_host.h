@@ -18,6 +18,7 @@ enum class Finding {
     too_many_open_tags,
     too_much_open_markup,
     tag_too_long,
+    tag_inside_tag,
     tag_never_closed,
     nul_byte,
     digits_not_read,

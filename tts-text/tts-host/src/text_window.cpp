@@ -138,21 +138,38 @@ bool TextWindow::feed_tag() {
     switch (tag->kind) {
         case tn::TagKind::span_open: return feed_opening(text, tag);
         case tn::TagKind::span_close: return feed_closing(text, tn::find_markup_tag(tag->partner));
-        case tn::TagKind::removed:
-            if (text.size() > REMOVED_TAG_MAX && text_.size() > CAPACITY) {
-                leave_out(text.size());
-                return true;
-            }
-            return copy(text);
+        case tn::TagKind::removed: return feed_removed(text);
         default: return copy(text);
     }
 }
 
-// A tag that the engine reads as text. Inside a span its "<" is left out: with the ">" of the
-// closing tag that is put behind the sentence it would make a tag, and the words between be lost.
+// The engine takes it out, and what stood before and behind it could make a tag together.
+bool TextWindow::feed_removed(std::string_view tag) {
+    const bool joins = ends_in_tag_beginning();
+    const bool too_long = tag.size() > REMOVED_TAG_MAX && text_.size() > CAPACITY;
+    if (!joins && !too_long) return copy(tag);
+    if (joins) report(Finding::tag_inside_tag);
+    leave_out(tag.size());
+    return true;
+}
+
+bool TextWindow::ends_in_tag_beginning() const {
+    constexpr std::size_t LONGEST = std::string_view("</quill_effect").size();
+    const std::string_view end(window_ + length_ - std::min(length_, LONGEST),
+                               std::min(length_, LONGEST));
+    const std::string_view beginning = end.substr(std::min(end.rfind('<'), end.size()));
+    return !beginning.empty() && std::any_of(std::begin(tn::MARKUP_TAGS), std::end(tn::MARKUP_TAGS),
+                                             [=](const tn::MarkupTag& tag) {
+                                                 return beginning.size() < tag.prefix.size() &&
+                                                        tn::begins_with(tag.prefix, beginning);
+                                             });
+}
+
+// A tag that the engine reads as text. Its "<" is left out: with a ">" that comes to stand nearer,
+// because something was left out or a span is closed behind the sentence, it would make a tag, and
+// the words between be lost.
 bool TextWindow::feed_as_text(bool never_closed) {
     report(never_closed ? Finding::tag_never_closed : Finding::tag_too_long);
-    if (open_spans() == 0) return copy(rest().substr(0, 1));
     leave_out(1);
     return true;
 }

@@ -65,12 +65,14 @@ class TextWindow {
     bool feed_run();
     bool feed_tag();
     bool feed_as_text(bool never_closed);
+    bool feed_removed(std::string_view tag);
     bool feed_closing(std::string_view tag, const void* kind);
     bool feed_opening(std::string_view tag, const void* kind);
     int open_spans() const;
     bool markup_fits(std::string_view tag) const;
     bool copy(std::string_view piece);
     bool copy_event(std::string_view tag, std::string_view opening);
+    bool ends_in_tag_beginning() const;
     void leave_out(std::size_t length);
     void report(Finding finding);
     void rebuild_prefix(std::size_t open);

@@ -22,6 +22,7 @@ const char* const DESCRIPTIONS[] = {
     "ten tags are open here; this one is left out with its closing tag",
     "more than 199 characters of names or values are open; this tag is left out with its closing",
     "this tag is too long to be read as one",
+    "this tag stands inside the beginning of another; a blank is read in its place",
     "this tag has no \">\"; it is read as text",
     "a NUL byte is read as a blank",
     "the digits of this number after the twelfth are not read",

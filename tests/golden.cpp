@@ -1,6 +1,6 @@
 // Prints all that the engine makes of the files it is given: raw text through all three calls, and
-// the same bytes straight into the tokenizer and the builder. The output is the same, byte for byte,
-// on every platform. Plain C texts throughout, so that MemorySanitizer sees every byte.
+// the same bytes straight into the tokenizer and the builder. The output is the same, byte for
+// byte, on every platform. Plain C texts throughout, so that MemorySanitizer sees every byte.
 
 #include <cstdio>
 #include <cstring>
@@ -15,8 +15,8 @@ mem_stack_handle arena;
 PostProTnEng engine;
 
 void print(const CssmlTag& tag) {
-    std::printf("%s|%s|%s|%s|%s|%s|%s|%s", tag.breaktime, tag.emphasis, tag.pro_pitch,
-                tag.pro_rate, tag.pro_volume, tag.pro_spectrum, tag.poem, tag.quill_effect);
+    std::printf("%s|%s|%s|%s|%s|%s|%s|%s", tag.breaktime, tag.emphasis, tag.pro_pitch, tag.pro_rate,
+                tag.pro_volume, tag.pro_spectrum, tag.poem, tag.quill_effect);
 }
 
 void print(const UtteranceSyllable& record) {

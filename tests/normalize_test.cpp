@@ -68,6 +68,7 @@ TEST_F(Normalize, LongTextsAreCutAndHandedBack) {
     Cut cut = normalize(letters);
     EXPECT_EQ(cut.sentence.size(), 4087U);
     EXPECT_EQ(cut.rest.size(), 8U);
+    EXPECT_EQ(normalize(letters.substr(0, 4084) + "1,2xyz").sentence.size(), 4087U);
     // A tag that has no room is not broken: it begins the rest.
     const std::string tag = "<punc=" + std::string(90, 'x') + ">";
     cut = normalize(letters.substr(0, 4000) + tag.substr(0, 94) + ">");

@@ -36,6 +36,7 @@ TEST_F(Numbers, DigitByDigitIsCutAfterTheLastWholeWord) {
     const std::string reading = call(Peer::number_to_normal, std::string(100, '7'));
     EXPECT_EQ(reading.size(), 6 * 83 - 1U);
     EXPECT_EQ(reading.substr(reading.size() - 11), "seven seven");
+    EXPECT_EQ(call(Peer::number_to_normal, std::string(125, '1')).size(), 499U);
     // The 499 characters end inside "seven", and the short word behind it must not slip in.
     const std::string ones = call(Peer::number_to_normal, std::string(124, '1') + "71");
     EXPECT_EQ(ones.substr(ones.size() - 7), "one one");

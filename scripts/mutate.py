@@ -1,0 +1,152 @@
+"""What scripts/mutate runs."""
+
+import concurrent.futures
+import os
+import pathlib
+import queue
+import random
+import re
+import shutil
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+ROOMS = ["tts-common/src", "tts-text/tts-tn/src"]
+WORKERS = os.cpu_count() or 1
+SECONDS = 60  # a fault that makes the tests run longer is noticed
+
+# What is looked for in a line of code, and what is put in its place.
+FAULTS = [(re.compile(pattern), replacement) for pattern, replacement in [
+    (r" == ", " != "), (r" != ", " == "),
+    (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
+    (r" && ", " || "), (r" \|\| ", " && "),
+    (r"(?<=[ (])!(?=[a-z_(])", ""),
+    (r" \+ 1\b", ""), (r" - 1\b", ""), (r" \+ (?=[a-z])", " - "), (r" - (?=[a-z])", " + "),
+    (r" \+= ", " -= "), (r"(?<![\w+])\+\+", "--"),
+    (r"\breturn true;", "return false;"), (r"\breturn false;", "return true;"),
+    (r"\breturn -1;", "return 0;"), (r"\breturn 0;", "return -1;"),
+    (r"(?<=, )(\d)(?=\))", lambda found: str(int(found.group(1)) + 1)),   # a section later
+    (r"(?<=, )([1-9])(?=\))", lambda found: str(int(found.group(1)) - 1)),  # or earlier
+    (r"(?<== )(\d+)(?=;)", lambda found: str(int(found.group(1)) + 1)),
+    (r"->m_pnext\b", ""),
+    (r"^ +[\w.>-]+\.(append|take|append_whole|cut|clear|pass|catch_up)\(.*\);$", ""),
+    (r"^ +continue;$", ""), (r"^ +break;$", ""),
+]]
+LITERAL = re.compile(r'"(?:[^"\\]|\\.)*"')
+NO_CODE = re.compile(r"^\s*(//|#|static_assert|assert|using|namespace|template|friend|enum)|^\S.*\) const;$")
+
+
+def all_faults():
+    """Every fault as (path, line number, the line before, the line after)."""
+    for room in ROOMS:
+        for path in sorted((ROOT / room).rglob("*")):
+            if path.suffix not in (".cpp", ".h"):
+                continue
+            for number, line in enumerate(path.read_text().split("\n")):
+                if NO_CODE.match(line):
+                    continue
+                code = re.sub(r"\s*//.*", "", line)
+                for text in LITERAL.finditer(code):  # a blank of a reading
+                    for less in {text.group().replace('" ', '"'), text.group().replace(' "', '"')} - {text.group()}:
+                        yield path.relative_to(ROOT), number, line, code[:text.start()] + less + code[text.end():]
+                for pattern, replacement in FAULTS:
+                    for found in pattern.finditer(code):
+                        instead = replacement if isinstance(replacement, str) else replacement(found)
+                        yield (path.relative_to(ROOT), number, line,
+                               code[:found.start()] + instead + code[found.end():])
+
+
+def choose(faults, count):
+    """So many faults, from every room in the share that it has of all."""
+    rooms = {}
+    for fault in faults:
+        rooms.setdefault(fault[0], []).append(fault)
+    share = min(1.0, count / len(faults))
+    chosen = random.Random(1)
+    return [fault for room in rooms.values()
+            for fault in chosen.sample(room, max(1, round(len(room) * share)))]
+
+
+class Tree:
+    """A copy of the project in which one fault after another is tried."""
+
+    def __init__(self, number):
+        self.root = ROOT / "build" / "mutate" / str(number)
+        shutil.rmtree(self.root, ignore_errors=True)
+        files = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, check=True, capture_output=True).stdout
+        for name in files.decode().split("\0")[:-1]:
+            (self.root / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(ROOT / name, self.root / name)
+        subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DKAVI_BUILD_TOOLS=OFF",
+                        "-DKAVI_INSTALL=OFF"], cwd=self.root, check=True, capture_output=True)
+        if self.outcome() != "survived":
+            sys.exit("The tests fail without a fault.")
+
+    def outcome(self):
+        build = subprocess.run(["cmake", "--build", "build", "--target", "kavi_tests", "kavi_refusal_tests"],
+                               cwd=self.root, capture_output=True)
+        if build.returncode != 0:
+            return "does not compile"
+        for test in ("kavi_refusal_tests", "kavi_tests --gtest_filter=-Host*", "kavi_tests --gtest_filter=Host*"):
+            try:
+                run = subprocess.run(["build/tests/" + test.split()[0], "--gtest_fail_fast", *test.split()[1:]],
+                                     cwd=self.root, capture_output=True, timeout=SECONDS)
+            except subprocess.TimeoutExpired:
+                return "killed"
+            if run.returncode != 0:
+                return "killed"
+        return "survived"
+
+    def try_fault(self, path, number, before, after):
+        text = (self.root / path).read_text()
+        lines = text.split("\n")
+        lines[number] = after
+        (self.root / path).write_text("\n".join(lines))
+        try:
+            return self.outcome()
+        finally:
+            (self.root / path).write_text(text)
+
+
+def known_survivors():
+    """The faulty lines, blanks apart, that docs/survivors.txt explains."""
+    text = (ROOT / "docs" / "survivors.txt").read_text()
+    return {(path, "".join(line.split())) for path, line in re.findall(r"^(\S+): (.*)$", text, re.MULTILINE)}
+
+
+def main():
+    arguments = sys.argv[1:]
+    faults = list(all_faults())
+    if arguments[:1] == ["--only"]:
+        faults = [fault for fault in faults if arguments[1] in str(fault[0])]
+    else:
+        faults = choose(faults, int(arguments[0]) if arguments else 400)
+    trees = queue.Queue()
+    for number in range(WORKERS):
+        trees.put(Tree(number))
+
+    def attempt(fault):
+        tree = trees.get()
+        try:
+            return fault, tree.try_fault(*fault)
+        finally:
+            trees.put(tree)
+
+    known = known_survivors()
+    outcomes = {}
+    unexplained = 0
+    with concurrent.futures.ThreadPoolExecutor(WORKERS) as pool:
+        for (path, number, before, after), outcome in pool.map(attempt, faults):
+            explained = (str(path), "".join((after if after.strip() else "removed: " + before).split())) in known
+            outcome = "explained" if outcome == "survived" and explained else outcome
+            outcomes[outcome] = outcomes.get(outcome, 0) + 1
+            if outcome == "survived":
+                unexplained += 1
+                print(f"{path}:{number + 1}: survived\n  - {before.strip()}\n  + {after.strip()}", flush=True)
+    total = len(faults) - outcomes.get("does not compile", 0)
+    print(f"{total} faults in {len({fault[0] for fault in faults})} rooms: {outcomes.get('killed', 0)} killed, "
+          f"{outcomes.get('explained', 0)} survive for a reason, {unexplained} survive")
+    sys.exit(unexplained > 0)
+
+
+main()

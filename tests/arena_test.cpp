@@ -66,7 +66,8 @@ TEST(Arena, StartsAnewInItsFirstChunk) {
     mem_stack_handle arena = mem_stack_create(200000);
     for (int round = 0; round < 3; ++round) {
         std::vector<void*> blocks;
-        std::size_t size = 32000;  // finds no room in what the last round has left
+        // Finds no room in what the last round has left, and no block of its size.
+        std::size_t size = 32000 - static_cast<std::size_t>(round) * 6000;
         while (void* block = mem_stack_request_buf(size, MEM_COMMON, arena)) {
             EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % alignof(std::max_align_t), 0U);
             blocks.push_back(block);

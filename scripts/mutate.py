@@ -4,7 +4,6 @@ import concurrent.futures
 import os
 import pathlib
 import queue
-import random
 import re
 import shutil
 import subprocess
@@ -57,14 +56,9 @@ def all_faults():
 
 
 def choose(faults, count):
-    """So many faults, from every room in the share that it has of all."""
-    rooms = {}
-    for fault in faults:
-        rooms.setdefault(fault[0], []).append(fault)
-    share = min(1.0, count / len(faults))
-    chosen = random.Random(1)
-    return [fault for room in rooms.values()
-            for fault in chosen.sample(room, max(1, round(len(room) * share)))]
+    """So many faults, every so many of all: each room has its share."""
+    count = min(count, len(faults))
+    return [faults[i * len(faults) // count] for i in range(count)]
 
 
 class Tree:
@@ -120,7 +114,7 @@ def main():
     if arguments[:1] == ["--only"]:
         faults = [fault for fault in faults if arguments[1] in str(fault[0])]
     else:
-        faults = choose(faults, int(arguments[0]) if arguments else 400)
+        faults = choose(faults, int(arguments[0]) if arguments else len(faults))
     trees = queue.Queue()
     for number in range(WORKERS):
         trees.put(Tree(number))

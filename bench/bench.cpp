@@ -1,0 +1,141 @@
+// How fast the calls are, beside what they are compared with, and how their cost grows with the
+// text. Names of benchmarks are KIND/WHAT or KIND/WHAT/BYTES; scripts/bench makes a table of them.
+
+#include <benchmark/benchmark.h>
+
+#include "calls.h"
+#include "corpus.h"
+#include "peers.h"
+#include "tts_host.h"
+
+namespace kavi::bench {
+namespace {
+
+constexpr std::size_t CORPUS_BYTES = std::size_t{200} * 1000;
+
+// A corpus as each of the calls gets it.
+struct Prepared {
+    std::vector<std::string> raw;
+    std::vector<std::string> sentences;
+    std::vector<std::string> speakable;
+};
+
+Prepared prepare(const std::vector<std::string>& raw) {
+    Prepared prepared;
+    prepared.raw = raw;
+    Calls calls;
+    for (const std::string& text : raw) {
+        calls.normalize(text, [&](char* sentence) {
+            prepared.sentences.emplace_back(sentence);
+            prepared.speakable.emplace_back(calls.tokenize(sentence));
+        });
+    }
+    return prepared;
+}
+
+std::size_t bytes_of(const std::vector<std::string>& texts) {
+    std::size_t bytes = 0;
+    for (const std::string& text : texts) bytes += text.size();
+    return bytes;
+}
+
+// Reads all the texts in every iteration; the rate is by their bytes and by their words.
+template <typename Read>
+void add(const std::string& name, std::vector<std::string> texts, Read read) {
+    benchmark::RegisterBenchmark(name.c_str(), [texts, read](benchmark::State& state) mutable {
+        for (auto _ : state) {
+            for (std::string& text : texts) benchmark::DoNotOptimize(read(text));
+        }
+        std::size_t words = 0;
+        for (const std::string& text : texts) words += count_words(text);
+        state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(bytes_of(texts)));
+        state.counters["words"] = static_cast<double>(words);
+    });
+}
+
+Calls& calls() {
+    static Calls the_calls;
+    return the_calls;
+}
+
+int read_all(const std::string& text) {
+    return calls().all(text);
+}
+
+std::size_t copy(const std::string& text) {
+    static char target[1 << 20];
+    std::memcpy(target, text.data(), text.size());
+    benchmark::ClobberMemory();
+    return text.size();
+}
+
+void add_ordinary(const Kind& kind) {
+    const std::string name = kind.name;
+    const Prepared prepared = prepare(paragraphs(kind, CORPUS_BYTES));
+    add(name + "/memcpy", prepared.raw, copy);
+    add(name + "/loop", prepared.raw, count_words);
+    add(name + "/normalize", prepared.raw, [](const std::string& text) {
+        calls().normalize(text, [](char* sentence) { benchmark::DoNotOptimize(sentence); });
+        return 0;
+    });
+    add(name + "/tokenize", prepared.sentences,
+        [](std::string& sentence) { return calls().tokenize(sentence.data()); });
+    add(name + "/build", prepared.speakable,
+        [](std::string& speakable) { return calls().build(speakable.data()); });
+    add(name + "/all", prepared.raw, read_all);
+    if (flite_words("word") > 0) add(name + "/flite", prepared.raw, flite_words);
+    if (espeak_phonemes("word") > 0) add(name + "/espeak-ng", prepared.raw, espeak_phonemes);
+}
+
+// The longest sentence of the kind whose reading fits: one that does not is given up half-way,
+// which costs less.
+std::size_t longest(const Kind& kind) {
+    for (std::size_t length = SZ_TEXT_MAX_LEN - 1;; length -= 64) {
+        const Prepared prepared = prepare({kind.sentence(length, 1)});
+        if (bytes_of(prepared.speakable) < 4000) return length;
+    }
+}
+
+// One sentence of each length through all calls; as a whole megabyte straight into the builder.
+void add_lengths(const Kind& kind) {
+    for (const std::size_t length :
+         {std::size_t{64}, std::size_t{256}, std::size_t{1024}, longest(kind)}) {
+        add(std::string(kind.name) + "/length/" + std::to_string(length),
+            {kind.sentence(length, 1)}, read_all);
+    }
+    for (const std::size_t length : {100000U, 1000000U}) {
+        add(std::string(kind.name) + "/builder/" + std::to_string(length),
+            {kind.sentence(length, 1)},
+            [](std::string& text) { return calls().build(text.data()); });
+    }
+}
+
+void add_host(const Kind& kind) {
+    for (const std::size_t length : {1000U, 10000U, 100000U, 1000000U, 10000000U}) {
+        std::string text;
+        for (const std::string& paragraph : paragraphs(kind, length)) text += paragraph;
+        text.resize(length);
+        add(std::string(kind.name) + "/host/" + std::to_string(length), {text},
+            [](const std::string& whole) {
+                static TtsHost host;
+                int records = 0;
+                host.read(
+                    whole, [&](const HostSentence& sentence) { records += sentence.n_records; },
+                    [](const Diagnostic&) {});
+                return records;
+            });
+    }
+}
+
+}  // namespace
+}  // namespace kavi::bench
+
+int main(int argc, char** argv) {
+    using namespace kavi::bench;
+    for (const Kind& kind : ORDINARY) add_ordinary(kind);
+    for (const Kind& kind : ORDINARY) add_lengths(kind);
+    for (const Kind& kind : WORST) add_lengths(kind);
+    add_host(ORDINARY[0]);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,71 @@
+// The engine's calls as a host makes them.
+#ifndef KAVI_BENCH_CALLS_H
+#define KAVI_BENCH_CALLS_H
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "post_pro_tn_eng.h"
+
+namespace kavi::bench {
+
+class Calls {
+  public:
+    Calls() { engine_.init(arena_); }
+    ~Calls() { mem_stack_destroy(arena_); }
+    Calls(const Calls&) = delete;
+    Calls& operator=(const Calls&) = delete;
+
+    // Cuts a text of at most 4,095 bytes into sentences and calls `sentence` with each.
+    template <typename Sentence>
+    void normalize(const std::string& text, Sentence sentence) {
+        char* source = buffers_[0];
+        char* next = buffers_[1];
+        std::memcpy(source, text.c_str(), text.size() + 1);
+        while (source[0] != '\0') {
+            sentence_[0] = '\0';
+            next[0] = '\0';
+            engine_.eng_text_normalize(source, sentence_, next);
+            sentence(sentence_);
+            std::swap(source, next);
+        }
+    }
+
+    // The result stands until the next call.
+    char* tokenize(char* sentence) {
+        speakable_[0] = '\0';
+        engine_.eng_text_tokenize(sentence, speakable_);
+        return speakable_;
+    }
+
+    // Builds the records and gives them back; how many they were.
+    int build(char* speakable) {
+        UtteranceSyllable* utt = nullptr;
+        int n_utt = 0;
+        engine_.eng_text_to_utterance_syllable(speakable, utt, n_utt);
+        for (int i = 0; i < n_utt; ++i) {
+            mem_stack_release_buf(utt[i].syllable, 0, MEM_COMMON, arena_);
+            mem_stack_release_buf(utt[i].zhuyin, 0, MEM_COMMON, arena_);
+        }
+        mem_stack_release_buf(utt, 0, MEM_COMMON, arena_);
+        return n_utt;
+    }
+
+    int all(const std::string& text) {
+        int records = 0;
+        normalize(text, [&](char* sentence) { records += build(tokenize(sentence)); });
+        return records;
+    }
+
+  private:
+    mem_stack_handle arena_ = mem_stack_create(0);
+    PostProTnEng engine_;
+    char buffers_[2][SZ_TEXT_MAX_LEN] = {};
+    char sentence_[SZ_TEXT_MAX_LEN] = {};
+    char speakable_[SZ_TEXT_MAX_LEN] = {};
+};
+
+}  // namespace kavi::bench
+
+#endif  // KAVI_BENCH_CALLS_H

@@ -1,0 +1,65 @@
+"""Makes the table of scripts/bench from what it measured, and says which goals hold."""
+
+import collections
+import json
+import pathlib
+import sys
+
+built = pathlib.Path(sys.argv[1])
+rate = {}  # bytes in a second
+word_ns = {}
+for run in json.loads((built / "times.json").read_text())["benchmarks"]:
+    rate[run["name"]] = run["bytes_per_second"]
+    word_ns[run["name"]] = run["cpu_time"] / max(run["words"], 1)
+instructions = {}  # for a byte
+for line in (built / "instructions.txt").read_text().splitlines():
+    what, once, eleven, all_bytes = line.split()
+    instructions[what] = (int(eleven) - int(once)) / 10 / (int(all_bytes) / 11)
+instructions["build"] = instructions["all"] - instructions["tokenize"]
+instructions["tokenize"] -= instructions["normalize"]
+seconds = dict(line.split() for line in (built / "tool.txt").read_text().splitlines())
+missed = 0
+
+
+def goal(text, figure, holds):
+    global missed
+    missed += not holds
+    print(f"{'holds ' if holds else 'MISSED'}  {text}: {figure:.2f}")
+
+
+print("Corpus     call            MB/s   ns/word   x loop   instructions/byte")
+for name in rate:
+    kind, what, *more = name.split("/")
+    if more:
+        continue
+    counted = f"{instructions[what]:8.1f}" if kind == "prose" and what in instructions else ""
+    print(f"{kind:10} {what:12} {rate[name] / 1e6:9.1f} {word_ns[name]:9.1f} "
+          f"{rate[kind + '/loop'] / rate[name]:8.1f} {counted}")
+
+lengths = collections.defaultdict(dict)
+for name in rate:
+    kind, what, *more = name.split("/")
+    if more:
+        lengths[kind, what][int(more[0])] = 1e9 / rate[name]
+print("\nNanoseconds a byte by length")
+for (kind, what), cost in lengths.items():
+    print(f"{kind:14} {what:8}" + "".join(f"  {length}: {ns:.2f}" for length, ns in cost.items()))
+
+print()
+goal("all calls on prose, times the loop (at most 15)", rate["prose/loop"] / rate["prose/all"],
+     rate["prose/loop"] / rate["prose/all"] <= 15)
+goal("all calls on prose, instructions a byte (at most 60)", instructions["all"], instructions["all"] <= 60)
+if "prose/flite" in rate:
+    goal("all calls on prose, times the rate of flite (at least 50)", rate["prose/all"] / rate["prose/flite"],
+         rate["prose/all"] / rate["prose/flite"] >= 50)
+for (kind, what), cost in lengths.items():
+    short, most = {"length": (256, 1.3), "builder": (100000, 2), "host": (10000, 1.2)}[what]
+    long = max(cost)
+    goal(f"{kind}, {what}: a byte of {long} to one of {short} (at most {most})", cost[long] / cost[short],
+         cost[long] / cost[short] <= most)
+tool = 100e6 / float(seconds["1"])
+goal("kavi-tn on 100 MB, of the engine's rate (at least 0.7)", tool / rate["prose/all"], tool >= 0.7 * rate["prose/all"])
+goal("kavi-tn -j 2, times one thread (at least 1.8)", float(seconds["1"]) / float(seconds["2"]),
+     float(seconds["1"]) >= 1.8 * float(seconds["2"]))
+print(f"{missed} goals missed")
+sys.exit(missed > 0)

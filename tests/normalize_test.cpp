@@ -10,11 +10,10 @@ class Normalize : public EngineTest {
         const Cut cut = normalize(source);
         return {source, cut.sentence, cut.rest};
     }
-    void expect(const TableRow& row) { EXPECT_EQ(cut(row[0]), row); }
 };
 
 TEST_F(Normalize, AsInTheTables) {
-    for (const char* table : {"sentences", "blanks", "abbreviations", "markup"}) {
+    for (const char* table : {"sentences", "blanks", "abbreviations", "markup", "long_texts"}) {
         expect_table(table, [this](const std::string& source) { return cut(source); });
     }
 }
@@ -46,51 +45,6 @@ TEST_F(Normalize, AbbreviationCalledByItself) {
         EXPECT_EQ(target, held + (held.size() == 4089 ? "doctor" : ""));
         EXPECT_EQ(stop, 0);
     }
-}
-
-TEST_F(Normalize, TagsAreBoundedInLengthAndNumber) {
-    const std::string ten_open(
-        "<poem=0><poem=1><poem=2><poem=3><poem=4><poem=5><poem=6><poem=7><poem=8><poem=9>");
-    const std::string longest = "<prosody=" + std::string(189, 'x') + ">";
-    const std::string too_long = "<prosody=" + std::string(190, 'x') + ">";
-    const std::string long_punc = "<punc=" + std::string(493, 'x') + ">";
-    std::string ten_closed;
-    for (int i = 0; i < 10; ++i) ten_closed += "</poem>";
-    expect({ten_open + "x", ten_open + "x" + ten_closed, ""});
-    expect({ten_open + "x<poem=10>y", ten_open + "x", ""});
-    expect({longest + "x</prosody>", longest + "x</prosody>", ""});
-    expect({too_long + "x</prosody>", too_long, ""});
-    expect({long_punc + "x", long_punc + "x", ""});
-}
-
-TEST_F(Normalize, LongTextsAreCutAndHandedBack) {
-    const std::string letters(4095, 'a');
-    Cut cut = normalize(letters);
-    EXPECT_EQ(cut.sentence.size(), 4087U);
-    EXPECT_EQ(cut.rest.size(), 8U);
-    EXPECT_EQ(normalize(letters.substr(0, 4084) + "1,2xyz").sentence.size(), 4087U);
-    // A tag that has no room is not broken: it begins the rest.
-    const std::string tag = "<punc=" + std::string(90, 'x') + ">";
-    cut = normalize(letters.substr(0, 4000) + tag.substr(0, 94) + ">");
-    EXPECT_EQ(cut.sentence.size(), 4095U);
-    cut = normalize(letters.substr(0, 3998) + tag);
-    EXPECT_EQ(cut.sentence.size(), 4095U);
-    EXPECT_EQ(cut.rest, "");
-    std::string source = letters.substr(0, 3999) + tag;
-    char target[SZ_TEXT_MAX_LEN] = {};
-    char next[SZ_TEXT_MAX_LEN] = {};
-    EXPECT_EQ(engine.eng_text_normalize(source.data(), target, next), 0);
-    EXPECT_EQ(target, letters.substr(0, 3999));
-    EXPECT_EQ(next, tag);
-    // No room to close a span: nothing is handed back.
-    cut = normalize("<prosody=x>" + letters.substr(0, 4077) + " yz</prosody>");
-    EXPECT_EQ(cut.rest, "");
-    // An opening tag without room begins the rest; a closing one ends the pass.
-    cut = normalize(letters.substr(0, 4086) + "<poem=abcde>");
-    EXPECT_EQ(cut.sentence.size(), 4086U);
-    EXPECT_EQ(cut.rest, "<poem=abcde>");
-    cut = normalize("<quill_effect=x>" + letters.substr(0, 4070) + "</quill_effect>b");
-    EXPECT_EQ(cut.rest, "");
 }
 
 TEST_F(Normalize, TheRestIsAppendedWholeOrNotAtAll) {

@@ -9,13 +9,13 @@ using Peer = PostProTnEngPeer;
 
 class Utterance : public EngineTest {
   protected:
-    std::string build(std::string text, int expected = 0) {
+    std::string build(std::string text) {
         UtteranceSyllable* utt = nullptr;
         int n_utt = -1;
-        EXPECT_EQ(engine.eng_text_to_utterance_syllable(text.data(), utt, n_utt), expected) << text;
+        const int result = engine.eng_text_to_utterance_syllable(text.data(), utt, n_utt);
         std::string records = to_text(utt, n_utt);
         kavi::release(utt, n_utt, arena);
-        return records;
+        return (result == 0 ? "" : "failed: ") + records;
     }
 };
 
@@ -29,46 +29,11 @@ TEST_F(Utterance, OneSentenceEndToEnd) {
 }
 
 TEST_F(Utterance, AsInTheTables) {
-    for (const char* table : {"words", "spans", "outside_the_language"}) {
+    for (const char* table : {"words", "punctuation", "spans", "chains", "outside_the_language"}) {
         expect_table(table, [this](const std::string& text) {
             return TableRow{text, build(text)};
         });
     }
-}
-
-TEST_F(Utterance, LongWordsAndNamesAndManyMarks) {
-    const std::string run(600, 'x');
-    EXPECT_EQ(build(run), "|" + run.substr(0, 499) + "|" + run.substr(499));
-    EXPECT_EQ(build(run.substr(0, 499)), "|" + run.substr(0, 499));
-    const std::string name = "py" + std::string(509, 'x');
-    EXPECT_EQ(build("<" + name + "=1>a"), "|a");
-    const std::string no_name = "<" + name + "x=1>a";
-    EXPECT_EQ(build(no_name), "|" + no_name.substr(0, 499) + "|" + no_name.substr(499));
-    std::string marks = "a ";
-    for (int i = 0; i < 11; ++i) marks += i < 10 ? "<punc=dun>" : "<punc=ju>";
-    EXPECT_EQ(build(marks), "|a+dun+dun+dun+dun+dun+dun+dun+dun+dun+dun!");
-}
-
-TEST_F(Utterance, ChainsAreBounded) {
-    const auto nest = [](const std::string& value, int depth) {
-        std::string text;
-        for (int i = 0; i < depth; ++i) text += "<poem=" + value + ">";
-        text += "x";
-        for (int i = 0; i < depth; ++i) text += "</poem>";
-        return text + " y";
-    };
-    EXPECT_EQ(build(nest("a", 40)), "|x(poem=a)|y");  // 40 names make 199 characters
-    EXPECT_EQ(build(nest("a", 41), -1), "||");        // one more does not fit
-    EXPECT_EQ(build(nest(std::string(199, 'v'), 1)), "|x(poem=" + std::string(19, 'v') + ")|y");
-    EXPECT_EQ(build(nest(std::string(200, 'v'), 1), -1), "||");
-    EXPECT_EQ(build(nest("", 100), -1), "|");  // too deep to be counted
-    const std::string v190(190, 'v');          // no room for what joins the third value to it
-    EXPECT_EQ(build("<prosody=" + v190 + "><poem=12345678><poem=x>a</poem></poem></prosody>", -1),
-              "|");
-    std::string emphases;  // no room for the 23rd name
-    for (int i = 0; i < 23; ++i) emphases += "<emphasis=>";
-    EXPECT_EQ(build(emphases + "a", -1), "|");
-    EXPECT_EQ(build("a " + nest("a", 41), -1), "|a||");  // what was stored stays
 }
 
 TEST_F(Utterance, RecordsAreSizedAndInitialised) {
@@ -89,18 +54,6 @@ TEST_F(Utterance, RecordsAreSizedAndInitialised) {
         EXPECT_EQ(utt[1].pause_pl_type, PAUSE_SYLLABLE_FE);
         mem_stack_release_buf(utt[1].syllable, 0, MEM_COMMON, arena);
         mem_stack_release_buf(utt[1].zhuyin, 0, MEM_COMMON, arena);
-    }
-    const char* names[] = {"dun",    "dou",     "fen",    "ju",     "wen",    "tan",    "mao",
-                           "zuoshu", "youshu",  "zuoyin", "youyin", "zuokuo", "youkuo", "shenglue",
-                           "pozhe",  "tnbegin", "tnend",  "POIB",   "POIE"};
-    for (int kind = 1; kind <= 19; ++kind) {
-        UtteranceSyllable record = {};
-        std::string name = names[kind - 1];
-        EXPECT_TRUE((engine.*Peer::insert_punc)(1, &record, name.data()));
-        EXPECT_EQ(record.punc_arr[0], kind);
-        const bool forces = kind <= 7 || kind == PUNC_SHENGLUE_FE;
-        EXPECT_EQ(record.pause_type, forces ? PAUSE_INTONATION_PHRASE_FORCE_FE : 0) << name;
-        EXPECT_EQ(record.pause_type_tn, record.pause_type);
     }
     EXPECT_TRUE((engine.*Peer::insert_punc)(1, utt, buffer));
     EXPECT_EQ(utt[0].n_punc, 1);

@@ -19,6 +19,7 @@ inline std::string to_text(const UtteranceSyllable& record) {
     std::string text = record.syllable != nullptr ? record.syllable : "";
     for (int i = 0; i < record.n_punc; ++i) text += std::string("+") + names[record.punc_arr[i]];
     if (record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE) text += "!";
+    if (record.pause_type != record.pause_type_tn) text += "?";
     const CssmlTag& tag = record.cssml_tag;
     const std::pair<const char*, const char*> fields[] = {
         {"breaktime", tag.breaktime}, {"emphasis", tag.emphasis},  {"pitch", tag.pro_pitch},

@@ -84,7 +84,7 @@ TEST(Arena, RefusesWhatCannotBeHad) {
     EXPECT_EQ(mem_stack_peak(arena), 0U);
     void* nothing = mem_stack_request_buf(0, MEM_COMMON, arena);
     EXPECT_NE(nothing, nullptr);
-    mem_stack_release_buf(nothing, 0, MEM_COMMON, arena);
+    EXPECT_EQ(mem_stack_release_buf(nothing, 0, MEM_COMMON, arena), 0);
     mem_stack_destroy(arena);
     mem_stack_destroy(nullptr);
     EXPECT_EQ(mem_stack_used(nullptr) + mem_stack_peak(nullptr), 0U);

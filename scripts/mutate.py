@@ -31,7 +31,7 @@ FAULTS = [(re.compile(pattern), replacement) for pattern, replacement in [
     (r"^ +[\w.>-]+\.(append|take|append_whole|cut|clear|pass|catch_up)\(.*\);$", ""),
     (r"^ +continue;$", ""), (r"^ +break;$", ""),
 ]]
-LITERAL = re.compile(r'"(?:[^"\\]|\\.)*"')
+LITERAL = re.compile(r"""'(?:[^'\\]|\\.)'|"(?:[^"\\]|\\.)*\"""")
 NO_CODE = re.compile(r"^\s*(//|#|static_assert|assert|using|namespace|template|friend|enum)|^\S.*\) const;$")
 
 

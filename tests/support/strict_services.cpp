@@ -7,12 +7,16 @@
 
 namespace kavi {
 
+constexpr unsigned char UNTOUCHED = 0xA5;  // contents of a new block are unspecified
+
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
     if (type != MEM_COMMON) std::abort();
     const long number = arena->requests++;
     if (number >= arena->first_refused && number <= arena->last_refused) return nullptr;
-    void* block = std::malloc(size);
-    if (size > 0) std::memset(block, 0xA5, size);  // contents are unspecified
+    const std::size_t bytes =
+        size > 0 ? size : 1;  // of a block of 0 bytes, one that nobody may use
+    void* block = std::malloc(bytes);
+    std::memset(block, UNTOUCHED, bytes);
     arena->in_use[block] = size;
     return block;
 }
@@ -23,6 +27,7 @@ int mem_stack_release_buf(void* p, std::size_t size, tag_mem_type /*type*/,
     if (p == nullptr) return 0;
     const auto block = arena->in_use.find(p);
     if (block == arena->in_use.end() || (size != 0 && size != block->second)) std::abort();
+    if (block->second == 0 && *static_cast<unsigned char*>(p) != UNTOUCHED) std::abort();
     arena->in_use.erase(block);
     std::free(p);
     return 0;

@@ -72,7 +72,7 @@ class Tree:
             (self.root / name).parent.mkdir(parents=True, exist_ok=True)
             shutil.copy(ROOT / name, self.root / name)
         subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DKAVI_BUILD_TOOLS=OFF",
-                        "-DKAVI_INSTALL=OFF"], cwd=self.root, check=True, capture_output=True)
+                        "-DKAVI_INSTALL=OFF", "-DCMAKE_COMPILE_WARNING_AS_ERROR=ON"], cwd=self.root, check=True, capture_output=True)
         if self.outcome() != "survived":
             sys.exit("The tests fail without a fault.")
 

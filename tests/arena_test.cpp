@@ -27,7 +27,7 @@ TEST(Arena, KeepsItsPromisesInAnyOrder) {
 }
 
 TEST(Arena, ABlockCostsLittleMoreThanItsSize) {
-    for (const std::size_t size : {16, 1024, 1280, 2048, 32768, 32784}) {
+    for (const std::size_t size : {16U, 1024U, 1280U, 2048U, 32768U, 32784U}) {
         mem_stack_handle probe = mem_stack_create(0);
         EXPECT_NE(mem_stack_request_buf(size, MEM_COMMON, probe), nullptr);
         const std::size_t cost = mem_stack_used(probe);

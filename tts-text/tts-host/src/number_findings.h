@@ -12,8 +12,8 @@ namespace kavi::host {
 
 // Walks over the sentence `normalized` (4096 bytes) again, if it has numbers that are long enough,
 // and adds what it finds. `source` is the text that the sentence comes from, `offset` where it
-// begins. What the arena refuses is not looked at. No telephone number behind "Tel." comes here, since
-// that full stop ends a sentence.
+// begins. What the arena refuses is not looked at. No telephone number behind "Tel." comes here,
+// since that full stop ends a sentence.
 void find_unread_numbers(PostProTnEng& engine, mem_stack_handle arena, char* normalized,
                          std::string_view source, std::size_t offset,
                          std::vector<Diagnostic>& diagnostics);

@@ -1,5 +1,6 @@
 // Month names, numeric dates and years.
 
+#include <cassert>
 #include <cstring>
 
 #include "../common/ascii.h"
@@ -54,6 +55,7 @@ Section* PostProTnEng::data_number(Section* p_section, char* sz_target_text) {
     if (!scratch) return p_section;
     Section* month = ahead(p_section, 2);
     Section* year = ahead(month, 2);
+    assert(month != nullptr && year != nullptr);  // data_decide has seen them
     Reading reading(sz_target_text);
     reading.append(" the ");
     str_turn(p_section->sz_char, scratch.text());

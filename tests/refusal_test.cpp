@@ -86,5 +86,13 @@ TEST_F(Refusal, ReadersWithoutScratchWriteNothingAndTakeOneSection) {
     }
 }
 
+TEST_F(Refusal, NoneAndTheLexiconIsAskedForWordsInCapitals) {
+    engine.init(&arena);
+    run("NASA");
+    EXPECT_EQ(looked_up, "nasa");
+    run("Ab aB a");
+    EXPECT_EQ(looked_up, "nasa") << "and for no others";
+}
+
 }  // namespace
 }  // namespace kavi

@@ -5,6 +5,7 @@
 
 #include <limits>
 #include <map>
+#include <string>
 
 #include "MemoryStack.h"
 
@@ -16,6 +17,9 @@ struct tag_mem_stack_array {
     long requests = 0;
     std::map<void*, std::size_t> in_use;
 };
+
+// The last word that the lexicon was asked for.
+inline std::string looked_up;
 
 }  // namespace kavi
 

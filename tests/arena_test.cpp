@@ -11,6 +11,7 @@
 #include "TtsString.h"
 #include "arena_twins.h"
 #include "refused_malloc.h"
+#include "table.h"
 
 namespace kavi {
 namespace {
@@ -109,24 +110,11 @@ TEST(Arena, OutlivesASystemWithoutMemory) {
 }
 
 TEST(Strings, BoundedAppendIsAllOrNothing) {
-    struct Row {
-        const char* held;
-        const char* added;
-        int n;
-        int cap;
-        int result;
-        const char* left;
-    };
-    const Row rows[] = {
-        {"ab", "cd", 2, 5, 0, "abcd"}, {"ab", "cd", 2, 4, -1, "ab"}, {"ab", "cdef", 1, 4, 0, "abc"},
-        {"ab", "c", 100, 4, 0, "abc"}, {"ab", "", 0, 3, 0, "ab"},    {"ab", "c", 1, 0, -1, "ab"},
-        {"ab", "c", -1, 10, -1, "ab"}, {"abc", "", 0, 2, -1, "abc"}, {"", "abc", 3, 4, 0, "abc"},
-    };
-    for (const Row& row : rows) {
+    for (const TableRow& row : read_table("bounded_appends")) {
         char text[16] = {};
-        std::strcpy(text, row.held);
-        EXPECT_EQ(safe_strncat(text, row.added, row.n, row.cap), row.result) << row.added;
-        EXPECT_STREQ(text, row.left);
+        std::strcpy(text, row[0].c_str());
+        const int result = safe_strncat(text, row[1].c_str(), std::stoi(row[2]), std::stoi(row[3]));
+        EXPECT_EQ((TableRow{std::to_string(result), text}), (TableRow{row[4], row[5]})) << row[1];
     }
 }
 

@@ -60,18 +60,12 @@ TEST_F(Utterance, RecordsAreSizedAndInitialised) {
 }
 
 TEST_F(Utterance, PauseCharacters) {
-    const std::pair<char, PAUSE_type> rows[] = {{'&', PAUSE_SYLLABLE_FORCE_FE},
-                                                {'+', PAUSE_SYLLABLE_FORCE_FE},
-                                                {' ', PAUSE_WORD_FORCE_FE},
-                                                {'|', PAUSE_PHRASE_FORCE_FE},
-                                                {'#', PAUSE_INTONATION_PHRASE_FORCE_FE},
-                                                {'*', PAUSE_PHRASE_FE}};
-    for (const auto& [ch, pause] : rows) {
+    for (const TableRow& row : read_table("pause_characters")) {
         UtteranceSyllable record = {};
         record.pause_type = record.pause_type_tn = PAUSE_PHRASE_FE;
-        EXPECT_TRUE((engine.*Peer::insert_pause)(1, &record, ch));
-        EXPECT_EQ(record.pause_type, pause) << ch;
-        EXPECT_EQ(record.pause_type_tn, pause) << ch;
+        EXPECT_TRUE((engine.*Peer::insert_pause)(1, &record, row[0][0]));
+        EXPECT_EQ(std::to_string(record.pause_type), row[1]) << row[0];
+        EXPECT_EQ(record.pause_type_tn, record.pause_type) << row[0];
     }
 }
 

@@ -20,8 +20,6 @@ using Random = std::minstd_rand;
 
 constexpr std::size_t SETTINGS = 2;  // bytes in front of the text that say how it is to be read
 
-// The only fields of a table's rows. In a pattern, "9" stands for some digits, "w" for a word and
-// "A" for an abbreviation; all else for itself.
 std::vector<std::string> first_fields(const char* table) {
     std::vector<std::string> fields;
     for (const TableRow& row : read_table(table)) fields.push_back(row[0]);
@@ -46,6 +44,8 @@ void add_word(std::string& text, Random& random) {
     }
 }
 
+// In a pattern, "9" stands for some digits, "w" for a word and "A" for an abbreviation; all else
+// for itself.
 std::string piece(Random& random) {
     static const std::vector<std::string> patterns = first_fields("fuzz_patterns");
     std::string text;

@@ -149,8 +149,7 @@ bool TextWindow::feed_removed(std::string_view tag) {
     const bool too_long = tag.size() > REMOVED_TAG_MAX && text_.size() > CAPACITY;
     if (!joins && !too_long) return copy(tag);
     if (joins) report(Finding::tag_inside_tag);
-    leave_out(tag.size());
-    return true;
+    return leave_out(tag.size());
 }
 
 bool TextWindow::ends_in_tag_beginning() const {
@@ -170,8 +169,7 @@ bool TextWindow::ends_in_tag_beginning() const {
 // the words between be lost.
 bool TextWindow::feed_as_text(bool never_closed) {
     report(never_closed ? Finding::tag_never_closed : Finding::tag_too_long);
-    leave_out(1);
-    return true;
+    return leave_out(1);
 }
 
 int TextWindow::open_spans() const {
@@ -188,8 +186,7 @@ bool TextWindow::feed_opening(std::string_view tag, const void* kind) {
                : too_many ? Finding::too_many_open_tags
                           : Finding::too_much_open_markup);
         fed_spans_.push_back({tag, kind, true});
-        leave_out(tag.size());
-        return true;
+        return leave_out(tag.size());
     }
     if (!copy_event(tag, tag)) return false;
     fed_spans_.push_back({tag, kind, false});
@@ -198,17 +195,12 @@ bool TextWindow::feed_opening(std::string_view tag, const void* kind) {
 
 bool TextWindow::feed_closing(std::string_view tag, const void* kind) {
     if (!fed_spans_.empty() && fed_spans_.back().kind == kind) {
-        if (fed_spans_.back().left_out) {
-            leave_out(tag.size());
-        } else if (!copy_event(tag, {})) {
-            return false;
-        }
-        fed_spans_.pop_back();
-        return true;
+        const bool fed = fed_spans_.back().left_out ? leave_out(tag.size()) : copy_event(tag, {});
+        if (fed) fed_spans_.pop_back();
+        return fed;
     }
     report(fed_spans_.empty() ? Finding::stray_closing_tag : Finding::mismatched_closing_tag);
-    leave_out(tag.size());
-    return true;
+    return leave_out(tag.size());
 }
 
 // Whether the builder's chains hold the spans that are open and this one.
@@ -243,11 +235,12 @@ bool TextWindow::copy_event(std::string_view tag, std::string_view opening) {
 
 // Puts a blank in the place of what is left out: without it, what stands before and behind could
 // make a tag together.
-void TextWindow::leave_out(std::size_t length) {
+bool TextWindow::leave_out(std::size_t length) {
     window_[length_++] = ' ';
     ++fed_;
     gaps_.push_back({fed_, length - 1});
     next_ += length;
+    return true;
 }
 
 void TextWindow::report(Finding finding) {

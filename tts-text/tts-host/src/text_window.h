@@ -73,7 +73,7 @@ class TextWindow {
     bool copy(std::string_view piece);
     bool copy_event(std::string_view tag, std::string_view opening);
     bool ends_in_tag_beginning() const;
-    void leave_out(std::size_t length);
+    bool leave_out(std::size_t length);
     void report(Finding finding);
     void rebuild_prefix(std::size_t open);
 

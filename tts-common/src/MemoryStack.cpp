@@ -191,23 +191,43 @@ std::size_t mem_stack_peak(mem_stack_handle arena) {
     return arena != nullptr ? arena->peak : 0;
 }
 
-void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
-    if (arena == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
-    const std::size_t left = arena->capacity - arena->used;
+namespace {
+
+void* hand_out(tag_mem_stack_array& arena, BlockHeader* block) {
+    arena.used += block->cost;
+    arena.peak = std::max(arena.peak, arena.used);
+    return block + 1;
+}
+
+// Serves every request. Out of line, so that the usual one does not pay for its registers.
+__attribute__((noinline)) void* request_any(std::size_t size, tag_mem_stack_array& arena) {
+    const std::size_t left = arena.capacity - arena.used;
     if (size > std::min(left, REQUEST_MAX)) return nullptr;
     const SizeClass wanted = class_of(size);
     const bool large = wanted.index == CLASSES;
     const std::size_t cost = wanted.bytes + (large ? sizeof(LargeBlock) : sizeof(BlockHeader));
     if (cost > left) return nullptr;
 
-    BlockHeader* block = large ? new_large(*arena, cost)
-                         : arena->free_list[wanted.index] != nullptr
-                             ? reuse(*arena, wanted.index)
-                             : carve(*arena, cost, wanted.index);
-    if (block == nullptr) return nullptr;
-    arena->used += cost;
-    arena->peak = std::max(arena->peak, arena->used);
-    return block + 1;
+    BlockHeader* block = large ? new_large(arena, cost)
+                         : arena.free_list[wanted.index] != nullptr
+                             ? reuse(arena, wanted.index)
+                             : carve(arena, cost, wanted.index);
+    return block != nullptr ? hand_out(arena, block) : nullptr;
+}
+
+}  // namespace
+
+// The usual request is for a small block of a class that has one free.
+void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
+    if (arena == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
+    const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
+    if (index < SMALL_CLASSES) {
+        const FreeBlock* block = arena->free_list[index];
+        if (block != nullptr && block->header.cost <= arena->capacity - arena->used) {
+            return hand_out(*arena, reuse(*arena, index));
+        }
+    }
+    return request_any(size, *arena);
 }
 
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,

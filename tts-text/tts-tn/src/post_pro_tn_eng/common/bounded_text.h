@@ -6,8 +6,6 @@
 #include <cstring>
 #include <string_view>
 
-#include "TtsString.h"
-
 namespace kavi::tn {
 
 class BoundedText {
@@ -22,9 +20,10 @@ class BoundedText {
 
     // Appends all of `words` and answers true, or nothing and answers false.
     bool append(std::string_view words) {
-        const auto n = static_cast<int>(words.size());
-        if (safe_strncat(text_ + length_, words.data(), n, capacity_ - length_) != 0) return false;
-        length_ += n;
+        if (words.size() >= static_cast<std::size_t>(capacity_ - length_)) return false;
+        std::memcpy(text_ + length_, words.data(), words.size());
+        length_ += static_cast<int>(words.size());
+        text_[length_] = '\0';
         return true;
     }
 

@@ -2,15 +2,12 @@
 #ifndef KAVI_POST_PRO_TN_ENG_H
 #define KAVI_POST_PRO_TN_ENG_H
 
+#include <string_view>
+
 #include "MemoryStack.h"
 #include "ShareObj.h"
 
 namespace kavi {
-
-namespace tn {
-class ForwardFinder;
-class Scanner;
-}  // namespace tn
 
 inline constexpr int WORD_MAX_LEN = 500;              // word and reading buffers
 inline constexpr int SZ_TEXT_MAX_LEN = 4096;          // sentence and output texts
@@ -294,7 +291,6 @@ class PostProTnEng {
 
   private:
     friend class SectionDispatcher;
-    friend class tn::Scanner;
     friend class WordFiller;
     friend class WordCounter;
     friend struct PostProTnEngPeer;  // lets the tests reach the readers
@@ -347,12 +343,11 @@ class PostProTnEng {
     char* number_to_string(char* sz_source_text, char* sz_target_text);
 
     // ---- utterance/ ----
-    bool insert_punc(int n, UtteranceSyllable* utt, char* punc_str);
+    bool store_word(UtteranceSyllable& record, std::string_view word);  // all but its markup
+    bool insert_punc(int n, UtteranceSyllable* utt, std::string_view punc_str);
     bool insert_pause(int n, UtteranceSyllable* utt, char ch);
-    // Null: no tag of the language, or not closed. `p_closings` is what the scan of the text knows
-    // of the closing tags ahead; null for a tag by itself.
-    char* parse_tag(char* sz_text, char* sz_tag, char* sz_value, char* sz_target,
-                    tn::ForwardFinder* p_closings = nullptr);
+    // Null: no tag of the language, or its opening is not closed.
+    char* parse_tag(char* sz_text, char* sz_tag, char* sz_value, char* sz_target);
     bool count_words(int& n, char* buffer_target, int n_depth);
 
     mem_stack_handle _mem_handle;

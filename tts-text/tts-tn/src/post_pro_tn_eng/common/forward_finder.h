@@ -9,17 +9,23 @@ namespace kavi::tn {
 // Remembers the last answer, so that all the searches of one scan together read the text once.
 class ForwardFinder {
   public:
-    // The first `needle` at or after `from`, or null. `from` never lies before that of an earlier
-    // call, and the needle stays the same.
-    const char* find(const char* from, const char* needle) {
+    // The first `needle`, a character or a text, at or after `from`, or null. `from` never lies
+    // before that of an earlier call, and the needle stays the same.
+    template <typename Needle>
+    const char* find(const char* from, Needle needle) {
         if (!exhausted_ && (found_ == nullptr || found_ < from)) {
-            found_ = std::strstr(from, needle);
+            found_ = search(from, needle);
             exhausted_ = found_ == nullptr;
         }
         return found_;
     }
 
   private:
+    static const char* search(const char* from, char needle) { return std::strchr(from, needle); }
+    static const char* search(const char* from, const char* needle) {
+        return std::strstr(from, needle);
+    }
+
     const char* found_ = nullptr;
     bool exhausted_ = false;
 };

@@ -29,7 +29,7 @@ void PostProTnEng::re_regular(char* sz_source_text) {
     char* text = sz_source_text;
     char* end = text;  // behind the last byte that is no blank
     while (*text != '\0') {
-        const char* tag_end = *text == '<' ? closing.find(text, ">") : nullptr;
+        const char* tag_end = *text == '<' ? closing.find(text, '>') : nullptr;
         if (tag_end != nullptr) {
             text += tag_end + 1 - text;
             end = text;

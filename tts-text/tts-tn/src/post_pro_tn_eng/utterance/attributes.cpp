@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstring>
+#include <initializer_list>
 #include <string_view>
 
+#include "../common/bounded_text.h"
 #include "../common/markup_tags.h"
 #include "text_reader.h"
 #include "word_filler.h"
@@ -77,6 +79,28 @@ bool set_attribute(CssmlTag& tag, std::string_view name, std::string_view value)
     return true;
 }
 
+bool set_attributes(CssmlTag& tag, std::string_view names, std::string_view values) {
+    for (;;) {
+        const std::string_view name = next_field(names, '\t');
+        if (name.empty()) return true;
+        if (!set_attribute(tag, name, next_field(values, '\t'))) return false;
+    }
+}
+
+// A chain of spans: their names, or their values, outermost first, with tabs between them.
+constexpr int CHAIN_SIZE = 200;
+
+bool fits_chain(const char* chain) {
+    return std::strlen(chain) < CHAIN_SIZE;
+}
+
+bool join(std::initializer_list<std::string_view> parts, char (&chain)[CHAIN_SIZE]) {
+    chain[0] = '\0';
+    tn::BoundedText text(chain, CHAIN_SIZE);
+    return std::all_of(parts.begin(), parts.end(),
+                       [&](std::string_view part) { return text.append(part); });
+}
+
 }  // namespace
 
 bool PostProTnEng::insert_breaktime(int n, UtteranceSyllable* utt, char* time_str) {
@@ -104,43 +128,43 @@ bool PostProTnEng::insert_prosody_in(int n, UtteranceSyllable* utt, const char* 
 
 bool PostProTnEng::insert_ssml_info_in(int n, UtteranceSyllable* utt, const char* value_str,
                                        const char* tag_type) {
-    std::string_view names = tag_type;
-    std::string_view values = value_str;
-    for (;;) {
-        const std::string_view name = next_field(names, '\t');
-        if (name.empty()) return true;
-        const std::string_view value = next_field(values, '\t');
-        if (!set_attribute(utt[n - 1].cssml_tag, name, value)) return false;
-    }
+    return set_attributes(utt[n - 1].cssml_tag, tag_type, value_str);
 }
 
 bool PostProTnEng::insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
                                     char* buffer_target, const char* tag_type) {
+    if (!fits_chain(value_str) || !fits_chain(tag_type)) return false;
     WordFiller filler(*this, n, utt);
-    if (!filler.enter(value_str, tag_type)) return false;
+    filler.enter(tag_type, value_str);
     tn::SpanBuffers buffers(_mem_handle, buffer_target);
-    return buffers && tn::read_text(*this, buffer_target, buffers.word(), buffers.tag(), filler);
+    return buffers && tn::read_text(buffer_target, buffers.word(), buffers.content(), filler);
 }
 
-// A word whose attributes cannot all be applied keeps those that could.
-bool WordFiller::word(const char* word) {
-    if (!engine_.insert_syllable(n_, utt_, word)) return false;
+// All words of a span have the same attributes. What cannot be applied to one is left out of all.
+void WordFiller::enter(const char* names, const char* values) {
+    names_ = names;
+    values_ = values;
+    static_cast<void>(set_attributes(markup_.emplace(), names_, values_));
+}
+
+bool WordFiller::word(std::string_view word) {
+    if (!engine_.store_word(utt_[n_], word)) return false;
+    if (markup_) utt_[n_].cssml_tag = *markup_;
     ++n_;
-    static_cast<void>(engine_.insert_ssml_info_in(n_, utt_, value_down_, tag_down_));
     return true;
 }
 
-// The chains grow by the span for as long as its words are read.
-bool WordFiller::span(const char* name, const char* value, char* content) {
-    const int names_before = names_.length();
-    const int values_before = values_.length();
-    const char* joint = names_before > 0 ? "\t" : "";
-    if (!names_.append(joint) || !names_.append(name)) return false;
-    if (!values_.append(joint) || !values_.append(value)) return false;
-    if (!engine_.insert_ssml_info(n_, utt_, value_down_, content, tag_down_)) return false;
-    names_.cut(names_.length() - names_before);
-    values_.cut(values_.length() - values_before);
+bool WordFiller::breaktime(std::string_view value) {
+    set_field(utt_[n_ - 1].cssml_tag.breaktime, value);
     return true;
+}
+
+bool WordFiller::span(std::string_view name, std::string_view value, char* content) {
+    char tag_down[CHAIN_SIZE];
+    char value_down[CHAIN_SIZE];
+    const std::string_view joint = names_.empty() ? "" : "\t";
+    return join({names_, joint, name}, tag_down) && join({values_, joint, value}, value_down) &&
+           engine_.insert_ssml_info(n_, utt_, value_down, content, tag_down);
 }
 
 }  // namespace kavi

@@ -4,6 +4,7 @@
 #include <cassert>
 #include <cstddef>
 #include <cstring>
+#include <string_view>
 
 #include "post_pro_tn_eng.h"
 
@@ -31,7 +32,7 @@ namespace {
 constexpr int PUNC_MAX = sizeof UtteranceSyllable::punc_arr / sizeof(PUNC_type);
 
 struct PuncName {
-    const char* name;
+    std::string_view name;
     PUNC_type punc;
     bool forces_pause;
 };
@@ -69,36 +70,41 @@ void force_pause(UtteranceSyllable& record, PAUSE_type pause) {
 }  // namespace
 
 bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf) {
+    if (!store_word(utt[n], sz_char_buf)) return false;
+    utt[n].cssml_tag = {};
+    return true;
+}
+
+bool PostProTnEng::store_word(UtteranceSyllable& record, std::string_view word) {
     constexpr std::size_t ZHUYIN_MIN = 128;
     constexpr std::size_t ZHUYIN_PER_CHARACTER = 10;
-    UtteranceSyllable& record = utt[n];
-    const std::size_t length = std::strlen(sz_char_buf);
-    const std::size_t zhuyin_size = std::max(ZHUYIN_PER_CHARACTER * length, ZHUYIN_MIN);
-    record.syllable =
-        static_cast<char*>(mem_stack_request_buf(length + 1, MEM_COMMON, _mem_handle));
+    const std::size_t size = word.size() + 1;
+    const std::size_t zhuyin_size = std::max(ZHUYIN_PER_CHARACTER * word.size(), ZHUYIN_MIN);
+    record.syllable = static_cast<char*>(mem_stack_request_buf(size, MEM_COMMON, _mem_handle));
     if (record.syllable == nullptr) return false;
     auto* zhuyin = static_cast<char*>(mem_stack_request_buf(zhuyin_size, MEM_COMMON, _mem_handle));
     if (zhuyin == nullptr) {
-        mem_stack_release_buf(record.syllable, length + 1, MEM_COMMON, _mem_handle);
+        mem_stack_release_buf(record.syllable, size, MEM_COMMON, _mem_handle);
         record.syllable = nullptr;
         return false;
     }
-    std::memcpy(record.syllable, sz_char_buf, length + 1);
-    record.syl_len = static_cast<short>(length + 1);
-    std::memset(zhuyin, 0, zhuyin_size);
+    std::memcpy(record.syllable, word.data(), word.size());
+    record.syllable[word.size()] = '\0';
+    record.syl_len = static_cast<short>(size);
+    std::memset(zhuyin, 0, ZHUYIN_MIN);  // all of it for most words, and of a known size
+    std::memset(zhuyin + ZHUYIN_MIN, 0, zhuyin_size - ZHUYIN_MIN);
     record.zhuyin = zhuyin;
     record.zy_len = static_cast<short>(zhuyin_size);
     record.pause_type = record.pausetype_ta = record.pause_type_tn = PAUSE_WORD_FE;
-    record.cssml_tag = {};
     return true;
 }
 
 // Marks beyond the tenth are dropped. An unknown name counts, as no mark.
-bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, char* punc_str) {
+bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, std::string_view punc_str) {
     UtteranceSyllable& record = utt[n - 1];
     if (record.n_punc >= PUNC_MAX) return true;
     for (const PuncName& row : PUNC_NAMES) {
-        if (std::strcmp(row.name, punc_str) != 0) continue;
+        if (row.name != punc_str) continue;
         record.punc_arr[record.n_punc] = row.punc;
         const bool second_dash = row.punc == PUNC_POZHE_FE && record.n_punc > 0 &&
                                  record.punc_arr[record.n_punc - 1] == PUNC_POZHE_FE;

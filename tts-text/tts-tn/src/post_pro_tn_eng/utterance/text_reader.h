@@ -16,48 +16,49 @@ class SpanBuffers {
     SpanBuffers(mem_stack_handle arena, const char* text)
         : size_(std::strlen(text) + 1),
           word_(arena, WORD_MAX_LEN, WORD_MAX_LEN),
-          value_(arena, size_, size_),
           content_(arena, size_, size_) {}
 
-    explicit operator bool() const { return word_ && value_ && content_; }
+    explicit operator bool() const { return word_ && content_; }
     char* word() { return word_.text(); }
-    TagBuffers tag() { return {name_, value_.text(), content_.text()}; }
+    char* content() { return content_.text(); }
 
   private:
     std::size_t size_;
-    char name_[MEMORY_SIZE_TAG_LABEL_TN] = {};
     Scratch word_;
-    Scratch value_;
     Scratch content_;
 };
 
 // Reads `text` to its end and hands what it meets to the visitor: word(word), punc(name),
 // breaktime(value) and span(name, value, content). Each answers whether to go on; false when one
-// did not. The tag buffers hold empty texts and are as large as the text.
+// did not. `word` holds WORD_MAX_LEN bytes, `content` as many as the text.
 template <typename Visitor>
-bool read_text(PostProTnEng& engine, char* text, char* word, const TagBuffers& tag,
-               Visitor& visitor) {
-    Scanner scanner(engine, text, word, tag);
-    scanner.clear_word();  // of an earlier pass, a word that nothing completed may be left
-    while (!scanner.at_end()) {
-        const bool word_completed = scanner.step();
-        bool go_on = true;
-        if (word_completed) {
-            go_on = visitor.word(word);
-            scanner.clear_word();
-        } else if (tag.name[0] == '\0') {
-            continue;
-        } else if (std::strcmp(tag.name, "punc") == 0) {
-            go_on = visitor.punc(tag.value);
-        } else if (std::strcmp(tag.name, "breaktime") == 0) {
-            go_on = visitor.breaktime(tag.value);
-        } else if (is_span_name(tag.name)) {
-            go_on = visitor.span(tag.name, tag.value, tag.content);
+bool read_text(const char* text, char* word, char* content, Visitor& visitor) {
+    const auto visit_tag = [&](const Tag& tag) {
+        switch (tag.use) {
+            case TagUse::punc: return visitor.punc(tag.value);
+            case TagUse::breaktime: return visitor.breaktime(tag.value);
+            case TagUse::span:
+                std::memcpy(content, tag.content.data(), tag.content.size());
+                content[tag.content.size()] = '\0';
+                return visitor.span(tag.name, tag.value, content);
+            default: return true;
         }
-        if (!go_on) return false;
-        tag.clear();
+    };
+    Scanner scanner(text, word);
+    scanner.clear_word();  // of an earlier pass, a word that nothing completed may be left
+    for (;;) {
+        const std::string_view plain = scanner.plain_word();
+        if (!plain.empty()) {
+            if (!visitor.word(plain)) return false;
+        } else if (scanner.at_end()) {
+            return true;
+        } else if (scanner.step()) {
+            if (!visitor.word(scanner.word())) return false;
+            scanner.clear_word();
+        } else if (const Tag* tag = scanner.tag()) {
+            if (!visit_tag(*tag)) return false;
+        }
     }
-    return true;
 }
 
 }  // namespace kavi::tn

@@ -2,6 +2,8 @@
 #ifndef KAVI_TN_WORD_COUNTER_H
 #define KAVI_TN_WORD_COUNTER_H
 
+#include <string_view>
+
 #include "post_pro_tn_eng.h"
 
 namespace kavi {
@@ -15,13 +17,13 @@ class WordCounter {
 
     WordCounter(PostProTnEng& engine, int& n, int depth) : engine_(engine), n_(n), depth_(depth) {}
 
-    bool word(const char* /*word*/) {
+    bool word(std::string_view /*word*/) {
         ++n_;
         return true;
     }
-    bool punc(const char* /*name*/) { return true; }
-    bool breaktime(const char* /*value*/) { return true; }
-    bool span(const char* /*name*/, const char* /*value*/, char* content) {
+    bool punc(std::string_view /*name*/) { return true; }
+    bool breaktime(std::string_view /*value*/) { return true; }
+    bool span(std::string_view /*name*/, std::string_view /*value*/, char* content) {
         return depth_ == DEPTH_MAX || engine_.count_words(n_, content, depth_ + 1);
     }
 

@@ -1,6 +1,5 @@
 #include "block_reader.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -8,7 +7,14 @@ namespace kavi::tool {
 
 namespace {
 
-constexpr std::size_t BLOCK_BYTES = std::size_t{64} * 1024;
+constexpr std::size_t BLOCK_BYTES = std::size_t{256} * 1024;
+
+// As std::count, but at the speed of a search, since one is far from the next.
+std::size_t count(const std::string& bytes, char c) {
+    std::size_t n = 0;
+    for (std::size_t at = bytes.find(c); at != std::string::npos; at = bytes.find(c, at + 1)) ++n;
+    return n;
+}
 
 }  // namespace
 
@@ -38,31 +44,31 @@ bool BlockReader::next(Block& block) {
     return false;
 }
 
-// The next block of the open file; at its end closes it.
+// The next block of the open file, up to its last delimiter; what is behind that begins the block
+// after it. At the end of the file closes it.
 bool BlockReader::next_of_file(Block& block) {
     block.input = name_;
     block.first = number_;
-    std::size_t searched = 0;
+    block.bytes.swap(carry_);
+    carry_.clear();
     for (;;) {
-        const std::size_t last = carry_.rfind(options_.delimiter);
-        if (last != std::string::npos && last >= searched) {
-            block.bytes.assign(carry_, 0, last + 1);
-            carry_.erase(0, last + 1);
+        const std::size_t searched = block.bytes.size();
+        block.bytes.resize(searched + BLOCK_BYTES);
+        const std::size_t n = std::fread(&block.bytes[searched], 1, BLOCK_BYTES, file_);
+        block.bytes.resize(searched + n);
+        if (n == 0) {
+            if (std::ferror(file_) != 0) failure_ = std::strerror(errno);
+            close();
             break;
         }
-        searched = carry_.size();
-        carry_.resize(searched + BLOCK_BYTES);
-        const std::size_t n = std::fread(&carry_[searched], 1, BLOCK_BYTES, file_);
-        carry_.resize(searched + n);
-        if (n > 0) continue;
-        if (std::ferror(file_) != 0) failure_ = std::strerror(errno);
-        close();
-        block.bytes.swap(carry_);
-        carry_.clear();
-        break;
+        const std::size_t last = block.bytes.rfind(options_.delimiter);
+        if (last != std::string::npos && last >= searched) {
+            carry_.assign(block.bytes, last + 1);
+            block.bytes.resize(last + 1);
+            break;
+        }
     }
-    number_ += static_cast<std::size_t>(
-        std::count(block.bytes.begin(), block.bytes.end(), options_.delimiter));
+    number_ += count(block.bytes, options_.delimiter);
     return !block.bytes.empty();
 }
 

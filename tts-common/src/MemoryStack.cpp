@@ -22,12 +22,14 @@ constexpr std::size_t ALIGNMENT = alignof(std::max_align_t);
 // Classes of 16, 32, ... 1024 bytes, then four to every doubling up to 32768.
 constexpr std::size_t SMALL_STEP = 16;
 constexpr std::size_t SMALL_MAX = 1024;
+constexpr std::size_t SMALL_SHIFT = 8;  // of a quarter of SMALL_MAX
 constexpr std::size_t CLASS_MAX = 32768;
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
 constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
 constexpr std::size_t REQUEST_MAX = std::numeric_limits<std::size_t>::max() / 4;  // of any memory
 constexpr std::size_t CHUNK_BYTES = std::size_t{64} * 1024;
 
+static_assert(std::size_t{4} << SMALL_SHIFT == SMALL_MAX);
 static_assert(SMALL_MAX << 5 == CLASS_MAX, "five doublings of four classes each");
 static_assert(SMALL_STEP % ALIGNMENT == 0, "every class keeps the alignment");
 
@@ -73,27 +75,23 @@ SizeClass class_of(std::size_t size) {
         return {steps - 1, steps * SMALL_STEP};
     }
     if (size > CLASS_MAX) return {CLASSES, round_up(size, ALIGNMENT)};
-    std::size_t base = SMALL_MAX;
-    std::size_t index = SMALL_CLASSES;
-    while (size > 2 * base) {
-        base *= 2;
-        index += 4;
-    }
-    const std::size_t quarters = (size - base + base / 4 - 1) / (base / 4);
-    return {index + quarters - 1, base + quarters * (base / 4)};
+    std::size_t shift = SMALL_SHIFT;
+    while (size > std::size_t{8} << shift) ++shift;
+    const std::size_t quarters = ((size - 1) >> shift) + 1;  // of the doubling: five to eight
+    return {SMALL_CLASSES + 4 * (shift - SMALL_SHIFT) + quarters - 5, quarters << shift};
 }
 
 }  // namespace
 
 struct tag_mem_stack_array {
+    FreeBlock* free_list[CLASSES];
     std::size_t capacity;
-    std::size_t used;
-    std::size_t peak;
+    std::size_t left;        // of the capacity
+    std::size_t least_left;  // at any time
     Chunk* first_chunk;
     Chunk* chunk;            // the one being carved
     std::size_t chunk_used;  // bytes carved from it
     LargeBlock* large;
-    FreeBlock* free_list[CLASSES];
 };
 
 namespace {
@@ -136,7 +134,7 @@ bool has_room(const tag_mem_stack_array& arena, std::size_t cost) {
 
 // Makes a chunk with room for `cost` bytes the current one: the arena's next, or a new one.
 bool next_chunk(tag_mem_stack_array& arena, std::size_t cost) {
-    if (arena.used == 0) rewind(arena);
+    if (arena.left == arena.capacity) rewind(arena);
     while (!has_room(arena, cost)) {
         Chunk** next = arena.chunk != nullptr ? &arena.chunk->next : &arena.first_chunk;
         if (*next == nullptr) {
@@ -165,6 +163,7 @@ mem_stack_handle mem_stack_create(std::size_t n_capacity) {
     if (memory == nullptr) return nullptr;
     auto* arena = new (memory) mem_stack_array{};
     arena->capacity = n_capacity != 0 ? n_capacity : std::numeric_limits<std::size_t>::max();
+    arena->left = arena->least_left = arena->capacity;
     return arena;
 }
 
@@ -184,29 +183,31 @@ void mem_stack_destroy(mem_stack_handle arena) {
 }
 
 std::size_t mem_stack_used(mem_stack_handle arena) {
-    return arena != nullptr ? arena->used : 0;
+    return arena != nullptr ? arena->capacity - arena->left : 0;
 }
 
 std::size_t mem_stack_peak(mem_stack_handle arena) {
-    return arena != nullptr ? arena->peak : 0;
+    return arena != nullptr ? arena->capacity - arena->least_left : 0;
 }
 
 namespace {
 
 void* hand_out(tag_mem_stack_array& arena, BlockHeader* block) {
-    arena.used += block->cost;
-    arena.peak = std::max(arena.peak, arena.used);
+    arena.left -= block->cost;
+    if (arena.left < arena.least_left) arena.least_left = arena.left;
     return block + 1;
 }
 
 // Serves every request. Out of line, so that the usual one does not pay for its registers.
-__attribute__((noinline)) void* request_any(std::size_t size, tag_mem_stack_array& arena) {
-    const std::size_t left = arena.capacity - arena.used;
-    if (size > std::min(left, REQUEST_MAX)) return nullptr;
+__attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
+                                            mem_stack_handle handle) {
+    if (handle == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
+    tag_mem_stack_array& arena = *handle;
+    if (size > std::min(arena.left, REQUEST_MAX)) return nullptr;
     const SizeClass wanted = class_of(size);
     const bool large = wanted.index == CLASSES;
     const std::size_t cost = wanted.bytes + (large ? sizeof(LargeBlock) : sizeof(BlockHeader));
-    if (cost > left) return nullptr;
+    if (cost > arena.left) return nullptr;
 
     BlockHeader* block = large ? new_large(arena, cost)
                          : arena.free_list[wanted.index] != nullptr
@@ -219,22 +220,21 @@ __attribute__((noinline)) void* request_any(std::size_t size, tag_mem_stack_arra
 
 // The usual request is for a small block of a class that has one free.
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
-    if (arena == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
     const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
-    if (index < SMALL_CLASSES) {
+    if (arena != nullptr && static_cast<unsigned>(type) < MEM_MAX_CNT && index < SMALL_CLASSES) {
         const FreeBlock* block = arena->free_list[index];
-        if (block != nullptr && block->header.cost <= arena->capacity - arena->used) {
+        if (block != nullptr && block->header.cost <= arena->left) {
             return hand_out(*arena, reuse(*arena, index));
         }
     }
-    return request_any(size, *arena);
+    return request_any(size, type, arena);
 }
 
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,
                           mem_stack_handle arena) {
     if (p == nullptr || arena == nullptr) return 0;
     BlockHeader* header = static_cast<BlockHeader*>(p) - 1;
-    arena->used -= header->cost;
+    arena->left += header->cost;
     if (header->size_class == CLASSES) {
         free_large(large_block(header));
     } else {

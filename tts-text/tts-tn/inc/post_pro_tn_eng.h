@@ -343,7 +343,6 @@ class PostProTnEng {
     char* number_to_string(char* sz_source_text, char* sz_target_text);
 
     // ---- utterance/ ----
-    bool store_word(UtteranceSyllable& record, std::string_view word);  // all but its markup
     bool insert_punc(int n, UtteranceSyllable* utt, std::string_view punc_str);
     bool insert_pause(int n, UtteranceSyllable* utt, char ch);
     // Null: no tag of the language, or its opening is not closed.

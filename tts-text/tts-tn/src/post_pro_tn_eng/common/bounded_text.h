@@ -13,6 +13,7 @@ class BoundedText {
     // `text` is a NUL-terminated text in a buffer of `capacity` bytes; one without a terminator
     // there counts as full.
     BoundedText(char* text, int capacity) : text_(text), capacity_(capacity) {
+        if (*text == '\0') return;  // the usual case
         const void* end = std::memchr(text, '\0', static_cast<std::size_t>(capacity));
         length_ =
             end != nullptr ? static_cast<int>(static_cast<const char*>(end) - text) : capacity;
@@ -20,11 +21,15 @@ class BoundedText {
 
     // Appends all of `words` and answers true, or nothing and answers false.
     bool append(std::string_view words) {
-        if (words.size() >= static_cast<std::size_t>(capacity_ - length_)) return false;
+        if (!has_room(words.size())) return false;
         std::memcpy(text_ + length_, words.data(), words.size());
         length_ += static_cast<int>(words.size());
         text_[length_] = '\0';
         return true;
+    }
+
+    bool has_room(std::size_t size) const {
+        return size < static_cast<std::size_t>(capacity_ - length_);
     }
 
     // Takes in what someone else has appended to the same buffer.
@@ -36,6 +41,10 @@ class BoundedText {
         text_[length_] = '\0';
     }
 
+    void cut_blanks() {
+        while (ends_with(' ')) cut(1);
+    }
+
     bool ends_with(char c) const { return length_ > 0 && text_[length_ - 1] == c; }
     int length() const { return length_; }
     char* text() { return text_; }
@@ -43,7 +52,7 @@ class BoundedText {
   private:
     char* text_;
     int capacity_;
-    int length_;
+    int length_ = 0;
 };
 
 }  // namespace kavi::tn

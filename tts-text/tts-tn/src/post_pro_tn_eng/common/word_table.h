@@ -3,15 +3,16 @@
 #define KAVI_TN_WORD_TABLE_H
 
 #include <cstddef>
-#include <cstring>
+#include <string_view>
 
 namespace kavi::tn {
 
 // The word of the first row whose key is `key`, or null.
 template <std::size_t Rows, std::size_t Width>
-const char* find_word(const char (&table)[Rows][2][Width], const char* key) {
+const char* find_word(const char (&table)[Rows][2][Width], std::string_view key) {
+    if (key.empty()) return nullptr;
     for (const auto& row : table) {
-        if (std::strcmp(row[0], key) == 0) return row[1];
+        if (row[0][0] == key[0] && key == row[0]) return row[1];
     }
     return nullptr;
 }

@@ -134,10 +134,11 @@ bool PostProTnEng::insert_ssml_info_in(int n, UtteranceSyllable* utt, const char
 bool PostProTnEng::insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
                                     char* buffer_target, const char* tag_type) {
     if (!fits_chain(value_str) || !fits_chain(tag_type)) return false;
-    WordFiller filler(*this, n, utt);
+    WordFiller filler(*this, utt + n);
     filler.enter(tag_type, value_str);
-    tn::SpanBuffers buffers(_mem_handle, buffer_target);
-    return buffers && tn::read_text(buffer_target, buffers.word(), buffers.content(), filler);
+    const bool stored = tn::read_span(buffer_target, _mem_handle, filler);
+    n = static_cast<int>(filler.record() - utt);
+    return stored;
 }
 
 // All words of a span have the same attributes. What cannot be applied to one is left out of all.
@@ -147,15 +148,8 @@ void WordFiller::enter(const char* names, const char* values) {
     static_cast<void>(set_attributes(markup_.emplace(), names_, values_));
 }
 
-bool WordFiller::word(std::string_view word) {
-    if (!engine_.store_word(utt_[n_], word)) return false;
-    if (markup_) utt_[n_].cssml_tag = *markup_;
-    ++n_;
-    return true;
-}
-
 bool WordFiller::breaktime(std::string_view value) {
-    set_field(utt_[n_ - 1].cssml_tag.breaktime, value);
+    set_field(record_[-1].cssml_tag.breaktime, value);
     return true;
 }
 
@@ -163,8 +157,12 @@ bool WordFiller::span(std::string_view name, std::string_view value, char* conte
     char tag_down[CHAIN_SIZE];
     char value_down[CHAIN_SIZE];
     const std::string_view joint = names_.empty() ? "" : "\t";
-    return join({names_, joint, name}, tag_down) && join({values_, joint, value}, value_down) &&
-           engine_.insert_ssml_info(n_, utt_, value_down, content, tag_down);
+    if (!join({names_, joint, name}, tag_down)) return false;
+    if (!join({values_, joint, value}, value_down)) return false;
+    int stored = 0;
+    const bool complete = engine_.insert_ssml_info(stored, record_, value_down, content, tag_down);
+    record_ += stored;
+    return complete;
 }
 
 }  // namespace kavi

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "post_pro_tn_eng.h"
+#include "word_filler.h"
 
 namespace kavi {
 
@@ -70,32 +70,8 @@ void force_pause(UtteranceSyllable& record, PAUSE_type pause) {
 }  // namespace
 
 bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf) {
-    if (!store_word(utt[n], sz_char_buf)) return false;
+    if (!WordFiller(*this, utt + n).word(sz_char_buf)) return false;
     utt[n].cssml_tag = {};
-    return true;
-}
-
-bool PostProTnEng::store_word(UtteranceSyllable& record, std::string_view word) {
-    constexpr std::size_t ZHUYIN_MIN = 128;
-    constexpr std::size_t ZHUYIN_PER_CHARACTER = 10;
-    const std::size_t size = word.size() + 1;
-    const std::size_t zhuyin_size = std::max(ZHUYIN_PER_CHARACTER * word.size(), ZHUYIN_MIN);
-    record.syllable = static_cast<char*>(mem_stack_request_buf(size, MEM_COMMON, _mem_handle));
-    if (record.syllable == nullptr) return false;
-    auto* zhuyin = static_cast<char*>(mem_stack_request_buf(zhuyin_size, MEM_COMMON, _mem_handle));
-    if (zhuyin == nullptr) {
-        mem_stack_release_buf(record.syllable, size, MEM_COMMON, _mem_handle);
-        record.syllable = nullptr;
-        return false;
-    }
-    std::memcpy(record.syllable, word.data(), word.size());
-    record.syllable[word.size()] = '\0';
-    record.syl_len = static_cast<short>(size);
-    std::memset(zhuyin, 0, ZHUYIN_MIN);  // all of it for most words, and of a known size
-    std::memset(zhuyin + ZHUYIN_MIN, 0, zhuyin_size - ZHUYIN_MIN);
-    record.zhuyin = zhuyin;
-    record.zy_len = static_cast<short>(zhuyin_size);
-    record.pause_type = record.pausetype_ta = record.pause_type_tn = PAUSE_WORD_FE;
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "scanner.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cstring>
 
@@ -25,10 +26,10 @@ struct TagName {
 
 // clang-format off
 constexpr TagName TAG_NAMES[] = {
+    {"punc",         TagRole::simple,  TagUse::punc},
     {"orgLen",       TagRole::simple,  TagUse::none},
     {"sil",          TagRole::simple,  TagUse::none},
     {"silratio",     TagRole::simple,  TagUse::none},
-    {"punc",         TagRole::simple,  TagUse::punc},
     {"pause",        TagRole::simple,  TagUse::none},
     {"breaktime",    TagRole::simple,  TagUse::breaktime},
     {"py",           TagRole::dropped, TagUse::none},
@@ -48,7 +49,8 @@ bool read_opening(const char* name, ForwardFinder& tag_ends, Tag& tag) {
     if (kind == std::end(TAG_NAMES)) return false;
     const char* end = tag_ends.find(name, '>');
     if (end == nullptr) return false;
-    const char* equal = std::find(name + kind->prefix.size(), end, '=');
+    const char* limit = std::min(end, name + TAG_NAME_MAX + 1);
+    const char* equal = std::find(name + kind->prefix.size(), limit, '=');
     const char* value = equal == end ? end : equal + 1;
     const auto name_length = static_cast<std::size_t>(equal - name);
     tag = {kind->role,
@@ -60,35 +62,12 @@ bool read_opening(const char* name, ForwardFinder& tag_ends, Tag& tag) {
     return name_length <= TAG_NAME_MAX;
 }
 
-// The closing tag of the content that begins at `content`: as many closings of the name are passed
-// over as it is opened again before the first of them. Null when there are not enough.
-const char* find_closing(const char* content, std::string_view name, ForwardFinder& closings) {
-    constexpr int PATTERN_SIZE = 1024;
-    char sz_temp_buf[PATTERN_SIZE];
-    char recursize_tag_before[PATTERN_SIZE];
-    const char* any_closing = closings.find(content, "</");
-    if (any_closing == nullptr) return nullptr;
-    const auto length = static_cast<int>(name.size());
-    tts_snprintf(sz_temp_buf, PATTERN_SIZE, "</%.*s>", length, name.data());
-    tts_snprintf(recursize_tag_before, PATTERN_SIZE, "<%.*s=", length, name.data());
-    const char* closing = std::strstr(any_closing, sz_temp_buf);
-    if (closing == nullptr) return nullptr;
-    const std::string_view before(content, static_cast<std::size_t>(closing - content));
-    const std::string_view opening = recursize_tag_before;
-    for (std::size_t nested = before.find(opening); nested != std::string_view::npos;
-         nested = before.find(opening, nested + opening.size())) {
-        closing = std::strstr(closing + 1, sz_temp_buf);
-        if (closing == nullptr) return nullptr;
-    }
-    return closing;
-}
-
 // Reads on to the end of a paired tag. One that is never closed: a span runs to the end of the
 // text; any other is passed over by itself, so that the words behind it stay.
-void read_content(Tag& tag, ForwardFinder& closings) {
+void read_content(Tag& tag, PairedTags& paired_tags) {
     if (tag.role == TagRole::simple) return;
     const char* content = tag.behind;
-    const char* pc_temp = find_closing(content, tag.name, closings);
+    const char* pc_temp = paired_tags.find_closing(content, tag.name);
     const bool closed = pc_temp != nullptr;
     if (!closed) pc_temp = tag.use == TagUse::span ? content + std::strlen(content) : content;
     assert(pc_temp != NULL);
@@ -142,7 +121,7 @@ Scanner::Met Scanner::meet_tag() {
     if (has_word() && (is_closing || tag_.use != TagUse::none)) return Met::word_end;
     const char* content = tag_.behind;
     met_tag_ = !is_closing;  // outside its span, a closing tag closes nothing
-    if (met_tag_) read_content(tag_, closings_);
+    if (met_tag_) read_content(tag_, paired_tags_);
     at_ = tag_.behind;
     // Behind a tag that should have been closed, nothing else would complete the last word.
     const bool never_closed = tag_.role != TagRole::simple && at_ == content;
@@ -155,20 +134,20 @@ char* PostProTnEng::parse_tag(char* sz_text, char* sz_tag, char* sz_value, char*
     assert(*sz_text == '<');
     sz_tag[0] = sz_value[0] = sz_target[0] = '\0';
     tn::ForwardFinder tag_ends;
-    tn::ForwardFinder closings;
+    tn::PairedTags paired_tags(nullptr);
     tn::Tag tag = {};
     if (!tn::read_opening(sz_text + 1, tag_ends, tag)) return nullptr;
-    tn::read_content(tag, closings);
+    tn::read_content(tag, paired_tags);
     tn::copy_parts(tag, sz_tag, sz_value, sz_target);
     return sz_text + (tag.behind - sz_text);
 }
 
 bool PostProTnEng::filter_text(char* p_word_text, char* sz_char_buf, char* sz_tag, char* sz_value,
                                char* sz_target, int& i, int& j, int& mark) {
-    tn::Scanner scanner(p_word_text, sz_char_buf, i, j);
+    tn::Scanner scanner(p_word_text + i, sz_char_buf, j, nullptr);
     mark = scanner.step() ? 1 : 0;
     if (const tn::Tag* tag = scanner.tag()) tn::copy_parts(*tag, sz_tag, sz_value, sz_target);
-    i = scanner.position();
+    i = static_cast<int>(scanner.at() - p_word_text);
     j = scanner.word_length();
     return true;
 }

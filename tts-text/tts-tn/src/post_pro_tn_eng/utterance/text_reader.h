@@ -4,61 +4,81 @@
 #define KAVI_TN_TEXT_READER_H
 
 #include <cstring>
+#include <string_view>
 
+#include "../common/runs.h"
 #include "../common/scratch.h"
 #include "scanner.h"
 
 namespace kavi::tn {
 
-// The working buffers for reading the text of a span. False when the arena refused one.
-class SpanBuffers {
-  public:
-    SpanBuffers(mem_stack_handle arena, const char* text)
-        : size_(std::strlen(text) + 1),
-          word_(arena, WORD_MAX_LEN, WORD_MAX_LEN),
-          content_(arena, size_, size_) {}
+// Hands what a tag tells to the visitor. False when that said so, or the arena had no room for the
+// content of a span.
+template <typename Visitor>
+bool visit_tag(const Tag& tag, mem_stack_handle arena, Visitor& visitor) {
+    switch (tag.use) {
+        case TagUse::punc: return visitor.punc(tag.value);
+        case TagUse::breaktime: return visitor.breaktime(tag.value);
+        case TagUse::span: {
+            const std::size_t length = tag.content.size();
+            Scratch content(arena, length + 1, length + 1);
+            if (!content) return false;
+            std::memcpy(content.text(), tag.content.data(), length);
+            content.text()[length] = '\0';
+            return visitor.span(tag.name, tag.value, content.text());
+        }
+        default: return true;
+    }
+}
 
-    explicit operator bool() const { return word_ && content_; }
-    char* word() { return word_.text(); }
-    char* content() { return content_.text(); }
-
-  private:
-    std::size_t size_;
-    Scratch word_;
-    Scratch content_;
-};
+// Reads what is no usual word, step by step: at least up to `end`, and on to where no word has
+// begun.
+template <typename Visitor>
+bool read_by_steps(Scanner& scanner, const char* end, mem_stack_handle arena, Visitor& visitor) {
+    do {
+        bool go_on = true;
+        if (scanner.step()) {
+            go_on = visitor.word(scanner.word());
+            scanner.clear_word();
+        } else if (const Tag* tag = scanner.tag()) {
+            go_on = visit_tag(*tag, arena, visitor);
+        }
+        if (!go_on) return false;
+    } while (!scanner.at_end() && (scanner.has_word() || scanner.at() < end));
+    return true;
+}
 
 // Reads `text` to its end and hands what it meets to the visitor: word(word), punc(name),
 // breaktime(value) and span(name, value, content). Each answers whether to go on; false when one
-// did not. `word` holds WORD_MAX_LEN bytes, `content` as many as the text.
+// did not, or the arena refused a buffer. A NUL follows the text; `word` holds WORD_MAX_LEN bytes.
 template <typename Visitor>
-bool read_text(const char* text, char* word, char* content, Visitor& visitor) {
-    const auto visit_tag = [&](const Tag& tag) {
-        switch (tag.use) {
-            case TagUse::punc: return visitor.punc(tag.value);
-            case TagUse::breaktime: return visitor.breaktime(tag.value);
-            case TagUse::span:
-                std::memcpy(content, tag.content.data(), tag.content.size());
-                content[tag.content.size()] = '\0';
-                return visitor.span(tag.name, tag.value, content);
-            default: return true;
-        }
-    };
-    Scanner scanner(text, word);
-    scanner.clear_word();  // of an earlier pass, a word that nothing completed may be left
-    for (;;) {
-        const std::string_view plain = scanner.plain_word();
-        if (!plain.empty()) {
-            if (!visitor.word(plain)) return false;
-        } else if (scanner.at_end()) {
+bool read_text(std::string_view text, char* word, mem_stack_handle arena, Visitor& visitor) {
+    Scanner scanner(text.data(), word, 0, arena);
+    scanner.clear_word();
+    const char* const text_end = text.data() + text.size();
+    for (const char* at = text.data();;) {
+        const char* end = skip_word(at, text_end);
+        const auto length = static_cast<std::size_t>(end - at);
+        if (length > 0 && length < WORD_MAX_LEN && *end == ' ') {
+            if (!visitor.word({at, length})) return false;  // the usual word: nothing is copied
+            at = end + 1;
+        } else if (*at == ' ') {
+            ++at;
+        } else if (*at == '\0') {
             return true;
-        } else if (scanner.step()) {
-            if (!visitor.word(scanner.word())) return false;
-            scanner.clear_word();
-        } else if (const Tag* tag = scanner.tag()) {
-            if (!visit_tag(*tag)) return false;
+        } else {
+            scanner.go_on_at(at);
+            if (!read_by_steps(scanner, end, arena, visitor)) return false;
+            at = scanner.at();
         }
     }
+}
+
+// The same for the text of a span, with a word buffer of its own.
+template <typename Visitor>
+bool read_span(std::string_view text, mem_stack_handle arena, Visitor& visitor) {
+    Scratch word(arena, WORD_MAX_LEN, WORD_MAX_LEN);
+    return word && read_text(text, word.text(), arena, visitor);
 }
 
 }  // namespace kavi::tn

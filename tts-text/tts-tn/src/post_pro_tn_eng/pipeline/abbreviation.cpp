@@ -31,7 +31,23 @@ constexpr auto make_dot_offsets() {
 // Where the first "." stands in each abbreviation.
 constexpr auto DOT_OFFSETS = make_dot_offsets();
 
-char in_case_form(const char* abbreviation, int i, int form) {
+constexpr auto make_rows_ending_in() {
+    std::array<unsigned, 26> rows{};
+    for (std::size_t row = 0; row < DOT_OFFSETS.size(); ++row) {
+        const char last = to_lower(s_spec_word_abbrevi[row][0][DOT_OFFSETS[row] - 1]);
+        rows[static_cast<std::size_t>(last - 'a')] |= 1U << row;
+    }
+    return rows;
+}
+
+// For each letter, a bit for every row that has it before its first ".", in whatever case.
+constexpr auto ROWS_ENDING_IN = make_rows_ending_in();
+
+unsigned rows_ending_in(char c) {
+    return is_letter(c) ? ROWS_ENDING_IN[static_cast<std::size_t>(to_lower(c) - 'a')] : 0;
+}
+
+char in_case_form(const char* abbreviation, int i, std::size_t form) {
     const char c = abbreviation[i];
     switch (form) {
         case 0: return c;
@@ -41,9 +57,17 @@ char in_case_form(const char* abbreviation, int i, int form) {
     }
 }
 
-bool has_case_form(const char* text, const char* abbreviation, int form) {
+bool has_case_form(const char* text, const char* abbreviation, std::size_t form) {
     for (int i = 0; abbreviation[i] != '\0'; ++i) {
         if (text[i] != in_case_form(abbreviation, i, form)) return false;
+    }
+    return true;
+}
+
+// Whether the text begins with the abbreviation in any case at all; few do.
+bool is_alike(const char* text, const char* abbreviation) {
+    for (int i = 0; abbreviation[i] != '\0'; ++i) {
+        if (to_lower(text[i]) != to_lower(abbreviation[i])) return false;
     }
     return true;
 }
@@ -52,27 +76,29 @@ bool has_case_form(const char* text, const char* abbreviation, int form) {
 
 // The case form that occurs at the full stop counts only when no form tried before it occurs
 // anywhere in the rest of the text: the first form that occurs is taken, wherever that is.
-bool AbbreviationSearch::is_accepted(int row, const char* stretch, const char* dot) {
+bool AbbreviationSearch::is_accepted(std::size_t row, const char* stretch, const char* dot) {
     const char* abbreviation = s_spec_word_abbrevi[row][0];
-    const int offset = DOT_OFFSETS[static_cast<std::size_t>(row)];
-    if (dot - stretch < offset) return false;
-    if (to_lower(dot[-1]) != to_lower(abbreviation[offset - 1]))
-        return false;  // most rows end here
-    for (int form = 0; form < CASE_FORMS; ++form) {
-        if (has_case_form(dot - offset, abbreviation, form)) return true;
+    const int offset = DOT_OFFSETS[row];
+    if (dot - stretch < offset || !is_alike(dot - offset, abbreviation)) return false;
+    std::size_t form = 0;
+    while (form < CASE_FORMS && !has_case_form(dot - offset, abbreviation, form)) ++form;
+    if (form == CASE_FORMS) return false;
+    while (form-- > 0) {
         char needle[sizeof s_spec_word_abbrevi[0][0]] = {};
         for (int i = 0; abbreviation[i] != '\0'; ++i) {
             needle[i] = in_case_form(abbreviation, i, form);
         }
-        if (ahead_[row][form].find(stretch, needle) != nullptr) return false;
+        if (!ahead_) ahead_.emplace();
+        if ((*ahead_)[row * CASE_FORMS + form].find(stretch, needle) != nullptr) return false;
     }
-    return false;
+    return true;
 }
 
 char* AbbreviationSearch::expand(char* stretch, const char* dot, BoundedText& target, char& stop) {
-    for (int row = 0; row < ABBREVIATIONNUMBER; ++row) {
-        if (!is_accepted(row, stretch, dot)) continue;
-        const int offset = DOT_OFFSETS[static_cast<std::size_t>(row)];
+    unsigned rows = dot > stretch ? rows_ending_in(dot[-1]) : 0;
+    for (std::size_t row = 0; rows != 0; ++row, rows >>= 1) {
+        if ((rows & 1U) == 0 || !is_accepted(row, stretch, dot)) continue;
+        const int offset = DOT_OFFSETS[row];
         target.cut(offset + 1);
         if (!target.append(s_spec_word_abbrevi[row][1]) || !target.append(" ")) return nullptr;
         return stretch + (dot - stretch) - offset + std::strlen(s_spec_word_abbrevi[row][0]);

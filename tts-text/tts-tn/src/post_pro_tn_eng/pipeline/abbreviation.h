@@ -2,6 +2,10 @@
 #ifndef KAVI_TN_ABBREVIATION_H
 #define KAVI_TN_ABBREVIATION_H
 
+#include <array>
+#include <cstddef>
+#include <optional>
+
 #include "../common/bounded_text.h"
 #include "../common/forward_finder.h"
 #include "post_pro_tn_eng.h"
@@ -18,10 +22,11 @@ class AbbreviationSearch {
     char* expand(char* stretch, const char* dot, BoundedText& target, char& stop);
 
   private:
-    bool is_accepted(int row, const char* stretch, const char* dot);
+    bool is_accepted(std::size_t row, const char* stretch, const char* dot);
 
-    static constexpr int CASE_FORMS = 4;  // as written, lower case, capitalised, capitals
-    ForwardFinder ahead_[ABBREVIATIONNUMBER][CASE_FORMS];
+    static constexpr std::size_t CASE_FORMS = 4;  // as written, lower case, capitalised, capitals
+    using Finders = std::array<ForwardFinder, ABBREVIATIONNUMBER * CASE_FORMS>;
+    std::optional<Finders> ahead_;  // few texts need any
 };
 
 }  // namespace kavi::tn

@@ -1,5 +1,7 @@
 // The pre-pass: raw text to one sentence, with markup that is well formed by itself.
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <string_view>
 
@@ -7,6 +9,7 @@
 #include "../common/bounded_text.h"
 #include "../common/forward_finder.h"
 #include "../common/markup_tags.h"
+#include "../common/runs.h"
 #include "PostProcTN.h"
 #include "abbreviation.h"
 #include "post_pro_tn_eng.h"
@@ -24,34 +27,18 @@ constexpr bool is_blank(char c) {
     return c == ' ' || c == '\t';
 }
 
-// Whether the character alone needs a decision; everything else is copied in runs.
-constexpr bool is_special(char c) {
-    switch (c) {
-        case '\0':
-        case ':':
-        case '.':
-        case '<':
-        case '?':
-        case ';':
-        case '!':
-        case ',': return true;
-        default: return false;
-    }
-}
-
 // One scan of a source text, from its start to the end of its first sentence.
 class SentenceCutter {
   public:
     SentenceCutter(char* source, char* target)
-        : source_end_(source + std::strlen(source)),
-          next_(source),
-          stretch_(source),
-          target_(target, SZ_TEXT_MAX_LEN) {}
+        : next_(source), stretch_(source), target_(target, SZ_TEXT_MAX_LEN) {
+        tags_.begin_arr_len = 0;
+    }
 
     // Writes the sentence and closes its spans. False when malformed markup stops the pass.
     bool cut() {
         drop_leading_blank();
-        while (next_ < source_end_ && stop_ == 0 && !sentence_full_) {
+        while (*next_ != '\0' && stop_ == 0 && !sentence_full_) {
             if (target_.length() > SENTENCE_MAX) break;
             if (!take_next()) return false;
         }
@@ -62,12 +49,12 @@ class SentenceCutter {
     void hand_back(char* sz_next_text) {
         while (is_blank(*next_) || *next_ == '\'' || *next_ == '"') ++next_;
         while (*next_ == '\r' || *next_ == '\n') ++next_;
-        if (next_ == source_end_) return;
+        if (*next_ == '\0') return;
         BoundedText next_text(sz_next_text, SZ_TEXT_MAX_LEN);
         for (int i = 0; i < tags_.begin_arr_len; ++i) {
             if (!next_text.append(tags_.begin_tag_arr[i])) return;
         }
-        next_text.append({next_, static_cast<std::size_t>(source_end_ - next_)});
+        next_text.append(next_);
     }
 
   private:
@@ -106,12 +93,13 @@ class SentenceCutter {
     // of blanks that ends the source loses its last.
     void run() {
         const char* begin = next_;
-        const char* limit = begin + (SENTENCE_MAX + 1 - target_.length());
-        while (next_ < limit && !is_special(*next_)) ++next_;
-        target_.append({begin, static_cast<std::size_t>(next_ - begin)});
-        const char before_last = next_ - begin > 1 ? next_[-2] : previous_;
+        const std::ptrdiff_t room = SENTENCE_MAX + 1 - target_.length();
+        const std::ptrdiff_t length = std::min(skip(COPIED, begin) - begin, room);
+        next_ += length;
+        target_.append({begin, static_cast<std::size_t>(length)});
+        const char before_last = length > 1 ? next_[-2] : previous_;
         previous_ = next_[-1];
-        if (next_ == source_end_ && is_blank(previous_) && before_last == ' ') target_.cut(1);
+        if (*next_ == '\0' && is_blank(previous_) && before_last == ' ') target_.cut(1);
     }
 
     void full_stop() {
@@ -143,7 +131,7 @@ class SentenceCutter {
     // False when the markup is malformed and the pass must stop.
     bool markup() {
         const MarkupTag* tag = find_markup_tag(next_);
-        const char* end = tag != nullptr ? closing_.find(next_, ">") : nullptr;
+        const char* end = tag != nullptr ? closing_.find(next_, '>') : nullptr;
         if (end == nullptr) {
             mark(false);
             return true;
@@ -202,14 +190,13 @@ class SentenceCutter {
         return true;
     }
 
-    char* source_end_;
     char* next_;     // the read position
     char* stretch_;  // where the next abbreviation search begins
     BoundedText target_;
     char previous_ = 0;  // the last character that the scan recorded; tags do not count
     char stop_ = 0;      // the sentence has ended
     bool sentence_full_ = false;
-    SsmlTagArr tags_ = {};
+    SsmlTagArr tags_;  // of its entries, those below begin_arr_len hold texts
     AbbreviationSearch abbreviations_;
     ForwardFinder closing_;
 };

@@ -1,5 +1,6 @@
 // Any bytes into the tokenizer, with an arena that may refuse: no byte is lost on the way to the
-// sections, and nothing but letters, blanks and tags comes out.
+// sections, nothing but letters, blanks and tags comes out, and reading a sentence piece by piece
+// gives what reading all of its sections gives.
 
 #include "fuzz_support.h"
 
@@ -9,6 +10,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string text = strict.take_refusals(data, size);
     Section* head = nullptr;
     const bool cut = strict.engine.text_to_queue(text.data(), head) == 0;
+    std::string by_sections(SZ_TEXT_MAX_LEN, '\0');
+    char nothing[] = "";
+    const bool comparable = cut && strict.arena.first_refused > LONG_MAX / 2 &&
+                            strict.engine.section_process(head, by_sections.data()) == 0 &&
+                            strict.engine.eng_text_tokenize(nothing, by_sections.data()) == 0;
     std::string sections;
     while (head != nullptr) {
         Section* next = head->m_pnext;

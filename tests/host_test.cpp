@@ -156,7 +156,7 @@ TEST(Host, ASmallArenaGetsShorterPiecesOrIsReported) {
             EXPECT_TRUE(!read.all_read || read.covered == tight.size());
         }
     }
-    EXPECT_EQ(read_by_layer(text, 8000).records,
+    EXPECT_EQ(read_by_layer(text, 4000).records,
               (std::vector<std::string>{"|One|two|three|four", "|five|six|seven|eight|nine|ten+ju!",
                                         "|Yes+ju!", "|No+ju!"}));
 }

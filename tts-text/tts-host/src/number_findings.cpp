@@ -95,7 +95,8 @@ void find_unread_numbers(PostProTnEng& engine, mem_stack_handle arena, char* nor
     char speakable[SZ_TEXT_MAX_LEN] = {};
     std::size_t length = 0;
     LongNumbers numbers(source);
-    SectionDispatcher dispatcher(engine, queue.head, speakable);
+    tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
+    SectionDispatcher dispatcher(engine, queue.head, output);
     while (Section* first = dispatcher.section()) {
         const ReadingRule rule = dispatcher.step();
         const Section* last = dispatcher.section();

@@ -81,7 +81,8 @@ class TtsExplainer::State {
         char speakable[SZ_TEXT_MAX_LEN] = {};
         std::size_t length = 0;
         std::size_t at = 0;
-        SectionDispatcher dispatcher(engine_, queue.head, speakable);
+        tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
+        SectionDispatcher dispatcher(engine_, queue.head, output);
         while (Section* first = dispatcher.section()) {
             // Taken down before the step, which may rewrite them: of a step, at most its range.
             std::vector<std::string> ahead;

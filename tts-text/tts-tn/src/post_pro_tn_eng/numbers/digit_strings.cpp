@@ -12,16 +12,13 @@ namespace kavi {
 // the digits behind them are not read. A group that the arena refuses is missing from the reading.
 char* PostProTnEng::number_to_string(char* sz_source_text, char* sz_target_text) {
     constexpr int GROUPS_MAX = 4;
-    char separator[] = ",";
     tn::SectionQueue groups(_mem_handle);
     std::size_t left = std::strlen(sz_source_text);
     const char* digits = sz_source_text;
     for (int n = 0; n < GROUPS_MAX && left > 0; ++n) {
-        if (n > 0) add_section(separator, groups.head);
+        if (n > 0) groups.append(",");
         const std::size_t length = left % 3 != 0 ? left % 3 : 3;
-        char group[4] = {};
-        std::memcpy(group, digits, length);
-        add_section(group, groups.head);
+        groups.append({digits, length});
         digits += length;
         left -= length;
     }

@@ -6,57 +6,27 @@
 #include "../common/sections.h"
 #include "../readers/amounts.h"
 #include "../readers/parts.h"
+#include "mark_readings.h"
 
 namespace kavi {
 
 using namespace tn;
 
-namespace {
+SectionDispatcher::SectionDispatcher(PostProTnEng& engine, Section* head, BoundedText& output)
+    : engine_(engine), output_(output), section_(head) {
+    reading_[0] = '\0';
+}
 
-// Marks that are read by themselves: what is written behind a number section, and otherwise.
-struct MarkReading {
-    char mark;
-    std::string_view behind_number;
-    std::string_view otherwise;
-};
-
-// clang-format off
-constexpr MarkReading MARK_READINGS[] = {
-    {',',  "<punc=dou> ",    "<punc=dou> "},
-    {'.',  "<punc=ju> ",     "<punc=ju> "},
-    {':',  "<punc=mao> ",    "<punc=mao> "},
-    {';',  "<punc=fen> ",    "<punc=fen> "},
-    {'"',  "<punc=zuoyin> ", "<punc=zuoyin> "},
-    {'?',  "<punc=wen>",     "<punc=wen>"},
-    {')',  "<punc=youkuo>",  "<punc=youkuo>"},
-    {'{',  "<punc=zuokuo>",  "<punc=zuokuo>"},
-    {'}',  "<punc=youkuo>",  "<punc=youkuo>"},
-    {'[',  "<punc=zuokuo>",  "<punc=zuokuo>"},
-    {']',  "<punc=youkuo>",  "<punc=youkuo>"},
-    {'*',  "multiply ",      "asterisk "},
-    {'/',  "divide ",        " "},
-    {'%',  "percent ",       " "},
-    {'=',  "equal ",         "equal "},
-    {'>',  "larger ",        "larger "},
-    {'@',  "at ",            "at "},
-    {'#',  " ",              " "},
-};
-// clang-format on
-
-}  // namespace
-
-SectionDispatcher::SectionDispatcher(PostProTnEng& engine, Section* head, char* sz_target_text)
-    : engine_(engine), output_(sz_target_text, SZ_TEXT_MAX_LEN), section_(head) {}
-
-int SectionDispatcher::run() {
+ReadingRule SectionDispatcher::run() {
+    ReadingRule rule = ReadingRule::silent;
     while (section_ != nullptr) {
         const Section* first = section_;
-        const ReadingRule rule = step();
-        if (rule == ReadingRule::full) return -1;
-        if (rule == ReadingRule::end) return 0;
+        rule = step();
+        if (rule == ReadingRule::full || rule == ReadingRule::end) break;
+        if (section_ == nullptr) return ReadingRule::end;  // a reader ran out of sections
         advance(first);
     }
-    return 0;
+    return rule;
 }
 
 ReadingRule SectionDispatcher::step() {
@@ -224,11 +194,9 @@ ReadingRule SectionDispatcher::mark() {
             return append(" ", ReadingRule::mark);
         default: break;
     }
-    for (const MarkReading& row : MARK_READINGS) {
-        if (row.mark != *text) continue;
-        return append(behind_number ? row.behind_number : row.otherwise, ReadingRule::mark);
-    }
-    return ReadingRule::silent;
+    const MarkReading* row = find_mark(*text);
+    if (row == nullptr) return ReadingRule::silent;
+    return append(behind_number ? row->behind_number : row->otherwise, ReadingRule::mark);
 }
 
 // A markup tag, or a "<" of the text.
@@ -246,7 +214,8 @@ ReadingRule SectionDispatcher::smaller() {
 }
 
 int PostProTnEng::section_process(Section* p_section, char* sz_target_text) {
-    return SectionDispatcher(*this, p_section, sz_target_text).run();
+    tn::BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
+    return SectionDispatcher(*this, p_section, output).run() == ReadingRule::full ? -1 : 0;
 }
 
 }  // namespace kavi

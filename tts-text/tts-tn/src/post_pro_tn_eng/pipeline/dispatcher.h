@@ -40,11 +40,11 @@ enum class ReadingRule {
 // the step, what it consumed last. Nothing of it outlives the walk.
 class SectionDispatcher {
   public:
-    // Everything is appended to `sz_target_text`, a text in a buffer of SZ_TEXT_MAX_LEN bytes.
-    SectionDispatcher(PostProTnEng& engine, Section* head, char* sz_target_text);
+    // Everything is appended to `output`, a text in a buffer of SZ_TEXT_MAX_LEN bytes.
+    SectionDispatcher(PostProTnEng& engine, Section* head, tn::BoundedText& output);
 
-    // 0 when the queue has been read or a reader ended it, -1 when an append did not fit.
-    int run();
+    // Walks to the end of the queue, or as far as a rule lets it. The rule of the last step.
+    ReadingRule run();
 
     // For a walk of one's own: while there is a section, step, and go on from it unless the rule
     // was full or end.
@@ -93,11 +93,11 @@ class SectionDispatcher {
     bool is_month(Section* section);
 
     PostProTnEng& engine_;
-    tn::BoundedText output_;
-    Section* section_;                 // the one at hand
-    char reading_[WORD_MAX_LEN] = {};  // what the reader of this step wrote
-    NextSection amount_end_;           // the next one that is no part of an amount of money
-    NextSection greater_;              // the next ">"
+    tn::BoundedText& output_;
+    Section* section_;            // the one at hand
+    char reading_[WORD_MAX_LEN];  // what the reader of this step wrote
+    NextSection amount_end_;      // the next one that is no part of an amount of money
+    NextSection greater_;         // the next ">"
 };
 
 }  // namespace kavi

@@ -3,29 +3,12 @@
 #include <cassert>
 #include <cstring>
 
-#include "../common/ascii.h"
-#include "../common/word_table.h"
+#include "months.h"
 #include "parts.h"
 
 namespace kavi {
 
 using namespace tn;
-
-namespace {
-
-// The full name of the month that a text names, or null. Every key is a number or begins with a
-// capital letter, so most words are answered by their first character.
-const char* month_name(const char* text) {
-    if (is_digit(*text)) return find_word(s_number_to_month, text);
-    if (!is_upper(*text)) return nullptr;
-    if (const char* name = find_word(s_string_to_month, text)) return name;
-    for (const auto& row : s_string_to_month) {
-        if (std::strcmp(row[1], text) == 0) return row[1];
-    }
-    return nullptr;
-}
-
-}  // namespace
 
 int PostProTnEng::month_def(char* sz_source) {
     return month_name(sz_source) != nullptr ? 1 : 0;

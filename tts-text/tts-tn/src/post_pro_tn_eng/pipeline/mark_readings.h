@@ -1,0 +1,66 @@
+// What is written for the marks that are read by themselves.
+#ifndef KAVI_TN_MARK_READINGS_H
+#define KAVI_TN_MARK_READINGS_H
+
+#include <string_view>
+
+namespace kavi::tn {
+
+// A mark's words behind a number section, and otherwise. A mark that is in no row and needs no
+// reader is silent.
+struct MarkReading {
+    char mark;
+    std::string_view behind_number;
+    std::string_view otherwise;
+};
+
+// clang-format off
+inline constexpr MarkReading MARK_READINGS[] = {
+    {',',  "<punc=dou> ",    "<punc=dou> "},
+    {'.',  "<punc=ju> ",     "<punc=ju> "},
+    {':',  "<punc=mao> ",    "<punc=mao> "},
+    {';',  "<punc=fen> ",    "<punc=fen> "},
+    {'"',  "<punc=zuoyin> ", "<punc=zuoyin> "},
+    {'?',  "<punc=wen>",     "<punc=wen>"},
+    {')',  "<punc=youkuo>",  "<punc=youkuo>"},
+    {'{',  "<punc=zuokuo>",  "<punc=zuokuo>"},
+    {'}',  "<punc=youkuo>",  "<punc=youkuo>"},
+    {'[',  "<punc=zuokuo>",  "<punc=zuokuo>"},
+    {']',  "<punc=youkuo>",  "<punc=youkuo>"},
+    {'*',  "multiply ",      "asterisk "},
+    {'/',  "divide ",        " "},
+    {'%',  "percent ",       " "},
+    {'=',  "equal ",         "equal "},
+    {'>',  "larger ",        "larger "},
+    {'@',  "at ",            "at "},
+    {'#',  " ",              " "},
+};
+// clang-format on
+
+// The row of a mark, or null.
+constexpr const MarkReading* find_mark(char mark) {
+    for (const MarkReading& row : MARK_READINGS) {
+        if (row.mark == mark) return &row;
+    }
+    return nullptr;
+}
+
+// Whether the mark reads the same wherever it stands, and at one go.
+constexpr bool is_plain_mark(char mark) {
+    switch (mark) {
+        case '<':
+        case '(':
+        case '+':
+        case '-':
+        case '~':
+        case '\'':
+        case '$': return false;
+        default: break;
+    }
+    const MarkReading* row = find_mark(mark);
+    return row == nullptr || row->behind_number == row->otherwise;
+}
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_MARK_READINGS_H

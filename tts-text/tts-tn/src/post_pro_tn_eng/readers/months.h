@@ -1,0 +1,14 @@
+// The names of months.
+#ifndef KAVI_TN_MONTHS_H
+#define KAVI_TN_MONTHS_H
+
+#include <string_view>
+
+namespace kavi::tn {
+
+// The full name of the month that a section's text names, by number, abbreviation or name, or null.
+const char* month_name(std::string_view text);
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_MONTHS_H

@@ -106,6 +106,10 @@ const std::vector<Kind> WORST = {
              return "<poem" + distinct_name(n++) + "=";
          });
      }},
+    {"unpaired",
+     [](std::size_t bytes, unsigned) {
+         return repeated("<py=>a ", bytes / 3 * 2) + repeated("</py>", bytes / 3);
+     }},
     {"near-misses", [](std::size_t bytes, unsigned) { return repeated("1.1 Dt. ", bytes); }},
 };
 

@@ -1,7 +1,8 @@
-// Reads the prose corpus so many times and says how many bytes each time was. scripts/bench counts
-// the instructions of two such runs; their difference is what the calls take. Usage:
-// bench_instructions normalize|tokenize|build|all|loop TIMES A call before the one named is made
-// too, so that the difference of two names is one call's own.
+// What scripts/bench counts the instructions of. It says how many bytes it has read. Usage:
+//   bench_instructions all TIMES          the prose corpus through the three calls, so many times
+//   bench_instructions loop TIMES         the same through the loop that they are compared with
+//   bench_instructions build BYTES KIND   one text of the kind straight into the builder
+//   bench_instructions print BYTES        prints so much of the prose corpus
 
 #include <cstdio>
 #include <cstdlib>
@@ -10,34 +11,51 @@
 #include "corpus.h"
 #include "peers.h"
 
-int main(int argc, char** argv) {
-    using namespace kavi::bench;
-    if (argc != 3) return 2;
-    const std::string what = argv[1];
+namespace kavi::bench {
+namespace {
+
+const Kind& kind_named(const std::string& name) {
+    for (const auto* kinds : {&ORDINARY, &WORST}) {
+        for (const Kind& kind : *kinds) {
+            if (name == kind.name) return kind;
+        }
+    }
+    std::exit(2);
+}
+
+std::size_t run(const std::string& what, std::size_t n, const std::string& kind) {
     if (what == "print") {
-        for (const std::string& text :
-             paragraphs(ORDINARY[0], std::strtoul(argv[2], nullptr, 10))) {
+        std::size_t bytes = 0;
+        for (const std::string& text : paragraphs(ORDINARY[0], n)) {
+            bytes += text.size();
             std::puts(text.c_str());
         }
-        return 0;
+        return bytes;
+    }
+    Calls calls;
+    if (what == "build") {
+        std::string text = kind_named(kind).sentence(n, 1);
+        return calls.build(text.data()) > 0 ? text.size() : 0;
     }
     const auto texts = paragraphs(ORDINARY[0], 20000);
-    Calls calls;
     std::size_t bytes = 0;
-    for (int time = 0; time < std::atoi(argv[2]); ++time) {
+    for (std::size_t time = 0; time < n; ++time) {
         for (const std::string& text : texts) {
-            bytes += text.size();
-            if (what == "loop") {
-                bytes += count_words(text) == 0 ? 1 : 0;
-                continue;
-            }
-            calls.normalize(text, [&](char* sentence) {
-                if (what == "normalize") return;
-                char* speakable = calls.tokenize(sentence);
-                if (what != "tokenize") calls.build(speakable);
-            });
+            const bool has_words = what == "loop" ? count_words(text) > 0 : calls.all(text) > 0;
+            if (has_words) bytes += text.size();
         }
     }
-    std::printf("%zu\n", bytes);
+    return bytes;
+}
+
+}  // namespace
+}  // namespace kavi::bench
+
+int main(int argc, char** argv) {
+    if (argc < 3) return 2;
+    const std::string what = argv[1];
+    const std::size_t bytes = kavi::bench::run(what, std::strtoul(argv[2], nullptr, 10),
+                                               argc > 3 ? argv[3] : kavi::bench::ORDINARY[0].name);
+    if (what != "print") std::printf("%zu\n", bytes);
     return 0;
 }

@@ -13,10 +13,9 @@ for run in json.loads((built / "times.json").read_text())["benchmarks"]:
     word_ns[run["name"]] = run["cpu_time"] / max(run["words"], 1)
 instructions = {}  # for a byte
 for line in (built / "instructions.txt").read_text().splitlines():
-    what, once, eleven, all_bytes = line.split()
-    instructions[what] = (int(eleven) - int(once)) / 10 / (int(all_bytes) / 11)
-instructions["build"] = instructions["all"] - instructions["tokenize"]
-instructions["tokenize"] -= instructions["normalize"]
+    what, count, all_bytes = line.split()
+    instructions[what] = int(count) / int(all_bytes)
+instructions["all"] = sum(instructions[what] for what in ("normalize", "tokenize", "build"))
 seconds = dict(line.split() for line in (built / "tool.txt").read_text().splitlines())
 missed = 0
 
@@ -53,8 +52,10 @@ if "prose/flite" in rate:
     goal("all calls on prose, times the rate of flite (at least 50)", rate["prose/all"] / rate["prose/flite"],
          rate["prose/all"] / rate["prose/flite"] >= 50)
 for (kind, what), cost in lengths.items():
-    short, most = {"length": (256, 1.3), "builder": (100000, 2), "host": (10000, 1.2)}[what]
+    short, most = {"length": (256, 1.3), "builder": (100000, 1.1), "host": (10000, 1.2)}[what]
     long = max(cost)
+    if what == "builder":  # so many records do not fit a cache: counted, since timed it measures the memory
+        cost = {length: instructions[f"{kind}/{length}"] for length in cost}
     goal(f"{kind}, {what}: a byte of {long} to one of {short} (at most {most})", cost[long] / cost[short],
          cost[long] / cost[short] <= most)
 tool = 100e6 / float(seconds["1"])

@@ -5,11 +5,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <limits>
 #include <string>
+#include <vector>
 
 #include "common/ascii.h"
 #include "post_pro_tn_eng.h"
 #include "records.h"
+#include "step_reader.h"
 #include "strict_services.h"
 
 namespace kavi::fuzz {
@@ -36,6 +39,8 @@ struct StrictEngine {
         return text.c_str();
     }
 
+    bool may_refuse() const { return arena.first_refused != std::numeric_limits<long>::max(); }
+
     std::string tokenize(char* text) {
         std::string target(SZ_TEXT_MAX_LEN, '\0');
         const bool read = engine.eng_text_tokenize(text, target.data()) == 0;
@@ -51,8 +56,9 @@ struct StrictEngine {
         return speakable;
     }
 
-    // Builds and releases; nothing may stay in use, and no record may be half written.
-    void build(char* text) {
+    // Builds and releases; nothing may stay in use, and no record may be half written. The words,
+    // or none when the builder failed.
+    std::vector<std::string> build(char* text) {
         UtteranceSyllable* utt = nullptr;
         int n_utt = -1;
         const int result = engine.eng_text_to_utterance_syllable(text, utt, n_utt);
@@ -61,8 +67,11 @@ struct StrictEngine {
             require((utt[i].syllable == nullptr) == (utt[i].zhuyin == nullptr));
             require(utt[i].syllable != nullptr || result == -1);
         }
+        std::vector<std::string> words;
+        if (result == 0) words = words_of_records(utt, n_utt);
         release(utt, n_utt, &arena);
         require(arena.in_use.empty());
+        return words;
     }
 
     tag_mem_stack_array arena;

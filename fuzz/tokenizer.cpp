@@ -10,20 +10,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string text = strict.take_refusals(data, size);
     Section* head = nullptr;
     const bool cut = strict.engine.text_to_queue(text.data(), head) == 0;
+    std::string sections;
+    for (const Section* s = head; s != nullptr; s = s->m_pnext) sections += s->sz_char;
+    fuzz::require(cut ? sections == text : text.compare(0, sections.size(), sections) == 0);
+
     std::string by_sections(SZ_TEXT_MAX_LEN, '\0');
     char nothing[] = "";
-    const bool comparable = cut && strict.arena.first_refused > LONG_MAX / 2 &&
+    const bool comparable = cut && !strict.may_refuse() &&
                             strict.engine.section_process(head, by_sections.data()) == 0 &&
                             strict.engine.eng_text_tokenize(nothing, by_sections.data()) == 0;
-    std::string sections;
     while (head != nullptr) {
         Section* next = head->m_pnext;
-        sections += head->sz_char;
         mem_stack_release_buf(head, 0, MEM_COMMON, &strict.arena);
         head = next;
     }
-    fuzz::require(cut ? sections == text : text.compare(0, sections.size(), sections) == 0);
     strict.arena.requests = 0;
-    strict.tokenize(text.data());
+    const std::string by_pieces = strict.tokenize(text.data());
+    fuzz::require(!comparable || by_pieces == by_sections.c_str());
     return 0;
 }

@@ -1,6 +1,9 @@
+#include <random>
+
 #include "engine_peer.h"
 #include "expect_table.h"
 #include "records.h"
+#include "step_reader.h"
 
 namespace kavi {
 namespace {
@@ -118,6 +121,25 @@ TEST_F(Utterance, EveryCapacityGivesSuccessOrCleanFailure) {
         mem_stack_destroy(small);
     }
     engine.init(arena);
+}
+
+// More unclosed tags than a scan searches for one by one, among closed ones of the same names.
+TEST_F(Utterance, IsCutIntoTheSameWordsByStepsHoweverTagsAreClosed) {
+    const std::vector<std::string> pieces = {"<py=1>",      "</py>",      "<pya=>",    "</pya>",
+                                             "<py>",        "<letter=b>", "<poem=>",   "</poem>",
+                                             "</x>",        "a ",         "<poemx=2>", "</poemx",
+                                             "<py1=</py1>", "bc",         " <"};
+    std::minstd_rand random(1);
+    for (int n = 0; n < 2000; ++n) {
+        std::string text;
+        for (int i = 0; i < 60; ++i) text += pieces[random() % pieces.size()];
+        UtteranceSyllable* utt = nullptr;
+        int n_utt = 0;
+        if (engine.eng_text_to_utterance_syllable(text.data(), utt, n_utt) == 0) {
+            EXPECT_EQ(words_of_records(utt, n_utt), words_by_steps(engine, text)) << text;
+        }
+        kavi::release(utt, n_utt, arena);
+    }
 }
 
 TEST_F(Utterance, StepsAndCountsByThemselves) {

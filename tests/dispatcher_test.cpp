@@ -27,9 +27,27 @@ TEST_F(Dispatcher, AppendsToWhatTheTargetHolds) {
     char target[SZ_TEXT_MAX_LEN] = "a ";
     EXPECT_EQ(engine.eng_text_tokenize(sentence, target), 0);
     EXPECT_STREQ(target, "a b  two");
+    char plain[] = "b c";
+    EXPECT_EQ(engine.eng_text_tokenize(plain, target), 0);
+    EXPECT_STREQ(target, "a b  twob c");
     std::string full(SZ_TEXT_MAX_LEN, 'x');  // no terminator, no room
-    EXPECT_EQ(engine.eng_text_tokenize(sentence, full.data()), -1);
-    EXPECT_EQ(full, std::string(SZ_TEXT_MAX_LEN, 'x'));
+    char blank[] = " ";
+    for (char* text : {sentence, plain, blank}) {
+        EXPECT_EQ(engine.eng_text_tokenize(text, full.data()), -1);
+        EXPECT_EQ(full, std::string(SZ_TEXT_MAX_LEN, 'x'));
+    }
+}
+
+TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
+    std::string words;
+    while (words.size() < SZ_TEXT_MAX_LEN) words += "word ";
+    Section* head = nullptr;
+    EXPECT_EQ(engine.text_to_queue(words.data(), head), 0);
+    char target[SZ_TEXT_MAX_LEN] = {};
+    EXPECT_EQ(engine.section_process(head, target), -1);
+    EXPECT_EQ(target, words.substr(0, SZ_TEXT_MAX_LEN - 1));
+    EXPECT_EQ(engine.section_process(nullptr, target), 0);
+    release(head);
 }
 
 TEST_F(Dispatcher, WholePipeline) {

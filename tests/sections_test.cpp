@@ -47,6 +47,8 @@ TEST_F(Sections, OneIsAppendedZeroFilledOrNoneForNoText) {
     EXPECT_EQ(std::string(head->sz_char, WORD_MAX_LEN), "word" + std::string(496, '\0'));
     EXPECT_EQ(std::string(head->m_pnext->sz_char), std::string(499, '7'));
     EXPECT_EQ(head->m_pnext->m_nmark, NUMBERSYMBOL);
+    EXPECT_EQ(engine.add_section(word, head), 0);
+    EXPECT_STREQ(head->m_pnext->m_pnext->sz_char, "word");
     release(head);
 }
 
@@ -58,6 +60,8 @@ TEST_F(Sections, RefusedBlockFailsAndKeepsWhatIsThere) {
     EXPECT_EQ(engine.text_to_queue(text, head), -1);
     ASSERT_NE(head, nullptr);
     EXPECT_STREQ(head->sz_char, "a");
+    EXPECT_EQ(engine.add_section(text, head), -1);
+    EXPECT_EQ(head->m_pnext, nullptr);
     EXPECT_EQ(tokenize("a b c", -1), "");
     mem_stack_destroy(small);
     engine.init(nullptr);

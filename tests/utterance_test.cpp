@@ -58,6 +58,11 @@ TEST_F(Utterance, RecordsAreSizedAndInitialised) {
         mem_stack_release_buf(utt[1].syllable, 0, MEM_COMMON, arena);
         mem_stack_release_buf(utt[1].zhuyin, 0, MEM_COMMON, arena);
     }
+    engine.init(nullptr);
+    utt[1].syllable = buffer;
+    EXPECT_FALSE(engine.insert_syllable(1, utt, "word"));
+    EXPECT_EQ(utt[1].syllable, nullptr);
+    engine.init(arena);
     EXPECT_TRUE((engine.*Peer::insert_punc)(1, utt, buffer));
     EXPECT_EQ(utt[0].n_punc, 1);
 }

@@ -22,7 +22,7 @@ class BoundedText {
     // Appends all of `words` and answers true, or nothing and answers false.
     bool append(std::string_view words) {
         if (!has_room(words.size())) return false;
-        std::memcpy(text_ + length_, words.data(), words.size());
+        words.copy(text_ + length_, words.size());
         length_ += static_cast<int>(words.size());
         text_[length_] = '\0';
         return true;

@@ -7,16 +7,16 @@
 
 namespace kavi::tn {
 
-// Holds an empty text at first, if it has room for one. False when the arena refused the buffer.
+// Holds an empty text at first. False when the arena refused the buffer.
 class Scratch {
   public:
-    // `release_size` is what the arena is told at the end: 0, or the size.
+    // `size` is not 0; `release_size` is what the arena is told at the end: 0, or the size.
     explicit Scratch(mem_stack_handle arena, std::size_t size = WORD_MAX_LEN,
                      std::size_t release_size = 0)
         : arena_(arena),
           text_(static_cast<char*>(mem_stack_request_buf(size, MEM_COMMON, arena))),
           release_size_(release_size) {
-        if (text_ != nullptr && size > 0) clear();
+        if (text_ != nullptr) clear();
     }
     ~Scratch() {
         if (text_ != nullptr) mem_stack_release_buf(text_, release_size_, MEM_COMMON, arena_);

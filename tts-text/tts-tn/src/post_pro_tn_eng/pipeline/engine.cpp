@@ -47,6 +47,7 @@ int PostProTnEng::eng_text_tokenize(char* sz_source_text, char* sz_target_text) 
     if (*sz_source_text != '\0' && !tn::Scratch(_mem_handle, sizeof(Section))) return -1;
     tn::BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
     const int length = output.length();
+    if (length == SZ_TEXT_MAX_LEN) return -1;  // no text: nothing terminates it
     const char* const text_end = sz_source_text + std::strlen(sz_source_text);
     tn::ForwardFinder tag_ends;
     bool all_plain = true;

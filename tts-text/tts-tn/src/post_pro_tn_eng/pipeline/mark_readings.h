@@ -45,10 +45,9 @@ constexpr const MarkReading* find_mark(char mark) {
     return nullptr;
 }
 
-// Whether the mark reads the same wherever it stands, and at one go.
+// Whether the mark, which is no "<", reads the same wherever it stands, and at one go.
 constexpr bool is_plain_mark(char mark) {
     switch (mark) {
-        case '<':
         case '(':
         case '+':
         case '-':

@@ -44,7 +44,7 @@ const std::string_view* SortedNames::find(std::string_view name, const char* pla
 const char* PairedTags::find_closing(const char* content, std::string_view name) {
     constexpr int FAILURES_MAX = 8;
     if (failures_ == FAILURES_MAX && !openings_) sort_tags(content);
-    const char* closing = are_sorted() ? look_up(content, name) : search(content, name);
+    const char* closing = is_sorted_ ? look_up(content, name) : search(content, name);
     if (closing == nullptr) ++failures_;
     return closing;
 }
@@ -74,7 +74,8 @@ void PairedTags::sort_tags(std::string_view text) {
     const auto tags = static_cast<std::size_t>(std::count(text.begin(), text.end(), '<'));
     openings_.emplace(arena_, tags);
     closings_.emplace(arena_, tags);
-    if (!are_sorted()) return;
+    is_sorted_ = *openings_ && *closings_;
+    if (!is_sorted_) return;
     for (std::size_t at = text.find('<'); at != std::string_view::npos;
          at = text.find('<', at + 1)) {
         const bool closes = text.substr(at + OPENING, 1) == "/";

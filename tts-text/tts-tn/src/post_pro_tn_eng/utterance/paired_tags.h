@@ -48,13 +48,13 @@ class PairedTags {
 
   private:
     void sort_tags(std::string_view text);
-    bool are_sorted() const { return openings_ && *openings_ && closings_ && *closings_; }
     const char* search(const char* content, std::string_view name);
     const char* look_up(const char* content, std::string_view name) const;
 
     mem_stack_handle arena_;
     ForwardFinder any_closing_;
     int failures_ = 0;
+    bool is_sorted_ = false;
     std::optional<SortedNames> openings_;  // those with a value; the others do not count
     std::optional<SortedNames> closings_;
 };

@@ -65,8 +65,8 @@ class WordFiller {
     PostProTnEng& engine_;
     mem_stack_handle arena_;
     UtteranceSyllable* record_;
-    std::string_view names_ = "";  // of the enclosing spans, outermost first, by tabs
-    std::string_view values_ = "";
+    std::string_view names_;  // of the enclosing spans, outermost first, by tabs
+    std::string_view values_;
     std::optional<CssmlTag> markup_;  // what they give each word
 };
 

@@ -2,16 +2,14 @@
 #ifndef KAVI_TN_MARK_READINGS_H
 #define KAVI_TN_MARK_READINGS_H
 
-#include <string_view>
-
 namespace kavi::tn {
 
 // A mark's words behind a number section, and otherwise. A mark that is in no row and needs no
 // reader is silent.
 struct MarkReading {
     char mark;
-    std::string_view behind_number;
-    std::string_view otherwise;
+    const char* behind_number;
+    const char* otherwise;
 };
 
 // clang-format off
@@ -57,7 +55,7 @@ constexpr bool is_plain_mark(char mark) {
         default: break;
     }
     const MarkReading* row = find_mark(mark);
-    return row == nullptr || row->behind_number == row->otherwise;
+    return row == nullptr || *row->behind_number == *row->otherwise;  // their first letter tells
 }
 
 }  // namespace kavi::tn

@@ -20,6 +20,16 @@ bool is_before(std::string_view a, std::string_view b) {
     return order != 0 ? order < 0 : a.data() < b.data();
 }
 
+// How far a name goes, as far as one can; a tag ends there or has its value behind it.
+std::size_t name_length(const char* name) {
+    std::size_t length = 0;
+    while (length < NAME_MAX && name[length] != '=' && name[length] != '>' &&
+           name[length] != '\0') {
+        ++length;
+    }
+    return length;
+}
+
 }  // namespace
 
 // ---- sorted names ----
@@ -28,8 +38,10 @@ void SortedNames::add(std::string_view name) {
     new (end_++) std::string_view(name);
 }
 
+// By a heap, whose code is small.
 void SortedNames::sort() {
-    std::sort(begin_, end_, is_before);
+    std::make_heap(begin_, end_, is_before);
+    std::sort_heap(begin_, end_, is_before);
 }
 
 const std::string_view* SortedNames::find(std::string_view name, const char* place) const {
@@ -43,7 +55,7 @@ const std::string_view* SortedNames::find(std::string_view name, const char* pla
 
 const char* PairedTags::find_closing(const char* content, std::string_view name) {
     constexpr int FAILURES_MAX = 8;
-    if (failures_ == FAILURES_MAX && !openings_) sort_tags(content);
+    if (failures_ == FAILURES_MAX && !sorted_) sort_tags(content);
     const char* closing = is_sorted_ ? look_up(content, name) : search(content, name);
     if (closing == nullptr) ++failures_;
     return closing;
@@ -70,30 +82,31 @@ const char* PairedTags::search(const char* content, std::string_view name) {
     return closing;
 }
 
-void PairedTags::sort_tags(std::string_view text) {
-    const auto tags = static_cast<std::size_t>(std::count(text.begin(), text.end(), '<'));
-    openings_.emplace(arena_, tags);
-    closings_.emplace(arena_, tags);
-    is_sorted_ = *openings_ && *closings_;
+void PairedTags::sort_tags(const char* text) {
+    std::size_t tags = 0;
+    for (const char* at = text; *at != '\0'; ++at) tags += *at == '<' ? 1 : 0;
+    SortedTags& sorted = sorted_.emplace(arena_, tags);
+    is_sorted_ = sorted.openings && sorted.closings;
     if (!is_sorted_) return;
-    for (std::size_t at = text.find('<'); at != std::string_view::npos;
-         at = text.find('<', at + 1)) {
-        const bool closes = text.substr(at + OPENING, 1) == "/";
-        const std::string_view name = text.substr(at + (closes ? CLOSING : OPENING), NAME_MAX + 1);
-        const std::size_t length = name.find_first_of("=>");
-        if (length == std::string_view::npos || (name[length] == '>') != closes) continue;
-        (closes ? *closings_ : *openings_).add(name.substr(0, length));
+    for (const char* at = text; *at != '\0'; ++at) {
+        if (*at != '<') continue;
+        const bool closes = at[1] == '/';
+        const char* name = at + (closes ? CLOSING : OPENING);
+        const std::size_t length = name_length(name);
+        if (name[length] == (closes ? '>' : '=')) {
+            (closes ? sorted.closings : sorted.openings).add({name, length});
+        }
     }
-    openings_->sort();
-    closings_->sort();
+    sorted.openings.sort();
+    sorted.closings.sort();
 }
 
 const char* PairedTags::look_up(const char* content, std::string_view name) const {
-    const std::string_view* const end = closings_->end();
-    const std::string_view* closing = closings_->find(name, content + CLOSING);
+    const std::string_view* const end = sorted_->closings.end();
+    const std::string_view* closing = sorted_->closings.find(name, content + CLOSING);
     if (closing == end || *closing != name) return nullptr;
-    const auto nested =
-        openings_->find(name, closing->data()) - openings_->find(name, content + OPENING);
+    const auto nested = sorted_->openings.find(name, closing->data()) -
+                        sorted_->openings.find(name, content + OPENING);
     if (end - closing <= nested || closing[nested] != name) return nullptr;
     return closing[nested].data() - CLOSING;
 }

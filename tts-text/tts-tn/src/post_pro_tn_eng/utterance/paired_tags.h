@@ -47,7 +47,15 @@ class PairedTags {
     const char* find_closing(const char* content, std::string_view name);
 
   private:
-    void sort_tags(std::string_view text);
+    struct SortedTags {
+        SortedTags(mem_stack_handle arena, std::size_t n)
+            : openings(arena, n), closings(arena, n) {}
+
+        SortedNames openings;  // those with a value; the others do not count
+        SortedNames closings;
+    };
+
+    void sort_tags(const char* text);
     const char* search(const char* content, std::string_view name);
     const char* look_up(const char* content, std::string_view name) const;
 
@@ -55,8 +63,7 @@ class PairedTags {
     ForwardFinder any_closing_;
     int failures_ = 0;
     bool is_sorted_ = false;
-    std::optional<SortedNames> openings_;  // those with a value; the others do not count
-    std::optional<SortedNames> closings_;
+    std::optional<SortedTags> sorted_;
 };
 
 }  // namespace kavi::tn

@@ -30,6 +30,9 @@ TEST_F(Dispatcher, AppendsToWhatTheTargetHolds) {
     char plain[] = "b c";
     EXPECT_EQ(engine.eng_text_tokenize(plain, target), 0);
     EXPECT_STREQ(target, "a b  twob c");
+    char irregular[SZ_TEXT_MAX_LEN] = "a-1";
+    EXPECT_EQ(engine.eng_text_tokenize(plain, irregular), 0);
+    EXPECT_STREQ(irregular, "a  b c");
     std::string full(SZ_TEXT_MAX_LEN, 'x');  // no terminator, no room
     char blank[] = " ";
     for (char* text : {sentence, plain, blank}) {

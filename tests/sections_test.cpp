@@ -63,6 +63,11 @@ TEST_F(Sections, RefusedBlockFailsAndKeepsWhatIsThere) {
     EXPECT_EQ(engine.add_section(text, head), -1);
     EXPECT_EQ(head->m_pnext, nullptr);
     EXPECT_EQ(tokenize("a b c", -1), "");
+    mem_stack_release_buf(head, 0, MEM_COMMON, small);
+    char target[SZ_TEXT_MAX_LEN] = "before ";
+    char numbers[] = "plain 1 2 3";
+    EXPECT_EQ(engine.eng_text_tokenize(numbers, target), -1);
+    EXPECT_STREQ(target, "before ");
     mem_stack_destroy(small);
     engine.init(nullptr);
     EXPECT_EQ(tokenize("a", -1), "") << "an unbound engine fails, and that is all";

@@ -64,14 +64,6 @@ bool has_case_form(const char* text, const char* abbreviation, std::size_t form)
     return true;
 }
 
-// Whether the text begins with the abbreviation in any case at all; few do.
-bool is_alike(const char* text, const char* abbreviation) {
-    for (int i = 0; abbreviation[i] != '\0'; ++i) {
-        if (to_lower(text[i]) != to_lower(abbreviation[i])) return false;
-    }
-    return true;
-}
-
 }  // namespace
 
 // The case form that occurs at the full stop counts only when no form tried before it occurs
@@ -79,7 +71,8 @@ bool is_alike(const char* text, const char* abbreviation) {
 bool AbbreviationSearch::is_accepted(std::size_t row, const char* stretch, const char* dot) {
     const char* abbreviation = s_spec_word_abbrevi[row][0];
     const int offset = DOT_OFFSETS[row];
-    if (dot - stretch < offset || !is_alike(dot - offset, abbreviation)) return false;
+    if (dot - stretch < offset) return false;
+    if (to_lower(dot[-offset]) != to_lower(abbreviation[0])) return false;  // most rows end here
     std::size_t form = 0;
     while (form < CASE_FORMS && !has_case_form(dot - offset, abbreviation, form)) ++form;
     if (form == CASE_FORMS) return false;

@@ -43,7 +43,8 @@ constexpr const MarkReading* find_mark(char mark) {
     return nullptr;
 }
 
-// Whether the mark, which is no "<", reads the same wherever it stands, and at one go.
+// Whether the mark, which is no "<" and stands behind no number, needs no reader, reads the same
+// whatever follows and is written at one go.
 constexpr bool is_plain_mark(char mark) {
     switch (mark) {
         case '(':
@@ -52,10 +53,8 @@ constexpr bool is_plain_mark(char mark) {
         case '~':
         case '\'':
         case '$': return false;
-        default: break;
+        default: return true;
     }
-    const MarkReading* row = find_mark(mark);
-    return row == nullptr || *row->behind_number == *row->otherwise;  // their first letter tells
 }
 
 }  // namespace kavi::tn

@@ -22,6 +22,15 @@ TEST_F(Dispatcher, FullOutputFailsAndKeepsWhatFits) {
     }
 }
 
+TEST_F(Dispatcher, AWordNeedsRoomForItsBlank) {
+    for (const auto& [room, result] : {std::pair(3, -1), std::pair(4, -1), std::pair(5, 0)}) {
+        char word[] = "word";
+        char target[SZ_TEXT_MAX_LEN] = {};
+        std::memset(target, 'x', static_cast<std::size_t>(SZ_TEXT_MAX_LEN - 1 - room));
+        EXPECT_EQ(engine.eng_text_tokenize(word, target), result) << room;
+    }
+}
+
 TEST_F(Dispatcher, AppendsToWhatTheTargetHolds) {
     char sentence[] = "b 2";
     char target[SZ_TEXT_MAX_LEN] = "a ";

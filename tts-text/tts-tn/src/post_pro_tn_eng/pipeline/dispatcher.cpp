@@ -7,6 +7,7 @@
 #include "../readers/amounts.h"
 #include "../readers/parts.h"
 #include "mark_readings.h"
+#include "plain_text.h"
 
 namespace kavi {
 
@@ -70,6 +71,7 @@ ReadingRule SectionDispatcher::append_reading(Section* last, ReadingRule rule) {
 
 ReadingRule SectionDispatcher::word() {
     char* text = section_->sz_char;
+    if (is_plain_word(text)) return append_spaced(text, ReadingRule::word);
     if (engine_.month_def(text) == 1) {
         engine_.month_read(text, reading_);
         return append_reading(ReadingRule::month);

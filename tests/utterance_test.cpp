@@ -79,13 +79,15 @@ TEST_F(Utterance, PauseCharacters) {
 
 TEST_F(Utterance, AttributesOneByOne) {
     UtteranceSyllable utt[1] = {};
+    char pause[] = "5";
+    EXPECT_TRUE(engine.insert_breaktime(1, utt, pause));
     EXPECT_TRUE(engine.insert_poem_in(1, utt, "p"));
     EXPECT_TRUE(engine.insert_emphasis_in(1, utt, "e"));
     EXPECT_TRUE(engine.insert_quill_effect_in(1, utt, "0123456789"));
     EXPECT_FALSE(engine.insert_quill_effect_in(1, utt, "0123456789"));
     EXPECT_TRUE(engine.insert_prosody_in(1, utt, ""));
     EXPECT_FALSE(engine.insert_prosody_in(1, utt, "rate=\"1\" x"));
-    EXPECT_EQ(to_text(utt[0]), "(emphasis=e rate=1 poem=p effect=0123456789)");
+    EXPECT_EQ(to_text(utt[0]), "(breaktime=5 emphasis=e rate=1 poem=p effect=0123456789)");
     int n = 1;
     char words[] = "a b";
     EXPECT_FALSE(engine.insert_ssml_info(n, utt, "", words, std::string(200, 'n').c_str()));
@@ -93,7 +95,24 @@ TEST_F(Utterance, AttributesOneByOne) {
     EXPECT_EQ(n, 1);
     EXPECT_FALSE(engine.insert_ssml_info_in(1, utt, "a\tb\tc", "poem\tother\temphasis"));
     EXPECT_TRUE(engine.insert_ssml_info_in(1, utt, "", ""));
-    EXPECT_EQ(to_text(utt[0]), "(emphasis=e rate=1 poem=a effect=0123456789)");
+    EXPECT_EQ(to_text(utt[0]), "(breaktime=5 emphasis=e rate=1 poem=a effect=0123456789)");
+}
+
+TEST_F(Utterance, ASpanIsStoredFromTheNextRecordOn) {
+    UtteranceSyllable* utt = nullptr;
+    int n_utt = 0;
+    char four[] = "x y z w";
+    EXPECT_EQ(engine.eng_text_to_utterance_syllable(four, utt, n_utt), 0);
+    for (int i : {2, 3}) {
+        mem_stack_release_buf(utt[i].syllable, 0, MEM_COMMON, arena);
+        mem_stack_release_buf(utt[i].zhuyin, 0, MEM_COMMON, arena);
+    }
+    int n = 2;
+    char words[] = "a <poem=q>b</poem>";
+    EXPECT_TRUE(engine.insert_ssml_info(n, utt, "p", words, "emphasis"));
+    EXPECT_EQ(n, 4);
+    EXPECT_EQ(to_text(utt, n_utt), "|x|a(emphasis=p)|b(emphasis=p poem=q)|w");
+    kavi::release(utt, n_utt, arena);
 }
 
 TEST_F(Utterance, TagsAreCutIntoTheirParts) {

@@ -83,8 +83,7 @@ const char* PairedTags::search(const char* content, std::string_view name) {
 }
 
 void PairedTags::sort_tags(const char* text) {
-    std::size_t tags = 0;
-    for (const char* at = text; *at != '\0'; ++at) tags += *at == '<' ? 1 : 0;
+    const auto tags = static_cast<std::size_t>(std::count(text, text + std::strlen(text), '<'));
     SortedTags& sorted = sorted_.emplace(arena_, tags);
     is_sorted_ = sorted.openings && sorted.closings;
     if (!is_sorted_) return;
@@ -107,8 +106,9 @@ const char* PairedTags::look_up(const char* content, std::string_view name) cons
     if (closing == end || *closing != name) return nullptr;
     const auto nested = sorted_->openings.find(name, closing->data()) -
                         sorted_->openings.find(name, content + OPENING);
-    if (end - closing <= nested || closing[nested] != name) return nullptr;
-    return closing[nested].data() - CLOSING;
+    const std::string_view* const match = closing + std::min(nested, end - closing);
+    if (match == end || *match != name) return nullptr;
+    return match->data() - CLOSING;
 }
 
 }  // namespace kavi::tn

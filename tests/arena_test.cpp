@@ -40,6 +40,19 @@ TEST(Arena, ABlockCostsLittleMoreThanItsSize) {
     }
 }
 
+TEST(Arena, AFreeBlockServesItsOwnSizeAndPool) {
+    mem_stack_handle arena = mem_stack_create(0);
+    void* small = mem_stack_request_buf(16, MEM_COMMON, arena);
+    const std::size_t cost = mem_stack_used(arena);
+    void* larger = mem_stack_request_buf(32, MEM_COMMON, arena);
+    mem_stack_release_buf(small, 0, MEM_COMMON, arena);
+    mem_stack_release_buf(larger, 0, MEM_COMMON, arena);
+    EXPECT_EQ(mem_stack_request_buf(16, MEM_MAX_CNT, arena), nullptr);
+    EXPECT_EQ(mem_stack_request_buf(16, MEM_COMMON, arena), small);
+    EXPECT_EQ(mem_stack_used(arena), cost);
+    mem_stack_destroy(arena);
+}
+
 TEST(Arena, StartsAnewInItsFirstChunk) {
     mem_stack_handle arena = mem_stack_create(190000);
     for (int round = 0; round < 3; ++round) {

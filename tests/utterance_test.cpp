@@ -149,10 +149,10 @@ TEST_F(Utterance, EveryCapacityGivesSuccessOrCleanFailure) {
 
 // More unclosed tags than a scan searches for one by one, among closed ones of the same names.
 TEST_F(Utterance, IsCutIntoTheSameWordsByStepsHoweverTagsAreClosed) {
-    const std::vector<std::string> pieces = {"<py=1>",      "</py>",      "<pya=>",    "</pya>",
-                                             "<py>",        "<letter=b>", "<poem=>",   "</poem>",
-                                             "</x>",        "a ",         "<poemx=2>", "</poemx",
-                                             "<py1=</py1>", "bc",         " <"};
+    std::vector<std::string> pieces = {"<py=1>",     "</py>",   "<pya=>",      "</pya>", "<py>",
+                                       "<letter=b>", "<poem=>", "</poem>",     "</x>",   "a ",
+                                       "<poemx=2>",  "</poemx", "<py1=</py1>", "bc",     " <"};
+    pieces.push_back("<" + std::string(600, 'n'));
     std::minstd_rand random(1);
     for (int n = 0; n < 2000; ++n) {
         std::string text;

@@ -60,6 +60,10 @@ TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
     EXPECT_EQ(target, words.substr(0, SZ_TEXT_MAX_LEN - 1));
     EXPECT_EQ(engine.section_process(nullptr, target), 0);
     release(head);
+    Section no_text = {};  // as only a host would make it
+    char empty[SZ_TEXT_MAX_LEN] = {};
+    EXPECT_EQ(engine.section_process(&no_text, empty), 0);
+    EXPECT_STREQ(empty, " ");
 }
 
 TEST_F(Dispatcher, WholePipeline) {

@@ -54,6 +54,7 @@ PlainPiece first_piece(const char* text, const char* text_end, ForwardFinder& ta
 }  // namespace
 
 bool is_plain_word(std::string_view section) {
+    if (section.empty()) return false;  // a host may queue one
     return is_lower(section[0]) || (is_upper(section[0]) && is_plain_name(section));
 }
 

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "common/ascii.h"
-#include "common/markup_tags.h"
+#include "markup/markup_tags.h"
 
 namespace kavi::host {
 

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "common/ascii.h"
-#include "pipeline/dispatcher.h"
-#include "pipeline/section_queue.h"
+#include "tokenize/dispatcher.h"
+#include "tokenize/section_queue.h"
 #include "text_window.h"
 
 namespace kavi {

@@ -169,9 +169,9 @@ inline constexpr char s_number_to_turn[27][2][15] = {
 
 // The data's way, and the folder under src/post_pro_tn_eng that holds each step:
 //
-//   raw text -> one sentence          eng_text_normalize    pipeline/
-//   sentence -> sections              text_to_queue         pipeline/
-//   sections -> speakable text        section_process       pipeline/, readers/, numbers/
+//   raw text -> one sentence          eng_text_normalize    sentence/
+//   sentence -> sections              text_to_queue         tokenize/
+//   sections -> speakable text        section_process       tokenize/, readers/, numbers/
 //   speakable text -> records         eng_text_to_utterance_syllable    utterance/
 //
 // The object holds nothing but the arena it takes its memory from. Working memory goes back before
@@ -188,7 +188,7 @@ class PostProTnEng {
     // full.
     void init(mem_stack_handle mem_handle);
 
-    // ---- Raw text to one sentence: pipeline/normalize, pipeline/abbreviation ----
+    // ---- Raw text to one sentence: sentence/ ----
 
     // Cuts the first sentence off `sz_source_text`: up to and including the first of "." "?" "!"
     // ";" "," ":" that ends one. Abbreviations are expanded, markup spans still open at the cut are
@@ -209,7 +209,7 @@ class PostProTnEng {
     // room.
     char* abbreviation(char* sz_source_text, char* sz_target, char* c_stop);
 
-    // ---- Sentence to speakable text: pipeline/section_queue, pipeline/dispatcher ----
+    // ---- Sentence to speakable text: tokenize/, readers/, numbers/ ----
 
     // Appends the speakable text of one sentence to `sz_target_text` (4096 bytes holding a text,
     // normally ""). 0 when done. -1 when a section could not be had (the target is unchanged) or

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "../pipeline/section_queue.h"
+#include "../tokenize/section_queue.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi {

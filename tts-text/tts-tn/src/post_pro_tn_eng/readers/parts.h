@@ -4,9 +4,9 @@
 
 #include <cstdlib>
 
-#include "../common/markup_tags.h"
+#include "../markup/markup_tags.h"
 #include "../common/reading.h"
-#include "../common/sections.h"
+#include "sections.h"
 
 namespace kavi::tn {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "../common/bounded_text.h"
-#include "../common/markup_tags.h"
+#include "../markup/markup_tags.h"
 #include "text_reader.h"
 #include "word_filler.h"
 

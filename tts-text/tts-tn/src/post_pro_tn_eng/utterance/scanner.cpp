@@ -6,7 +6,7 @@
 #include <cassert>
 #include <cstring>
 
-#include "../common/markup_tags.h"
+#include "../markup/markup_tags.h"
 #include "TtsString.h"
 
 namespace kavi {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "../common/forward_finder.h"
-#include "paired_tags.h"
+#include "../markup/paired_tags.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi::tn {

@@ -8,7 +8,7 @@
 
 #include "../common/ascii.h"
 #include "../common/forward_finder.h"
-#include "../common/markup_tags.h"
+#include "../markup/markup_tags.h"
 #include "../common/runs.h"
 
 namespace kavi {

@@ -10,7 +10,7 @@ namespace kavi::tn {
 
 namespace {
 
-constexpr std::size_t NAME_MAX = MEMORY_SIZE_TAG_LABEL_TN - 1;
+constexpr std::size_t TAG_NAME_MAX = MEMORY_SIZE_TAG_LABEL_TN - 1;
 constexpr std::size_t OPENING = 1;  // characters before the name
 constexpr std::size_t CLOSING = 2;
 
@@ -23,7 +23,7 @@ bool is_before(std::string_view a, std::string_view b) {
 // How far a name goes, as far as one can; a tag ends there or has its value behind it.
 std::size_t name_length(const char* name) {
     std::size_t length = 0;
-    while (length < NAME_MAX && name[length] != '=' && name[length] != '>' &&
+    while (length < TAG_NAME_MAX && name[length] != '=' && name[length] != '>' &&
            name[length] != '\0') {
         ++length;
     }

@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "../common/markup_tags.h"
-#include "../common/sections.h"
+#include "../markup/markup_tags.h"
+#include "../readers/sections.h"
 #include "../readers/amounts.h"
 #include "../readers/parts.h"
 #include "mark_readings.h"

@@ -120,16 +120,13 @@ TEST(Host, LongTextsAreCutAtBlanksAndCarrySpansOn) {
 
 // The findings of a text as in the table, and the records of all its sentences.
 TableRow report(const std::string& text, bool with_records) {
-    static const char* const names[] = {"stray",    "mismatched", "too many",     "too much",
-                                        "too long", "inside",     "never closed", "nul",
-                                        "digits",   "cut"};
     const ReadText read = read_by_layer(text);
     EXPECT_TRUE(read.all_read) << text;
     std::string findings;
     for (const Diagnostic& d : read.diagnostics) {
         EXPECT_GT(std::strlen(describe(d.finding)), 10U);
-        findings += (findings.empty() ? "" : ", ") + std::to_string(d.offset) + " " +
-                    names[static_cast<int>(d.finding)];
+        findings +=
+            (findings.empty() ? "" : ", ") + std::to_string(d.offset) + " " + code_of(d.finding);
     }
     std::string records;
     for (const std::string& sentence : read.records) records += sentence;

@@ -17,11 +17,6 @@ class Refusal : public testing::Test {
   protected:
     // One call of each kind on what the one before it left. Checks what failure must leave behind.
     void run(std::string source) {
-        char speakable[SZ_TEXT_MAX_LEN] = {};
-        if (engine.eng_text_tokenize(source.data(), speakable) != 0) {
-            EXPECT_STREQ(speakable, "") << "only the sections can fail a sentence";
-        }
-        EXPECT_TRUE(arena.in_use.empty()) << "the tokenizer kept a block";
         UtteranceSyllable* utt = reinterpret_cast<UtteranceSyllable*>(this);
         int n_utt = -1;
         const int result = engine.eng_text_to_utterance_syllable(source.data(), utt, n_utt);
@@ -66,32 +61,62 @@ TEST_F(Refusal, OfOneRequestOrOfAllFromOneOn) {
     }
 }
 
-TEST_F(Refusal, ReadersWithoutScratchWriteNothingAndTakeOneSection) {
-    engine.init(&arena);
-    for (const TableRow& row : read_table("without_scratch")) {
+TEST_F(Refusal, TheTokenizerNeedsNoArena) {
+    for (const TableRow& row : read_table("every_request")) {
         std::string source = row[0];
-        char speakable[SZ_TEXT_MAX_LEN] = {};
-        Section* head = nullptr;
-        EXPECT_EQ(engine.text_to_queue(source.data(), head), 0);
-        arena.first_refused = arena.last_refused = arena.requests;  // the first reader's
-        EXPECT_EQ(engine.section_process(head, speakable), 0);
-        std::string words = speakable;
-        while (!words.empty() && words.back() == ' ') words.pop_back();
-        EXPECT_EQ(words, row[1]) << row[0];
-        while (head != nullptr) {
-            Section* next = head->m_pnext;
-            mem_stack_release_buf(head, 0, MEM_COMMON, &arena);
-            head = next;
-        }
+        char by_arena[SZ_TEXT_MAX_LEN] = {};
+        char unbound[SZ_TEXT_MAX_LEN] = {};
+        engine.init(&arena);
+        EXPECT_EQ(engine.eng_text_tokenize(source.data(), by_arena), 0);
+        engine.init(nullptr);
+        EXPECT_EQ(engine.eng_text_tokenize(source.data(), unbound), 0);
+        EXPECT_STREQ(unbound, by_arena);
     }
+    EXPECT_EQ(arena.requests, 0);
 }
 
-TEST_F(Refusal, NoneAndTheLexiconIsAskedForWordsInCapitals) {
+// On blocks with exact bounds, from sources with a byte in front of them that is no NUL.
+TEST_F(Refusal, RecordsAndAttributesKeepToTheirBounds) {
     engine.init(&arena);
-    run("NASA");
-    EXPECT_EQ(looked_up, "nasa");
-    run("Ab aB a");
-    EXPECT_EQ(looked_up, "nasa") << "and for no others";
+    for (const std::size_t length : {0, 1, 2, 3, 4, 7, 8, 12, 13, 16, 17, 499}) {
+        const std::string source = "\x7f" + std::string(length, 'w');
+        char* text = const_cast<char*>(source.c_str()) + 1;
+        std::vector<UtteranceSyllable> utt(2);
+        EXPECT_TRUE(engine.insert_syllable(1, utt.data(), text));
+        EXPECT_EQ(utt[1].syllable, source.substr(1));
+        EXPECT_EQ(utt[1].syl_len, static_cast<short>(length + 1));
+        const std::string field = source.substr(1, 19);
+        EXPECT_TRUE(engine.insert_breaktime(2, utt.data(), text));
+        EXPECT_TRUE(engine.insert_emphasis_in(2, utt.data(), text));
+        EXPECT_TRUE(engine.insert_poem_in(2, utt.data(), text));
+        EXPECT_EQ(engine.insert_quill_effect_in(2, utt.data(), text), length < 20);
+        const std::string rate = "rate=\"" + source.substr(1) + "\" x";
+        EXPECT_FALSE(engine.insert_prosody_in(2, utt.data(), rate.c_str()));
+        EXPECT_EQ(
+            to_text(utt[1]),
+            source.substr(1) + (length == 0 ? ""
+                                            : "(breaktime=" + field + " emphasis=" + field +
+                                                  " rate=" + field + " poem=" + field +
+                                                  (length < 20 ? " effect=" + field : "") + ")"));
+        // A shorter value leaves nothing of a longer one, an empty one nothing at all.
+        EXPECT_TRUE(engine.insert_poem_in(2, utt.data(), "p"));
+        EXPECT_TRUE(engine.insert_emphasis_in(2, utt.data(), ""));
+        EXPECT_EQ(std::string(utt[1].cssml_tag.poem, 20), "p" + std::string(19, '\0'));
+        EXPECT_EQ(std::string(utt[1].cssml_tag.emphasis, 20), std::string(20, '\0'));
+        mem_stack_release_buf(utt[1].syllable, length + 1, MEM_COMMON, &arena);
+        mem_stack_release_buf(utt[1].zhuyin, static_cast<std::size_t>(utt[1].zy_len), MEM_COMMON,
+                              &arena);
+    }
+    EXPECT_TRUE(arena.in_use.empty());
+}
+
+TEST_F(Refusal, TheLexiconIsAskedForWordsInCapitals) {
+    engine.init(&arena);
+    for (std::string sentence : {"NASA", "Ab aB a", "5 USA", "5 aB"}) {
+        char speakable[SZ_TEXT_MAX_LEN] = {};
+        EXPECT_EQ(engine.eng_text_tokenize(sentence.data(), speakable), 0);
+        EXPECT_EQ(looked_up, sentence[0] == '5' ? "usa" : "nasa") << "and for no others";
+    }
 }
 
 }  // namespace

@@ -62,15 +62,23 @@ TEST_F(Sections, RefusedBlockFailsAndKeepsWhatIsThere) {
     EXPECT_STREQ(head->sz_char, "a");
     EXPECT_EQ(engine.add_section(text, head), -1);
     EXPECT_EQ(head->m_pnext, nullptr);
-    EXPECT_EQ(tokenize("a b c", -1), "");
     mem_stack_release_buf(head, 0, MEM_COMMON, small);
-    char target[SZ_TEXT_MAX_LEN] = "before ";
-    char numbers[] = "plain 1 2 3";
-    EXPECT_EQ(engine.eng_text_tokenize(numbers, target), -1);
-    EXPECT_STREQ(target, "before ");
     mem_stack_destroy(small);
-    engine.init(nullptr);
-    EXPECT_EQ(tokenize("a", -1), "") << "an unbound engine fails, and that is all";
+}
+
+TEST_F(Sections, AreAppendedToAQueueThatHoldsSome) {
+    char number[] = "5";
+    char text[] = " May";
+    Section* head = nullptr;
+    EXPECT_EQ(engine.add_section(number, head), 0);
+    EXPECT_EQ(engine.text_to_queue(text, head), 0);
+    ASSERT_NE(head->m_pnext, nullptr);
+    EXPECT_STREQ(head->m_pnext->m_pnext->sz_char, "May");
+    EXPECT_EQ(head->m_pnext->m_pprevious, head);
+    char target[SZ_TEXT_MAX_LEN] = {};
+    EXPECT_EQ(engine.section_process(head, target), 0);
+    EXPECT_STREQ(target, " fifth  May ");
+    release(head);
 }
 
 }  // namespace

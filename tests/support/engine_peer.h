@@ -31,6 +31,7 @@ struct PostProTnEngPeer {
     static constexpr SectionTest phone_number_decide = &PostProTnEng::phone_number_decide;
     static constexpr SectionTest time_decide = &PostProTnEng::time_decide;
     static constexpr auto time_number = &PostProTnEng::time_number;
+    static constexpr auto re_regular = &PostProTnEng::re_regular;
     static constexpr auto insert_punc = &PostProTnEng::insert_punc;
     static constexpr auto insert_pause = &PostProTnEng::insert_pause;
     static char* parse_tag(PostProTnEng& engine, char* text, char* name, char* value,

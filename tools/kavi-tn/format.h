@@ -15,9 +15,9 @@ namespace kavi::tool {
 // Where a sentence comes from.
 struct Place {
     std::string_view input;
-    std::size_t line;      // the text's number in its input
-    std::size_t sentence;  // its number in the text
-    std::string_view source;
+    std::size_t line;       // the text's number in its input
+    std::size_t sentence;   // its number in the text
+    std::string_view text;  // all of it
 };
 
 class Format {

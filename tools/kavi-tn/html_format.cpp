@@ -151,10 +151,9 @@ class HtmlFormat : public Format {
         out += "<article><h2>" + escape(place.input) + ", line " + std::to_string(place.line) +
                "</h2><div class=\"row\">";
         append_what_follows(sentence.records[0], out);
-        const Abbreviations abbreviations =
-            TtsExplainer::explain_abbreviations(place.source, sentence.normalized);
+        const Abbreviations abbreviations = explain_abbreviations(sentence, place.text);
         int next = 1;
-        for (const ExplainedRun& run : explainer_.explain(sentence.normalized)) {
+        for (const ExplainedRun& run : explain(sentence.normalized)) {
             const int end = std::min(next + count_words(run.reading), sentence.n_records);
             append_run(run, abbreviations, sentence.records + next, end - next, out);
             next = end;
@@ -194,8 +193,6 @@ class HtmlFormat : public Format {
         for (int i = 0; i < n_words; ++i) append_word(words[i], out);
         out += "</span></span>";
     }
-
-    TtsExplainer explainer_;
 };
 
 }  // namespace

@@ -43,11 +43,12 @@ class JsonFormat : public Format {
 
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
+        const std::string_view source = place.text.substr(sentence.offset, sentence.length);
         Json json;
         json["input"] = place.input;
         json["line"] = place.line;
         json["sentence"] = place.sentence;
-        json["source"] = place.source;
+        json["source"] = source;
         json["offset"] = sentence.offset;
         json["length"] = sentence.length;
         json["normalized"] = sentence.normalized;
@@ -62,22 +63,20 @@ class JsonFormat : public Format {
             json["diagnostics"].push_back({{"offset", offset}, {"message", message}});
         };
         for (const Diagnostic& d : diagnostics) report(d.offset, describe(d.finding));
-        const auto* bad = utf8::find_invalid(place.source.begin(), place.source.end());
-        if (bad != place.source.end()) {
-            report(sentence.offset + static_cast<std::size_t>(bad - place.source.begin()),
+        const auto* bad = utf8::find_invalid(source.begin(), source.end());
+        if (bad != source.end()) {
+            report(sentence.offset + static_cast<std::size_t>(bad - source.begin()),
                    "bytes that are not UTF-8 are shown as replacement characters");
         }
         if (explain_) {
-            json["abbreviations"] =
-                explanation(TtsExplainer::explain_abbreviations(place.source, sentence.normalized));
-            json["runs"] = explanation(explainer_.explain(sentence.normalized));
+            json["abbreviations"] = explanation(explain_abbreviations(sentence, place.text));
+            json["runs"] = explanation(explain(sentence.normalized));
         }
         out += json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
     }
 
   private:
     bool explain_;
-    TtsExplainer explainer_;
 };
 
 }  // namespace

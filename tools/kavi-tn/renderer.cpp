@@ -30,8 +30,7 @@ void Renderer::render_text(const Block& block, std::size_t line, std::string_vie
     const bool all_read = host_.read(
         text,
         [&](const HostSentence& sentence) {
-            const Place place = {block.input, line, ++sentences,
-                                 text.substr(sentence.offset, sentence.length)};
+            const Place place = {block.input, line, ++sentences, text};
             format_->write(place, sentence, diagnostics, rendered.output);
             diagnostics.clear();
         },

@@ -85,11 +85,8 @@ class ExplainFormat : public Format {
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
         // An abbreviation stands before the words that it was expanded to.
-        std::vector<ExplainedRun> runs =
-            TtsExplainer::explain_abbreviations(place.source, sentence.normalized);
-        for (ExplainedRun& run : explainer_.explain(sentence.normalized)) {
-            runs.push_back(std::move(run));
-        }
+        std::vector<ExplainedRun> runs = explain_abbreviations(sentence, place.text);
+        for (ExplainedRun& run : explain(sentence.normalized)) runs.push_back(std::move(run));
         std::stable_sort(runs.begin(), runs.end(),
                          [](const auto& a, const auto& b) { return a.at < b.at; });
         Rows<3> rows;
@@ -107,8 +104,6 @@ class ExplainFormat : public Format {
             rows.push_back({sections, run.rule, run.reading});
         }
     }
-
-    TtsExplainer explainer_;
 };
 
 }  // namespace

@@ -3,10 +3,11 @@
 #define KAVI_TTS_EXPLAIN_H
 
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "tts_host.h"
 
 namespace kavi {
 
@@ -18,26 +19,13 @@ struct ExplainedRun {
     const char* rule;                   // the rule that chose it, in the field's words
 };
 
-// Follows the engine's own dispatcher step by step. One object serves one thread.
-class TtsExplainer {
-  public:
-    TtsExplainer();
-    ~TtsExplainer();
-    TtsExplainer(const TtsExplainer&) = delete;
-    TtsExplainer& operator=(const TtsExplainer&) = delete;
+// The runs of one sentence as eng_text_normalize wrote it (at most 4095 bytes), in order: together
+// they are the sentence as it stands, or as much of it as fits the engine's output.
+std::vector<ExplainedRun> explain(std::string_view normalized);
 
-    // The runs of one sentence as eng_text_normalize wrote it (at most 4095 bytes), in order: all
-    // its sections, or up to where the engine stopped reading.
-    std::vector<ExplainedRun> explain(std::string_view normalized);
-
-    // The abbreviations that were expanded between `source` and the sentence made of it.
-    static std::vector<ExplainedRun> explain_abbreviations(std::string_view source,
-                                                           std::string_view normalized);
-
-  private:
-    class State;
-    std::unique_ptr<State> state_;
-};
+// The abbreviations of a sentence of `text`, each with what was written as its one section.
+std::vector<ExplainedRun> explain_abbreviations(const HostSentence& sentence,
+                                                std::string_view text);
 
 }  // namespace kavi
 

@@ -2,101 +2,132 @@
 #ifndef KAVI_HOST_TEXT_WINDOW_H
 #define KAVI_HOST_TEXT_WINDOW_H
 
+#include <deque>
 #include <string_view>
 #include <vector>
 
-#include "post_pro_tn_eng.h"
-#include "tts_host.h"
+#include "for_host_layer.h"
+#include "tts_findings.h"
 
 namespace kavi::host {
 
-// The length of the markup tag that the engine takes whole at the start of `text`; 0 when it reads
-// text there.
-std::size_t tag_length(std::string_view text);
-
-// Feeds a text of any length through a buffer of the engine's size: the opening tags of the spans
-// that are open, then text that has not been read yet. Checks the markup on the way in, leaves out
-// what the engine would stop at, and knows for every byte in the buffer where it came from.
-class TextWindow {
+// The spans that are open where a text is fed, those included that are left out with their closing
+// tags. Bounded, however many tags are opened: of those left out deeper than that, only the number
+// is kept, and the kind of their closing tags is not checked.
+class FedSpans {
   public:
-    explicit TextWindow(std::vector<Diagnostic>& diagnostics) : diagnostics_(diagnostics) {}
+    void clear();
 
-    void begin(std::string_view text);
+    // Whether the engine's record and the builder's chains have room for one more. What stands
+    // inside of the deepest is left out with it.
+    bool has_room() const {
+        return n_open_ < tn::OPEN_TAGS_MAX && deeper_ == 0 && spans_.size() < SPANS_MAX;
+    }
+    bool chains_fit(std::string_view tag) const;
 
-    // Tops the buffer up. False when there is no text left to read.
-    bool fill();
+    void open(std::string_view tag, const tn::MarkupTag* row, bool left_out);
 
-    char* text() { return window_; }
-    std::size_t length() const { return length_; }
+    // Whether the innermost span is of the kind that this row of the table opens, and its opening
+    // tag was left out.
+    bool is_innermost(const tn::MarkupTag* row) const;
+    bool innermost_is_left_out() const { return deeper_ > 0 || spans_.back().left_out; }
+    void close_innermost();
 
-    // Where to cut the buffer so that at most about `size` bytes of new text stand before the cut:
-    // behind a blank if there is one, never inside a tag or a word that fits a section. Always some
-    // text, and no more than there is.
-    std::size_t cut_position(std::size_t size) const;
-
-    // Moves on behind the first sentence of the buffer up to `cut`. `handed_back` is the length of
-    // what the engine gave back of it.
-    void consume(std::size_t cut, std::size_t handed_back);
-
-    // Where in the text the first byte stands that has not been consumed.
-    std::size_t source_offset() const { return consumed_ + left_out_; }
+    bool any() const { return !spans_.empty(); }
+    bool any_fed() const { return n_open_ > 0; }
 
   private:
     struct Span {
-        std::string_view tag;  // the opening tag, in the text
-        const void* kind;      // its row in the engine's table of tags
+        const tn::MarkupTag* row;
+        std::size_t name_length;
+        std::size_t value_length;
         bool left_out;
     };
-    // An opening or closing tag in the buffer that consume() has yet to come to.
-    struct SpanEvent {
-        std::size_t at;
-        std::string_view opening;  // empty for a closing tag
-    };
+
+    static constexpr std::size_t SPANS_MAX = 64;
+
+    std::vector<Span> spans_;  // outermost first
+    std::size_t deeper_ = 0;   // left out, inside these
+    int n_open_ = 0;           // not left out
+    std::size_t names_ = 0;    // of these, the lengths of names and values with a tab after each
+    std::size_t values_ = 0;
+};
+
+// Feeds a text of any length through a buffer: the opening tags of the spans that are open, then
+// text that has not been read yet. Checks the markup on the way in, leaves out what the engine
+// would stop at, and knows for every byte in the buffer where it came from.
+class TextWindow {
+  public:
+    void begin(std::string_view text);
+
+    // Tops the buffer up when little is left in it. False when there is no text left to read.
+    // `moved` tells whether what is left stands elsewhere now.
+    bool fill(bool& moved);
+
+    // What is to be read next, with a NUL after it, and its length.
+    char* text() { return buffer_ + begin_; }
+    std::size_t length() const { return end_ - begin_; }
+
+    // Whether the rest of the text is in the buffer.
+    bool holds_rest() const { return next_ == text_.size(); }
+
+    // Where to cut so that at most about `size` bytes of new text stand before the cut: after a
+    // blank if there is one, never inside a tag or a word that fits a section. Always some text,
+    // and no more than there is.
+    std::size_t cut_position(std::size_t size) const;
+
+    // Moves on to `rest`, a place in the buffer where `open` are the tags that are open.
+    void consume(const char* rest, const SsmlTagArr& open);
+
+    // Where in the text a byte of the buffer comes from; `text()` is the first that has not been
+    // consumed.
+    std::size_t source_offset(const char* at) const;
+
+    // What was found in what has been fed, in order; the reader takes them off.
+    std::deque<Diagnostic>& findings() { return findings_; }
+
+  private:
     struct Gap {
-        std::size_t at;
-        std::size_t length;
+        std::size_t at;      // after the blank that stands for it
+        std::size_t length;  // without that
     };
+
+    static constexpr std::size_t CAPACITY = std::size_t{4} * SZ_TEXT_MAX_LEN;
 
     std::string_view rest() const { return text_.substr(next_); }
-    std::size_t room() const { return CAPACITY - length_; }
+    std::size_t room() const { return CAPACITY - end_; }
     std::size_t find_from_here(char c, std::size_t& memo) const;
 
+    // ---- each takes one piece of the text, or answers false when it needs more room ----
     bool feed();
     bool feed_run();
     bool feed_tag();
-    bool feed_as_text(bool never_closed);
+    bool feed_as_text(Finding finding, bool keep);
     bool feed_removed(std::string_view tag);
-    bool feed_closing(std::string_view tag, const void* kind);
-    bool feed_opening(std::string_view tag, const void* kind);
-    int open_spans() const;
-    bool markup_fits(std::string_view tag) const;
+    bool feed_opening(std::string_view tag, const tn::MarkupTag* row);
+    bool feed_closing(std::string_view tag, const tn::MarkupTag* opening);
     bool copy(std::string_view piece);
-    bool copy_event(std::string_view tag, std::string_view opening);
-    bool ends_in_tag_beginning() const;
     bool leave_out(std::size_t length);
-    void report(Finding finding);
-    void rebuild_prefix(std::size_t open);
 
-    static constexpr std::size_t CAPACITY = SZ_TEXT_MAX_LEN - 1;
+    bool ends_in_tag_beginning() const;
+    void report(Finding finding) { findings_.push_back({next_, finding}); }
 
-    std::vector<Diagnostic>& diagnostics_;
+    std::deque<Diagnostic> findings_;
+    FedSpans spans_;
     std::string_view text_;
     std::size_t next_ = 0;  // the next byte of the text to feed
 
-    // Positions below count the bytes that were fed; what is left out counts for one.
-    char window_[SZ_TEXT_MAX_LEN] = {};
-    std::size_t length_ = 0;
-    std::size_t prefix_ = 0;    // how much of it opens spans again
-    std::size_t fed_ = 0;       // position behind the buffer
-    std::size_t consumed_ = 0;  // position behind the last sentence
-    std::size_t left_out_ = 0;  // bytes left out before that
+    char buffer_[CAPACITY + 1] = {};
+    std::size_t begin_ = 0;   // of what has not been consumed, in the buffer
+    std::size_t prefix_ = 0;  // how much of that opens spans again
+    std::size_t end_ = 0;
 
-    std::vector<Span> fed_spans_;          // open behind the buffer, outermost first
-    std::vector<std::string_view> spans_;  // opening tags open at consumed_, outermost first
-    std::vector<SpanEvent> events_;        // in the buffer behind consumed_
-    std::vector<Gap> gaps_;                // likewise
+    // Positions of bytes count what was fed; what is left out counts for one.
+    std::size_t origin_ = 0;    // of the first byte of the buffer
+    std::size_t left_out_ = 0;  // bytes left out before what has not been consumed
+    std::deque<Gap> gaps_;      // after that
 
-    // Where the next of these stands, as far as it is known.
+    // Where the next of these stands in the text, as far as it is known.
     std::size_t next_tag_ = 0;
     std::size_t next_tag_end_ = 0;
     std::size_t next_nul_ = 0;

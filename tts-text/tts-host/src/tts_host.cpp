@@ -1,41 +1,25 @@
-// The host's side of the engine: calling order, buffers, what is handed back, and the records.
+// The host's side of the engine: calling order, buffers, and the records.
 
 #include "tts_host.h"
 
 #include <algorithm>
-#include <cstring>
-#include <iterator>
+#include <optional>
 #include <vector>
 
-#include "number_findings.h"
-#include "post_pro_tn_eng.h"
+#include "for_host_layer.h"
+#include "reading_findings.h"
+#include "sentence_source.h"
 #include "text_window.h"
 
 namespace kavi {
 
 namespace {
 
-// In the order of Finding.
-const char* const DESCRIPTIONS[] = {
-    "this closing tag closes nothing; it is left out",
-    "this closing tag is of another kind than the innermost open one; it is left out",
-    "ten tags are open here; this one is left out with its closing tag",
-    "more than 199 characters of names or values are open; this tag is left out with its closing",
-    "this tag is too long to be read as one",
-    "this tag stands inside the beginning of another; a blank is read in its place",
-    "this tag has no \">\"; it is read as text",
-    "a NUL byte is read as a blank",
-    "the digits of this number after the twelfth are not read",
-    "the reading of this number is too long and was cut",
-    "the arena is too small for this sentence; it is passed over",
-};
-static_assert(std::size(DESCRIPTIONS) == static_cast<std::size_t>(Finding::arena_too_small) + 1);
+bool is_before(const Diagnostic& a, const Diagnostic& b) {
+    return a.offset < b.offset;
+}
 
 }  // namespace
-
-const char* describe(Finding finding) {
-    return DESCRIPTIONS[static_cast<std::size_t>(finding)];
-}
 
 class TtsHost::State {
   public:
@@ -52,22 +36,44 @@ class TtsHost::State {
   private:
     // Sentences that normalise to more are tried again as a shorter piece, so that there is always
     // room for what closes them.
-    static constexpr std::size_t SENTENCE_MAX = 3500;
+    static constexpr int SENTENCE_MAX = 3500;
     static constexpr std::size_t LONG_PIECE = 3000;  // the first such piece; then half, and so on
     static constexpr std::size_t SHORTEST_PIECE = 16;
+
+    // One call of read(): leaves the object fit for the next, whatever ends it.
+    class Session {
+      public:
+        explicit Session(State& state) : state_(state) { state_.is_reading_ = true; }
+        ~Session() {
+            state_.release_records();
+            state_.is_reading_ = false;
+        }
+        Session(const Session&) = delete;
+        Session& operator=(const Session&) = delete;
+
+      private:
+        State& state_;
+    };
 
     bool read_piece();
     bool read_sentence(std::size_t cut);
     void release_records();
-    void report_up_to(std::size_t offset, const DiagnosticHandler& on_diagnostic);
+    void collect_expansions();
+    void collect_diagnostics(bool done);
+    void report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
     mem_stack_handle arena_;
     PostProTnEng engine_;
-    std::vector<Diagnostic> diagnostics_;
-    host::TextWindow window_{diagnostics_};
-    std::size_t cut_ = 0;
+    bool is_reading_ = false;
+    host::TextWindow window_;
+    host::SentenceSource source_;
+    host::ReadingFindings findings_;
+    std::optional<tn::AbbreviationSearch> abbreviations_;  // of what is in the window
+    std::optional<tn::SentenceCutter> cutter_;             // of the last sentence
+    const char* rest_ = nullptr;                           // in the window, after that
+    std::vector<Diagnostic> diagnostics_;                  // of that
+    std::vector<Expansion> expansions_;
     char normalized_[SZ_TEXT_MAX_LEN] = {};
-    char handed_back_[SZ_TEXT_MAX_LEN] = {};
     char speakable_[SZ_TEXT_MAX_LEN] = {};
     UtteranceSyllable* utt_ = nullptr;
     int n_utt_ = 0;
@@ -75,58 +81,67 @@ class TtsHost::State {
 
 bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sentence,
                           const DiagnosticHandler& on_diagnostic) {
+    if (is_reading_) return false;
+    const Session session(*this);
     bool all_read = true;
     std::size_t begin = 0;  // of the next sentence's source
-    diagnostics_.clear();
     window_.begin(text);
-    while (window_.fill()) {
-        const std::size_t offset = window_.source_offset();
+    for (bool moved = false; window_.fill(moved);) {
+        if (moved) abbreviations_.reset();
         const bool done = read_piece();
-        window_.consume(cut_, std::strlen(handed_back_));
-        const std::size_t length = window_.source_offset() - offset;
-        if (done) {
-            host::find_unread_numbers(engine_, arena_, normalized_, text.substr(offset, length),
-                                      offset, diagnostics_);
-        } else {
-            diagnostics_.push_back({offset, Finding::arena_too_small});
+        const std::size_t end = window_.source_offset(rest_);
+        collect_diagnostics(done);
+        report(end, on_diagnostic);
+        if (!done) {
             all_read = false;
-            begin = offset + length;
+            begin = end;
+        } else if (normalized_[0] != '\0') {
+            collect_expansions();
+            if (on_sentence) {
+                on_sentence(
+                    {begin, end - begin,
+                     std::string_view(normalized_, static_cast<std::size_t>(cutter_->length())),
+                     speakable_, utt_, n_utt_, expansions_.data(), expansions_.size()});
+            }
+            begin = end;
         }
-        report_up_to(offset + length, on_diagnostic);
-        if (done && normalized_[0] != '\0') {
-            on_sentence({begin, offset + length - begin, normalized_, speakable_, utt_, n_utt_});
-            begin = offset + length;
-        }
+        window_.consume(rest_, cutter_->open_tags());
         release_records();
     }
-    report_up_to(text.size(), on_diagnostic);
+    diagnostics_.clear();
+    report(text.size(), on_diagnostic);
     return all_read;
 }
 
 // The first sentence of the window, or of a shorter and shorter piece of it until the engine's
 // buffers and the arena hold what it reads as. False when not even the shortest was read.
 bool TtsHost::State::read_piece() {
-    cut_ = window_.length();
-    bool done = read_sentence(cut_);
+    bool done = read_sentence(window_.length());
+    if (rest_ == window_.text() + window_.length() && !window_.holds_rest()) done = false;
     for (std::size_t size = LONG_PIECE; !done && size >= SHORTEST_PIECE; size /= 2) {
-        cut_ = window_.cut_position(size);
-        done = read_sentence(cut_);
+        abbreviations_.reset();  // what it remembers is of another piece
+        done = read_sentence(window_.cut_position(size));
+        abbreviations_.reset();
     }
     return done;
 }
 
 bool TtsHost::State::read_sentence(std::size_t cut) {
     release_records();
-    std::memset(normalized_, 0, sizeof normalized_);
-    handed_back_[0] = '\0';
+    normalized_[0] = '\0';
     speakable_[0] = '\0';
-    char* source = window_.text();
-    const char behind = source[cut];
-    source[cut] = '\0';
-    static_cast<void>(engine_.eng_text_normalize(source, normalized_, handed_back_));
-    source[cut] = behind;
-    return std::strlen(normalized_) <= SENTENCE_MAX &&
-           engine_.eng_text_tokenize(normalized_, speakable_) == 0 &&
+    char* text = window_.text();
+    const char after = text[cut];
+    text[cut] = '\0';
+    source_.begin(text);
+    if (!abbreviations_) abbreviations_.emplace();
+    cutter_.emplace(text, normalized_, *abbreviations_, &source_);
+    const bool well_formed = cutter_->cut();
+    rest_ = cutter_->rest();
+    text[cut] = after;
+    findings_.begin(normalized_);
+    return well_formed && cutter_->length() <= SENTENCE_MAX &&
+           tn::tokenize(normalized_, speakable_, &findings_) == 0 &&
            engine_.eng_text_to_utterance_syllable(speakable_, utt_, n_utt_) == 0;
 }
 
@@ -143,14 +158,43 @@ void TtsHost::State::release_records() {
     n_utt_ = 0;
 }
 
-void TtsHost::State::report_up_to(std::size_t offset, const DiagnosticHandler& on_diagnostic) {
-    std::sort(diagnostics_.begin(), diagnostics_.end(),
-              [](const Diagnostic& a, const Diagnostic& b) { return a.offset < b.offset; });
-    std::size_t n = 0;
-    while (n < diagnostics_.size() && diagnostics_[n].offset < offset) {
-        on_diagnostic(diagnostics_[n++]);
+void TtsHost::State::collect_expansions() {
+    expansions_.clear();
+    for (const host::SentenceSource::Replacement& r : source_.replacements()) {
+        if (r.length == 0) continue;  // removed
+        expansions_.push_back({window_.source_offset(r.source), r.source_length, r.at, r.length});
     }
-    diagnostics_.erase(diagnostics_.begin(), diagnostics_.begin() + static_cast<std::ptrdiff_t>(n));
+}
+
+// What was found in the sentence, with offsets in the text.
+void TtsHost::State::collect_diagnostics(bool done) {
+    diagnostics_.clear();
+    if (!done) {
+        diagnostics_.push_back({window_.source_offset(window_.text()), Finding::arena_too_small});
+        return;
+    }
+    for (const Diagnostic& finding : findings_.findings()) {
+        const char* place = source_.place_of(finding.offset);
+        diagnostics_.push_back({window_.source_offset(place), finding.finding});
+    }
+    std::stable_sort(diagnostics_.begin(), diagnostics_.end(), is_before);
+}
+
+// Reports these, and what was found in the text before `end`, in the order of their offsets.
+void TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnostic) {
+    std::deque<Diagnostic>& in_text = window_.findings();
+    const auto report_text_before = [&](std::size_t offset) {
+        while (!in_text.empty() && in_text.front().offset < offset) {
+            const Diagnostic first = in_text.front();
+            in_text.pop_front();
+            if (on_diagnostic) on_diagnostic(first);
+        }
+    };
+    for (const Diagnostic& diagnostic : diagnostics_) {
+        report_text_before(diagnostic.offset);
+        if (on_diagnostic) on_diagnostic(diagnostic);
+    }
+    report_text_before(end);
 }
 
 TtsHost::TtsHost(std::size_t n_capacity) : state_(std::make_unique<State>(n_capacity)) {}

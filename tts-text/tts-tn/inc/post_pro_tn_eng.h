@@ -2,8 +2,6 @@
 #ifndef KAVI_POST_PRO_TN_ENG_H
 #define KAVI_POST_PRO_TN_ENG_H
 
-#include <string_view>
-
 #include "MemoryStack.h"
 #include "ShareObj.h"
 
@@ -290,7 +288,6 @@ class PostProTnEng {
     bool count_embed_word(int& n, char* buffer_target);
 
   private:
-    friend class SectionDispatcher;
     friend class WordFiller;
     friend class WordCounter;
     friend struct PostProTnEngPeer;  // lets the tests reach the readers
@@ -332,7 +329,6 @@ class PostProTnEng {
     // ---- readers/marks: the first two write to the 4096-byte output itself ----
     bool process_bracket(Section*& p_temp_section, char* sz_target);  // false: the output is full
     Section* process_plus(Section* p_temp_section, char* sz_target);  // null: the output is full
-    Section* country_code_read(Section* p_number, char* sz_scratch, char* sz_target);  // likewise
     Section* process_single_quote(Section* p_temp_section, char* sz_target);
 
     // ---- numbers/ ----
@@ -343,7 +339,7 @@ class PostProTnEng {
     char* number_to_string(char* sz_source_text, char* sz_target_text);
 
     // ---- utterance/ ----
-    bool insert_punc(int n, UtteranceSyllable* utt, std::string_view punc_str);
+    bool insert_punc(int n, UtteranceSyllable* utt, char* punc_str);
     bool insert_pause(int n, UtteranceSyllable* utt, char ch);
     // Null: no tag of the language, or its opening is not closed.
     char* parse_tag(char* sz_text, char* sz_tag, char* sz_value, char* sz_target);

@@ -1,4 +1,4 @@
-// The words that a reader writes into a 500-byte reading buffer.
+// The words that are written for one pattern, in a reading buffer of WORD_MAX_LEN bytes.
 #ifndef KAVI_TN_READING_H
 #define KAVI_TN_READING_H
 
@@ -6,14 +6,14 @@
 #include <string_view>
 
 #include "post_pro_tn_eng.h"
-#include "scratch.h"
 
 namespace kavi::tn {
 
-// Grows behind what the buffer holds already. Words that no longer fit are cut after the last whole
+// Grows after what the buffer holds already. Words that no longer fit are cut after the last whole
 // one that does, and everything after the cut is dropped. A cut reading does not end in a blank.
 class Reading {
   public:
+    // `sz_target_text` is a text in a buffer of WORD_MAX_LEN bytes; the buffer stays the caller's.
     explicit Reading(char* sz_target_text)
         : text_(sz_target_text), length_(std::strlen(sz_target_text)) {}
 
@@ -28,33 +28,76 @@ class Reading {
         text_[length_] = '\0';
     }
 
-    // Moves what a number reader left in the scratch buffer to the end of this reading.
-    void take(Scratch& scratch) {
-        append(scratch.text());
-        scratch.clear();
+    // Appends a text that must not be broken, such as a word or a tag of the user's, and answers
+    // true; or nothing, and answers false.
+    bool append_whole(std::string_view text) {
+        if (cut_ || text.size() > ROOM - length_) return false;
+        append(text);
+        return true;
     }
 
-    // Appends a text that must not be broken, such as a markup tag, or nothing.
-    void append_whole(std::string_view text) {
-        if (text.size() <= ROOM - length_) append(text);
+    // Appends a text that is no words, since there are none for it.
+    void append_as_written(std::string_view text) {
+        append(text);
+        all_words_ = false;
+    }
+
+    // Makes the reading empty, for the next pattern.
+    void clear() {
+        clear_words();
+        cut_ = false;
+        all_words_ = true;
+        n_digit_runs_ = 0;
+    }
+
+    // Makes room for more words of the same pattern, when those so far have been copied.
+    void clear_words() {
+        text_[0] = '\0';
+        length_ = 0;
+    }
+
+    std::string_view text() const { return {text_, length_}; }
+    bool is_cut() const { return cut_; }
+    bool is_all_words() const { return all_words_; }
+
+    // ---- Which digits have been read, for those who want to know which were not ----
+
+    // Notes that these digits, a piece of a section's text, are in the reading.
+    void note_digits(std::string_view digits) {
+        if (n_digit_runs_ < DIGIT_RUNS_MAX) digit_runs_[n_digit_runs_++] = digits;
+    }
+
+    // How many digits of the text that begins at `text`, in a section's buffer, were read.
+    std::size_t digits_read(const char* text) const {
+        std::size_t n = 0;
+        for (std::size_t i = 0; i < n_digit_runs_; ++i) {
+            const std::string_view run = digit_runs_[i];
+            if (run.data() >= text && run.data() < text + WORD_MAX_LEN) n += run.size();
+        }
+        return n;
     }
 
   private:
     static constexpr std::size_t ROOM = WORD_MAX_LEN - 1;
+    static constexpr std::size_t DIGIT_RUNS_MAX = 10;  // a country code and nine groups
 
+    // What stands there already stays as it is: it may end in a tag, which holds blanks.
     void append_cut(std::string_view words) {
         cut_ = true;
-        const std::size_t room = ROOM - length_;
-        std::memcpy(text_ + length_, words.data(), room);
-        std::string_view kept(text_, ROOM);
-        if (words[room] != ' ') kept = kept.substr(0, kept.rfind(' ') + 1);
-        length_ = kept.find_last_not_of(' ') + 1;  // 0 when there is none
+        std::string_view kept = words.substr(0, ROOM - length_);
+        if (words[kept.size()] != ' ') kept = kept.substr(0, kept.rfind(' ') + 1);
+        std::memcpy(text_ + length_, kept.data(), kept.size());
+        length_ += kept.size();
+        while (length_ > 0 && text_[length_ - 1] == ' ') --length_;
         text_[length_] = '\0';
     }
 
     char* text_;
     std::size_t length_;
     bool cut_ = false;
+    bool all_words_ = true;
+    std::size_t n_digit_runs_ = 0;
+    std::string_view digit_runs_[DIGIT_RUNS_MAX];
 };
 
 }  // namespace kavi::tn

@@ -1,82 +1,68 @@
 // Fractions, decimals and money in dollars.
 
-#include "amounts.h"
+#include "../numbers/number_words.h"
+#include "readers.h"
+#include "sections.h"
 
-#include "parts.h"
+namespace kavi::tn {
 
-namespace kavi {
-
-using namespace tn;
-
-int PostProTnEng::fraction_decide(Section* pSection) {
-    Section* below = ahead(pSection, 2);
-    const bool is_fraction =
-        is_mark(ahead(pSection, 1), '/') && below != nullptr && number_def(below->sz_char) == 1;
-    return is_fraction ? 1 : 0;
+bool fraction_decide(Section* number) {
+    return is_mark(ahead(number, 1), '/') && has_digits_only(ahead(number, 2));
 }
 
-Section* PostProTnEng::fraction_number(Section* pSection, char* sz_target_text) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return pSection;
-    Section* below = ahead(pSection, 2);
-    Reading reading(sz_target_text);
-    number_to_string(pSection->sz_char, scratch.text());
-    reading.take(scratch);
+Section* fraction_number(Section* number, Reading& reading) {
+    Section* below = ahead(number, 2);
+    append_number(number->sz_char, reading);
     reading.append(" over ");
-    number_to_string(below->sz_char, scratch.text());
-    reading.take(scratch);
+    append_number(below->sz_char, reading);
     reading.append(" ");
     return below;
 }
 
-int PostProTnEng::decimal_decide(Section* pSection) {
-    Section* decimals = ahead(pSection, 2);
-    const bool is_decimal = is_mark(ahead(pSection, 1), '.') && decimals != nullptr &&
-                            number_def(decimals->sz_char) == 1;
-    return is_decimal ? 1 : 0;
+bool decimal_decide(Section* number) {
+    return is_mark(ahead(number, 1), '.') && has_digits_only(ahead(number, 2));
 }
 
-Section* PostProTnEng::decimal_number(Section* psection, char* sz_target_text) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return psection;
-    Section* decimals = ahead(psection, 2);
-    Reading reading(sz_target_text);
-    number_to_string(psection->sz_char, scratch.text());
-    reading.take(scratch);
+Section* decimal_number(Section* number, Reading& reading) {
+    Section* decimals = ahead(number, 2);
+    append_number(number->sz_char, reading);
     reading.append(" point ");
-    number_to_normal(decimals->sz_char, scratch.text());
-    reading.take(scratch);
+    append_each_digit(decimals->sz_char, reading);
     return decimals;
 }
 
-int PostProTnEng::currency_decide(Section* pSection) {
-    const Section* end = pSection;
-    while (end != nullptr && belongs_to_amount(end)) end = end->m_pnext;
-    return is_dollar(end) ? 1 : 0;
+bool belongs_to_amount(const Section* section) {
+    const char first = section->sz_char[0];
+    return first == ',' || first == '.' || has_digits_only(section);
 }
 
-Section* PostProTnEng::currrency_read(Section* pSection, char* sz_target_text) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return pSection;
-    Reading reading(sz_target_text);
-    Section* amount = pSection;  // the last section of the whole dollars
-    const Section* next = pSection->m_pnext;
+bool is_dollar(const Section* section) {
+    return section != nullptr && section->sz_char[0] == '$';
+}
+
+// The whole dollars with their unit; the last section of them, or null.
+static Section* read_dollars(Section* amount, Reading& reading) {
+    const Section* next = amount->m_pnext;
     if (next != nullptr && next->sz_char[0] == '.') {
-        number_to_string(pSection->sz_char, scratch.text());
-        reading.take(scratch);
-        const long dollars = value_of(pSection->sz_char);
+        append_number(amount->sz_char, reading);
+        const long dollars = value_of(amount);
         if (dollars != 0) reading.append(dollars == 1 ? "dollar " : "dollars ");
-    } else {
-        amount = str_number(pSection, scratch.text());
-        reading.take(scratch);
-        reading.append("dollars ");
+        return amount;
     }
-    Section* cents = ahead(amount, 2);
-    if (!is_mark(ahead(amount, 1), '.') || !is_number(cents)) return amount;
-    number_read(cents->sz_char, scratch.text());
-    reading.take(scratch);
-    reading.append(value_of(cents->sz_char) > 1 ? "cents " : "cent ");
+    Section* last = str_number(amount, reading);
+    const std::string_view text = reading.text();
+    if (!text.empty() && is_letter(text.back())) reading.append(" ");  // after a word of the user's
+    reading.append("dollars ");
+    return last;
+}
+
+Section* currrency_read(Section* amount, Reading& reading) {
+    Section* last = read_dollars(amount, reading);
+    Section* cents = ahead(last, 2);
+    if (!is_mark(ahead(last, 1), '.') || !is_number(cents)) return last;
+    append_cardinal(cents->sz_char, reading);
+    reading.append(value_of(cents) > 1 ? "cents " : "cent ");
     return cents;
 }
 
-}  // namespace kavi
+}  // namespace kavi::tn

@@ -1,14 +1,12 @@
 // Clock times: 10:30, and 10:30:15 or 10:30'15 with their units.
 
-#include "parts.h"
+#include "../numbers/number_words.h"
+#include "readers.h"
+#include "sections.h"
 
-namespace kavi {
-
-using namespace tn;
+namespace kavi::tn {
 
 namespace {
-
-enum TimeForm { NO_TIME = 0, SHORT_TIME = 1, LONG_TIME = 2 };
 
 struct TimeUnit {
     const char* one;
@@ -25,46 +23,43 @@ const char* unit_word(const TimeUnit& unit, long value) {
     return value == 0 ? unit.zero : unit.many;
 }
 
+void append_part(const Section* number, const TimeUnit& unit, Reading& reading) {
+    append_number(number->sz_char, reading);
+    reading.append(unit_word(unit, value_of(number)));
+}
+
+// The last part of a time need not be a number. What has no room is left to the dispatcher.
+Section* end_at(Section* part, Reading& reading) {
+    return append_no_number(part, reading) ? part : part->m_pprevious;
+}
+
 }  // namespace
 
-int PostProTnEng::time_decide(Section* pSection) {
-    if (!is_mark(ahead(pSection, 1), ':')) return NO_TIME;
-    Section* minutes = ahead(pSection, 2);
-    if (minutes == nullptr || number_def(minutes->sz_char) == 0) return SHORT_TIME;
-    const Section* separator = ahead(pSection, 3);
+TimeForm time_decide(Section* hours) {
+    if (!is_mark(ahead(hours, 1), ':')) return NO_TIME;
+    if (!has_digits_only(ahead(hours, 2))) return SHORT_TIME;
+    const Section* separator = ahead(hours, 3);
     return is_mark(separator, ':') || is_mark(separator, '\'') ? LONG_TIME : SHORT_TIME;
 }
 
-Section* PostProTnEng::time_number(Section* psection, char* sz_target_text) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return nullptr;
-    Section* minutes = ahead(psection, 2);
-    Section* seconds = ahead(psection, 4);
-    Reading reading(sz_target_text);
-    // The hours' class is overwritten by the form code, but they are always a number.
-    const auto read = [&](Section* part, const TimeUnit* unit) {
-        if (part != psection && !is_number(part)) {
-            append_no_number(part, reading);
-            return;
-        }
-        number_to_string(part->sz_char, scratch.text());
-        reading.take(scratch);
-        if (unit != nullptr) reading.append(unit_word(*unit, value_of(part->sz_char)));
-    };
-
-    if (psection->m_nmark == SHORT_TIME && minutes != nullptr) {
-        read(psection, nullptr);
+Section* time_number(Section* hours, TimeForm form, Reading& reading) {
+    Section* minutes = ahead(hours, 2);
+    Section* seconds = ahead(hours, 4);
+    if (form == SHORT_TIME && minutes != nullptr) {
+        append_number(hours->sz_char, reading);
         reading.append(" ");
-        read(minutes, nullptr);
+        if (!is_number(minutes)) return end_at(minutes, reading);
+        append_number(minutes->sz_char, reading);
         return minutes;
     }
-    if (psection->m_nmark == LONG_TIME && seconds != nullptr) {
-        read(psection, &HOURS);
-        read(minutes, &MINUTES);
-        read(seconds, &SECONDS);
+    if (form == LONG_TIME && seconds != nullptr) {
+        append_part(hours, HOURS, reading);
+        append_part(minutes, MINUTES, reading);
+        if (!is_number(seconds)) return end_at(seconds, reading);
+        append_part(seconds, SECONDS, reading);
         return seconds;
     }
     return nullptr;
 }
 
-}  // namespace kavi
+}  // namespace kavi::tn

@@ -1,84 +1,83 @@
-// Month names, numeric dates and years.
+// Numeric dates, years, and days beside a month.
 
-#include <cassert>
-#include <cstring>
-
+#include "../numbers/number_words.h"
 #include "months.h"
-#include "parts.h"
+#include "readers.h"
+#include "sections.h"
 
-namespace kavi {
+namespace kavi::tn {
 
-using namespace tn;
+namespace {
 
-int PostProTnEng::month_def(char* sz_source) {
-    return month_name(sz_source) != nullptr ? 1 : 0;
+bool is_part_of_date(const Section* section) {
+    return has_digits_only(section) || is_month(section);
 }
 
-char* PostProTnEng::month_read(char* sz_source_text, char* sz_target_text) {
-    const char* name = month_name(sz_source_text);
-    if (name == nullptr) name = sz_source_text;
-    std::memcpy(sz_target_text, name, std::strlen(name) + 1);
-    return sz_target_text;
+// A month or, for what names none, the text as it stands.
+void append_month(const Section* section, Reading& reading) {
+    const std::string_view text = section->sz_char;
+    const char* name = month_name(text);
+    if (name == nullptr) {
+        reading.append_as_written(text);
+        return;
+    }
+    reading.append(name);
+    if (is_digit(text[0])) reading.note_digits(text);
 }
 
-// Day, "/" or "-", month, "/", year. No value is tested.
-int PostProTnEng::data_decide(Section* p_section) {
-    const auto is_part = [this](Section* part) {
-        return part != nullptr && (number_def(part->sz_char) == 1 || month_def(part->sz_char) == 1);
-    };
-    const Section* separator = ahead(p_section, 1);
-    const bool is_date = (is_mark(separator, '/') || is_mark(separator, '-')) &&
-                         is_part(ahead(p_section, 2)) && is_mark(ahead(p_section, 3), '/') &&
-                         is_part(ahead(p_section, 4));
-    return is_date ? 1 : 0;
+}  // namespace
+
+bool data_decide(Section* day) {
+    const Section* separator = ahead(day, 1);
+    return (is_mark(separator, '/') || is_mark(separator, '-')) && is_part_of_date(ahead(day, 2)) &&
+           is_mark(ahead(day, 3), '/') && is_part_of_date(ahead(day, 4));
 }
 
-Section* PostProTnEng::data_number(Section* p_section, char* sz_target_text) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return p_section;
-    Section* month = ahead(p_section, 2);
-    Section* year = ahead(month, 2);
-    assert(month != nullptr && year != nullptr);  // data_decide has seen them
-    Reading reading(sz_target_text);
+Section* data_number(Section* day, Reading& reading) {
+    Section* year = ahead(day, 4);
     reading.append(" the ");
-    str_turn(p_section->sz_char, scratch.text());
-    reading.take(scratch);
+    append_ordinal(day->sz_char, reading);
     reading.append(" of ");
-    month_read(month->sz_char, scratch.text());
-    reading.take(scratch);
+    append_month(ahead(day, 2), reading);
     reading.append(" ");
     if (is_number(year)) {
-        year_read(year->sz_char, scratch.text());
+        year_read(year->sz_char, reading);
     } else {
-        month_read(year->sz_char, scratch.text());
+        append_month(year, reading);
     }
-    reading.take(scratch);
     return year;
 }
 
-char* PostProTnEng::year_read(char* sz_source_text, char* sz_target_text) {
-    const std::size_t length = std::strlen(sz_source_text);
-    if (length != 2 && length != 4) return sz_target_text;
-    Scratch scratch(_mem_handle);
-    if (!scratch) return sz_target_text;
-    Reading reading(sz_target_text);
-    char* years = sz_source_text + length - 2;
-    if (length == 2) {
+void year_read(std::string_view digits, Reading& reading) {
+    constexpr std::size_t SHORT = 2;
+    constexpr std::size_t LONG = 4;
+    if (digits.size() != SHORT && digits.size() != LONG) return;
+    const std::string_view years = digits.substr(digits.size() - SHORT);
+    if (digits.size() == SHORT) {
         reading.append("two thousand ");
     } else {
-        char century[] = {sz_source_text[0], sz_source_text[1], '\0'};
-        if (std::strcmp(century, "20") == 0) {
+        const std::string_view century = digits.substr(0, SHORT);
+        if (century == "20") {
             reading.append(" two thousand ");
+            reading.note_digits(century);
         } else {
-            number_read(century, scratch.text());
-            reading.take(scratch);
+            append_cardinal(century, reading);
         }
-        const long value = value_of(years);
-        if (value > 0 && value < 10) reading.append(" zero ");
+        if (years[0] == '0' && years[1] != '0') reading.append(" zero ");
     }
-    number_read(years, scratch.text());
-    reading.take(scratch);
-    return sz_target_text;
+    append_cardinal(years, reading);
 }
 
-}  // namespace kavi
+bool is_year(long value) {
+    constexpr long FIRST_YEAR = 1100;
+    constexpr long LAST_YEAR = 9999;
+    return value >= FIRST_YEAR && value <= LAST_YEAR;
+}
+
+bool is_day_of_month(Section* number) {
+    const Section* before = number->m_pprevious;
+    return is_month(ahead(number, 2)) || is_month(before) ||
+           (before != nullptr && is_month(before->m_pprevious));
+}
+
+}  // namespace kavi::tn

@@ -1,14 +1,13 @@
-// Brackets, plus signs and apostrophes: marks whose meaning depends on their neighbours.
+// Brackets and plus signs that begin a telephone number, and apostrophes.
 
 #include <cstring>
 
-#include "../common/bounded_text.h"
 #include "../common/word_table.h"
-#include "parts.h"
+#include "../numbers/number_words.h"
+#include "readers.h"
+#include "sections.h"
 
-namespace kavi {
-
-using namespace tn;
+namespace kavi::tn {
 
 namespace {
 
@@ -17,52 +16,44 @@ constexpr char CONTRACTIONS[5][2][5] = {
     {"m", "am"}, {"s", "is"}, {"ll", "will"}, {"re", "are"}, {"t", "not"},
 };
 
+// The number is the country code, what follows it the telephone number.
+bool country_code_read(Section* number, Reading& reading, BoundedText& output, Section*& last) {
+    append_cardinal(number->sz_char, reading);
+    if (!output.append("country code ") || !output.append(reading.text()) || !output.append(" ")) {
+        return false;
+    }
+    reading.clear_words();
+    last = phone_number_read(number->m_pnext, reading);
+    return output.append(reading.text()) && output.append(" ");
+}
+
 }  // namespace
 
-bool PostProTnEng::process_bracket(Section*& p_temp_section, char* sz_target) {
-    Scratch scratch(_mem_handle, WORD_MAX_LEN, WORD_MAX_LEN);
-    if (!scratch) return true;
-    Section* number = ahead(p_temp_section, 1);
-    Section* mark = ahead(p_temp_section, 2);
-    if (!is_number(number)) return BoundedText(sz_target, SZ_TEXT_MAX_LEN).append("<punc=zuokuo>");
-    if (mark == nullptr || mark->m_nmark != MARKSYMBOL) return true;
-    if (phone_number_decide(ahead(p_temp_section, 3)) == 0) return true;
-    Section* last = country_code_read(number, scratch.text(), sz_target);
-    if (last != nullptr) p_temp_section = last;
-    return last != nullptr;
+bool bracket_read(Section* bracket, Reading& reading, BoundedText& output, Section*& last) {
+    Section* number = ahead(bracket, 1);
+    const Section* mark = ahead(bracket, 2);
+    last = nullptr;
+    const bool begins_number = is_number(number) && mark != nullptr &&
+                               mark->m_nmark == MARKSYMBOL &&
+                               phone_number_decide(ahead(bracket, 3));
+    return !begins_number || country_code_read(number, reading, output, last);
 }
 
-Section* PostProTnEng::process_plus(Section* p_temp_section, char* sz_target) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return p_temp_section;
-    if (is_number(p_temp_section->m_pprevious)) {
-        return BoundedText(sz_target, SZ_TEXT_MAX_LEN).append("add ") ? p_temp_section : nullptr;
-    }
-    Section* number = ahead(p_temp_section, 1);
-    if (!is_number(number) || phone_number_decide(ahead(p_temp_section, 2)) == 0) {
-        return p_temp_section;
-    }
-    return country_code_read(number, scratch.text(), sz_target);
+bool plus_read(Section* plus, Reading& reading, BoundedText& output, Section*& last) {
+    Section* number = ahead(plus, 1);
+    last = nullptr;
+    const bool begins_number = is_number(number) && phone_number_decide(ahead(plus, 2));
+    return !begins_number || country_code_read(number, reading, output, last);
 }
 
-Section* PostProTnEng::country_code_read(Section* p_number, char* sz_scratch, char* sz_target) {
-    BoundedText output(sz_target, SZ_TEXT_MAX_LEN);
-    number_read(p_number->sz_char, sz_scratch);
-    if (!output.append("country code ") || !output.append(sz_scratch) || !output.append(" ")) {
-        return nullptr;
-    }
-    sz_scratch[0] = '\0';
-    Section* last = phone_number_read(p_number->m_pnext, sz_scratch);
-    return output.append(sz_scratch) && output.append(" ") ? last : nullptr;
+const char* find_contraction(std::string_view letters) {
+    return find_word(CONTRACTIONS, letters);
 }
 
-Section* PostProTnEng::process_single_quote(Section* p_temp_section, char* /*sz_target*/) {
-    Section* word = p_temp_section->m_pnext;
-    if (word == nullptr) return p_temp_section;
-    if (const char* full = find_word(CONTRACTIONS, word->sz_char)) {
-        std::memcpy(word->sz_char, full, std::strlen(full) + 1);
-    }
-    return p_temp_section;
+void process_single_quote(Section* apostrophe) {
+    Section* word = apostrophe->m_pnext;
+    const char* full = word != nullptr ? find_contraction(word->sz_char) : nullptr;
+    if (full != nullptr) std::memcpy(word->sz_char, full, std::strlen(full) + 1);
 }
 
-}  // namespace kavi
+}  // namespace kavi::tn

@@ -1,28 +1,24 @@
-// Numbers with thousands separators, ordinals with their suffix, words in capital letters.
+// Numbers with thousands separators, and ordinals with their suffix.
 
 #include <cstring>
-#include <string_view>
 
-#include "../common/ascii.h"
-#include "EngLexicon.h"
-#include "parts.h"
+#include "../markup/markup_tags.h"
+#include "../numbers/number_words.h"
+#include "readers.h"
+#include "sections.h"
 
-namespace kavi {
-
-using namespace tn;
+namespace kavi::tn {
 
 namespace {
 
 bool is_group(const Section* section) {
-    return section != nullptr && is_digits(section->sz_char) && std::strlen(section->sz_char) < 4;
+    return has_digits_only(section) && std::strlen(section->sz_char) <= GROUP_DIGITS;
 }
 
-constexpr std::string_view SCALES[] = {" thousand ", " million ", " billion "};
-
-// How a number with separators is to be read: with `scales` scale words, and whether its last
-// group is an ordinal.
+// How a number with separators is to be read: with so many groups after its first, and whether its
+// last group is an ordinal.
 struct NumberForm {
-    int scales;
+    std::size_t groups_after;
     bool ordinal;
 };
 
@@ -34,87 +30,57 @@ NumberForm number_form(Section* number) {
     return {2, is_ordinal_suffix(ahead(number, 5))};
 }
 
+// The last section of a number with separators, with mark and suffix when it is an ordinal. It
+// need not be a number.
+Section* read_last(Section* last, bool ordinal, Reading& reading) {
+    if (!is_number(last)) {
+        if (!append_no_number(last, reading)) return last->m_pprevious;
+    } else if (ordinal) {
+        append_ordinal(last->sz_char, reading);
+    } else {
+        append_cardinal(last->sz_char, reading);
+    }
+    return ordinal ? last->m_pnext : last;
+}
+
 }  // namespace
 
-Section* PostProTnEng::str_number(Section* p_section, char* sz_target_text) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return p_section;
-    Reading reading(sz_target_text);
-    if (!is_mark(p_section->m_pnext, ',')) {
-        if (std::strlen(p_section->sz_char) < 4) {
-            number_read(p_section->sz_char, scratch.text());
-        } else {
-            number_to_string(p_section->sz_char, scratch.text());
-        }
-        reading.take(scratch);
-        return p_section;
-    }
+bool append_no_number(const Section* section, Reading& reading) {
+    const bool is_spoken =
+        section->m_nmark == STRINGSYMBOL || begins_sentence_tag(section->sz_char);
+    return !is_spoken || reading.append_whole(section->sz_char);
+}
 
-    const NumberForm form = number_form(p_section);
-    Section* group = p_section;
-    for (int scale = form.scales; scale > 0; --scale) {
-        number_read(group->sz_char, scratch.text());
-        reading.take(scratch);
+Section* str_number(Section* number, Reading& reading) {
+    if (!is_mark(number->m_pnext, ',')) {
+        append_number(number->sz_char, reading);
+        return number;
+    }
+    const NumberForm form = number_form(number);
+    Section* group = number;
+    for (std::size_t n = form.groups_after; n > 0; --n) {
+        append_cardinal(group->sz_char, reading);
         Section* next_group = ahead(group, 2);
-        if (form.scales == 1 && (next_group == nullptr || std::strlen(next_group->sz_char) != 3)) {
-            group = group->m_pnext;  // no group of thousands: the number ends with its comma
-        } else {
-            reading.append(SCALES[scale - 1]);
-            group = next_group;
+        const bool is_whole =
+            next_group != nullptr && std::strlen(next_group->sz_char) == GROUP_DIGITS;
+        if (form.groups_after == 1 && !is_whole) {
+            // No group of thousands: the number ends with its comma.
+            return form.ordinal ? next_group : group->m_pnext;
         }
+        reading.append(scale_word(n));
+        group = next_group;
     }
-    if (group == nullptr) return nullptr;
-    if (!is_number(group)) {
-        append_no_number(group, reading);
-    } else if (form.ordinal) {
-        str_turn(group->sz_char, scratch.text());
-    } else {
-        number_read(group->sz_char, scratch.text());
-    }
-    reading.take(scratch);
-    return form.ordinal ? group->m_pnext : group;
+    return group != nullptr ? read_last(group, form.ordinal, reading) : nullptr;
 }
 
-Section* PostProTnEng::turn(Section* p_section, char* sz_target_text) {
-    Scratch scratch(_mem_handle);
-    if (!scratch) return p_section;
-    Reading reading(sz_target_text);
-    const std::size_t n_length = std::strlen(p_section->sz_char);
-    char* last_group = p_section->sz_char + (n_length < 4 ? 0 : n_length - 3);
-    char c_temp[4] = {};
-    std::memcpy(c_temp, last_group, n_length < 4 ? n_length : 3);
-    if (n_length >= 4) {
-        constexpr std::string_view SCALE = SCALES[0];
-        std::memset(last_group, '0', 3);
-        number_to_string(p_section->sz_char, scratch.text());
-        // What stands behind the last scale word is the reading of the zeros.
-        const std::string_view leading = scratch.text();
-        const std::size_t scale = leading.rfind(SCALE);
-        if (scale != std::string_view::npos)
-            reading.append(leading.substr(0, scale + SCALE.size()));
-        scratch.clear();
+// The section keeps zeros in the place of its last group, as hosts know it.
+Section* turn(Section* number, Reading& reading) {
+    const std::size_t length = std::strlen(number->sz_char);
+    append_ordinal_number({number->sz_char, length}, reading);
+    if (length > GROUP_DIGITS) {
+        std::memset(number->sz_char + length - GROUP_DIGITS, '0', GROUP_DIGITS);
     }
-    str_turn(c_temp, scratch.text());
-    reading.take(scratch);
-    return p_section->m_pnext;
+    return number->m_pnext;
 }
 
-// The lexicon is asked about a word in capitals, but as yet its answer makes no difference: the
-// word is written unchanged, known or not.
-int PostProTnEng::process_upper_case(Section* m_ptemp_section, char* sz_target) {
-    const char* word = m_ptemp_section->sz_char;
-    std::size_t n_length = 0;
-    while (is_upper(word[n_length])) ++n_length;
-    if (word[n_length] != '\0') return 0;
-    Scratch sz_desc(_mem_handle, n_length + 2, n_length + 2);
-    if (sz_desc) {
-        for (std::size_t i = 0; i < n_length; ++i) sz_desc.text()[i] = to_lower(word[i]);
-        sz_desc.text()[n_length] = '\0';
-        char sz_phone[256] = {};
-        static_cast<void>(eng_lexicon_lookup(sz_desc.text(), sz_phone, sizeof sz_phone));
-    }
-    std::memcpy(sz_target, word, n_length + 1);
-    return 1;
-}
-
-}  // namespace kavi
+}  // namespace kavi::tn

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "../common/ascii.h"
+#include "../common/bounded_text.h"
 
 namespace kavi {
 
@@ -87,27 +88,31 @@ bool AbbreviationSearch::is_accepted(std::size_t row, const char* stretch, const
     return true;
 }
 
-char* AbbreviationSearch::expand(char* stretch, const char* dot, BoundedText& target, char& stop) {
+std::optional<Abbreviation> AbbreviationSearch::find(const char* stretch, const char* dot) {
     unsigned rows = dot > stretch ? rows_ending_in(dot[-1]) : 0;
     for (std::size_t row = 0; rows != 0; ++row, rows >>= 1) {
         if ((rows & 1U) == 0 || !is_accepted(row, stretch, dot)) continue;
-        const int offset = DOT_OFFSETS[row];
-        target.cut(offset + 1);
-        if (!target.append(s_spec_word_abbrevi[row][1]) || !target.append(" ")) return nullptr;
-        return stretch + (dot - stretch) - offset + std::strlen(s_spec_word_abbrevi[row][0]);
+        const auto& [written, expansion] = s_spec_word_abbrevi[row];
+        return Abbreviation{written, expansion, static_cast<std::size_t>(DOT_OFFSETS[row])};
     }
-    stop = 1;
-    if (target.ends_with('.')) target.cut(1);
-    return nullptr;
+    return std::nullopt;
 }
 
 }  // namespace tn
 
 char* PostProTnEng::abbreviation(char* sz_source_text, char* sz_target, char* c_stop) {
     tn::BoundedText target(sz_target, SZ_TEXT_MAX_LEN);
-    const char* dot = std::strchr(sz_source_text, '.');
-    if (dot == nullptr) dot = sz_source_text;  // no abbreviation ends before its own beginning
-    return tn::AbbreviationSearch().expand(sz_source_text, dot, target, *c_stop);
+    char* dot = std::strchr(sz_source_text, '.');
+    std::optional<tn::Abbreviation> found;
+    if (dot != nullptr) found = tn::AbbreviationSearch().find(sz_source_text, dot);
+    if (!found) {
+        *c_stop = 1;
+        if (target.ends_with('.')) target.cut(1);
+        return nullptr;
+    }
+    target.cut(static_cast<int>(found->dot_offset) + 1);
+    const bool fits = target.append(found->expansion) && target.append(" ");
+    return fits ? dot - found->dot_offset + found->written.size() : nullptr;
 }
 
 }  // namespace kavi

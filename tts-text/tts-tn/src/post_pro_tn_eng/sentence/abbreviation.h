@@ -5,21 +5,28 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string_view>
 
-#include "../common/bounded_text.h"
 #include "../common/forward_finder.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
 
+// A row of the table.
+struct Abbreviation {
+    std::string_view written;
+    std::string_view expansion;
+    std::size_t dot_offset;  // where its first "." stands
+};
+
 // Serves one scan of one source text: remembers which case forms lie ahead, so that even a text
 // made of near misses is searched once for each.
 class AbbreviationSearch {
   public:
-    // Expands the abbreviation that the full stop at `dot` ends, where `stretch` is where the
-    // search begins, the end of the last abbreviation or decimal point; the contract of
-    // PostProTnEng::abbreviation otherwise. Stretches move forward from call to call.
-    char* expand(char* stretch, const char* dot, BoundedText& target, char& stop);
+    // The abbreviation whose first "." is the one at `dot`, or none. `stretch` is where the search
+    // begins: at the start of the sentence, or after the last abbreviation or decimal point; `dot`
+    // is the first "." from there on. Stretches move forward from call to call.
+    std::optional<Abbreviation> find(const char* stretch, const char* dot);
 
   private:
     bool is_accepted(std::size_t row, const char* stretch, const char* dot);

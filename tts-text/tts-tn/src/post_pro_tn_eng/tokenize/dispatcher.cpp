@@ -1,36 +1,62 @@
 #include "dispatcher.h"
 
-#include <cstring>
-
 #include "../markup/markup_tags.h"
+#include "../numbers/number_words.h"
+#include "../readers/months.h"
+#include "../readers/readers.h"
 #include "../readers/sections.h"
-#include "../readers/amounts.h"
-#include "../readers/parts.h"
+#include "../readers/words.h"
 #include "mark_readings.h"
-#include "plain_text.h"
 
-namespace kavi {
+namespace kavi::tn {
 
-using namespace tn;
-
-SectionDispatcher::SectionDispatcher(PostProTnEng& engine, Section* head, BoundedText& output)
-    : engine_(engine), output_(output), section_(head) {
-    reading_[0] = '\0';
-}
-
-ReadingRule SectionDispatcher::run() {
-    ReadingRule rule = ReadingRule::silent;
-    while (section_ != nullptr) {
-        const Section* first = section_;
-        rule = step();
-        if (rule == ReadingRule::full || rule == ReadingRule::end) break;
-        if (section_ == nullptr) return ReadingRule::end;  // a reader ran out of sections
-        advance(first);
+bool SectionDispatcher::next() {
+    if (outcome_ != Outcome::go_on) return false;
+    if (last_ != nullptr) section_ = section_after(last_);
+    if (section_ == nullptr) {
+        last_ = nullptr;
+        return false;
     }
-    return rule;
+    first_ = section_;
+    output_before_ = output_.length();
+    reading_.clear();
+    last_ = step();
+    all_words_ = all_words_ && reading_.is_all_words();
+    if (last_ == nullptr && outcome_ == Outcome::go_on) outcome_ = Outcome::ended;
+    return true;
 }
 
-ReadingRule SectionDispatcher::step() {
+Section* SectionDispatcher::section_after(const Section* last) {
+    if (window_ != nullptr) return window_->after(last);
+    for (const Section* s = first_; s != last->m_pnext; s = s->m_pnext) {
+        amount_end_.pass(s);
+        greater_.pass(s);
+    }
+    return last->m_pnext;
+}
+
+void SectionDispatcher::append(std::string_view words) {
+    if (!output_.append(words)) outcome_ = Outcome::full;
+}
+
+void SectionDispatcher::append_spaced(std::string_view words) {
+    append(words);
+    if (outcome_ == Outcome::go_on) append(" ");
+}
+
+Section* SectionDispatcher::read_as(ReadingRule rule, std::string_view words, Section* last) {
+    rule_ = rule;
+    append(words);
+    return last;
+}
+
+Section* SectionDispatcher::reading_as(ReadingRule rule, Section* last) {
+    rule_ = rule;
+    append_spaced(reading_.text());
+    return last;
+}
+
+Section* SectionDispatcher::step() {
     switch (section_->m_nmark) {
         case STRINGSYMBOL: return word();
         case NUMBERSYMBOL: return number();
@@ -38,186 +64,162 @@ ReadingRule SectionDispatcher::step() {
     }
 }
 
-void SectionDispatcher::advance(const Section* first_of_step) {
-    if (section_ == nullptr) return;  // a reader ran out of sections
-    section_ = section_->m_pnext;
-    for (; first_of_step != section_; first_of_step = first_of_step->m_pnext) {
-        amount_end_.pass(first_of_step);
-        greater_.pass(first_of_step);
-    }
-}
-
-ReadingRule SectionDispatcher::append(std::string_view words, ReadingRule rule) {
-    return output_.append(words) ? rule : ReadingRule::full;
-}
-
-ReadingRule SectionDispatcher::append_spaced(std::string_view words, ReadingRule rule) {
-    return output_.append(words) && output_.append(" ") ? rule : ReadingRule::full;
-}
-
-ReadingRule SectionDispatcher::append_reading(ReadingRule rule) {
-    const ReadingRule result = append_spaced(reading_, rule);
-    reading_[0] = '\0';
-    return result;
-}
-
-// The reading of the pattern that ends with `last`; without a last section it ends the walk.
-ReadingRule SectionDispatcher::append_reading(Section* last, ReadingRule rule) {
-    section_ = last;
-    return append_reading(rule);
-}
-
 // ---- words ----
 
-ReadingRule SectionDispatcher::word() {
-    char* text = section_->sz_char;
-    if (is_plain_word(text)) return append_spaced(text, ReadingRule::word);
-    if (engine_.month_def(text) == 1) {
-        engine_.month_read(text, reading_);
-        return append_reading(ReadingRule::month);
+Section* SectionDispatcher::word() {
+    const std::string_view text = section_->sz_char;
+    switch (word_kind(text)) {
+        case WordKind::telephone_label: return telephone();
+        case WordKind::month:
+            rule_ = ReadingRule::month;
+            append_spaced(month_name(text));
+            return section_;
+        case WordKind::capitals:
+            rule_ = ReadingRule::capital_letters;
+            ask_lexicon(text);
+            break;
+        case WordKind::plain: rule_ = ReadingRule::word; break;
     }
-    if (is_text(section_, "Tel")) return telephone();
-    if (engine_.process_upper_case(section_, reading_) != 0) {
-        return append_reading(ReadingRule::capital_letters);
-    }
-    return append_spaced(text, ReadingRule::word);
+    append_spaced(text);
+    return section_;
 }
 
-ReadingRule SectionDispatcher::telephone() {
+Section* SectionDispatcher::telephone() {
     Section* stop = section_->m_pnext;
-    if (!is_mark(stop, '.')) return append("telephone ", ReadingRule::telephone_label);
-    if (engine_.phone_number_decide(stop->m_pnext) == 0) {
-        section_ = stop;
-        return append("telephone ", ReadingRule::telephone_label);
+    if (!is_mark(stop, '.')) {
+        return read_as(ReadingRule::telephone_label, "telephone ", section_);
     }
-    if (!output_.append("telephone number ")) return ReadingRule::full;
-    return append_reading(engine_.phone_number_read(stop->m_pnext, reading_),
-                          ReadingRule::telephone_number);
+    if (!phone_number_decide(stop->m_pnext)) {
+        return read_as(ReadingRule::telephone_label, "telephone ", stop);
+    }
+    append("telephone number ");
+    if (outcome_ == Outcome::full) return nullptr;
+    Section* last = phone_number_read(stop->m_pnext, reading_);
+    return reading_as(ReadingRule::telephone_number, last);
 }
 
 // ---- numbers ----
 
-ReadingRule SectionDispatcher::number() {
+Section* SectionDispatcher::number() {
     const Section* next = section_->m_pnext;
     if (is_mark(next, ',')) {
-        return append_reading(engine_.str_number(section_, reading_),
-                              ReadingRule::separated_number);
+        return reading_as(ReadingRule::separated_number, str_number(section_, reading_));
     }
     if (is_ordinal_suffix(next)) {
-        return append_reading(engine_.turn(section_, reading_), ReadingRule::ordinal);
+        return reading_as(ReadingRule::ordinal, turn(section_, reading_));
+    }
+    if (data_decide(section_)) {
+        return reading_as(ReadingRule::date, data_number(section_, reading_));
     }
     if (is_mark(next, '/')) {
-        if (engine_.data_decide(section_) == 1) return date();
-        if (engine_.fraction_decide(section_) == 1) {
-            return append_reading(engine_.fraction_number(section_, reading_),
-                                  ReadingRule::fraction);
-        }
-        return plain_number();
+        if (!fraction_decide(section_)) return plain_number();
+        return reading_as(ReadingRule::fraction, fraction_number(section_, reading_));
     }
     if (is_amount_before_dollar()) return money(section_);
-    if (is_mark(next, '.') && engine_.decimal_decide(section_) == 1) {
-        return append_reading(engine_.decimal_number(section_, reading_), ReadingRule::decimal);
+    if (decimal_decide(section_)) {
+        return reading_as(ReadingRule::decimal, decimal_number(section_, reading_));
     }
-    if (is_mark(next, ':')) return clock_time();
-    if (is_mark(next, '-') && engine_.data_decide(section_) == 1) return date();
-    return plain_number();
+    return is_mark(next, ':') ? clock_time() : plain_number();
 }
 
 // The answer of currency_decide, without walking over the same amount from each of its numbers.
 bool SectionDispatcher::is_amount_before_dollar() {
+    if (window_ != nullptr) return window_->is_amount_before_dollar(section_);
     return is_dollar(
         amount_end_.find(section_, [](const Section* s) { return !belongs_to_amount(s); }));
 }
 
-ReadingRule SectionDispatcher::date() {
-    return append_reading(engine_.data_number(section_, reading_), ReadingRule::date);
+Section* SectionDispatcher::money(Section* amount) {
+    return reading_as(ReadingRule::money, currrency_read(amount, reading_));
 }
 
-ReadingRule SectionDispatcher::money(Section* amount) {
-    return append_reading(engine_.currrency_read(amount, reading_), ReadingRule::money);
+// The form code stands in the place of the section's class from here on. An incomplete time ends
+// the walk without its words.
+Section* SectionDispatcher::clock_time() {
+    const TimeForm form = time_decide(section_);
+    section_->m_nmark = form;
+    Section* last = time_number(section_, form, reading_);
+    rule_ = ReadingRule::clock_time;
+    return last != nullptr ? reading_as(ReadingRule::clock_time, last) : nullptr;
 }
 
-ReadingRule SectionDispatcher::clock_time() {
-    section_->m_nmark = engine_.time_decide(section_);
-    Section* last = engine_.time_number(section_, reading_);
-    if (last == nullptr) return ReadingRule::end;
-    return append_reading(last, ReadingRule::clock_time);
-}
-
-bool SectionDispatcher::is_month(Section* section) {
-    return section != nullptr && engine_.month_def(section->sz_char) == 1;
-}
-
-ReadingRule SectionDispatcher::plain_number() {
-    constexpr long FIRST_YEAR = 1100;
-    constexpr long LAST_YEAR = 9999;
-    char* text = section_->sz_char;
-    const long value = value_of(text);
-    if (value >= FIRST_YEAR && value <= LAST_YEAR) {
-        engine_.year_read(text, reading_);
-        return append_reading(ReadingRule::year);
+Section* SectionDispatcher::plain_number() {
+    const std::string_view digits = section_->sz_char;
+    if (is_year(value_of(section_))) {
+        year_read(digits, reading_);
+        return reading_as(ReadingRule::year, section_);
     }
-    Section* previous = section_->m_pprevious;
-    if (is_month(ahead(section_, 2)) || is_month(previous) ||
-        (previous != nullptr && is_month(previous->m_pprevious))) {
-        engine_.str_turn(text, reading_);
-        return append_reading(ReadingRule::ordinal_day);
+    if (is_day_of_month(section_)) {
+        append_ordinal(digits, reading_);
+        return reading_as(ReadingRule::ordinal_day, section_);
     }
-    engine_.number_to_string(text, reading_);
-    return append_reading(ReadingRule::cardinal);
+    append_number(digits, reading_);
+    return reading_as(ReadingRule::cardinal, section_);
 }
 
 // ---- marks ----
 
-ReadingRule SectionDispatcher::mark() {
-    const char* text = section_->sz_char;
-    const bool behind_number = is_number(section_->m_pprevious);
-    switch (*text) {
-        case ' ': return ReadingRule::silent;
-        case '<': return smaller();
-        case '(':
-            if (!engine_.process_bracket(section_, output_.text())) return ReadingRule::full;
-            output_.catch_up();
-            return ReadingRule::bracket;
-        case '+':
-            section_ = engine_.process_plus(section_, output_.text());
-            if (section_ == nullptr) return ReadingRule::full;
-            output_.catch_up();
-            return ReadingRule::plus_sign;
-        case '-':
-            if (behind_number) return append("subtract ", ReadingRule::mark);
-            return append(is_number(section_->m_pnext) ? "minus " : " ", ReadingRule::mark);
-        case '~': return append_spaced("arrive ", ReadingRule::mark);
-        case '\'':
-            section_ = engine_.process_single_quote(section_, output_.text());
-            return ReadingRule::contraction;
-        case '$':
-            if (is_number(section_->m_pnext)) return money(section_->m_pnext);
-            return append(" ", ReadingRule::mark);
-        default: break;
+Section* SectionDispatcher::mark() {
+    const MarkReading* row = find_mark(section_->sz_char[0]);
+    rule_ = row != nullptr ? ReadingRule::mark : ReadingRule::silent;
+    if (row == nullptr) return section_;
+    const bool before_number = is_number(section_->m_pnext);
+    const char* words = words_of(*row, is_number(section_->m_pprevious), before_number);
+    if (words == READER) {
+        switch (row->mark) {
+            case '<': return smaller();
+            case '\'':
+                rule_ = ReadingRule::contraction;
+                process_single_quote(section_);
+                return section_;
+            case '(':
+                if (before_number) return bracket();
+                break;
+            case '+': return plus_sign();
+            case '$':
+                if (before_number) return money(section_->m_pnext);
+                break;
+            default: break;
+        }
+        words = row->otherwise;
     }
-    const MarkReading* row = find_mark(*text);
-    if (row == nullptr) return ReadingRule::silent;
-    return append(behind_number ? row->behind_number : row->otherwise, ReadingRule::mark);
+    append(words);
+    if (row->spaced && outcome_ == Outcome::go_on) append(" ");
+    return section_;
+}
+
+Section* SectionDispatcher::bracket() {
+    Section* last = nullptr;
+    rule_ = ReadingRule::bracket;
+    if (!bracket_read(section_, reading_, output_, last)) outcome_ = Outcome::full;
+    return last != nullptr ? last : section_;
+}
+
+Section* SectionDispatcher::plus_sign() {
+    Section* last = nullptr;
+    rule_ = ReadingRule::plus_sign;
+    if (!plus_read(section_, reading_, output_, last)) outcome_ = Outcome::full;
+    return last != nullptr ? last : section_;
 }
 
 // A markup tag, or a "<" of the text.
-ReadingRule SectionDispatcher::smaller() {
-    if (begins_sentence_tag(section_->sz_char)) {
-        return append_spaced(section_->sz_char, ReadingRule::markup_tag);
+Section* SectionDispatcher::smaller() {
+    const char* text = section_->sz_char;
+    if (begins_sentence_tag(text)) {
+        rule_ = ReadingRule::markup_tag;
+        append_spaced(text);
+        return section_;
     }
     const Section* next = section_->m_pnext;
-    if (next == nullptr || begins_with(next->sz_char, "punc")) {
-        return append("smaller ", ReadingRule::mark);
-    }
-    const bool closed_later =
-        greater_.find(next, [](const Section* s) { return s->sz_char[0] == '>'; }) != nullptr;
-    return closed_later ? append(" ", ReadingRule::mark) : ReadingRule::silent;
+    const bool is_spoken = next == nullptr || begins_with(next->sz_char, "punc");
+    append(smaller_words(is_spoken, !is_spoken && greater_follows(next)));
+    return section_;
 }
 
-int PostProTnEng::section_process(Section* p_section, char* sz_target_text) {
-    tn::BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
-    return SectionDispatcher(*this, p_section, output).run() == ReadingRule::full ? -1 : 0;
+// Whether a section that begins with ">" stands somewhere from `next` on.
+bool SectionDispatcher::greater_follows(const Section* next) {
+    if (window_ != nullptr) return window_->greater_follows(section_);
+    return greater_.find(next, [](const Section* s) { return s->sz_char[0] == '>'; }) != nullptr;
 }
 
-}  // namespace kavi
+}  // namespace kavi::tn

@@ -5,14 +5,14 @@
 #include <string_view>
 
 #include "../common/bounded_text.h"
+#include "../common/reading.h"
 #include "post_pro_tn_eng.h"
+#include "section_window.h"
 
-namespace kavi {
+namespace kavi::tn {
 
-// How one step of the dispatcher read what it consumed, or why it was the last.
+// How the sections of one step were read.
 enum class ReadingRule {
-    full,  // an append did not fit
-    end,   // a reader ended the walk
     word,
     capital_letters,
     month,
@@ -36,25 +36,54 @@ enum class ReadingRule {
     silent,  // a blank, or a byte that nothing is written for
 };
 
-// One walk over one queue, step by step: `section` is what the step will look at first, and after
-// the step, what it consumed last. Nothing of it outlives the walk.
+// Whether a walk goes on after a step.
+enum class Outcome {
+    go_on,
+    ended,  // a reader ran out of sections: the rest is not read
+    full,   // an append did not fit; what came before it stands in the output
+};
+
+// One walk over the sections of a sentence, step by step. A step reads the sections from first()
+// to last() by rule(). Nothing of it outlives the walk.
 class SectionDispatcher {
   public:
-    // Everything is appended to `output`, a text in a buffer of SZ_TEXT_MAX_LEN bytes.
-    SectionDispatcher(PostProTnEng& engine, Section* head, tn::BoundedText& output);
+    // Over a queue from `head` on, which may be null; everything is appended to `output`, a text in
+    // a buffer of SZ_TEXT_MAX_LEN bytes.
+    SectionDispatcher(Section* head, BoundedText& output) : output_(output), section_(head) {}
 
-    // Walks to the end of the queue, or as far as a rule lets it. The rule of the last step.
-    ReadingRule run();
+    // Over the sections of a text that begin at `text`, as far as the window reaches.
+    SectionDispatcher(const char* text, SectionWindow& window, BoundedText& output)
+        : output_(output), window_(&window), section_(window.begin(text)) {}
 
-    // For a walk of one's own: while there is a section, step, and go on from it unless the rule
-    // was full or end.
-    Section* section() const { return section_; }
-    ReadingRule step();
-    void advance(const Section* first_of_step);
+    SectionDispatcher(const SectionDispatcher&) = delete;
+    SectionDispatcher& operator=(const SectionDispatcher&) = delete;
+
+    // Takes the next step. False when there is none: the sections have all been read, or the last
+    // step was not to go on.
+    bool next();
+
+    Outcome outcome() const { return outcome_; }
+
+    // ---- of the last step ----
+
+    ReadingRule rule() const { return rule_; }
+    const Section* first() const { return first_; }
+
+    // The last section consumed; null when a reader ran out of them.
+    const Section* last() const { return last_; }
+
+    // What was read by a reader: whether it was cut, and which digits are in it.
+    const Reading& reading() const { return reading_; }
+
+    // How much the output held before it.
+    int output_before() const { return output_before_; }
+
+    // Whether all of the walk's readings were words and tags.
+    bool is_all_words() const { return all_words_; }
 
   private:
-    // "The next section of a kind", asked again and again while the walk moves on: no stretch of
-    // the queue is searched twice.
+    // "The next section of a kind" of a queue, asked again and again while the walk moves on: no
+    // stretch of the queue is searched twice.
     class NextSection {
       public:
         template <typename Predicate>
@@ -75,31 +104,46 @@ class SectionDispatcher {
         bool known_ = false;
     };
 
-    ReadingRule word();
-    ReadingRule telephone();
-    ReadingRule number();
-    ReadingRule date();
-    ReadingRule money(Section* amount);
-    ReadingRule clock_time();
-    ReadingRule plain_number();
-    ReadingRule mark();
-    ReadingRule smaller();
+    // ---- one for each kind of section and pattern: the last section consumed, or null ----
+    Section* step();
+    Section* word();
+    Section* telephone();
+    Section* number();
+    Section* plain_number();
+    Section* clock_time();
+    Section* money(Section* amount);
+    Section* mark();
+    Section* bracket();
+    Section* plus_sign();
+    Section* smaller();
 
-    ReadingRule append(std::string_view words, ReadingRule rule);
-    ReadingRule append_spaced(std::string_view words, ReadingRule rule);
-    ReadingRule append_reading(ReadingRule rule);
-    ReadingRule append_reading(Section* last, ReadingRule rule);
+    Section* section_after(const Section* last);
     bool is_amount_before_dollar();
-    bool is_month(Section* section);
+    bool greater_follows(const Section* next);
 
-    PostProTnEng& engine_;
-    tn::BoundedText& output_;
-    Section* section_;            // the one at hand
-    char reading_[WORD_MAX_LEN];  // what the reader of this step wrote
-    NextSection amount_end_;      // the next one that is no part of an amount of money
-    NextSection greater_;         // the next ">"
+    // Appends to the output; the outcome tells whether it fitted.
+    void append(std::string_view words);
+    void append_spaced(std::string_view words);
+
+    // Appends a step's words, or those of the reading, and says what the step was.
+    Section* read_as(ReadingRule rule, std::string_view words, Section* last);
+    Section* reading_as(ReadingRule rule, Section* last);
+
+    BoundedText& output_;
+    SectionWindow* window_ = nullptr;  // null for a queue
+    Section* section_;                 // the one that the next step begins with
+    char reading_text_[WORD_MAX_LEN] = "";
+    Reading reading_{reading_text_};
+    ReadingRule rule_ = ReadingRule::silent;
+    Outcome outcome_ = Outcome::go_on;
+    const Section* first_ = nullptr;
+    const Section* last_ = nullptr;
+    int output_before_ = 0;
+    bool all_words_ = true;
+    NextSection amount_end_;  // of a queue: the next one that is no part of an amount of money
+    NextSection greater_;     // likewise, the next ">"
 };
 
-}  // namespace kavi
+}  // namespace kavi::tn
 
 #endif  // KAVI_TN_DISPATCHER_H

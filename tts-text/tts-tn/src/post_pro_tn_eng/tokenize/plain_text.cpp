@@ -1,73 +1,114 @@
 #include "plain_text.h"
 
-#include "../common/ascii.h"
+#include <algorithm>
+
 #include "../common/runs.h"
+#include "../markup/markup_tags.h"
 #include "../readers/months.h"
+#include "../readers/readers.h"
+#include "../readers/words.h"
 #include "mark_readings.h"
-#include "section_queue.h"
 
 namespace kavi::tn {
 
 namespace {
 
-// A word with a capital: none in capitals throughout, no month, no label of a telephone number.
-bool is_plain_name(std::string_view word) {
-    const bool may_be_in_capitals = word.size() == 1 || is_upper(word[1]);
-    return !may_be_in_capitals && word != "Tel" && month_name(word) == nullptr;
+std::string_view first_word(const char* text, const char* text_end) {
+    const auto length = static_cast<std::size_t>(skip_letters(text, text_end) - text);
+    return {text, std::min(length, SECTION_TEXT_MAX)};
 }
 
-// The end of the plain words at `text` that have one blank between each two: they are spoken as
-// they stand.
-const char* end_of_words(const char* text, const char* text_end) {
+// Whether a number may stand so near after a word that it is read with regard to it: there is at
+// most one section between them.
+bool number_may_follow(const char* after) {
+    return is_digit(after[0]) || (after[0] != '\0' && is_digit(after[1])) || after[0] == '<';
+}
+
+// The end of the words from `text` on that are plain and have one blank between each two: they are
+// spoken as they stand. `text` itself when the first word is none.
+const char* end_of_plain_words(const char* text, const char* text_end) {
     const char* end = text;
-    for (const char* word = text;; word = end + 1) {
-        const char* word_end = skip_letters(word, text_end);
-        const auto length = static_cast<std::size_t>(word_end - word);
-        if (length == 0 || length > SECTION_TEXT_MAX) return end;
-        if (is_upper(*word) && !is_plain_name({word, length})) return end;
-        end = word_end;
+    for (const char* word = text; belongs_to(LETTERS, *word); word = end + 1) {
+        const std::string_view letters = first_word(word, text_end);
+        if (word_kind(letters) != WordKind::plain) return end;
+        end = word + letters.size();
         if (*end != ' ') return end;
     }
-}
-
-// A piece of plain text and how it reads; of no length when the text is not plain.
-struct PlainPiece {
-    std::size_t length;
-    std::string_view reading;
-    bool spaced;  // a blank follows the reading
-};
-
-PlainPiece first_piece(const char* text, const char* text_end, ForwardFinder& tag_ends) {
-    if (belongs_to(LETTERS, *text)) {
-        const auto length = static_cast<std::size_t>(end_of_words(text, text_end) - text);
-        return {length, {text, length}, true};
-    }
-    if (*text == '<') {
-        const std::size_t length = section_length(text, tag_ends);
-        return {length > 1 ? length : 0, {text, length}, true};
-    }
-    if (*text == '\0' || is_digit(*text) || !is_plain_mark(*text)) return {};
-    const MarkReading* row = find_mark(*text);
-    return {1, row != nullptr ? row->otherwise : "", false};
+    return end;
 }
 
 }  // namespace
 
-bool is_plain_word(std::string_view section) {
-    if (section.empty()) return false;  // a host may queue one
-    return is_lower(section[0]) || (is_upper(section[0]) && is_plain_name(section));
-}
-
-const char* read_plain_text(const char* text, const char* text_end, ForwardFinder& tag_ends,
-                            BoundedText& output) {
+const char* PlainText::read(const char* text) {
     for (;;) {
         while (*text == ' ') ++text;
-        const PlainPiece piece = first_piece(text, text_end, tag_ends);
-        if (piece.length == 0 || !output.has_room(piece.reading.size() + 1)) return text;
-        output.append(piece.reading);
-        if (piece.spaced) output.append(" ");
-        text += piece.length;
+        if (*text == '\0' || is_digit(*text)) return text;
+        const char* end = belongs_to(LETTERS, *text) ? words(text) : mark(text);
+        if (end == text || end == nullptr) return end;
+        text = end;
     }
+}
+
+const char* PlainText::words(const char* text) {
+    const char* end = end_of_plain_words(text, text_end_);
+    if (end == text) return other_word(text, first_word(text, text_end_));
+    const std::string_view all(text, static_cast<std::size_t>(end - text));
+    if (!output_.has_room(all.size() + 1)) return plain_words(text, end);
+    append_spaced(all);
+    return end;
+}
+
+// Word by word, as far as there is room.
+const char* PlainText::plain_words(const char* text, const char* end) {
+    while (text < end) {
+        const std::string_view word = first_word(text, end);
+        if (!append_spaced(word)) return nullptr;
+        text += word.size() + 1;
+    }
+    return end;
+}
+
+const char* PlainText::other_word(const char* text, std::string_view word) {
+    const char* end = text + word.size();
+    switch (word_kind(word)) {
+        case WordKind::telephone_label:
+            if (*end == '.') return text;
+            return output_.append("telephone ") ? end : nullptr;
+        case WordKind::month:
+            if (number_may_follow(end)) return text;
+            return append_spaced(month_name(word)) ? end : nullptr;
+        default: ask_lexicon(word); return append_spaced(word) ? end : nullptr;
+    }
+}
+
+const char* PlainText::mark(const char* text) {
+    const MarkReading* row = find_mark(*text);
+    if (row == nullptr) return text + 1;
+    const char* words = words_of(*row, false, is_digit(text[1]));
+    if (words == READER) {
+        switch (row->mark) {
+            case '<': return smaller(text);
+            case '\'': return apostrophe(text);
+            default: return text;
+        }
+    }
+    const bool fits = output_.append(words) && (!row->spaced || output_.append(" "));
+    return fits ? text + 1 : nullptr;
+}
+
+const char* PlainText::smaller(const char* text) {
+    const std::string_view tag = first_section(text, tag_ends_);
+    if (tag.size() > 1) return append_spaced(tag) ? text + tag.size() : nullptr;
+    const bool is_spoken = text[1] == '\0' || begins_with(text + 1, "punc");
+    const char* words = smaller_words(is_spoken, !is_spoken && window_.greater_follows(text + 1));
+    return output_.append(words) ? text + 1 : nullptr;
+}
+
+const char* PlainText::apostrophe(const char* text) {
+    const std::string_view letters = first_word(text + 1, text_end_);
+    const char* full = find_contraction(letters);
+    if (full == nullptr) return text + 1;
+    return append_spaced(full) ? text + 1 + letters.size() : nullptr;
 }
 
 }  // namespace kavi::tn

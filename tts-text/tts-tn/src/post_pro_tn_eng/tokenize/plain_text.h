@@ -5,19 +5,44 @@
 #include <string_view>
 
 #include "../common/bounded_text.h"
-#include "../common/forward_finder.h"
+#include "../markup/tag_ends.h"
+#include "section_window.h"
 
 namespace kavi::tn {
 
-// Whether the letters, or whatever makes a section, are a word that no reader takes for more than
-// that.
-bool is_plain_word(std::string_view section);
+// Reads one sentence, stretch by stretch. What it reads is what the dispatcher would read: the same
+// kinds of words and the same rows of marks, without a number before them.
+class PlainText {
+  public:
+    // A NUL stands at `text_end`. `tag_ends` serves one pass over the text; `window` is asked for
+    // what stands further on.
+    PlainText(const char* text_end, TagEnds& tag_ends, SectionWindow& window, BoundedText& output)
+        : text_end_(text_end), tag_ends_(tag_ends), window_(window), output_(output) {}
 
-// Appends the reading of the plain text at `text` (plain words, blanks, tags and most marks) and
-// returns where that ends: at `text_end`, at what a reader has to look at, or where the
-// output might be too small. `tag_ends` serves one pass over the text.
-const char* read_plain_text(const char* text, const char* text_end, ForwardFinder& tag_ends,
-                            BoundedText& output);
+    // Appends the readings from `text` on and returns where they end: at the end of the text, or
+    // where a pattern may begin that a reader has to look at. Null when the output is full; it then
+    // holds what fitted.
+    const char* read(const char* text);
+
+  private:
+    // Each reads what begins at `text` and returns where that ends; `text` itself when a reader has
+    // to look at it, null when the output is full.
+    const char* words(const char* text);
+    const char* plain_words(const char* text, const char* end);
+    const char* other_word(const char* text, std::string_view word);
+    const char* mark(const char* text);
+    const char* smaller(const char* text);
+    const char* apostrophe(const char* text);
+
+    bool append_spaced(std::string_view words) {
+        return output_.append(words) && output_.append(" ");
+    }
+
+    const char* text_end_;
+    TagEnds& tag_ends_;
+    SectionWindow& window_;
+    BoundedText& output_;
+};
 
 }  // namespace kavi::tn
 

@@ -5,8 +5,8 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "../common/bounded_text.h"
 #include "../markup/markup_tags.h"
+#include "TtsString.h"
 #include "text_reader.h"
 #include "word_filler.h"
 
@@ -23,7 +23,7 @@ void set_field(Field& field, std::string_view value) {
 }
 
 bool append_field(Field& field, std::string_view value) {
-    return tn::BoundedText(field, sizeof(Field)).append(value);
+    return safe_strncat(field, value.data(), static_cast<int>(value.size()), sizeof(Field)) == 0;
 }
 
 // Cuts the next field off a list whose fields are separated by runs of `separator`; empty at the
@@ -47,7 +47,7 @@ constexpr ProsodyField PROSODY_FIELDS[] = {
     {"spectrum=", &CssmlTag::pro_spectrum},
 };
 
-// One «name="value"»: the character behind "=" and the last one are the quotes.
+// One «name="value"»: the character after "=" and the last one are the quotes.
 bool set_prosody_field(CssmlTag& tag, std::string_view attribute) {
     const auto* row =
         std::find_if(std::begin(PROSODY_FIELDS), std::end(PROSODY_FIELDS),
@@ -96,9 +96,9 @@ bool fits_chain(const char* chain) {
 
 bool join(std::initializer_list<std::string_view> parts, char (&chain)[CHAIN_SIZE]) {
     chain[0] = '\0';
-    tn::BoundedText text(chain, CHAIN_SIZE);
-    return std::all_of(parts.begin(), parts.end(),
-                       [&](std::string_view part) { return text.append(part); });
+    return std::all_of(parts.begin(), parts.end(), [&](std::string_view part) {
+        return safe_strncat(chain, part.data(), static_cast<int>(part.size()), CHAIN_SIZE) == 0;
+    });
 }
 
 }  // namespace
@@ -156,7 +156,7 @@ bool WordFiller::breaktime(std::string_view value) {
 bool WordFiller::span(std::string_view name, std::string_view value, char* content) {
     char tag_down[CHAIN_SIZE];
     char value_down[CHAIN_SIZE];
-    const std::string_view joint = names_.empty() ? "" : "\t";
+    const std::string_view joint = markup_ ? "\t" : "";
     if (!join({names_, joint, name}, tag_down)) return false;
     if (!join({values_, joint, value}, value_down)) return false;
     int stored = 0;

@@ -75,12 +75,10 @@ bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz
     return true;
 }
 
-// Marks beyond the tenth are dropped. An unknown name counts, as no mark.
-bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, std::string_view punc_str) {
-    UtteranceSyllable& record = utt[n - 1];
-    if (record.n_punc >= PUNC_MAX) return true;
+void WordFiller::add_punc(UtteranceSyllable& record, std::string_view name) {
+    if (record.n_punc >= PUNC_MAX) return;
     for (const PuncName& row : PUNC_NAMES) {
-        if (row.name != punc_str) continue;
+        if (row.name != name) continue;
         record.punc_arr[record.n_punc] = row.punc;
         const bool second_dash = row.punc == PUNC_POZHE_FE && record.n_punc > 0 &&
                                  record.punc_arr[record.n_punc - 1] == PUNC_POZHE_FE;
@@ -90,6 +88,10 @@ bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, std::string_view p
         break;
     }
     ++record.n_punc;
+}
+
+bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, char* punc_str) {
+    WordFiller::add_punc(utt[n - 1], punc_str);
     return true;
 }
 

@@ -4,30 +4,11 @@
 
 #include <string_view>
 
-#include "../common/forward_finder.h"
 #include "../markup/paired_tags.h"
-#include "post_pro_tn_eng.h"
+#include "../markup/tag_ends.h"
+#include "../markup/tag_language.h"
 
 namespace kavi::tn {
-
-enum class TagRole {
-    simple,   // ends at its ">"
-    dropped,  // paired; goes with its content
-    span,     // paired; its content is read
-};
-
-// What the builder does at a tag.
-enum class TagUse { none, punc, breaktime, span };
-
-// A tag of the language, as it stands in the text.
-struct Tag {
-    TagRole role;
-    TagUse use;
-    std::string_view name;
-    std::string_view value;
-    std::string_view content;  // between a paired tag and its closing tag
-    const char* behind;        // where the text goes on
-};
 
 // One scan of one text. What it has searched for once it does not search for again.
 class Scanner {
@@ -65,13 +46,15 @@ class Scanner {
 
     Met meet_tag();
     bool advance();
+    bool only_tags_follow();
 
     const char* at_;
     char* word_;
     int word_length_;
     bool met_tag_ = false;
-    Tag tag_ = {};  // the last that was met
-    ForwardFinder tag_ends_;
+    Tag tag_ = {};                      // the last that was met
+    const char* text_ahead_ = nullptr;  // up to here there are more than tags
+    TagEnds tag_ends_;
     PairedTags paired_tags_;
 };
 

@@ -15,7 +15,7 @@ namespace kavi {
 // them, in one record after the other. False: stop.
 class WordFiller {
   public:
-    // `record` is the next to fill, behind one at least; outside every span, the records are zero.
+    // `record` is the next to fill, after one at least; outside every span, the records are zero.
     WordFiller(PostProTnEng& engine, UtteranceSyllable* record)
         : engine_(engine), arena_(engine._mem_handle), record_(record) {}
 
@@ -24,6 +24,10 @@ class WordFiller {
 
     // Where the next word goes.
     UtteranceSyllable* record() const { return record_; }
+
+    // Adds the mark of this name to a record. Those after the tenth are dropped; an unknown name
+    // counts, as no mark.
+    static void add_punc(UtteranceSyllable& record, std::string_view name);
 
     // At the default pause. False when the arena refused the word's storage: nothing is kept.
     bool word(std::string_view word) {
@@ -39,7 +43,7 @@ class WordFiller {
             record_->syllable = nullptr;
             return false;
         }
-        tn::copy_short(syllable, word.data(), word.size());
+        if (!word.empty()) tn::copy_short(syllable, word.data(), word.size());
         syllable[word.size()] = '\0';
         tn::clear(zhuyin, ZHUYIN_MIN);
         if (is_long) tn::clear(zhuyin + ZHUYIN_MIN, zhuyin_size - ZHUYIN_MIN);
@@ -53,7 +57,10 @@ class WordFiller {
         return true;
     }
 
-    bool punc(std::string_view name) { return engine_.insert_punc(1, record_ - 1, name); }
+    bool punc(std::string_view name) {
+        add_punc(record_[-1], name);
+        return true;
+    }
     bool breaktime(std::string_view value);
     bool span(std::string_view name, std::string_view value, char* content);
 
@@ -65,8 +72,8 @@ class WordFiller {
     PostProTnEng& engine_;
     mem_stack_handle arena_;
     UtteranceSyllable* record_;
-    std::string_view names_;  // of the enclosing spans, outermost first, by tabs
-    std::string_view values_;
+    std::string_view names_ = "";  // of the enclosing spans, outermost first, by tabs
+    std::string_view values_ = "";
     std::optional<CssmlTag> markup_;  // what they give each word
 };
 

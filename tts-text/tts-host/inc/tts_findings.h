@@ -1,0 +1,38 @@
+// What is told about a text beside its sentences.
+#ifndef KAVI_TTS_FINDINGS_H
+#define KAVI_TTS_FINDINGS_H
+
+#include <cstddef>
+
+namespace kavi {
+
+// What the engine passes over in silence, or could not do.
+enum class Finding {
+    stray_closing_tag,
+    mismatched_closing_tag,
+    too_many_open_tags,
+    too_much_open_markup,
+    tag_too_long,
+    tag_inside_tag,
+    tag_never_closed,
+    nul_byte,
+    digits_not_read,
+    tag_in_telephone_number,
+    reading_cut,
+    arena_too_small,
+};
+
+// A short name for programs, such as "stray-closing-tag", that stays as it is; a constant text.
+const char* code_of(Finding finding);
+
+// One clear sentence about a finding; a constant text.
+const char* describe(Finding finding);
+
+struct Diagnostic {
+    std::size_t offset;  // of the first byte it is about, in the text given to read()
+    Finding finding;
+};
+
+}  // namespace kavi
+
+#endif  // KAVI_TTS_FINDINGS_H

@@ -1,0 +1,76 @@
+#include "tag_language.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cstring>
+#include <iterator>
+
+#include "markup_tags.h"
+
+namespace kavi::tn {
+
+namespace {
+
+// A name belongs to the first row that it begins with. Only the exact name has the use.
+struct TagName {
+    std::string_view prefix;
+    TagRole role;
+    TagUse use;
+};
+
+// clang-format off
+constexpr TagName TAG_NAMES[] = {
+    {"punc",         TagRole::simple,  TagUse::punc},
+    {"orgLen",       TagRole::simple,  TagUse::none},
+    {"sil",          TagRole::simple,  TagUse::none},
+    {"silratio",     TagRole::simple,  TagUse::none},
+    {"pause",        TagRole::simple,  TagUse::none},
+    {"breaktime",    TagRole::simple,  TagUse::breaktime},
+    {"py",           TagRole::dropped, TagUse::none},
+    {"letter",       TagRole::dropped, TagUse::none},
+    {"emphasis",     TagRole::span,    TagUse::span},
+    {"prosody",      TagRole::span,    TagUse::span},
+    {"poem",         TagRole::span,    TagUse::span},
+    {"quill_effect", TagRole::span,    TagUse::span},
+};
+// clang-format on
+
+const TagName* find_name(const char* name) {
+    const auto* row =
+        std::find_if(std::begin(TAG_NAMES), std::end(TAG_NAMES),
+                     [=](const TagName& tag) { return begins_with(name, tag.prefix); });
+    return row != std::end(TAG_NAMES) ? row : nullptr;
+}
+
+}  // namespace
+
+bool read_opening(const char* name, TagEnds& tag_ends, Tag& tag) {
+    const TagName* kind = find_name(name);
+    if (kind == nullptr) return false;
+    const std::string_view text = tag_ends.tag_at(name);
+    if (text.empty()) return false;
+    const std::string_view inside = text.substr(0, text.size() - 1);
+    const std::size_t name_length = std::min(inside.find('='), inside.size());
+    if (name_length > TAG_NAME_MAX) return false;
+    tag.role = kind->role;
+    tag.use = name_length == kind->prefix.size() ? kind->use : TagUse::none;
+    tag.name = inside.substr(0, name_length);
+    tag.value = inside.substr(std::min(name_length + 1, inside.size()));
+    tag.content = {};
+    tag.after = text.data() + text.size();
+    return true;
+}
+
+bool read_content(Tag& tag, PairedTags& paired_tags) {
+    if (tag.role == TagRole::simple) return true;
+    const char* content = tag.after;
+    const char* pc_temp = paired_tags.find_closing(content, tag.name);
+    const bool closed = pc_temp != nullptr;
+    if (!closed) pc_temp = tag.use == TagUse::span ? content + std::strlen(content) : content;
+    assert(pc_temp != NULL);
+    tag.content = {content, static_cast<std::size_t>(pc_temp - content)};
+    tag.after = pc_temp + (closed ? tag.name.size() + std::strlen("</>") : 0);
+    return closed;
+}
+
+}  // namespace kavi::tn

@@ -1,0 +1,44 @@
+// The tags of speakable text, by their names.
+#ifndef KAVI_TN_TAG_LANGUAGE_H
+#define KAVI_TN_TAG_LANGUAGE_H
+
+#include <string_view>
+
+#include "paired_tags.h"
+#include "post_pro_tn_eng.h"
+#include "tag_ends.h"
+
+namespace kavi::tn {
+
+constexpr std::size_t TAG_NAME_MAX = MEMORY_SIZE_TAG_LABEL_TN - 1;
+
+enum class TagRole {
+    simple,   // ends at its ">"
+    dropped,  // paired; goes with its content
+    span,     // paired; its content is read
+};
+
+// What the builder does at a tag.
+enum class TagUse { none, punc, breaktime, span };
+
+// A tag, as it stands in the text.
+struct Tag {
+    TagRole role;
+    TagUse use;
+    std::string_view name;
+    std::string_view value;
+    std::string_view content;  // between a paired tag and its closing tag
+    const char* after;         // where the text goes on
+};
+
+// Reads the tag whose name begins at `name`, as far as its ">". False when it is none of the
+// language or has no ">".
+bool read_opening(const char* name, TagEnds& tag_ends, Tag& tag);
+
+// Reads on to the end of a paired tag. One that is never closed: a span runs to the end of the
+// text; any other is passed over by itself, so that the words after it stay. False for these.
+bool read_content(Tag& tag, PairedTags& paired_tags);
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_TAG_LANGUAGE_H

@@ -1,0 +1,131 @@
+#include "number_words.h"
+
+#include <algorithm>
+
+#include "../common/ascii.h"
+
+namespace kavi::tn {
+
+namespace {
+
+// The three digits of a number below a thousand.
+struct Digits {
+    // Of at most three characters. What is not there counts as zero, but for the units of an empty
+    // text, which have no word.
+    explicit Digits(std::string_view text)
+        : hundreds(text.size() == 3 ? text[0] : '0'),
+          tens(text.size() >= 2 ? text[text.size() - 2] : '0'),
+          units(!text.empty() ? text.back() : '\0') {}
+
+    char hundreds;
+    char tens;
+    char units;
+};
+
+// The row of s_number_to_char for tens and units that have one word; 0 for what is no digit.
+std::size_t row_of(char tens, char units) {
+    constexpr std::size_t TEN = 10;
+    constexpr std::size_t TWENTY = 20;
+    const auto t = static_cast<std::size_t>(tens - '0');
+    const auto u = static_cast<std::size_t>(units - '0');
+    if (tens == '0') return u;
+    return tens == '1' ? TEN + u : TWENTY + t - 2;
+}
+
+// The tables have the same order, but ordinals no row for 0.
+const char* word_of(char tens, char units, bool ordinal) {
+    if (!is_digit(tens) || !is_digit(units)) return "";
+    const std::size_t row = row_of(tens, units);
+    return ordinal ? s_number_to_turn[row - 1][1] : s_number_to_char[row][1];
+}
+
+// The frame that cardinals and ordinals have in common: hundreds, then " and ", then one word or
+// two, of which the last is an ordinal or not.
+void append_group(std::string_view text, bool ordinal, Reading& reading) {
+    const Digits digits(text);
+    const bool has_hundreds = digits.hundreds != '0';
+    if (has_hundreds) {
+        reading.append(word_of('0', digits.hundreds, false));
+        reading.append(" hundred ");
+    } else {
+        reading.append(" ");
+    }
+    const bool has_units = digits.units != '0';
+    if (has_hundreds && (digits.tens != '0' || has_units)) reading.append(" and ");
+    if (digits.tens == '0' || digits.tens == '1') {
+        if (digits.tens == '1' || has_units) {
+            reading.append(word_of(digits.tens, digits.units, ordinal));
+        }
+    } else {
+        const bool ends_here = ordinal && !has_units;
+        reading.append(word_of(digits.tens, '0', ends_here));
+        if (!ends_here) reading.append(" ");
+        if (has_units) reading.append(word_of('0', digits.units, ordinal));
+    }
+    reading.append(" ");
+}
+
+// The length of the first of the groups, of which only that may be short.
+std::size_t first_group(std::size_t n_digits) {
+    return n_digits % GROUP_DIGITS != 0 ? n_digits % GROUP_DIGITS
+                                        : std::min(n_digits, GROUP_DIGITS);
+}
+
+// The number of groups that are read.
+std::size_t groups_read(std::size_t n_digits) {
+    return std::min((n_digits + GROUP_DIGITS - 1) / GROUP_DIGITS, GROUPS_MAX);
+}
+
+// Reads and removes the first group, with the scale word that `groups_after` gives it.
+void take_group(std::string_view& digits, std::size_t groups_after, Reading& reading) {
+    const std::size_t length = first_group(digits.size());
+    append_group(digits.substr(0, length), false, reading);
+    if (groups_after > 0) reading.append(scale_word(groups_after));
+    digits.remove_prefix(length);
+}
+
+}  // namespace
+
+std::string_view scale_word(std::size_t groups_after) {
+    constexpr std::string_view SCALES[GROUPS_MAX - 1] = {" thousand ", " million ", " billion "};
+    return SCALES[groups_after - 1];
+}
+
+void append_cardinal(std::string_view digits, Reading& reading) {
+    const std::string_view group = digits.substr(0, GROUP_DIGITS);
+    reading.note_digits(group);
+    append_group(group, false, reading);
+}
+
+bool append_ordinal(std::string_view digits, Reading& reading) {
+    if (digits.empty() || digits.size() > GROUP_DIGITS) return false;
+    reading.note_digits(digits);
+    append_group(digits, true, reading);
+    return true;
+}
+
+void append_number(std::string_view digits, Reading& reading) {
+    const std::string_view all = digits;
+    for (std::size_t n = groups_read(digits.size()); n > 0; --n) take_group(digits, n - 1, reading);
+    reading.note_digits(all.substr(0, all.size() - digits.size()));
+}
+
+void append_ordinal_number(std::string_view digits, Reading& reading) {
+    const std::string_view all = digits;
+    const std::string_view last = all.substr(all.size() - std::min(all.size(), GROUP_DIGITS));
+    for (std::size_t n = groups_read(digits.size()); n > 1; --n) take_group(digits, n - 1, reading);
+    reading.note_digits(all.substr(0, all.size() - digits.size()));
+    append_ordinal(last, reading);
+}
+
+void append_each_digit(std::string_view digits, Reading& reading) {
+    constexpr std::size_t NO_DIGIT = 28;
+    reading.note_digits(digits);
+    for (const char c : digits) {
+        const std::size_t row = is_digit(c) ? static_cast<std::size_t>(c - '0') : NO_DIGIT;
+        reading.append(s_number_to_char[row][1]);
+        reading.append(" ");
+    }
+}
+
+}  // namespace kavi::tn

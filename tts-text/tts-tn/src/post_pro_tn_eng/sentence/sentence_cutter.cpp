@@ -1,0 +1,205 @@
+#include "sentence_cutter.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+#include "../common/ascii.h"
+#include "../common/runs.h"
+#include "post_pro_tn_eng.h"
+
+namespace kavi {
+
+namespace tn {
+
+namespace {
+
+// A sentence that has grown beyond this is cut, so that what closes it still finds room.
+constexpr int FULL_SENTENCE = SZ_TEXT_MAX_LEN - 10;
+
+constexpr bool is_blank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+}  // namespace
+
+bool SentenceCutter::cut() {
+    drop_leading_blank();
+    while (*next_ != '\0' && !stop_ && !full_ && target_.length() <= FULL_SENTENCE) {
+        if (!take_next()) return false;
+    }
+    return close_open_spans();
+}
+
+const char* SentenceCutter::rest() const {
+    const char* rest = next_;
+    while (is_blank(*rest) || *rest == '\'' || *rest == '"') ++rest;
+    while (*rest == '\r' || *rest == '\n') ++rest;
+    return rest;
+}
+
+// Tells the observer what became of `source`: all that the target has from `target_at` on.
+void SentenceCutter::report(std::string_view source, int target_at) {
+    if (observer_ == nullptr) return;
+    observer_->on_replaced(source, target_at, target_.length() - target_at);
+}
+
+// ---- characters ----
+
+bool SentenceCutter::take_next() {
+    switch (*next_) {
+        case '.': full_stop(); return true;
+        case '<': return markup();
+        case ':':
+        case ',': mark(!between_digits()); return true;
+        case '?':
+        case ';':
+        case '!': mark(true); return true;
+        default: run(); return true;
+    }
+}
+
+void SentenceCutter::drop_leading_blank() {
+    if (!is_blank(*next_)) return;
+    report({next_, 1}, target_.length());
+    previous_ = *next_;
+    ++next_;
+}
+
+bool SentenceCutter::between_digits() const {
+    return is_digit(previous_) && is_digit(next_[1]);
+}
+
+void SentenceCutter::mark(bool ends_sentence) {
+    previous_ = *next_;
+    target_.append({next_, 1});
+    ++next_;
+    stop_ = ends_sentence;
+}
+
+// Copies characters up to the next that needs a decision, or until the sentence is full. A run of
+// blanks that ends the source loses its last.
+void SentenceCutter::run() {
+    const char* begin = next_;
+    const std::ptrdiff_t room = FULL_SENTENCE + 1 - target_.length();
+    const std::ptrdiff_t length = std::min(skip(COPIED, begin) - begin, room);
+    next_ += length;
+    target_.append({begin, static_cast<std::size_t>(length)});
+    const char before_last = length > 1 ? next_[-2] : previous_;
+    previous_ = next_[-1];
+    if (*next_ == '\0' && is_blank(previous_) && before_last == ' ') {
+        target_.cut(1);
+        report({next_ - 1, 1}, target_.length());
+    }
+}
+
+void SentenceCutter::full_stop() {
+    const bool decimal_point = between_digits();
+    if (!decimal_point && expand_abbreviation()) return;
+    mark(!decimal_point);
+    if (decimal_point) stretch_ = next_;
+}
+
+// Whether the full stop ended an abbreviation, whose expansion stands in the target now. A full
+// stop inside a tag that was passed hides the abbreviations after it. One whose expansion has no
+// room ends the sentence.
+bool SentenceCutter::expand_abbreviation() {
+    if (std::strchr(stretch_, '.') != next_) return false;
+    const std::optional<Abbreviation> found = abbreviations_.find(stretch_, next_);
+    if (!found) return false;
+    target_.cut(static_cast<int>(found->dot_offset));
+    const int target_at = target_.length();
+    if (!target_.append(found->expansion) || !target_.append(" ")) return false;
+    const std::string_view source(next_ - found->dot_offset, found->written.size());
+    report(source, target_at);
+    previous_ = '.';
+    next_ = stretch_ = source.data() + source.size();
+    return true;
+}
+
+// ---- markup ----
+
+// False when the markup is malformed and the pass must stop.
+bool SentenceCutter::markup() {
+    const MarkupTag* tag = find_markup_tag(next_);
+    const std::string_view text = tag != nullptr ? tag_ends_.tag_at(next_) : std::string_view();
+    if (text.empty()) {
+        mark(false);
+        return true;
+    }
+    switch (tag->kind) {
+        case TagKind::removed:
+            report(text, target_.length());
+            next_ += text.size();
+            return true;
+        case TagKind::kept: keep(text); return true;
+        case TagKind::span_open: return open_span(text);
+        default: return close_span(*tag);
+    }
+}
+
+void SentenceCutter::keep(std::string_view tag) {
+    if (tag.size() > MARKUP_TAG_MAX) {
+        mark(false);
+    } else {
+        copy_tag(tag);
+    }
+}
+
+// A tag that has no room any more begins the next sentence.
+bool SentenceCutter::copy_tag(std::string_view tag) {
+    full_ = !target_.append(tag);
+    if (!full_) next_ += tag.size();
+    return !full_;
+}
+
+bool SentenceCutter::open_span(std::string_view tag) {
+    if (tags_.begin_arr_len == OPEN_TAGS_MAX) return false;
+    if (tag.size() > SAVED_TAG_MAX) {
+        target_.append(tag.substr(0, SAVED_TAG_MAX + 1));  // as far as the entry took it
+        return false;
+    }
+    if (!copy_tag(tag)) return true;
+    char* entry = tags_.begin_tag_arr[tags_.begin_arr_len++];
+    std::memcpy(entry, tag.data(), tag.size());
+    entry[tag.size()] = '\0';
+    return true;
+}
+
+bool SentenceCutter::close_span(const MarkupTag& tag) {
+    if (tags_.begin_arr_len == 0) return false;
+    char* innermost = tags_.begin_tag_arr[tags_.begin_arr_len - 1];
+    if (!begins_with(innermost, tag.partner) || !target_.append(tag.prefix)) return false;
+    next_ += tag.prefix.size();
+    innermost[0] = '\0';
+    --tags_.begin_arr_len;
+    return true;
+}
+
+bool SentenceCutter::close_open_spans() {
+    for (int i = tags_.begin_arr_len - 1; i >= 0; --i) {
+        if (!target_.append(find_markup_tag(tags_.begin_tag_arr[i])->partner)) return false;
+    }
+    return true;
+}
+
+}  // namespace tn
+
+// What is handed back is the open tags, each whole, and then the rest, as far as they fit.
+int PostProTnEng::eng_text_normalize(char* sz_source_text, char* sz_target_text,
+                                     char* sz_next_text) {
+    tn::AbbreviationSearch abbreviations;
+    tn::SentenceCutter cutter(sz_source_text, sz_target_text, abbreviations, nullptr);
+    if (!cutter.cut()) return 0;
+    const char* rest = cutter.rest();
+    if (*rest == '\0') return 0;
+    tn::BoundedText next_text(sz_next_text, SZ_TEXT_MAX_LEN);
+    const SsmlTagArr& tags = cutter.open_tags();
+    for (int i = 0; i < tags.begin_arr_len; ++i) {
+        if (!next_text.append(tags.begin_tag_arr[i])) return 0;
+    }
+    next_text.append(rest);
+    return 0;
+}
+
+}  // namespace kavi

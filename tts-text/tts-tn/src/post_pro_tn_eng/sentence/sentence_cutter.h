@@ -1,0 +1,88 @@
+// The pre-pass: raw text to one sentence, with markup that is well formed by itself.
+#ifndef KAVI_TN_SENTENCE_CUTTER_H
+#define KAVI_TN_SENTENCE_CUTTER_H
+
+#include <string_view>
+
+#include "../common/bounded_text.h"
+#include "../markup/markup_tags.h"
+#include "../markup/tag_ends.h"
+#include "PostProcTN.h"
+#include "abbreviation.h"
+
+namespace kavi::tn {
+
+// Is told what the sentence has otherwise than its source; everything else is copied byte by byte.
+class CutObserver {
+  public:
+    // `source` stands as `length` bytes at `target_at` of the sentence: an expanded abbreviation,
+    // or nothing in the place of a removed tag or a blank.
+    virtual void on_replaced(std::string_view source, int target_at, int length) = 0;
+
+  protected:
+    ~CutObserver() = default;
+};
+
+// One scan of a source text, from its start to the end of its first sentence.
+class SentenceCutter {
+  public:
+    // `source` is NUL-terminated, `target` 4096 bytes that hold an empty text. `abbreviations` may
+    // have served earlier sentences of the same source; `observer` may be null.
+    SentenceCutter(const char* source, char* target, AbbreviationSearch& abbreviations,
+                   CutObserver* observer)
+        : next_(source),
+          stretch_(source),
+          target_(target, SZ_TEXT_MAX_LEN),
+          abbreviations_(abbreviations),
+          observer_(observer) {
+        tags_.begin_arr_len = 0;
+    }
+    SentenceCutter(const SentenceCutter&) = delete;
+    SentenceCutter& operator=(const SentenceCutter&) = delete;
+
+    // Writes the sentence, and closes its spans at its end. False when malformed markup stops the
+    // pass: the spans stay open, and what follows is not to be read.
+    bool cut();
+
+    // After cut(): where the next sentence begins, once what is silent has been passed over.
+    const char* rest() const;
+
+    // After cut(): how long the sentence is.
+    int length() const { return target_.length(); }
+
+    // After cut(): the spans that are open there.
+    const SsmlTagArr& open_tags() const { return tags_; }
+
+  private:
+    bool take_next();
+    void drop_leading_blank();
+    bool between_digits() const;
+    void mark(bool ends_sentence);
+    void run();
+    void full_stop();
+    bool expand_abbreviation();
+
+    bool markup();
+    void keep(std::string_view tag);
+    bool copy_tag(std::string_view tag);
+    bool open_span(std::string_view tag);
+    bool close_span(const MarkupTag& tag);
+    bool close_open_spans();
+
+    void report(std::string_view source, int target_at);
+
+    const char* next_;     // the read position
+    const char* stretch_;  // where the next abbreviation search begins
+    BoundedText target_;
+    AbbreviationSearch& abbreviations_;
+    CutObserver* observer_;
+    char previous_ = 0;  // the last character that the scan recorded; tags do not count
+    bool stop_ = false;  // the sentence has ended
+    bool full_ = false;  // it has no room for the tag at hand
+    SsmlTagArr tags_;    // of its entries, those below begin_arr_len hold texts
+    TagEnds tag_ends_;
+};
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_SENTENCE_CUTTER_H

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <random>
+#include <stdexcept>
 #include <thread>
 
 #include "expect_table.h"
@@ -12,17 +13,9 @@ namespace {
 
 // The words of all records, whatever marks and attributes they have.
 std::vector<std::string> words_of(std::string_view text) {
-    std::vector<std::string> words;
-    TtsHost host;
-    EXPECT_TRUE(host.read(
-        text,
-        [&](const HostSentence& sentence) {
-            for (int i = 1; i < sentence.n_records; ++i) {
-                words.emplace_back(sentence.records[i].syllable);
-            }
-        },
-        [](const Diagnostic&) {}));
-    return words;
+    ReadText read = read_by_layer(text);
+    EXPECT_TRUE(read.all_read);
+    return std::move(read.words);
 }
 
 // A word for every number, without digits and without the end of an abbreviation.
@@ -139,23 +132,95 @@ TEST(Host, ReportsWhatTheEnginePassesOver) {
     }
 }
 
+// Whatever the arena holds, a text is spoken as with a large one, or what is missing is reported.
 TEST(Host, ASmallArenaGetsShorterPiecesOrIsReported) {
     const std::string text = "One two three four five six seven eight nine ten. Yes. No.";
-    for (const std::string& tight : {text, std::string(300, 'x'), std::string("123456789012.5"),
-                                     std::string("<breaktime=12345678901234567890>a")}) {
-        for (std::size_t capacity = 1; capacity < 60000; capacity += 16 + capacity / 50) {
+    const std::vector<std::string> texts = {text, std::string(300, 'x'), "123456789012.5 a",
+                                            "<breaktime=12345678901234567890>a",
+                                            "it is 10:30:15 now", "+86-10-12345678 a",
+                                            "we paid $1,234.50 on 3/1/2020 to NASA, 21st"};
+    for (const std::string& tight : texts) {
+        const std::vector<std::string> expected = words_of(tight);
+        for (std::size_t capacity = 1; capacity < 40000; capacity += 16 + capacity / 50) {
             const ReadText read = read_by_layer(tight, capacity);
             const auto refused = [](const Diagnostic& d) {
                 return d.finding == Finding::arena_too_small;
             };
             EXPECT_EQ(read.all_read,
                       std::none_of(read.diagnostics.begin(), read.diagnostics.end(), refused));
-            EXPECT_TRUE(!read.all_read || read.covered == tight.size());
+            if (!read.all_read) continue;
+            EXPECT_EQ(read.covered, tight.size());
+            EXPECT_EQ(read.words, expected) << tight << ", " << capacity;
         }
     }
     EXPECT_EQ(read_by_layer(text, 4000).records,
               (std::vector<std::string>{"|One|two|three|four", "|five|six|seven|eight|nine|ten+ju!",
                                         "|Yes+ju!", "|No+ju!"}));
+}
+
+TEST(Host, TextThatTheEngineDoesNotStopAtComesOutAsByHand) {
+    for (const TableRow& row : read_table("as_by_hand")) {
+        const ReadText layer = read_by_layer(row[0]);
+        const ReadText hand = read_by_hand(row[0]);
+        EXPECT_EQ(layer.normalized, hand.normalized);
+        EXPECT_EQ(layer.records, hand.records) << row[0];
+        EXPECT_EQ(std::to_string(layer.diagnostics.size()), row[1]) << row[0];
+    }
+}
+
+TEST(Host, OneObjectReadsTextAfterText) {
+    TtsHost host;
+    const std::string open = "<poem=p>a <emphasis=" + std::string(300, 'x') + ">q. c";
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_EQ(read_by_layer(host, open).records,
+                  (std::vector<std::string>{"|a(poem=p)|q+ju!(poem=p)", "|c(poem=p)"}));
+        const ReadText other = read_by_layer(host, "dr. d</emphasis> </poem>e");
+        EXPECT_EQ(other.records, (std::vector<std::string>{"|doctor|d|e"}));
+        EXPECT_EQ(other.diagnostics.size(), 2U);
+        EXPECT_EQ(read_by_layer(host, "").records.size(), 0U);
+    }
+}
+
+TEST(Host, MarkupThatIsNeverClosedCostsNoMoreTheMoreThereIs) {
+    std::string text;
+    for (int i = 0; i < 300000; ++i) text += i % 3 == 0 ? "<poem=a>" : "<prosody=b>";
+    const ReadText read = read_by_layer(text + "x" + std::string(7, ' ') + "</poem></poem>y. z");
+    EXPECT_EQ(read.diagnostics.size(), 300000U - 10);
+    EXPECT_EQ(read.words, (std::vector<std::string>{"x", "y", "z"}));
+    // Closed again, however deep: what is left out takes its closing tags with it.
+    text = "<poem=a>";
+    for (int i = 0; i < 100; ++i) text += "<emphasis=" + std::string(200, 'x') + ">";
+    for (int i = 0; i < 40; ++i) text += "<poem=b></poem>";
+    for (int i = 0; i < 100; ++i) text += "</emphasis>";
+    const ReadText closed = read_by_layer(text + "x</poem> y</poem>");
+    EXPECT_EQ(closed.diagnostics.size(), 100U + 40 + 1);
+    EXPECT_EQ(closed.records.back(), "|x(poem=a)|y");
+}
+
+TEST(Host, DiagnosticsStandBeforeTheirSentenceInOrder) {
+    std::string events;
+    TtsHost().read(
+        "a</poem> 1234567890123 <x</poem>. b</poem>! c",
+        [&](const HostSentence& sentence) { events += std::string(sentence.speakable) + "|"; },
+        [&](const Diagnostic& d) { events += std::to_string(d.offset) + " "; });
+    EXPECT_EQ(events.substr(0, 9), "1 9 25 a ");
+    EXPECT_NE(events.find("|35 b"), std::string::npos) << events;
+}
+
+TEST(Host, HandlersMayBeEmptyThrowOrCallAgain) {
+    TtsHost host;
+    EXPECT_TRUE(host.read("a</poem>. b", nullptr, nullptr));
+    int sentences = 0;
+    const auto again = [&](const auto&) {
+        ++sentences;
+        EXPECT_FALSE(host.read("x. y", [](const HostSentence&) { FAIL(); }, nullptr));
+    };
+    EXPECT_TRUE(host.read("a</poem>. b", again, again));
+    EXPECT_EQ(sentences, 3) << "and the text is read to its end";
+    const auto fails = [](const auto&) { throw std::runtime_error("handler"); };
+    EXPECT_THROW(host.read("a. b", fails, nullptr), std::runtime_error);
+    EXPECT_THROW(host.read("<poem=p>a</prosody>. b", nullptr, fails), std::runtime_error);
+    EXPECT_EQ(read_by_layer(host, "c.").records, (std::vector<std::string>{"|c+ju!"}));
 }
 
 TEST(Host, CutsAnywhereLoseNoWord) {
@@ -164,7 +229,15 @@ TEST(Host, CutsAnywhereLoseNoWord) {
         const std::string text = std::string(before, ' ') + "<poem=\"x y\">a b</poem> c";
         EXPECT_EQ(words_of(text), (std::vector<std::string>{"a", "b", "c"})) << before;
     }
-    // Without a blank: between words, between numbers, behind a character of several bytes, behind
+    // A removed tag inside a word or a number at every place around the end of the buffer.
+    for (std::size_t before = 16340; before < 16390; ++before) {
+        std::string text = std::string(before - 20, ' ') + "dog<orgLen=3>gy 12<pause=1>3 ";
+        const std::vector<std::string> words = words_of(text + "b ");
+        EXPECT_EQ(words, words_of("doggy 123 b")) << before;
+        text.insert(0, std::string(3000, 'a') + " ");
+        EXPECT_EQ(words_of(text + "b ").back(), "b") << before;
+    }
+    // Without a blank: between words, between numbers, after a character of several bytes, after
     // a tag; and where there is no such place, within the word.
     for (const std::string piece : {"wordword-", "1234567,", "\xc3\xa9", "<poem=p>x</poem>",
                                     "<breaktime=12345678901234567890>"}) {

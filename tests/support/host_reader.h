@@ -17,6 +17,7 @@ struct ReadText {
     std::vector<std::string> normalized;
     std::vector<std::string> speakable;
     std::vector<std::string> records;
+    std::vector<std::string> words;  // of all records
     std::vector<std::string> sources;
     std::vector<Diagnostic> diagnostics;
     std::size_t covered = 0;  // bytes of source, from the start without a gap
@@ -31,6 +32,9 @@ inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
             result.normalized.emplace_back(sentence.normalized);
             result.speakable.emplace_back(sentence.speakable);
             result.records.push_back(to_text(sentence.records, sentence.n_records));
+            for (int i = 1; i < sentence.n_records; ++i) {
+                result.words.emplace_back(sentence.records[i].syllable);
+            }
             result.sources.emplace_back(text.substr(sentence.offset, sentence.length));
             if (sentence.offset == result.covered) result.covered += sentence.length;
         },

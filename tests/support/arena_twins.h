@@ -21,6 +21,7 @@ inline std::string broken_promise(const std::string& steps, std::size_t capacity
     };
     mem_stack_handle arena = mem_stack_create(capacity);
     std::vector<Pair> pairs;
+    std::size_t most = 0;
     std::string broken;
     const auto promise = [&](bool kept, const char* what) {
         if (!kept) broken = what;
@@ -48,8 +49,11 @@ inline std::string broken_promise(const std::string& steps, std::size_t capacity
         for (const Pair& pair : pairs) bytes += pair.twin.size();
         const std::size_t used = mem_stack_used(arena);
         promise(used >= bytes && (used == 0) == pairs.empty(), "counts what is in use");
-        promise(mem_stack_peak(arena) >= used, "remembers the peak");
+        most = std::max(most, used);
+        promise(mem_stack_peak(arena) == most, "remembers the peak");
         promise(capacity == 0 || used <= capacity, "keeps to its capacity");
+        promise(capacity == 0 || mem_stack_taken(arena) <= 2 * capacity + 65536,
+                "takes no more than twice its capacity from the system");
     }
     mem_stack_destroy(arena);
     return broken;

@@ -37,7 +37,9 @@ int mem_stack_release_buf(void* p, std::size_t size, tag_mem_type type, mem_stac
 // ---- The arena that comes with the engine. One arena serves one thread at a time. ----
 
 // A new arena whose blocks in use never total more than `n_capacity` bytes, book-keeping included
-// (0: no limit). The caller owns it. Null when it cannot be had.
+// (0: no limit). The caller owns it. Null when it cannot be had. What it takes from the system, in
+// few pieces, it keeps until its end: at most twice the capacity and 64 KB. When what is free there
+// lies in pieces that are too small, a request may be refused before the capacity is reached.
 mem_stack_handle mem_stack_create(std::size_t n_capacity);
 
 // Ends the arena and every block still out. Null does nothing.
@@ -48,6 +50,9 @@ std::size_t mem_stack_used(mem_stack_handle arena);
 
 // The most that mem_stack_used has been since the arena was created.
 std::size_t mem_stack_peak(mem_stack_handle arena);
+
+// Bytes taken from the system for blocks, in use or not.
+std::size_t mem_stack_taken(mem_stack_handle arena);
 
 }  // namespace kavi
 

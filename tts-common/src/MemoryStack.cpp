@@ -1,14 +1,16 @@
 // Size classes with free lists over chunks.
 //
 // A block is a header and its bytes. A released block goes to the free list of its class, so a
-// request and a release are a few instructions in any order. A class without a free block carves
-// one from the current chunk; when that is used up and everything has been given back, the arena
-// rewinds to its first chunk, so a host that works sentence by sentence settles on a few chunks.
-// Blocks above the largest class are had from and given back to the system one by one.
+// request and a release are a few instructions in any order. A class without a free block has one
+// carved from the current region of a chunk. When that is used up, and half of all chunks is free
+// or no further chunk may be had, free neighbours are merged into regions again: so a block of one
+// class can become one of another, and what is taken from the system stays in proportion to what
+// is in use.
 
 #include "MemoryStack.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <iterator>
 #include <limits>
@@ -33,30 +35,27 @@ static_assert(std::size_t{4} << SMALL_SHIFT == SMALL_MAX);
 static_assert(SMALL_MAX << 5 == CLASS_MAX, "five doublings of four classes each");
 static_assert(SMALL_STEP % ALIGNMENT == 0, "every class keeps the alignment");
 
+// Stands in front of every piece of a chunk, whether it is in use or not.
 struct alignas(std::max_align_t) BlockHeader {
-    std::size_t cost;        // what the block counts for: its bytes and its book-keeping
-    std::size_t size_class;  // CLASSES for a large block
+    std::size_t cost;          // the bytes of the piece, this header included
+    std::uint16_t size_class;  // CLASSES for a large block
+    std::uint16_t is_free;
 };
 
-// A released block; the link stands in the bytes that nobody uses now.
+// A released block or a free region; the link stands in the bytes that nobody uses now.
 struct FreeBlock {
     BlockHeader header;
     FreeBlock* next;
 };
 
-struct LargeBlock {
-    LargeBlock* next;
-    LargeBlock** link;  // where the pointer to this block stands
-    BlockHeader header;
-};
-
 static_assert(sizeof(FreeBlock) <= sizeof(BlockHeader) + SMALL_STEP, "the link fits every class");
-static_assert(sizeof(LargeBlock) == offsetof(LargeBlock, header) + sizeof(BlockHeader),
-              "the user's bytes begin right behind the header");
 
 struct alignas(std::max_align_t) Chunk {
     Chunk* next;
-    std::size_t bytes;  // behind this record
+    std::size_t bytes;  // after this record; all of them belong to pieces
+
+    char* begin() { return reinterpret_cast<char*>(this + 1); }
+    char* end() { return begin() + bytes; }
 };
 
 constexpr std::size_t round_up(std::size_t n, std::size_t step) {
@@ -84,76 +83,136 @@ SizeClass class_of(std::size_t size) {
 }  // namespace
 
 struct tag_mem_stack_array {
-    FreeBlock* free_list[CLASSES];
+    FreeBlock* free_list[CLASSES + 1];  // the last one is that of large blocks, of any size
     std::size_t capacity;
     std::size_t left;        // of the capacity
     std::size_t least_left;  // at any time
-    Chunk* first_chunk;
-    Chunk* chunk;            // the one being carved
-    std::size_t chunk_used;  // bytes carved from it
-    LargeBlock* large;
+    Chunk* chunks;
+    std::size_t taken;  // from the system, for chunks
+    char* carve_begin;  // the region at hand
+    char* carve_end;
+    FreeBlock* regions;  // the others
+    bool may_merge;      // something was released since neighbours were merged
 };
 
 namespace {
 
-BlockHeader* new_large(tag_mem_stack_array& arena, std::size_t cost) {
-    void* memory = std::malloc(cost);
-    if (memory == nullptr) return nullptr;
-    auto* block = new (memory) LargeBlock{arena.large, &arena.large, {cost, CLASSES}};
-    if (arena.large != nullptr) arena.large->link = &block->next;
-    arena.large = block;
-    return &block->header;
+void unlink_first(FreeBlock** link) {
+    *link = (*link)->next;
 }
 
-void free_large(LargeBlock* block) {
-    *block->link = block->next;
-    if (block->next != nullptr) block->next->link = block->link;
-    std::free(block);
-}
-
-LargeBlock* large_block(BlockHeader* header) {
-    return reinterpret_cast<LargeBlock*>(reinterpret_cast<char*>(header) -
-                                         offsetof(LargeBlock, header));
-}
-
-BlockHeader* reuse(tag_mem_stack_array& arena, std::size_t size_class) {
-    FreeBlock* block = arena.free_list[size_class];
-    arena.free_list[size_class] = block->next;
-    return &block->header;
-}
-
-void rewind(tag_mem_stack_array& arena) {
-    std::fill(std::begin(arena.free_list), std::end(arena.free_list), nullptr);
-    arena.chunk = arena.first_chunk;
-    arena.chunk_used = 0;
-}
-
-bool has_room(const tag_mem_stack_array& arena, std::size_t cost) {
-    return arena.chunk != nullptr && arena.chunk->bytes - arena.chunk_used >= cost;
-}
-
-// Makes a chunk with room for `cost` bytes the current one: the arena's next, or a new one.
-bool next_chunk(tag_mem_stack_array& arena, std::size_t cost) {
-    if (arena.left == arena.capacity) rewind(arena);
-    while (!has_room(arena, cost)) {
-        Chunk** next = arena.chunk != nullptr ? &arena.chunk->next : &arena.first_chunk;
-        if (*next == nullptr) {
-            const std::size_t bytes = std::max(cost, std::min(CHUNK_BYTES, arena.capacity));
-            void* memory = std::malloc(sizeof(Chunk) + bytes);
-            if (memory == nullptr) return false;
-            *next = new (memory) Chunk{nullptr, bytes};
+// Makes what is left of the region at hand one of the others.
+void put_region_back(tag_mem_stack_array& arena) {
+    const auto bytes = static_cast<std::size_t>(arena.carve_end - arena.carve_begin);
+    if (bytes > 0) {
+        auto* header = new (arena.carve_begin) BlockHeader{bytes, 0, 1};
+        if (bytes >= sizeof(FreeBlock)) {
+            auto* region = reinterpret_cast<FreeBlock*>(header);
+            region->next = arena.regions;
+            arena.regions = region;
         }
-        arena.chunk = *next;
-        arena.chunk_used = 0;
     }
+    arena.carve_begin = arena.carve_end;
+}
+
+// Makes the first region with room for `cost` bytes the one at hand.
+bool find_region(tag_mem_stack_array& arena, std::size_t cost) {
+    for (FreeBlock** link = &arena.regions; *link != nullptr; link = &(*link)->next) {
+        FreeBlock* region = *link;
+        if (region->header.cost < cost) continue;
+        unlink_first(link);
+        arena.carve_begin = reinterpret_cast<char*>(region);
+        arena.carve_end = arena.carve_begin + region->header.cost;
+        return true;
+    }
+    return false;
+}
+
+// Makes regions of all that is free in a chunk, appended at `link`; where the next goes.
+FreeBlock** merge_chunk(Chunk& chunk, FreeBlock** link) {
+    for (char* at = chunk.begin(); at < chunk.end();) {
+        auto* piece = reinterpret_cast<BlockHeader*>(at);
+        at += piece->cost;
+        if (piece->is_free == 0) continue;
+        for (; at < chunk.end() && reinterpret_cast<BlockHeader*>(at)->is_free != 0;) {
+            const std::size_t cost = reinterpret_cast<BlockHeader*>(at)->cost;
+            piece->cost += cost;
+            at += cost;
+        }
+        if (piece->cost < sizeof(FreeBlock)) continue;
+        auto* region = reinterpret_cast<FreeBlock*>(piece);
+        *link = region;
+        link = &region->next;
+    }
+    return link;
+}
+
+void merge_neighbours(tag_mem_stack_array& arena) {
+    std::fill(std::begin(arena.free_list), std::end(arena.free_list), nullptr);
+    FreeBlock** link = &arena.regions;
+    for (Chunk* chunk = arena.chunks; chunk != nullptr; chunk = chunk->next) {
+        link = merge_chunk(*chunk, link);
+    }
+    *link = nullptr;
+    arena.may_merge = false;
+}
+
+// A chunk with room for `cost` bytes, as far as the capacity lets the arena take one.
+bool take_chunk(tag_mem_stack_array& arena, std::size_t cost) {
+    const std::size_t usual = std::max(CHUNK_BYTES, round_up(arena.taken / 4, ALIGNMENT));
+    std::size_t bytes = std::max(cost, usual);
+    if (arena.capacity < REQUEST_MAX) {
+        const std::size_t most = 2 * arena.capacity + CHUNK_BYTES - arena.taken;
+        if (most < sizeof(Chunk) + cost) return false;
+        const std::size_t room = (most - sizeof(Chunk)) / ALIGNMENT * ALIGNMENT;
+        const std::size_t all = std::max(cost, round_up(arena.capacity, ALIGNMENT));
+        bytes = std::min({bytes, room, all});
+    }
+    void* memory = std::malloc(sizeof(Chunk) + bytes);
+    if (memory == nullptr) return false;
+    auto* chunk = new (memory) Chunk{arena.chunks, bytes};
+    arena.chunks = chunk;
+    arena.taken += sizeof(Chunk) + bytes;
+    arena.carve_begin = chunk->begin();
+    arena.carve_end = chunk->end();
     return true;
 }
 
+// Makes a region with room for `cost` bytes the one at hand.
+bool find_room(tag_mem_stack_array& arena, std::size_t cost) {
+    put_region_back(arena);
+    if (find_region(arena, cost)) return true;
+    const std::size_t used = arena.capacity - arena.left;
+    if (arena.may_merge && used <= arena.taken / 2) {
+        merge_neighbours(arena);
+        if (find_region(arena, cost)) return true;
+    }
+    if (take_chunk(arena, cost)) return true;
+    if (!arena.may_merge) return false;
+    merge_neighbours(arena);
+    return find_region(arena, cost);
+}
+
 BlockHeader* carve(tag_mem_stack_array& arena, std::size_t cost, std::size_t size_class) {
-    if (!has_room(arena, cost) && !next_chunk(arena, cost)) return nullptr;
-    char* memory = reinterpret_cast<char*>(arena.chunk + 1) + arena.chunk_used;
-    arena.chunk_used += cost;
-    return new (memory) BlockHeader{cost, size_class};
+    const auto room = static_cast<std::size_t>(arena.carve_end - arena.carve_begin);
+    if (room < cost && !find_room(arena, cost)) return nullptr;
+    char* memory = arena.carve_begin;
+    arena.carve_begin += cost;
+    return new (memory) BlockHeader{cost, static_cast<std::uint16_t>(size_class), 0};
+}
+
+// A free block for a request that costs `cost`: of its class, or a large one that is not much
+// larger. Null when there is none.
+BlockHeader* reuse(tag_mem_stack_array& arena, std::size_t size_class, std::size_t cost) {
+    for (FreeBlock** link = &arena.free_list[size_class]; *link != nullptr; link = &(*link)->next) {
+        FreeBlock* block = *link;
+        const std::size_t has = block->header.cost;
+        if (has < cost || has - cost > cost / 4 || has > arena.left) continue;
+        unlink_first(link);
+        block->header.is_free = 0;
+        return &block->header;
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -169,12 +228,7 @@ mem_stack_handle mem_stack_create(std::size_t n_capacity) {
 
 void mem_stack_destroy(mem_stack_handle arena) {
     if (arena == nullptr) return;
-    for (LargeBlock* block = arena->large; block != nullptr;) {
-        LargeBlock* next = block->next;
-        std::free(block);
-        block = next;
-    }
-    for (Chunk* chunk = arena->first_chunk; chunk != nullptr;) {
+    for (Chunk* chunk = arena->chunks; chunk != nullptr;) {
         Chunk* next = chunk->next;
         std::free(chunk);
         chunk = next;
@@ -188,6 +242,10 @@ std::size_t mem_stack_used(mem_stack_handle arena) {
 
 std::size_t mem_stack_peak(mem_stack_handle arena) {
     return arena != nullptr ? arena->capacity - arena->least_left : 0;
+}
+
+std::size_t mem_stack_taken(mem_stack_handle arena) {
+    return arena != nullptr ? arena->taken : 0;
 }
 
 namespace {
@@ -205,14 +263,10 @@ __attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
     tag_mem_stack_array& arena = *handle;
     if (size > std::min(arena.left, REQUEST_MAX)) return nullptr;
     const SizeClass wanted = class_of(size);
-    const bool large = wanted.index == CLASSES;
-    const std::size_t cost = wanted.bytes + (large ? sizeof(LargeBlock) : sizeof(BlockHeader));
+    const std::size_t cost = wanted.bytes + sizeof(BlockHeader);
     if (cost > arena.left) return nullptr;
-
-    BlockHeader* block = large ? new_large(arena, cost)
-                         : arena.free_list[wanted.index] != nullptr
-                             ? reuse(arena, wanted.index)
-                             : carve(arena, cost, wanted.index);
+    BlockHeader* block = reuse(arena, wanted.index, cost);
+    if (block == nullptr) block = carve(arena, cost, wanted.index);
     return block != nullptr ? hand_out(arena, block) : nullptr;
 }
 
@@ -222,9 +276,11 @@ __attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
     const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
     if (arena != nullptr && static_cast<unsigned>(type) < MEM_MAX_CNT && index < SMALL_CLASSES) {
-        const FreeBlock* block = arena->free_list[index];
+        FreeBlock* block = arena->free_list[index];
         if (block != nullptr && block->header.cost <= arena->left) {
-            return hand_out(*arena, reuse(*arena, index));
+            arena->free_list[index] = block->next;
+            block->header.is_free = 0;
+            return hand_out(*arena, &block->header);
         }
     }
     return request_any(size, type, arena);
@@ -233,15 +289,13 @@ void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handl
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,
                           mem_stack_handle arena) {
     if (p == nullptr || arena == nullptr) return 0;
-    BlockHeader* header = static_cast<BlockHeader*>(p) - 1;
-    arena->left += header->cost;
-    if (header->size_class == CLASSES) {
-        free_large(large_block(header));
-    } else {
-        auto* block = reinterpret_cast<FreeBlock*>(header);
-        block->next = arena->free_list[header->size_class];
-        arena->free_list[header->size_class] = block;
-    }
+    auto* block = reinterpret_cast<FreeBlock*>(static_cast<BlockHeader*>(p) - 1);
+    FreeBlock*& free_list = arena->free_list[block->header.size_class];
+    arena->left += block->header.cost;
+    arena->may_merge = true;
+    block->header.is_free = 1;
+    block->next = free_list;
+    free_list = block;
     return 0;
 }
 

@@ -14,13 +14,19 @@ struct Kind {
     std::string (*sentence)(std::size_t bytes, unsigned seed);
 };
 
-// News-like prose, prose full of numbers, prose full of markup.
+// Plain words, words and patterns by halves, a tag every four words with spans in spans, and
+// news-like prose: capitals, acronyms, quotes, apostrophes, abbreviations, and in every second
+// sentence a number, date, time, amount or percentage.
 extern const std::vector<Kind> ORDINARY;
+
+// The licence texts of every Debian system; it has paragraphs only.
+extern const Kind LICENCES;
 
 // What a tokenizer, a builder or a search may take badly.
 extern const std::vector<Kind> WORST;
 
-// Paragraphs of about half a kilobyte, of sentences as long as people write them.
+// Paragraphs of about half a kilobyte, of sentences as long as people write them; those of
+// LICENCES are as they stand.
 std::vector<std::string> paragraphs(const Kind& kind, std::size_t bytes);
 
 }  // namespace kavi::bench

@@ -288,8 +288,6 @@ class PostProTnEng {
     bool count_embed_word(int& n, char* buffer_target);
 
   private:
-    friend class WordFiller;
-    friend class WordCounter;
     friend struct PostProTnEngPeer;  // lets the tests reach the readers
 
     void re_regular(char* sz_source_text);
@@ -343,7 +341,6 @@ class PostProTnEng {
     bool insert_pause(int n, UtteranceSyllable* utt, char ch);
     // Null: no tag of the language, or its opening is not closed.
     char* parse_tag(char* sz_text, char* sz_tag, char* sz_value, char* sz_target);
-    bool count_words(int& n, char* buffer_target, int n_depth);
 
     mem_stack_handle _mem_handle;
 };

@@ -12,6 +12,42 @@ namespace kavi {
 
 using namespace tn;
 
+namespace {
+
+Section* append_from(Section* (*read)(Section*, Reading&), Section* section, char* target) {
+    Reading reading(target);
+    return read(section, reading);
+}
+
+char* append_from(void (*read)(std::string_view, Reading&), char* source, char* target) {
+    Reading reading(target);
+    read(source, reading);
+    return target;
+}
+
+char* replace_by(std::string_view words, char* target) {
+    Reading(emptied(target)).append(words);
+    return target;
+}
+
+// Reads what a mark may begin straight to the output. False when that is full; otherwise `last` is
+// what was consumed, the mark itself when nothing was.
+bool append_mark(bool (*read)(Section*, Reading&, BoundedText&, Section*&), Section* mark,
+                 char* target, Section*& last) {
+    char scratch[WORD_MAX_LEN];
+    Reading reading(emptied(scratch));
+    BoundedText output(target, SZ_TEXT_MAX_LEN);
+    const bool fits = read(mark, reading, output, last);
+    if (!fits || last == nullptr) last = mark;
+    return fits;
+}
+
+bool append_words(const char* words, char* target) {
+    return BoundedText(target, SZ_TEXT_MAX_LEN).append(words);
+}
+
+}  // namespace
+
 PostProTnEng::PostProTnEng() : _mem_handle(nullptr) {}
 
 void PostProTnEng::init(mem_stack_handle mem_handle) {
@@ -29,8 +65,7 @@ int PostProTnEng::phone_number_decide(Section* p_section) {
 }
 
 Section* PostProTnEng::phone_number_read(Section* p_section, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    return tn::phone_number_read(p_section, reading);
+    return append_from(tn::phone_number_read, p_section, sz_target_text);
 }
 
 int PostProTnEng::month_def(char* sz_source) {
@@ -39,9 +74,7 @@ int PostProTnEng::month_def(char* sz_source) {
 
 char* PostProTnEng::month_read(char* sz_source_text, char* sz_target_text) {
     const char* name = month_name(sz_source_text);
-    sz_target_text[0] = '\0';
-    Reading(sz_target_text).append(name != nullptr ? name : sz_source_text);
-    return sz_target_text;
+    return replace_by(name != nullptr ? name : sz_source_text, sz_target_text);
 }
 
 int PostProTnEng::data_decide(Section* p_section) {
@@ -49,14 +82,11 @@ int PostProTnEng::data_decide(Section* p_section) {
 }
 
 Section* PostProTnEng::data_number(Section* p_section, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    return tn::data_number(p_section, reading);
+    return append_from(tn::data_number, p_section, sz_target_text);
 }
 
 char* PostProTnEng::year_read(char* sz_source_text, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    tn::year_read(sz_source_text, reading);
-    return sz_target_text;
+    return append_from(tn::year_read, sz_source_text, sz_target_text);
 }
 
 int PostProTnEng::fraction_decide(Section* pSection) {
@@ -64,8 +94,7 @@ int PostProTnEng::fraction_decide(Section* pSection) {
 }
 
 Section* PostProTnEng::fraction_number(Section* pSection, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    return tn::fraction_number(pSection, reading);
+    return append_from(tn::fraction_number, pSection, sz_target_text);
 }
 
 int PostProTnEng::decimal_decide(Section* pSection) {
@@ -73,8 +102,7 @@ int PostProTnEng::decimal_decide(Section* pSection) {
 }
 
 Section* PostProTnEng::decimal_number(Section* psection, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    return tn::decimal_number(psection, reading);
+    return append_from(tn::decimal_number, psection, sz_target_text);
 }
 
 int PostProTnEng::currency_decide(Section* pSection) {
@@ -84,8 +112,7 @@ int PostProTnEng::currency_decide(Section* pSection) {
 }
 
 Section* PostProTnEng::currrency_read(Section* pSection, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    return tn::currrency_read(pSection, reading);
+    return append_from(tn::currrency_read, pSection, sz_target_text);
 }
 
 int PostProTnEng::time_decide(Section* pSection) {
@@ -98,45 +125,32 @@ Section* PostProTnEng::time_number(Section* psection, char* sz_target_text) {
 }
 
 Section* PostProTnEng::str_number(Section* p_section, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    return tn::str_number(p_section, reading);
+    return append_from(tn::str_number, p_section, sz_target_text);
 }
 
 Section* PostProTnEng::turn(Section* p_section, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    return tn::turn(p_section, reading);
+    return append_from(tn::turn, p_section, sz_target_text);
 }
 
 int PostProTnEng::process_upper_case(Section* m_ptemp_section, char* sz_target) {
     const std::string_view word = m_ptemp_section->sz_char;
     if (word_kind(word) != WordKind::capitals) return 0;
     ask_lexicon(word);
-    sz_target[0] = '\0';
-    Reading(sz_target).append(word);
+    replace_by(word, sz_target);
     return 1;
 }
 
 bool PostProTnEng::process_bracket(Section*& p_temp_section, char* sz_target) {
-    char scratch[WORD_MAX_LEN] = "";
-    Reading reading(scratch);
-    BoundedText output(sz_target, SZ_TEXT_MAX_LEN);
-    if (!is_number(p_temp_section->m_pnext)) return output.append("<punc=zuokuo>");
-    Section* last = nullptr;
-    const bool fits = bracket_read(p_temp_section, reading, output, last);
-    if (fits && last != nullptr) p_temp_section = last;
-    return fits;
+    if (!is_number(p_temp_section->m_pnext)) return append_words("<punc=zuokuo>", sz_target);
+    return append_mark(bracket_read, p_temp_section, sz_target, p_temp_section);
 }
 
 Section* PostProTnEng::process_plus(Section* p_temp_section, char* sz_target) {
-    char scratch[WORD_MAX_LEN] = "";
-    Reading reading(scratch);
-    BoundedText output(sz_target, SZ_TEXT_MAX_LEN);
     if (is_number(p_temp_section->m_pprevious)) {
-        return output.append("add ") ? p_temp_section : nullptr;
+        return append_words("add ", sz_target) ? p_temp_section : nullptr;
     }
     Section* last = nullptr;
-    if (!plus_read(p_temp_section, reading, output, last)) return nullptr;
-    return last != nullptr ? last : p_temp_section;
+    return append_mark(plus_read, p_temp_section, sz_target, last) ? last : nullptr;
 }
 
 Section* PostProTnEng::process_single_quote(Section* p_temp_section, char* /*sz_target*/) {
@@ -147,15 +161,11 @@ Section* PostProTnEng::process_single_quote(Section* p_temp_section, char* /*sz_
 // ---- numbers ----
 
 char* PostProTnEng::number_read(char* sz_source_text, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    append_cardinal(sz_source_text, reading);
-    return sz_target_text;
+    return append_from(append_cardinal, sz_source_text, sz_target_text);
 }
 
 char* PostProTnEng::number_to_normal(char* sz_source_text, char* sz_target_text) {
-    Reading reading(sz_target_text);
-    append_each_digit(sz_source_text, reading);
-    return sz_target_text;
+    return append_from(append_each_digit, sz_source_text, sz_target_text);
 }
 
 int PostProTnEng::number_def(char* sz_source) {
@@ -168,10 +178,7 @@ char* PostProTnEng::str_turn(char* sz_source_text, char* sz_target_text) {
 }
 
 char* PostProTnEng::number_to_string(char* sz_source_text, char* sz_target_text) {
-    sz_target_text[0] = '\0';
-    Reading reading(sz_target_text);
-    append_number(sz_source_text, reading);
-    return sz_target_text;
+    return append_from(append_number, sz_source_text, emptied(sz_target_text));
 }
 
 }  // namespace kavi

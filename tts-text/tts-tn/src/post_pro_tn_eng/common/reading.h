@@ -9,6 +9,12 @@
 
 namespace kavi::tn {
 
+// A buffer that holds an empty text from now on.
+inline char* emptied(char* buffer) {
+    *buffer = '\0';
+    return buffer;
+}
+
 // Grows after what the buffer holds already. Words that no longer fit are cut after the last whole
 // one that does, and everything after the cut is dropped. A cut reading does not end in a blank.
 class Reading {
@@ -64,15 +70,17 @@ class Reading {
 
     // Notes that these digits, a piece of a section's text, are in the reading.
     void note_digits(std::string_view digits) {
-        if (n_digit_runs_ < DIGIT_RUNS_MAX) digit_runs_[n_digit_runs_++] = digits;
+        if (n_digit_runs_ < DIGIT_RUNS_MAX) {
+            digit_runs_[n_digit_runs_++] = {digits.data(), digits.size()};
+        }
     }
 
     // How many digits of the text that begins at `text`, in a section's buffer, were read.
     std::size_t digits_read(const char* text) const {
         std::size_t n = 0;
         for (std::size_t i = 0; i < n_digit_runs_; ++i) {
-            const std::string_view run = digit_runs_[i];
-            if (run.data() >= text && run.data() < text + WORD_MAX_LEN) n += run.size();
+            const DigitRun& run = digit_runs_[i];
+            if (run.begin >= text && run.begin < text + WORD_MAX_LEN) n += run.length;
         }
         return n;
     }
@@ -80,6 +88,11 @@ class Reading {
   private:
     static constexpr std::size_t ROOM = WORD_MAX_LEN - 1;
     static constexpr std::size_t DIGIT_RUNS_MAX = 10;  // a country code and nine groups
+
+    struct DigitRun {
+        const char* begin;
+        std::size_t length;
+    };
 
     // What stands there already stays as it is: it may end in a tag, which holds blanks.
     void append_cut(std::string_view words) {
@@ -97,7 +110,7 @@ class Reading {
     bool cut_ = false;
     bool all_words_ = true;
     std::size_t n_digit_runs_ = 0;
-    std::string_view digit_runs_[DIGIT_RUNS_MAX];
+    DigitRun digit_runs_[DIGIT_RUNS_MAX];  // the first n_digit_runs_
 };
 
 }  // namespace kavi::tn

@@ -4,8 +4,6 @@
 #include <cstring>
 #include <new>
 
-#include "TtsString.h"
-
 namespace kavi::tn {
 
 namespace {
@@ -30,6 +28,11 @@ std::size_t name_length(const char* name) {
     return length;
 }
 
+// Whether the name stands at `text`, with `end` after it.
+bool is_name(const char* text, std::string_view name, char end) {
+    return std::strncmp(text, name.data(), name.size()) == 0 && text[name.size()] == end;
+}
+
 }  // namespace
 
 // ---- sorted names ----
@@ -38,10 +41,19 @@ void SortedNames::add(std::string_view name) {
     new (end_++) std::string_view(name);
 }
 
-// By a heap, whose code is small.
+// By Shell's method: a few lines of code, and for the texts that a call is given as good as any.
 void SortedNames::sort() {
-    std::make_heap(begin_, end_, is_before);
-    std::sort_heap(begin_, end_, is_before);
+    constexpr std::ptrdiff_t STEP = 3;
+    std::ptrdiff_t gap = 1;
+    while (gap < (end_ - begin_) / STEP) gap = gap * STEP + 1;
+    for (; gap > 0; gap /= STEP) {
+        for (std::string_view* next = begin_ + gap; next < end_; ++next) {
+            const std::string_view name = *next;
+            std::string_view* at = next;
+            for (; at - begin_ >= gap && is_before(name, at[-gap]); at -= gap) *at = at[-gap];
+            *at = name;
+        }
+    }
 }
 
 const std::string_view* SortedNames::find(std::string_view name, const char* place) const {
@@ -53,33 +65,32 @@ const std::string_view* SortedNames::find(std::string_view name, const char* pla
 
 // ---- paired tags ----
 
-const char* PairedTags::find_closing(const char* content, std::string_view name) {
+const char* PairedTags::find_closing(const char* content, const char* end, std::string_view name) {
     constexpr int FAILURES_MAX = 8;
-    if (failures_ == FAILURES_MAX && !sorted_) sort_tags(content);
-    const char* closing = is_sorted_ ? look_up(content, name) : search(content, name);
-    if (closing == nullptr) ++failures_;
-    return closing;
+    if (failures_ >= FAILURES_MAX && !sorted_) sort_tags(content);
+    const char* closing = is_sorted_ ? look_up(content, name) : search(content, end, name);
+    if (closing != nullptr && closing + CLOSING + name.size() < end) return closing;
+    ++failures_;
+    return nullptr;
 }
 
-const char* PairedTags::search(const char* content, std::string_view name) {
-    constexpr int PATTERN_SIZE = 1024;
-    char sz_temp_buf[PATTERN_SIZE];
-    char recursize_tag_before[PATTERN_SIZE];
+const char* PairedTags::search(const char* content, const char* end, std::string_view name) {
     const char* any_closing = any_closing_.find(content, "</");
-    if (any_closing == nullptr) return nullptr;
-    const auto length = static_cast<int>(name.size());
-    tts_snprintf(sz_temp_buf, PATTERN_SIZE, "</%.*s>", length, name.data());
-    tts_snprintf(recursize_tag_before, PATTERN_SIZE, "<%.*s=", length, name.data());
-    const char* closing = std::strstr(any_closing, sz_temp_buf);
-    if (closing == nullptr) return nullptr;
-    const std::string_view before(content, static_cast<std::size_t>(closing - content));
-    const std::string_view opening = recursize_tag_before;
-    for (std::size_t nested = before.find(opening); nested != std::string_view::npos;
-         nested = before.find(opening, nested + opening.size())) {
-        closing = std::strstr(closing + 1, sz_temp_buf);
-        if (closing == nullptr) return nullptr;
+    if (any_closing == nullptr || any_closing >= end) return nullptr;
+    std::size_t to_pass = 0;
+    bool closed = false;
+    for (const char* at = content; at < end; ++at) {
+        at = std::strchr(at, '<');
+        if (at == nullptr) return nullptr;
+        if (at[1] == '/') {
+            if (!is_name(at + CLOSING, name, '>')) continue;
+            if (to_pass-- == 0) return at;
+            closed = true;
+        } else if (!closed && is_name(at + OPENING, name, '=')) {
+            ++to_pass;
+        }
     }
-    return closing;
+    return nullptr;
 }
 
 void PairedTags::sort_tags(const char* text) {

@@ -42,9 +42,9 @@ class PairedTags {
     explicit PairedTags(mem_stack_handle arena) : arena_(arena) {}
 
     // The closing tag of the content that begins at `content`: as many closings of the name are
-    // passed over as it is opened again before the first of them. Null when there are not enough.
-    // `content` moves forward from call to call.
-    const char* find_closing(const char* content, std::string_view name);
+    // passed over as it is opened again before the first of them. Null when there are not enough
+    // before `end`. `content` moves forward from call to call.
+    const char* find_closing(const char* content, const char* end, std::string_view name);
 
   private:
     struct SortedTags {
@@ -56,7 +56,7 @@ class PairedTags {
     };
 
     void sort_tags(const char* text);
-    const char* search(const char* content, std::string_view name);
+    const char* search(const char* content, const char* end, std::string_view name);
     const char* look_up(const char* content, std::string_view name) const;
 
     mem_stack_handle arena_;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cstring>
-#include <iterator>
 
 #include "markup_tags.h"
 
@@ -36,19 +35,19 @@ constexpr TagName TAG_NAMES[] = {
 // clang-format on
 
 const TagName* find_name(const char* name) {
-    const auto* row =
-        std::find_if(std::begin(TAG_NAMES), std::end(TAG_NAMES),
-                     [=](const TagName& tag) { return begins_with(name, tag.prefix); });
-    return row != std::end(TAG_NAMES) ? row : nullptr;
+    for (const TagName& tag : TAG_NAMES) {
+        if (begins_with(name, tag.prefix)) return &tag;
+    }
+    return nullptr;
 }
 
 }  // namespace
 
-bool read_opening(const char* name, TagEnds& tag_ends, Tag& tag) {
+bool read_opening(const char* name, const char* end, TagEnds& tag_ends, Tag& tag) {
     const TagName* kind = find_name(name);
     if (kind == nullptr) return false;
     const std::string_view text = tag_ends.tag_at(name);
-    if (text.empty()) return false;
+    if (text.empty() || text.data() + text.size() > end) return false;
     const std::string_view inside = text.substr(0, text.size() - 1);
     const std::size_t name_length = std::min(inside.find('='), inside.size());
     if (name_length > TAG_NAME_MAX) return false;
@@ -61,12 +60,12 @@ bool read_opening(const char* name, TagEnds& tag_ends, Tag& tag) {
     return true;
 }
 
-bool read_content(Tag& tag, PairedTags& paired_tags) {
+bool read_content(Tag& tag, const char* end, PairedTags& paired_tags) {
     if (tag.role == TagRole::simple) return true;
     const char* content = tag.after;
-    const char* pc_temp = paired_tags.find_closing(content, tag.name);
+    const char* pc_temp = paired_tags.find_closing(content, end, tag.name);
     const bool closed = pc_temp != nullptr;
-    if (!closed) pc_temp = tag.use == TagUse::span ? content + std::strlen(content) : content;
+    if (!closed) pc_temp = tag.use == TagUse::span ? end : content;
     assert(pc_temp != NULL);
     tag.content = {content, static_cast<std::size_t>(pc_temp - content)};
     tag.after = pc_temp + (closed ? tag.name.size() + std::strlen("</>") : 0);

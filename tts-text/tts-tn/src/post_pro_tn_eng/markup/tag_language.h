@@ -32,12 +32,12 @@ struct Tag {
 };
 
 // Reads the tag whose name begins at `name`, as far as its ">". False when it is none of the
-// language or has no ">".
-bool read_opening(const char* name, TagEnds& tag_ends, Tag& tag);
+// language or has no ">" before `end`.
+bool read_opening(const char* name, const char* end, TagEnds& tag_ends, Tag& tag);
 
-// Reads on to the end of a paired tag. One that is never closed: a span runs to the end of the
-// text; any other is passed over by itself, so that the words after it stay. False for these.
-bool read_content(Tag& tag, PairedTags& paired_tags);
+// Reads on to the end of a paired tag. One that is not closed before `end`: a span runs as far as
+// that; any other is passed over by itself, so that the words after it stay. False for these.
+bool read_content(Tag& tag, const char* end, PairedTags& paired_tags);
 
 }  // namespace kavi::tn
 

@@ -9,9 +9,20 @@
 
 namespace kavi::tn {
 
+namespace {
+
+bool is_in_capitals(std::string_view word) {
+    for (const char c : word) {
+        if (!is_upper(c)) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
 WordKind word_kind(std::string_view word) {
     if (!word.empty() && is_lower(word[0])) return WordKind::plain;
-    if (std::all_of(word.begin(), word.end(), is_upper)) return WordKind::capitals;
+    if (is_in_capitals(word)) return WordKind::capitals;
     if (word == "Tel") return WordKind::telephone_label;
     return month_name(word) != nullptr ? WordKind::month : WordKind::plain;
 }

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstring>
-#include <string_view>
 
 #include "../common/ascii.h"
 #include "../common/bounded_text.h"
@@ -15,27 +14,17 @@ namespace tn {
 
 namespace {
 
-constexpr int dot_offset(const char* abbreviation) {
-    int offset = 0;
+constexpr std::size_t offset_of_dot(const char* abbreviation) {
+    std::size_t offset = 0;
     while (abbreviation[offset] != '.') ++offset;
     return offset;
 }
 
-constexpr auto make_dot_offsets() {
-    std::array<int, ABBREVIATIONNUMBER> offsets{};
-    for (std::size_t row = 0; row < offsets.size(); ++row) {
-        offsets[row] = dot_offset(s_spec_word_abbrevi[row][0]);
-    }
-    return offsets;
-}
-
-// Where the first "." stands in each abbreviation.
-constexpr auto DOT_OFFSETS = make_dot_offsets();
-
 constexpr auto make_rows_ending_in() {
     std::array<unsigned, 26> rows{};
-    for (std::size_t row = 0; row < DOT_OFFSETS.size(); ++row) {
-        const char last = to_lower(s_spec_word_abbrevi[row][0][DOT_OFFSETS[row] - 1]);
+    for (std::size_t row = 0; row < ABBREVIATIONNUMBER; ++row) {
+        const char* abbreviation = s_spec_word_abbrevi[row][0];
+        const char last = to_lower(abbreviation[offset_of_dot(abbreviation) - 1]);
         rows[static_cast<std::size_t>(last - 'a')] |= 1U << row;
     }
     return rows;
@@ -67,11 +56,15 @@ bool has_case_form(const char* text, const char* abbreviation, std::size_t form)
 
 }  // namespace
 
+std::size_t dot_offset(int row) {
+    return offset_of_dot(s_spec_word_abbrevi[row][0]);
+}
+
 // The case form that occurs at the full stop counts only when no form tried before it occurs
 // anywhere in the rest of the text: the first form that occurs is taken, wherever that is.
-bool AbbreviationSearch::is_accepted(std::size_t row, const char* stretch, const char* dot) {
+bool AbbreviationSearch::is_accepted(int row, const char* stretch, const char* dot) {
     const char* abbreviation = s_spec_word_abbrevi[row][0];
-    const int offset = DOT_OFFSETS[row];
+    const auto offset = static_cast<std::ptrdiff_t>(dot_offset(row));
     if (dot - stretch < offset) return false;
     if (to_lower(dot[-offset]) != to_lower(abbreviation[0])) return false;  // most rows end here
     std::size_t form = 0;
@@ -83,19 +76,19 @@ bool AbbreviationSearch::is_accepted(std::size_t row, const char* stretch, const
             needle[i] = in_case_form(abbreviation, i, form);
         }
         if (!ahead_) ahead_.emplace();
-        if ((*ahead_)[row * CASE_FORMS + form].find(stretch, needle) != nullptr) return false;
+        if ((*ahead_)[static_cast<std::size_t>(row) * CASE_FORMS + form].find(stretch, needle) !=
+            nullptr)
+            return false;
     }
     return true;
 }
 
-std::optional<Abbreviation> AbbreviationSearch::find(const char* stretch, const char* dot) {
+int AbbreviationSearch::find(const char* stretch, const char* dot) {
     unsigned rows = dot > stretch ? rows_ending_in(dot[-1]) : 0;
-    for (std::size_t row = 0; rows != 0; ++row, rows >>= 1) {
-        if ((rows & 1U) == 0 || !is_accepted(row, stretch, dot)) continue;
-        const auto& [written, expansion] = s_spec_word_abbrevi[row];
-        return Abbreviation{written, expansion, static_cast<std::size_t>(DOT_OFFSETS[row])};
+    for (int row = 0; rows != 0; ++row, rows >>= 1) {
+        if ((rows & 1U) != 0 && is_accepted(row, stretch, dot)) return row;
     }
-    return std::nullopt;
+    return NO_ABBREVIATION;
 }
 
 }  // namespace tn
@@ -103,16 +96,17 @@ std::optional<Abbreviation> AbbreviationSearch::find(const char* stretch, const 
 char* PostProTnEng::abbreviation(char* sz_source_text, char* sz_target, char* c_stop) {
     tn::BoundedText target(sz_target, SZ_TEXT_MAX_LEN);
     char* dot = std::strchr(sz_source_text, '.');
-    std::optional<tn::Abbreviation> found;
-    if (dot != nullptr) found = tn::AbbreviationSearch().find(sz_source_text, dot);
-    if (!found) {
+    const int row =
+        dot != nullptr ? tn::AbbreviationSearch().find(sz_source_text, dot) : tn::NO_ABBREVIATION;
+    if (row == tn::NO_ABBREVIATION) {
         *c_stop = 1;
         if (target.ends_with('.')) target.cut(1);
         return nullptr;
     }
-    target.cut(static_cast<int>(found->dot_offset) + 1);
-    const bool fits = target.append(found->expansion) && target.append(" ");
-    return fits ? dot - found->dot_offset + found->written.size() : nullptr;
+    const auto& [written, expansion] = s_spec_word_abbrevi[row];
+    target.cut(static_cast<int>(tn::dot_offset(row)) + 1);
+    if (!target.append(expansion) || !target.append(" ")) return nullptr;
+    return dot - tn::dot_offset(row) + std::strlen(written);
 }
 
 }  // namespace kavi

@@ -5,31 +5,29 @@
 #include <array>
 #include <cstddef>
 #include <optional>
-#include <string_view>
 
 #include "../common/forward_finder.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
 
-// A row of the table.
-struct Abbreviation {
-    std::string_view written;
-    std::string_view expansion;
-    std::size_t dot_offset;  // where its first "." stands
-};
+constexpr int NO_ABBREVIATION = -1;
+
+// Where the first "." stands in the abbreviation of a row.
+std::size_t dot_offset(int row);
 
 // Serves one scan of one source text: remembers which case forms lie ahead, so that even a text
 // made of near misses is searched once for each.
 class AbbreviationSearch {
   public:
-    // The abbreviation whose first "." is the one at `dot`, or none. `stretch` is where the search
-    // begins: at the start of the sentence, or after the last abbreviation or decimal point; `dot`
-    // is the first "." from there on. Stretches move forward from call to call.
-    std::optional<Abbreviation> find(const char* stretch, const char* dot);
+    // The row of the abbreviation whose first "." is the one at `dot`, or NO_ABBREVIATION.
+    // `stretch` is where the search begins: at the start of the sentence, or after the last
+    // abbreviation or decimal point; `dot` is the first "." from there on. Stretches move forward
+    // from call to call.
+    int find(const char* stretch, const char* dot);
 
   private:
-    bool is_accepted(std::size_t row, const char* stretch, const char* dot);
+    bool is_accepted(int row, const char* stretch, const char* dot);
 
     static constexpr std::size_t CASE_FORMS = 4;  // as written, lower case, capitalised, capitals
     using Finders = std::array<ForwardFinder, ABBREVIATIONNUMBER * CASE_FORMS>;

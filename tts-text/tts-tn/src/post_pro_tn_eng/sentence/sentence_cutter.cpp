@@ -105,12 +105,13 @@ void SentenceCutter::full_stop() {
 // room ends the sentence.
 bool SentenceCutter::expand_abbreviation() {
     if (std::strchr(stretch_, '.') != next_) return false;
-    const std::optional<Abbreviation> found = abbreviations_.find(stretch_, next_);
-    if (!found) return false;
-    target_.cut(static_cast<int>(found->dot_offset));
+    const int row = abbreviations_.find(stretch_, next_);
+    if (row == NO_ABBREVIATION) return false;
+    const auto& [written, expansion] = s_spec_word_abbrevi[row];
+    target_.cut(static_cast<int>(dot_offset(row)));
     const int target_at = target_.length();
-    if (!target_.append(found->expansion) || !target_.append(" ")) return false;
-    const std::string_view source(next_ - found->dot_offset, found->written.size());
+    if (!target_.append(expansion) || !target_.append(" ")) return false;
+    const std::string_view source(next_ - dot_offset(row), std::strlen(written));
     report(source, target_at);
     previous_ = '.';
     next_ = stretch_ = source.data() + source.size();
@@ -146,11 +147,15 @@ void SentenceCutter::keep(std::string_view tag) {
     }
 }
 
-// A tag that has no room any more begins the next sentence.
+// A tag that has no room any more begins the next sentence. Where the sentence begins with tags
+// that hide no full stop, the search for abbreviations begins after them.
 bool SentenceCutter::copy_tag(std::string_view tag) {
     full_ = !target_.append(tag);
-    if (!full_) next_ += tag.size();
-    return !full_;
+    if (full_) return false;
+    const bool hides_nothing = tag.find('.') == std::string_view::npos;
+    if (stretch_ == next_ && hides_nothing) stretch_ += tag.size();
+    next_ += tag.size();
+    return true;
 }
 
 bool SentenceCutter::open_span(std::string_view tag) {

@@ -132,8 +132,8 @@ class SectionDispatcher {
     BoundedText& output_;
     SectionWindow* window_ = nullptr;  // null for a queue
     Section* section_;                 // the one that the next step begins with
-    char reading_text_[WORD_MAX_LEN] = "";
-    Reading reading_{reading_text_};
+    char reading_text_[WORD_MAX_LEN];
+    Reading reading_{emptied(reading_text_)};
     ReadingRule rule_ = ReadingRule::silent;
     Outcome outcome_ = Outcome::go_on;
     const Section* first_ = nullptr;

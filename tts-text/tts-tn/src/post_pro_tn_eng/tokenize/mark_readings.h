@@ -11,55 +11,23 @@ namespace kavi::tn {
 // to look at more than the section before and after it. A mark that is in no row is silent.
 struct MarkReading {
     char mark;
+    bool spaced;  // a blank of its own follows the words
     const char* after_number;
     const char* before_number;
     const char* otherwise;
-    bool spaced;  // a blank of its own follows the words
 };
 
 inline constexpr const char* READER = nullptr;
 
-// clang-format off
-inline constexpr MarkReading MARK_READINGS[] = {
-    {',',  "<punc=dou> ",    "<punc=dou> ",    "<punc=dou> ",    false},
-    {'.',  "<punc=ju> ",     "<punc=ju> ",     "<punc=ju> ",     false},
-    {':',  "<punc=mao> ",    "<punc=mao> ",    "<punc=mao> ",    false},
-    {';',  "<punc=fen> ",    "<punc=fen> ",    "<punc=fen> ",    false},
-    {'"',  "<punc=zuoyin> ", "<punc=zuoyin> ", "<punc=zuoyin> ", false},
-    {'?',  "<punc=wen>",     "<punc=wen>",     "<punc=wen>",     false},
-    {'(',  READER,           READER,           "<punc=zuokuo>",  false},
-    {')',  "<punc=youkuo>",  "<punc=youkuo>",  "<punc=youkuo>",  false},
-    {'{',  "<punc=zuokuo>",  "<punc=zuokuo>",  "<punc=zuokuo>",  false},
-    {'}',  "<punc=youkuo>",  "<punc=youkuo>",  "<punc=youkuo>",  false},
-    {'[',  "<punc=zuokuo>",  "<punc=zuokuo>",  "<punc=zuokuo>",  false},
-    {']',  "<punc=youkuo>",  "<punc=youkuo>",  "<punc=youkuo>",  false},
-    {'+',  "add ",           READER,           "",               false},
-    {'-',  "subtract ",      "minus ",         " ",              false},
-    {'*',  "multiply ",      "asterisk ",      "asterisk ",      false},
-    {'/',  "divide ",        " ",              " ",              false},
-    {'%',  "percent ",       " ",              " ",              false},
-    {'=',  "equal ",         "equal ",         "equal ",         false},
-    {'~',  "arrive ",        "arrive ",        "arrive ",        true},
-    {'>',  "larger ",        "larger ",        "larger ",        false},
-    {'@',  "at ",            "at ",            "at ",            false},
-    {'#',  " ",              " ",              " ",              false},
-    {'$',  READER,           READER,           " ",              false},
-    {'\'', READER,           READER,           READER,           false},
-    {'<',  READER,           READER,           READER,           false},
-};
-// clang-format on
+extern const MarkReading MARK_READINGS[25];
 
-constexpr auto make_mark_rows() {
-    std::array<const MarkReading*, 256> rows{};
-    for (const MarkReading& row : MARK_READINGS) rows[static_cast<unsigned char>(row.mark)] = &row;
-    return rows;
-}
-
-inline constexpr auto MARK_ROWS = make_mark_rows();
+// For each character the number of its row, from 1; 0 for none.
+extern const std::array<unsigned char, 256> MARK_ROWS;
 
 // The row of a mark, or null.
-constexpr const MarkReading* find_mark(char mark) {
-    return MARK_ROWS[static_cast<unsigned char>(mark)];
+inline const MarkReading* find_mark(char mark) {
+    const unsigned number = MARK_ROWS[static_cast<unsigned char>(mark)];
+    return number != 0 ? &MARK_READINGS[number - 1] : nullptr;
 }
 
 // The words of a row for what stands before and after the mark, or READER.

@@ -52,7 +52,8 @@ void SectionWindow::append() {
     PlacedSection& section = ring_[n_ % CAPACITY];
     if (n_ >= CAPACITY) section.m_pnext->m_pprevious = nullptr;  // the oldest goes
     set_section(section, text);
-    section.source = text;
+    section.begin = text.data();
+    section.length = text.size();
     link_section(section, tail_);
     ++n_;
     end_ += text.size();

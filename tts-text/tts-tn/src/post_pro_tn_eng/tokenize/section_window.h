@@ -38,7 +38,8 @@ class SectionWindow {
     // The sentence's own bytes of a section of this window: a contraction is rewritten in the
     // section alone.
     static std::string_view source(const Section* section) {
-        return static_cast<const PlacedSection*>(section)->source;
+        const auto* placed = static_cast<const PlacedSection*>(section);
+        return {placed->begin, placed->length};
     }
 
     // Whether a "$" follows the amount that begins with this number.
@@ -54,7 +55,8 @@ class SectionWindow {
 
   private:
     struct PlacedSection : Section {
-        std::string_view source;
+        const char* begin;  // of its own bytes in the sentence
+        std::size_t length;
     };
 
     static constexpr std::size_t CAPACITY = SECTIONS_BEHIND + 1 + SECTIONS_AHEAD;
@@ -66,10 +68,10 @@ class SectionWindow {
     Reach reach_;
     TagEnds& tag_ends_;
     const char* end_ = nullptr;
-    bool complete_ = false;    // nothing is to be appended any more
-    std::size_t n_ = 0;        // of sections appended; the last CAPACITY of them stand in the ring
-    Section* tail_ = nullptr;  // the last of them
-    PlacedSection ring_[CAPACITY];
+    bool complete_ = false;         // nothing is to be appended any more
+    std::size_t n_ = 0;             // of sections appended
+    Section* tail_ = nullptr;       // the last of them
+    PlacedSection ring_[CAPACITY];  // the last CAPACITY sections appended
 
     const char* amount_end_ = nullptr;  // where the amount of money last looked at ends
     const char* searched_ = nullptr;    // up to here, the text has been searched for ">"

@@ -1,13 +1,12 @@
-// Markup attributes: the words of spans, and what the spans give them.
+// Markup attributes of records.
 
 #include <algorithm>
 #include <cstring>
-#include <initializer_list>
 #include <string_view>
 
 #include "../markup/markup_tags.h"
 #include "TtsString.h"
-#include "text_reader.h"
+#include "span_chain.h"
 #include "word_filler.h"
 
 namespace kavi {
@@ -49,13 +48,13 @@ constexpr ProsodyField PROSODY_FIELDS[] = {
 
 // One «name="value"»: the character after "=" and the last one are the quotes.
 bool set_prosody_field(CssmlTag& tag, std::string_view attribute) {
-    const auto* row =
-        std::find_if(std::begin(PROSODY_FIELDS), std::end(PROSODY_FIELDS),
-                     [=](const auto& field) { return tn::begins_with(attribute, field.prefix); });
-    if (row == std::end(PROSODY_FIELDS)) return false;
-    const std::string_view quoted = attribute.substr(row->prefix.size());
-    set_field(tag.*row->field, quoted.size() < 2 ? "" : quoted.substr(1, quoted.size() - 2));
-    return true;
+    for (const ProsodyField& row : PROSODY_FIELDS) {
+        if (!tn::begins_with(attribute, row.prefix)) continue;
+        const std::string_view quoted = attribute.substr(row.prefix.size());
+        set_field(tag.*row.field, quoted.size() < 2 ? "" : quoted.substr(1, quoted.size() - 2));
+        return true;
+    }
+    return false;
 }
 
 bool set_prosody(CssmlTag& tag, std::string_view attributes) {
@@ -79,7 +78,9 @@ bool set_attribute(CssmlTag& tag, std::string_view name, std::string_view value)
     return true;
 }
 
-bool set_attributes(CssmlTag& tag, std::string_view names, std::string_view values) {
+}  // namespace
+
+bool tn::set_attributes(CssmlTag& tag, std::string_view names, std::string_view values) {
     for (;;) {
         const std::string_view name = next_field(names, '\t');
         if (name.empty()) return true;
@@ -87,24 +88,12 @@ bool set_attributes(CssmlTag& tag, std::string_view names, std::string_view valu
     }
 }
 
-// A chain of spans: their names, or their values, outermost first, with tabs between them.
-constexpr int CHAIN_SIZE = 200;
-
-bool fits_chain(const char* chain) {
-    return std::strlen(chain) < CHAIN_SIZE;
+void tn::set_breaktime(UtteranceSyllable& record, std::string_view value) {
+    set_field(record.cssml_tag.breaktime, value);
 }
-
-bool join(std::initializer_list<std::string_view> parts, char (&chain)[CHAIN_SIZE]) {
-    chain[0] = '\0';
-    return std::all_of(parts.begin(), parts.end(), [&](std::string_view part) {
-        return safe_strncat(chain, part.data(), static_cast<int>(part.size()), CHAIN_SIZE) == 0;
-    });
-}
-
-}  // namespace
 
 bool PostProTnEng::insert_breaktime(int n, UtteranceSyllable* utt, char* time_str) {
-    set_field(utt[n - 1].cssml_tag.breaktime, time_str);
+    tn::set_breaktime(utt[n - 1], time_str);
     return true;
 }
 
@@ -128,41 +117,7 @@ bool PostProTnEng::insert_prosody_in(int n, UtteranceSyllable* utt, const char* 
 
 bool PostProTnEng::insert_ssml_info_in(int n, UtteranceSyllable* utt, const char* value_str,
                                        const char* tag_type) {
-    return set_attributes(utt[n - 1].cssml_tag, tag_type, value_str);
-}
-
-bool PostProTnEng::insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
-                                    char* buffer_target, const char* tag_type) {
-    if (!fits_chain(value_str) || !fits_chain(tag_type)) return false;
-    WordFiller filler(*this, utt + n);
-    filler.enter(tag_type, value_str);
-    const bool stored = tn::read_span(buffer_target, _mem_handle, filler);
-    n = static_cast<int>(filler.record() - utt);
-    return stored;
-}
-
-// All words of a span have the same attributes. What cannot be applied to one is left out of all.
-void WordFiller::enter(const char* names, const char* values) {
-    names_ = names;
-    values_ = values;
-    static_cast<void>(set_attributes(markup_.emplace(), names_, values_));
-}
-
-bool WordFiller::breaktime(std::string_view value) {
-    set_field(record_[-1].cssml_tag.breaktime, value);
-    return true;
-}
-
-bool WordFiller::span(std::string_view name, std::string_view value, char* content) {
-    char tag_down[CHAIN_SIZE];
-    char value_down[CHAIN_SIZE];
-    const std::string_view joint = markup_ ? "\t" : "";
-    if (!join({names_, joint, name}, tag_down)) return false;
-    if (!join({values_, joint, value}, value_down)) return false;
-    int stored = 0;
-    const bool complete = engine_.insert_ssml_info(stored, record_, value_down, content, tag_down);
-    record_ += stored;
-    return complete;
+    return tn::set_attributes(utt[n - 1].cssml_tag, tag_type, value_str);
 }
 
 }  // namespace kavi

@@ -2,8 +2,10 @@
 // array is had once and at its size.
 
 #include <cassert>
+#include <cstring>
 
 #include "../common/clear.h"
+#include "post_pro_tn_eng.h"
 #include "text_reader.h"
 #include "word_counter.h"
 #include "word_filler.h"
@@ -11,12 +13,20 @@
 namespace kavi {
 
 bool PostProTnEng::count_embed_word(int& n, char* buffer_target) {
-    return count_words(n, buffer_target, 1);
+    tn::WordCounter counter;
+    tn::read_text(buffer_target, _mem_handle, counter);
+    n += counter.n();
+    return true;
 }
 
-bool PostProTnEng::count_words(int& n, char* buffer_target, int n_depth) {
-    WordCounter counter(*this, n, n_depth);
-    return tn::read_span(buffer_target, _mem_handle, counter);
+bool PostProTnEng::insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
+                                    char* buffer_target, const char* tag_type) {
+    tn::SpanChain chain;
+    if (!chain.assign(tag_type, value_str)) return false;
+    tn::WordFiller filler(_mem_handle, utt + n, &chain);
+    const bool stored = tn::read_text(buffer_target, _mem_handle, filler);
+    n = static_cast<int>(filler.record() - utt);
+    return stored;
 }
 
 int PostProTnEng::eng_text_to_utterance_syllable(char* sz_source_text, UtteranceSyllable*& p_utt,
@@ -24,12 +34,10 @@ int PostProTnEng::eng_text_to_utterance_syllable(char* sz_source_text, Utterance
     p_utt = nullptr;
     n_utt = 0;
     const std::string_view text = sz_source_text;
-    char temp[WORD_MAX_LEN];
 
-    int word_num = 0;
-    WordCounter counter(*this, word_num, 0);
-    if (!tn::read_text(text, temp, _mem_handle, counter)) return -1;
-    ++word_num;  // the head record
+    tn::WordCounter counter;
+    tn::read_text(text, _mem_handle, counter);
+    const int word_num = counter.n() + 1;  // with the head record
 
     const std::size_t array_size = static_cast<std::size_t>(word_num) * sizeof(UtteranceSyllable);
     auto* array =
@@ -39,8 +47,8 @@ int PostProTnEng::eng_text_to_utterance_syllable(char* sz_source_text, Utterance
     p_utt = array;
     n_utt = word_num;
 
-    WordFiller filler(*this, array + 1);
-    if (!tn::read_text(text, temp, _mem_handle, filler)) return -1;
+    tn::WordFiller filler(_mem_handle, array + 1, nullptr);
+    if (!tn::read_text(text, _mem_handle, filler)) return -1;
     const auto curr_n_utt = filler.record() - array;
     assert(word_num == curr_n_utt);
     static_cast<void>(curr_n_utt);

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "../markup/markup_tags.h"
+#include "post_pro_tn_eng.h"
 #include "word_filler.h"
 
 namespace kavi {
@@ -32,33 +34,33 @@ namespace {
 constexpr int PUNC_MAX = sizeof UtteranceSyllable::punc_arr / sizeof(PUNC_type);
 
 struct PuncName {
-    std::string_view name;
-    PUNC_type punc;
+    char name[9];
     bool forces_pause;
+    PUNC_type punc;
 };
 
 // Searched in this order for an equal name.
 // clang-format off
 constexpr PuncName PUNC_NAMES[] = {
-    {"dun",      PUNC_DUN_FE,      true},
-    {"dou",      PUNC_DOU_FE,      true},
-    {"fen",      PUNC_FEN_FE,      true},
-    {"ju",       PUNC_JU_FE,       true},
-    {"wen",      PUNC_WEN_FE,      true},
-    {"tan",      PUNC_TAN_FE,      true},
-    {"mao",      PUNC_MAO_FE,      true},
-    {"zuoshu",   PUNC_ZUOSHU_FE,   false},
-    {"youshu",   PUNC_YOUSHU_FE,   false},
-    {"zuoyin",   PUNC_ZUOYIN_FE,   false},
-    {"youyin",   PUNC_YOUYIN_FE,   false},
-    {"zuokuo",   PUNC_ZUOKUO_FE,   false},
-    {"youkuo",   PUNC_YOUKUO_FE,   false},
-    {"shenglue", PUNC_SHENGLUE_FE, true},
-    {"pozhe",    PUNC_POZHE_FE,    false},
-    {"tnbegin",  TN_BEGIN_FE,      false},
-    {"tnend",    TN_END_FE,        false},
-    {"POIB",     POIB_FE,          false},
-    {"POIE",     POIE_FE,          false},
+    {"dun",      true,  PUNC_DUN_FE},
+    {"dou",      true,  PUNC_DOU_FE},
+    {"fen",      true,  PUNC_FEN_FE},
+    {"ju",       true,  PUNC_JU_FE},
+    {"wen",      true,  PUNC_WEN_FE},
+    {"tan",      true,  PUNC_TAN_FE},
+    {"mao",      true,  PUNC_MAO_FE},
+    {"zuoshu",   false, PUNC_ZUOSHU_FE},
+    {"youshu",   false, PUNC_YOUSHU_FE},
+    {"zuoyin",   false, PUNC_ZUOYIN_FE},
+    {"youyin",   false, PUNC_YOUYIN_FE},
+    {"zuokuo",   false, PUNC_ZUOKUO_FE},
+    {"youkuo",   false, PUNC_YOUKUO_FE},
+    {"shenglue", true,  PUNC_SHENGLUE_FE},
+    {"pozhe",    false, PUNC_POZHE_FE},
+    {"tnbegin",  false, TN_BEGIN_FE},
+    {"tnend",    false, TN_END_FE},
+    {"POIB",     false, POIB_FE},
+    {"POIE",     false, POIE_FE},
 };
 // clang-format on
 
@@ -70,15 +72,15 @@ void force_pause(UtteranceSyllable& record, PAUSE_type pause) {
 }  // namespace
 
 bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf) {
-    if (!WordFiller(*this, utt + n).word(sz_char_buf)) return false;
+    if (!tn::WordFiller(_mem_handle, utt + n, nullptr).word(sz_char_buf)) return false;
     utt[n].cssml_tag = {};
     return true;
 }
 
-void WordFiller::add_punc(UtteranceSyllable& record, std::string_view name) {
+void tn::add_punc(UtteranceSyllable& record, std::string_view name) {
     if (record.n_punc >= PUNC_MAX) return;
     for (const PuncName& row : PUNC_NAMES) {
-        if (row.name != name) continue;
+        if (!tn::begins_with(row.name, name) || row.name[name.size()] != '\0') continue;
         record.punc_arr[record.n_punc] = row.punc;
         const bool second_dash = row.punc == PUNC_POZHE_FE && record.n_punc > 0 &&
                                  record.punc_arr[record.n_punc - 1] == PUNC_POZHE_FE;
@@ -91,7 +93,7 @@ void WordFiller::add_punc(UtteranceSyllable& record, std::string_view name) {
 }
 
 bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, char* punc_str) {
-    WordFiller::add_punc(utt[n - 1], punc_str);
+    tn::add_punc(utt[n - 1], punc_str);
     return true;
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cstring>
 
 namespace kavi {
 
@@ -22,13 +23,17 @@ void copy_parts(const Tag& tag, char* sz_tag, char* sz_value, char* sz_target) {
     copy(tag.content, sz_target);
 }
 
-// Of what is no tag of the language: as much as there is before ">", and of the name as much as
-// its buffer holds.
-void copy_name_and_value(std::string_view text, char* sz_tag, char* sz_value) {
-    const std::string_view inside = text.substr(0, text.find('>'));
-    const std::size_t name_length = std::min(inside.find('='), inside.size());
-    copy(inside.substr(0, std::min(name_length, TAG_NAME_MAX)), sz_tag);
-    copy(inside.substr(std::min(name_length + 1, inside.size())), sz_value);
+// Name and value of what begins at `text`, tag of the language or not: as far as there is no ">",
+// and of the name as much as its buffer holds.
+void copy_name_and_value(const char* text, char* sz_tag, char* sz_value) {
+    std::size_t length = 0;
+    for (; *text != '\0' && *text != '>' && *text != '='; ++text) {
+        if (length < TAG_NAME_MAX) sz_tag[length++] = *text;
+    }
+    sz_tag[length] = '\0';
+    if (*text == '=') ++text;
+    while (*text != '\0' && *text != '>') *sz_value++ = *text++;
+    *sz_value = '\0';
 }
 
 }  // namespace
@@ -48,7 +53,7 @@ bool Scanner::advance() {
         ++at_;
         return has_word();
     }
-    const bool last = at_[1] == '\0';
+    const bool last = at_ + 1 == end_;
     if (c == '<' && !last) {
         const Met met = meet_tag();
         if (met != Met::no_tag) return met == Met::word_end;
@@ -62,10 +67,10 @@ bool Scanner::advance() {
 // tag, end a word that stands directly before them; other tags do not.
 Scanner::Met Scanner::meet_tag() {
     const bool is_closing = at_[1] == '/';
-    if (!read_opening(at_ + (is_closing ? 2 : 1), tag_ends_, tag_)) return Met::no_tag;
+    if (!read_opening(at_ + (is_closing ? 2 : 1), end_, tag_ends_, tag_)) return Met::no_tag;
     if (has_word() && (is_closing || tag_.use != TagUse::none)) return Met::word_end;
     met_tag_ = !is_closing;  // outside its span, a closing tag closes nothing
-    const bool closed = !met_tag_ || read_content(tag_, paired_tags_);
+    const bool closed = !met_tag_ || read_content(tag_, end_, paired_tags_);
     at_ = tag_.after;
     // After a tag that should have been closed, the word is not to be lost with the tags that end
     // the text.
@@ -79,11 +84,12 @@ bool Scanner::only_tags_follow() {
     TagEnds tag_ends;
     Tag tag = {};
     const char* text = at_;
-    while (*text == '<' && read_opening(text + 1, tag_ends, tag) && tag.use == TagUse::none) {
+    while (text != end_ && *text == '<' && read_opening(text + 1, end_, tag_ends, tag) &&
+           tag.use == TagUse::none) {
         text = tag.after;
     }
     text_ahead_ = text;
-    return *text == '\0';
+    return text == end_;
 }
 
 }  // namespace tn
@@ -93,19 +99,19 @@ char* PostProTnEng::parse_tag(char* sz_text, char* sz_tag, char* sz_value, char*
     tn::TagEnds tag_ends;
     tn::PairedTags paired_tags(nullptr);
     tn::Tag tag = {};
-    if (!tn::read_opening(sz_text + 1, tag_ends, tag)) {
-        tn::copy_name_and_value(sz_text + 1, sz_tag, sz_value);
-        sz_target[0] = '\0';
-        return nullptr;
-    }
-    tn::read_content(tag, paired_tags);
-    tn::copy_parts(tag, sz_tag, sz_value, sz_target);
+    tn::copy_name_and_value(sz_text + 1, sz_tag, sz_value);
+    sz_target[0] = '\0';
+    const char* const end = sz_text + std::strlen(sz_text);
+    if (!tn::read_opening(sz_text + 1, end, tag_ends, tag)) return nullptr;
+    tn::read_content(tag, end, paired_tags);
+    tn::copy(tag.content, sz_target);
     return sz_text + (tag.after - sz_text);
 }
 
 bool PostProTnEng::filter_text(char* p_word_text, char* sz_char_buf, char* sz_tag, char* sz_value,
                                char* sz_target, int& i, int& j, int& mark) {
-    tn::Scanner scanner(p_word_text + i, sz_char_buf, j, nullptr);
+    const char* const end = p_word_text + i + std::strlen(p_word_text + i);
+    tn::Scanner scanner(p_word_text + i, end, sz_char_buf, j, nullptr);
     mark = scanner.step() ? 1 : 0;
     if (const tn::Tag* tag = scanner.tag()) tn::copy_parts(*tag, sz_tag, sz_value, sz_target);
     i = static_cast<int>(scanner.at() - p_word_text);

@@ -7,18 +7,31 @@
 #include "../markup/paired_tags.h"
 #include "../markup/tag_ends.h"
 #include "../markup/tag_language.h"
+#include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
 
-// One scan of one text. What it has searched for once it does not search for again.
+// One scan forward through one text, or through a span of it as if it were the whole. What it has
+// searched for once it does not search for again.
 class Scanner {
   public:
-    // `word` holds WORD_MAX_LEN bytes, `word_length` of them characters of the word at hand. The
-    // arena may be null.
-    Scanner(const char* at, char* word, int word_length, mem_stack_handle arena)
-        : at_(at), word_(word), word_length_(word_length), paired_tags_(arena) {}
+    // The text ends at `end`, where a NUL stands. `word` holds WORD_MAX_LEN bytes, `word_length` of
+    // them characters of the word at hand. The arena may be null.
+    Scanner(const char* at, const char* end, char* word, int word_length, mem_stack_handle arena)
+        : at_(at), end_(end), word_(word), word_length_(word_length), paired_tags_(arena) {}
+    Scanner(const Scanner&) = delete;
+    Scanner& operator=(const Scanner&) = delete;
 
-    bool at_end() const { return *at_ == '\0'; }
+    const char* at() const { return at_; }
+    const char* end() const { return end_; }
+    bool at_end() const { return at_ == end_; }
+
+    // Goes on at a later place, and as if the text ended there.
+    void go_on_at(const char* at) { at_ = at; }
+    void go_on_at(const char* at, const char* end) {
+        at_ = at;
+        end_ = end;
+    }
 
     // Reads one character or one tag. True when that completed the word in the buffer.
     bool step();
@@ -28,7 +41,7 @@ class Scanner {
 
     // The word that the last step completed.
     std::string_view word() const { return {word_, static_cast<std::size_t>(word_length_)}; }
-
+    int word_length() const { return word_length_; }
     bool has_word() const { return word_[0] != '\0'; }
 
     // Makes room for the next word.
@@ -36,10 +49,6 @@ class Scanner {
         word_[0] = '\0';
         word_length_ = 0;
     }
-
-    const char* at() const { return at_; }
-    void go_on_at(const char* at) { at_ = at; }
-    int word_length() const { return word_length_; }
 
   private:
     enum class Met { no_tag, tag, word_end };
@@ -49,6 +58,7 @@ class Scanner {
     bool only_tags_follow();
 
     const char* at_;
+    const char* end_;
     char* word_;
     int word_length_;
     bool met_tag_ = false;

@@ -3,60 +3,65 @@
 #ifndef KAVI_TN_TEXT_READER_H
 #define KAVI_TN_TEXT_READER_H
 
-#include <cstring>
 #include <string_view>
 
 #include "../common/runs.h"
-#include "../common/scratch.h"
 #include "scanner.h"
 
 namespace kavi::tn {
 
-// Hands what a tag tells to the visitor. False when that said so, or the arena had no room for the
-// content of a span.
 template <typename Visitor>
-bool visit_tag(const Tag& tag, mem_stack_handle arena, Visitor& visitor) {
+bool read_text(Scanner& scanner, Visitor& visitor);
+
+// Hands what a tag tells to the visitor; a span is read to its end as a text by itself. False when
+// the visitor said so.
+template <typename Visitor>
+bool visit_tag(Scanner& scanner, Visitor& visitor) {
+    const Tag tag = *scanner.tag();
     switch (tag.use) {
         case TagUse::punc: return visitor.punc(tag.value);
         case TagUse::breaktime: return visitor.breaktime(tag.value);
         case TagUse::span: {
-            const std::size_t length = tag.content.size();
-            Scratch content(arena, length + 1, length + 1);
-            if (!content) return false;
-            std::memcpy(content.text(), tag.content.data(), length);
-            content.text()[length] = '\0';
-            return visitor.span(tag.name, tag.value, content.text());
+            const char* const end = scanner.end();
+            const char* const content = tag.content.data();
+            Visitor inside(visitor);
+            if (!inside.enter(tag.name, tag.value)) return false;
+            scanner.go_on_at(content, content + tag.content.size());
+            const bool read = inside.is_too_deep() || read_text(scanner, inside);
+            visitor.leave(inside);
+            scanner.clear_word();  // one that a tag at the end of the span has left incomplete
+            scanner.go_on_at(tag.after, end);
+            return read;
         }
         default: return true;
     }
 }
 
-// Reads what is no usual word, step by step: at least up to `end`, and on to where no word has
+// Reads what is no usual word, step by step: at least up to `goal`, and on to where no word has
 // begun.
 template <typename Visitor>
-bool read_by_steps(Scanner& scanner, const char* end, mem_stack_handle arena, Visitor& visitor) {
+bool read_by_steps(Scanner& scanner, const char* goal, Visitor& visitor) {
     do {
         bool go_on = true;
         if (scanner.step()) {
             go_on = visitor.word(scanner.word());
             scanner.clear_word();
-        } else if (const Tag* tag = scanner.tag()) {
-            go_on = visit_tag(*tag, arena, visitor);
+        } else if (scanner.tag() != nullptr) {
+            go_on = visit_tag(scanner, visitor);
         }
         if (!go_on) return false;
-    } while (!scanner.at_end() && (scanner.has_word() || scanner.at() < end));
+    } while (!scanner.at_end() && (scanner.has_word() || scanner.at() < goal));
     return true;
 }
 
-// Reads `text` to its end and hands what it meets to the visitor: word(word), punc(name),
-// breaktime(value) and span(name, value, content). Each answers whether to go on; false when one
-// did not, or the arena refused a buffer. A NUL follows the text; `word` holds WORD_MAX_LEN bytes.
+// Reads the scanner's text to its end and hands what it meets to the visitor: word(word),
+// punc(name) and breaktime(value), which answer whether to go on, and spans: a copy of the visitor
+// has enter(name, value) called and reads the span, unless it is_too_deep(); then the visitor
+// itself has leave(copy) called. False when one did not go on.
 template <typename Visitor>
-bool read_text(std::string_view text, char* word, mem_stack_handle arena, Visitor& visitor) {
-    Scanner scanner(text.data(), word, 0, arena);
-    scanner.clear_word();
-    const char* const text_end = text.data() + text.size();
-    for (const char* at = text.data();;) {
+bool read_text(Scanner& scanner, Visitor& visitor) {
+    const char* const text_end = scanner.end();
+    for (const char* at = scanner.at(); at != text_end;) {
         const char* end = skip_word(at, text_end);
         const auto length = static_cast<std::size_t>(end - at);
         if (length > 0 && length < WORD_MAX_LEN && *end == ' ') {
@@ -64,21 +69,21 @@ bool read_text(std::string_view text, char* word, mem_stack_handle arena, Visito
             at = end + 1;
         } else if (*at == ' ') {
             ++at;
-        } else if (*at == '\0') {
-            return true;
         } else {
             scanner.go_on_at(at);
-            if (!read_by_steps(scanner, end, arena, visitor)) return false;
+            if (!read_by_steps(scanner, end, visitor)) return false;
             at = scanner.at();
         }
     }
+    return true;
 }
 
-// The same for the text of a span, with a word buffer of its own.
+// Reads a text from its beginning. False when the visitor did not go on.
 template <typename Visitor>
-bool read_span(std::string_view text, mem_stack_handle arena, Visitor& visitor) {
-    Scratch word(arena, WORD_MAX_LEN, WORD_MAX_LEN);
-    return word && read_text(text, word.text(), arena, visitor);
+bool read_text(std::string_view text, mem_stack_handle arena, Visitor& visitor) {
+    char word[WORD_MAX_LEN] = {'\0'};
+    Scanner scanner(text.data(), text.data() + text.size(), word, 0, arena);
+    return read_text(scanner, visitor);
 }
 
 }  // namespace kavi::tn

@@ -4,35 +4,36 @@
 
 #include <string_view>
 
-#include "post_pro_tn_eng.h"
+namespace kavi::tn {
 
-namespace kavi {
+// Spans nested deeper than this are not read: their words are never stored, since a chain of so
+// many names is longer than any that can be.
+constexpr int SPANS_NESTED_MAX = 64;
 
-// Adds the words that it is shown, and those of spans, to a count. Spans nested deeper than
-// DEPTH_MAX are not counted: their words are never stored, since a chain of so many names is longer
-// than any that can be.
+// Counts the words that it is shown, and those of spans.
 class WordCounter {
   public:
-    static constexpr int DEPTH_MAX = 64;
-
-    WordCounter(PostProTnEng& engine, int& n, int depth) : engine_(engine), n_(n), depth_(depth) {}
-
     bool word(std::string_view /*word*/) {
         ++n_;
         return true;
     }
     bool punc(std::string_view /*name*/) { return true; }
     bool breaktime(std::string_view /*value*/) { return true; }
-    bool span(std::string_view /*name*/, std::string_view /*value*/, char* content) {
-        return depth_ == DEPTH_MAX || engine_.count_words(n_, content, depth_ + 1);
+
+    bool enter(std::string_view /*name*/, std::string_view /*value*/) {
+        ++depth_;
+        return true;
     }
+    bool is_too_deep() const { return depth_ > SPANS_NESTED_MAX; }
+    void leave(const WordCounter& inside) { n_ = inside.n_; }
+
+    int n() const { return n_; }
 
   private:
-    PostProTnEng& engine_;
-    int& n_;
-    int depth_;
+    int n_ = 0;
+    int depth_ = 0;
 };
 
-}  // namespace kavi
+}  // namespace kavi::tn
 
 #endif  // KAVI_TN_WORD_COUNTER_H

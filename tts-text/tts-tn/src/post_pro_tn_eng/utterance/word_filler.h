@@ -2,32 +2,37 @@
 #ifndef KAVI_TN_WORD_FILLER_H
 #define KAVI_TN_WORD_FILLER_H
 
-#include <optional>
 #include <string_view>
 
 #include "../common/clear.h"
 #include "../common/short_copy.h"
-#include "post_pro_tn_eng.h"
+#include "MemoryStack.h"
+#include "span_chain.h"
 
-namespace kavi {
+namespace kavi::tn {
+
+// Adds the mark of this name to a record. Those after the tenth are dropped; an unknown name
+// counts, as no mark.
+void add_punc(UtteranceSyllable& record, std::string_view name);
+
+// The first 19 characters of the value, in the place of what was there.
+void set_breaktime(UtteranceSyllable& record, std::string_view value);
 
 // Stores the words that it is shown, with their marks and the attributes of the spans that enclose
 // them, in one record after the other. False: stop.
 class WordFiller {
   public:
-    // `record` is the next to fill, after one at least; outside every span, the records are zero.
-    WordFiller(PostProTnEng& engine, UtteranceSyllable* record)
-        : engine_(engine), arena_(engine._mem_handle), record_(record) {}
+    // `record` is the next to fill, after one at least; its markup is clear. `chain` may be null.
+    WordFiller(mem_stack_handle arena, UtteranceSyllable* record, const SpanChain* chain)
+        : arena_(arena), record_(record), outer_(chain) {}
 
-    // Goes into the innermost of a chain of spans. The texts stay the caller's.
-    void enter(const char* names, const char* values);
+    // A copy inside a span.
+    WordFiller(const WordFiller& outside)
+        : arena_(outside.arena_), record_(outside.record_), outer_(outside.chain()) {}
+    WordFiller& operator=(const WordFiller&) = delete;
 
     // Where the next word goes.
     UtteranceSyllable* record() const { return record_; }
-
-    // Adds the mark of this name to a record. Those after the tenth are dropped; an unknown name
-    // counts, as no mark.
-    static void add_punc(UtteranceSyllable& record, std::string_view name);
 
     // At the default pause. False when the arena refused the word's storage: nothing is kept.
     bool word(std::string_view word) {
@@ -43,40 +48,50 @@ class WordFiller {
             record_->syllable = nullptr;
             return false;
         }
-        if (!word.empty()) tn::copy_short(syllable, word.data(), word.size());
+        if (!word.empty()) copy_short(syllable, word.data(), word.size());
         syllable[word.size()] = '\0';
-        tn::clear(zhuyin, ZHUYIN_MIN);
-        if (is_long) tn::clear(zhuyin + ZHUYIN_MIN, zhuyin_size - ZHUYIN_MIN);
+        clear(zhuyin, ZHUYIN_MIN);
+        if (is_long) clear(zhuyin + ZHUYIN_MIN, zhuyin_size - ZHUYIN_MIN);
         UtteranceSyllable& record = *record_++;
         record.syllable = syllable;
         record.syl_len = static_cast<short>(size);
         record.zhuyin = zhuyin;
         record.zy_len = static_cast<short>(zhuyin_size);
         record.pause_type = record.pausetype_ta = record.pause_type_tn = PAUSE_WORD_FE;
-        if (markup_) record.cssml_tag = *markup_;
+        if (const SpanChain* spans = chain()) record.cssml_tag = spans->markup();
         return true;
     }
-
     bool punc(std::string_view name) {
         add_punc(record_[-1], name);
         return true;
     }
-    bool breaktime(std::string_view value);
-    bool span(std::string_view name, std::string_view value, char* content);
+    bool breaktime(std::string_view value) {
+        set_breaktime(record_[-1], value);
+        return true;
+    }
+
+    // False when the chain has no room for the span.
+    bool enter(std::string_view name, std::string_view value) {
+        inside_ = true;
+        return own_.extend(outer_, name, value);
+    }
+    static bool is_too_deep() { return false; }  // the chain bounds the depth
+    void leave(const WordFiller& inside) { record_ = inside.record_; }
 
   private:
+    const SpanChain* chain() const { return inside_ ? &own_ : outer_; }
+
     char* request(std::size_t size) {
         return static_cast<char*>(mem_stack_request_buf(size, MEM_COMMON, arena_));
     }
 
-    PostProTnEng& engine_;
     mem_stack_handle arena_;
     UtteranceSyllable* record_;
-    std::string_view names_ = "";  // of the enclosing spans, outermost first, by tabs
-    std::string_view values_ = "";
-    std::optional<CssmlTag> markup_;  // what they give each word
+    const SpanChain* outer_;  // of the spans that enclose this pass; null for none
+    bool inside_ = false;
+    SpanChain own_;  // with the span that this pass has entered
 };
 
-}  // namespace kavi
+}  // namespace kavi::tn
 
 #endif  // KAVI_TN_WORD_FILLER_H

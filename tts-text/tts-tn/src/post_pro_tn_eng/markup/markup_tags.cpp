@@ -1,0 +1,50 @@
+#include "markup_tags.h"
+
+namespace kavi::tn {
+
+// clang-format off
+constexpr MarkupTag MARKUP_TAGS[13] = {
+    {"<pause=",         TagKind::removed,    ""},
+    {"<orgLen=",        TagKind::removed,    ""},
+    {"<punc=english>",  TagKind::removed,    ""},
+    {"<punc=",          TagKind::kept,       ""},
+    {"<breaktime=",     TagKind::kept,       ""},
+    {"<emphasis=",      TagKind::span_open,  "</emphasis>"},
+    {"<quill_effect=",  TagKind::span_open,  "</quill_effect>"},
+    {"<prosody=",       TagKind::span_open,  "</prosody>"},
+    {"<poem=",          TagKind::span_open,  "</poem>"},
+    {"</emphasis>",     TagKind::span_close, "<emphasis="},
+    {"</quill_effect>", TagKind::span_close, "<quill_effect="},
+    {"</prosody>",      TagKind::span_close, "<prosody="},
+    {"</poem>",         TagKind::span_close, "<poem="},
+};
+// clang-format on
+
+namespace {
+
+template <typename Text>
+const MarkupTag* find(Text text) {
+    for (const MarkupTag& tag : MARKUP_TAGS) {
+        if (begins_with(text, tag.prefix)) return &tag;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+const MarkupTag* find_markup_tag(const char* text) {
+    return find(text);
+}
+
+const MarkupTag* find_markup_tag(std::string_view text) {
+    return find(text);
+}
+
+bool begins_sentence_tag(const char* text) {
+    for (const MarkupTag& tag : MARKUP_TAGS) {
+        if (tag.kind != TagKind::removed && begins_with(text, tag.prefix)) return true;
+    }
+    return false;
+}
+
+}  // namespace kavi::tn

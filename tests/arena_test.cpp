@@ -108,6 +108,15 @@ TEST(Arena, CapacityBoundsWhatIsInUseAndRefusalHarmsNothing) {
     }
 }
 
+TEST(Arena, AFreeBlockIsRefusedWhereTheCapacityEnds) {
+    mem_stack_handle arena = mem_stack_create(100);
+    void* block = mem_stack_request_buf(32, MEM_COMMON, arena);
+    mem_stack_release_buf(block, 32, MEM_COMMON, arena);
+    EXPECT_NE(mem_stack_request_buf(64, MEM_COMMON, arena), nullptr);
+    EXPECT_EQ(mem_stack_request_buf(32, MEM_COMMON, arena), nullptr);
+    mem_stack_destroy(arena);
+}
+
 TEST(Arena, RefusesWhatCannotBeHad) {
     mem_stack_handle arena = mem_stack_create(0);
     EXPECT_EQ(mem_stack_request_buf(HUGE_SIZE, MEM_COMMON, arena), nullptr);
@@ -140,6 +149,17 @@ TEST(Arena, OutlivesASystemWithoutMemory) {
         EXPECT_NE(block, nullptr) << "usable again";
         mem_stack_release_buf(block, size, MEM_COMMON, arena);
     }
+    mem_stack_destroy(arena);
+    // Neighbours become one block before a request is refused for want of memory.
+    arena = mem_stack_create(0);
+    std::vector<void*> blocks;
+    for (int i = 0; i < 60; ++i) blocks.push_back(mem_stack_request_buf(1000, MEM_COMMON, arena));
+    for (const int i : {10, 11, 12}) mem_stack_release_buf(blocks[i], 0, MEM_COMMON, arena);
+    refused.begin();
+    EXPECT_EQ(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
+    EXPECT_NE(mem_stack_request_buf(3000, MEM_COMMON, arena), nullptr);
+    EXPECT_EQ(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
+    refused.end();
     mem_stack_destroy(arena);
 }
 

@@ -6,18 +6,26 @@ namespace {
 class Dispatcher : public EngineTest {};
 
 TEST_F(Dispatcher, FullOutputFailsAndKeepsWhatFits) {
-    for (const char* sentence : {"word ", "1999 ", "? ", "( ", "1+", "+1 2 a ", "(1) 2 a ",
-                                 "<poem=x>", "~", "Tel.5 a ", "Tel.a ", "$5 ", "3/4 ", "May "}) {
+    for (const char* sentence :
+         {"word ",  "1999 ",    "? ",     "'s ", "NASA ",   "Tel ",     "<punc ",
+          "a b c ", "B",        "( ",     "1+",  "+1 2 a ", "(1) 2 a ", "<poem=x>",
+          "~",      "Tel.5 a ", "Tel.a ", "$5 ", "3/4 ",    "May "}) {
         std::string text;
         while (text.size() < 4200) text += sentence;
         // Whatever is appended last, some lengths before it leave no room for it.
-        for (std::size_t before = 0; before < 40; ++before) {
+        for (std::size_t before = 0; before < 20; ++before) {
             std::string source = std::string(before, 'x') + " " + text;
             char target[SZ_TEXT_MAX_LEN + 1] = {};
             target[SZ_TEXT_MAX_LEN] = 'g';
             EXPECT_EQ(engine.eng_text_tokenize(source.data(), target), -1) << sentence;
             EXPECT_EQ(target[SZ_TEXT_MAX_LEN], 'g');
             EXPECT_GT(std::strlen(target), 3500U);
+            char by_sections[SZ_TEXT_MAX_LEN] = {};
+            Section* head = nullptr;
+            EXPECT_EQ(engine.text_to_queue(source.data(), head), 0);
+            EXPECT_EQ(engine.section_process(head, by_sections), -1) << sentence;
+            release(head);
+            EXPECT_STREQ(by_sections, target) << sentence;
         }
     }
 }
@@ -64,6 +72,11 @@ TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
     char empty[SZ_TEXT_MAX_LEN] = {};
     EXPECT_EQ(engine.section_process(&no_text, empty), 0);
     EXPECT_STREQ(empty, " ");
+    Section dollar = {"$", MARKSYMBOL, nullptr, nullptr};
+    Section no_digits = {"", NUMBERSYMBOL, nullptr, &dollar};
+    dollar.m_pnext = &no_digits;
+    EXPECT_EQ(engine.section_process(&dollar, empty), 0);
+    EXPECT_STREQ(empty, " dollars  ");
 }
 
 TEST_F(Dispatcher, WholePipeline) {

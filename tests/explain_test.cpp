@@ -47,6 +47,7 @@ TEST(Explain, AbbreviationsAsInTheTable) {
 }
 
 TEST(Explain, StopsWhereTheOutputIsFull) {
+    EXPECT_TRUE(explain("").empty());
     const std::vector<ExplainedRun> runs = explain(std::string(1000, '?'));
     EXPECT_EQ(runs.size(), 410U);  // ten characters each
     EXPECT_STREQ(runs.back().rule, "output full");

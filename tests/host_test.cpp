@@ -135,9 +135,12 @@ TEST(Host, ReportsWhatTheEnginePassesOver) {
 // Whatever the arena holds, a text is spoken as with a large one, or what is missing is reported.
 TEST(Host, ASmallArenaGetsShorterPiecesOrIsReported) {
     const std::string text = "One two three four five six seven eight nine ten. Yes. No.";
-    const std::vector<std::string> texts = {text, std::string(300, 'x'), "123456789012.5 a",
+    const std::vector<std::string> texts = {text,
+                                            std::string(300, 'x'),
+                                            "123456789012.5 a",
                                             "<breaktime=12345678901234567890>a",
-                                            "it is 10:30:15 now", "+86-10-12345678 a",
+                                            "it is 10:30:15 now",
+                                            "+86-10-12345678 a",
                                             "we paid $1,234.50 on 3/1/2020 to NASA, 21st"};
     for (const std::string& tight : texts) {
         const std::vector<std::string> expected = words_of(tight);
@@ -193,6 +196,12 @@ TEST(Host, MarkupThatIsNeverClosedCostsNoMoreTheMoreThereIs) {
     for (int i = 0; i < 40; ++i) text += "<poem=b></poem>";
     for (int i = 0; i < 100; ++i) text += "</emphasis>";
     const ReadText closed = read_by_layer(text + "x</poem> y</poem>");
+    // The deepest that is told apart.
+    std::string deepest;
+    for (int i = 0; i < 64; ++i) deepest += "<emphasis=" + std::string(200, 'x') + ">";
+    const ReadText too_deep = read_by_layer(deepest + "<poem=a>x</prosody>y");
+    EXPECT_EQ(too_deep.records, (std::vector<std::string>{"|x|y"}));
+    EXPECT_EQ(too_deep.diagnostics.size(), 65U);
     EXPECT_EQ(closed.diagnostics.size(), 100U + 40 + 1);
     EXPECT_EQ(closed.records.back(), "|x(poem=a)|y");
 }
@@ -209,11 +218,12 @@ TEST(Host, DiagnosticsStandBeforeTheirSentenceInOrder) {
 
 TEST(Host, HandlersMayBeEmptyThrowOrCallAgain) {
     TtsHost host;
-    EXPECT_TRUE(host.read("a</poem>. b", nullptr, nullptr));
+    EXPECT_TRUE(host.read("a</poem> 12345,. b", nullptr, nullptr));
     int sentences = 0;
     const auto again = [&](const auto&) {
         ++sentences;
-        EXPECT_FALSE(host.read("x. y", [](const HostSentence&) { FAIL(); }, nullptr));
+        EXPECT_FALSE(host.read(
+            "x. y", [](const HostSentence&) { FAIL(); }, nullptr));
     };
     EXPECT_TRUE(host.read("a</poem>. b", again, again));
     EXPECT_EQ(sentences, 3) << "and the text is read to its end";
@@ -225,8 +235,9 @@ TEST(Host, HandlersMayBeEmptyThrowOrCallAgain) {
 
 TEST(Host, CutsAnywhereLoseNoWord) {
     // A tag at every place around the end of the buffer.
-    for (std::size_t before = 4040; before < 4100; ++before) {
-        const std::string text = std::string(before, ' ') + "<poem=\"x y\">a b</poem> c";
+    for (std::size_t before = 16340; before < 16390; ++before) {
+        const std::string text =
+            std::string(before, ' ') + "<pause=123><poem=\"x y\">a b</poem><punc=ju> c";
         EXPECT_EQ(words_of(text), (std::vector<std::string>{"a", "b", "c"})) << before;
     }
     // A removed tag inside a word or a number at every place around the end of the buffer.
@@ -239,8 +250,8 @@ TEST(Host, CutsAnywhereLoseNoWord) {
     }
     // Without a blank: between words, between numbers, after a character of several bytes, after
     // a tag; and where there is no such place, within the word.
-    for (const std::string piece : {"wordword-", "1234567,", "\xc3\xa9", "<poem=p>x</poem>",
-                                    "<breaktime=12345678901234567890>"}) {
+    for (const std::string piece : {"wordword-", "1234567,", "\xc3\xa9\xe2\x82\xac",
+                                    "<poem=p>x</poem>", "<breaktime=12345678901234567890>"}) {
         std::string text;
         while (text.size() < 9000) text += piece;
         for (const std::size_t capacity : {std::size_t{0}, std::size_t{20000}}) {
@@ -249,6 +260,28 @@ TEST(Host, CutsAnywhereLoseNoWord) {
             for (const std::string& source : read.sources) {
                 EXPECT_TRUE(piece[0] == '<' || source.size() % piece.size() == 0) << piece;
             }
+        }
+    }
+}
+
+// Tags that are read as text, removed tags and words of any length where a sentence is cut.
+TEST(Host, LongSentencesAreCutBesideWhatIsNoTag) {
+    std::string words = "<punc=x ";
+    for (int i = 0; i < 2500; ++i) words += "a ";
+    EXPECT_EQ(words_of(words).size(), 2504U);  // smaller punc equal x
+    const std::string no_tag = "<punc=" + std::string(600, 'y') + "> ";
+    std::string long_tags;
+    for (int i = 0; i < 12; ++i) long_tags += no_tag + "b ";
+    EXPECT_EQ(words_of(long_tags).back(), "b");
+    EXPECT_EQ(words_of(long_tags).size(), words_of(no_tag + "b ").size() * 12);
+    // Without a blank, and in a small arena.
+    for (const char* text : {"do-<pause=1>g<orgLen=3>gy-dog<pause=2>", "1<pause=1>2-3<orgLen=3>"}) {
+        std::string unbroken;
+        for (int i = 0; i < 200; ++i) unbroken += text;
+        for (const std::size_t capacity : {0U, 3000U, 6000U}) {
+            std::string spoken;
+            for (const std::string& word : read_by_layer(unbroken, capacity).words) spoken += word;
+            EXPECT_EQ(spoken.find("doggy") == std::string::npos, text[0] == '1') << capacity;
         }
     }
 }

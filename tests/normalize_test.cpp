@@ -47,6 +47,22 @@ TEST_F(Normalize, AbbreviationCalledByItself) {
     }
 }
 
+// The sentence ends with the full stop of an abbreviation that has no room to be written out.
+TEST_F(Normalize, AnExpansionWithoutRoomEndsTheSentence) {
+    struct Case {
+        std::size_t before;
+        const char* end;
+        const char* rest;
+    };
+    for (const Case& c : {Case{4082, "for example ", "b"}, Case{4084, "for example", "g. b"},
+                          Case{4085, ".", "g. b"}}) {
+        const std::string filled(c.before, 'x');
+        const Cut cut = normalize(filled + "e.g. b");
+        EXPECT_EQ(cut.sentence, filled + c.end);
+        EXPECT_EQ(cut.rest, c.rest);
+    }
+}
+
 TEST_F(Normalize, TheRestIsAppendedWholeOrNotAtAll) {
     std::string source = "<poem=x>A! B</poem>";
     char target[SZ_TEXT_MAX_LEN] = {};

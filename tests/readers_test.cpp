@@ -64,6 +64,65 @@ TEST_F(Readers, WithoutAPattern) {
     EXPECT_EQ((engine.*Peer::time_number)(&lone, target), nullptr);
 }
 
+TEST_F(Readers, EachByItself) {
+    const std::map<std::string, Peer::Reader> readers = {
+        {"phone_number_read", Peer::phone_number_read},
+        {"data_number", Peer::data_number},
+        {"fraction_number", Peer::fraction_number},
+        {"decimal_number", Peer::decimal_number},
+        {"currrency_read", Peer::currrency_read},
+        {"str_number", Peer::str_number},
+        {"turn", Peer::turn},
+        {"time_number", Peer::time_number},
+        {"process_plus", Peer::process_plus}};
+    for (const TableRow& row : read_table("readers_alone")) {
+        std::string text = row[1];
+        Section* head = nullptr;
+        EXPECT_EQ(engine.text_to_queue(text.data(), head), 0);
+        char target[SZ_TEXT_MAX_LEN] = {};
+        Section* last = head;
+        if (row[0] == "process_bracket") {
+            EXPECT_TRUE((engine.*Peer::process_bracket)(last, target));
+        } else if (row[0] == "process_upper_case") {
+            if ((engine.*Peer::process_upper_case)(head, target) == 0) last = nullptr;
+        } else {
+            last = (engine.*readers.at(row[0]))(head, target);
+        }
+        EXPECT_EQ((TableRow{target, last != nullptr ? last->sz_char : ""}),
+                  (TableRow{row[2], row[3]}))
+            << row[0] << ": " << row[1];
+        release(head);
+    }
+}
+
+TEST_F(Readers, MarksStopWhereTheOutputIsFull) {
+    char number[] = "3+4";
+    char bracket[] = "(86) 1";
+    Section* head = nullptr;
+    EXPECT_EQ(engine.text_to_queue(number, head), 0);
+    std::string full(SZ_TEXT_MAX_LEN - 1, 'x');
+    EXPECT_EQ((engine.*Peer::process_plus)(head->m_pnext, full.data()), nullptr);
+    full.resize(full.size() - 4);
+    char target[SZ_TEXT_MAX_LEN] = {};
+    std::strcpy(target, full.c_str());
+    EXPECT_EQ((engine.*Peer::process_plus)(head->m_pnext, target), head->m_pnext);
+    EXPECT_EQ(target, full + "add ");
+    release(head);
+    head = nullptr;
+    EXPECT_EQ(engine.text_to_queue(bracket, head), 0);
+    Section* last = head;
+    EXPECT_FALSE((engine.*Peer::process_bracket)(last, target));
+    EXPECT_EQ(last, head);
+    EXPECT_EQ(target, full + "add ");
+    char quote[] = "'ll";
+    Section* contraction = nullptr;
+    EXPECT_EQ(engine.text_to_queue(quote, contraction), 0);
+    EXPECT_EQ((engine.*Peer::process_single_quote)(contraction, target), contraction);
+    EXPECT_STREQ(contraction->m_pnext->sz_char, "will");
+    release(contraction);
+    release(head);
+}
+
 TEST_F(Readers, LongReadingsAreCutAfterAWholeWord) {
     for (const char* before : {"Tel.", "3."}) {
         const std::string reading = tokenize(before + std::string(100, '7') + "-x");

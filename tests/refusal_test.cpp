@@ -78,13 +78,13 @@ TEST_F(Refusal, TheTokenizerNeedsNoArena) {
 // On blocks with exact bounds, from sources with a byte in front of them that is no NUL.
 TEST_F(Refusal, RecordsAndAttributesKeepToTheirBounds) {
     engine.init(&arena);
-    for (const std::size_t length : {0, 1, 2, 3, 4, 7, 8, 12, 13, 16, 17, 499}) {
+    for (const unsigned length : {0U, 1U, 2U, 3U, 4U, 7U, 8U, 12U, 13U, 16U, 17U, 499U}) {
         const std::string source = "\x7f" + std::string(length, 'w');
         char* text = const_cast<char*>(source.c_str()) + 1;
         std::vector<UtteranceSyllable> utt(2);
         EXPECT_TRUE(engine.insert_syllable(1, utt.data(), text));
         EXPECT_EQ(utt[1].syllable, source.substr(1));
-        EXPECT_EQ(utt[1].syl_len, static_cast<short>(length + 1));
+        EXPECT_EQ(utt[1].syl_len, static_cast<short>(length + 1U));
         const std::string field = source.substr(1, 19);
         EXPECT_TRUE(engine.insert_breaktime(2, utt.data(), text));
         EXPECT_TRUE(engine.insert_emphasis_in(2, utt.data(), text));

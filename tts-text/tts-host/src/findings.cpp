@@ -15,9 +15,9 @@ const char* code_of(Finding finding) {
         case Finding::digits_not_read: return "digits-not-read";
         case Finding::tag_in_telephone_number: return "tag-in-telephone-number";
         case Finding::reading_cut: return "reading-cut";
-        case Finding::arena_too_small: return "arena-too-small";
+        case Finding::arena_too_small: break;
     }
-    return "";
+    return "arena-too-small";
 }
 
 const char* describe(Finding finding) {
@@ -43,10 +43,9 @@ const char* describe(Finding finding) {
         case Finding::tag_in_telephone_number:
             return "this tag is passed over with the telephone number around it";
         case Finding::reading_cut: return "the reading of this number is too long and was cut";
-        case Finding::arena_too_small:
-            return "the arena is too small for this sentence; it is passed over";
+        case Finding::arena_too_small: break;
     }
-    return "";
+    return "the arena is too small for this sentence; it is passed over";
 }
 
 }  // namespace kavi

@@ -6,9 +6,9 @@ namespace kavi::host {
 
 namespace {
 
+// After "Tel." none comes here, since that full stop ends a sentence.
 bool is_telephone_number(tn::ReadingRule rule) {
-    return rule == tn::ReadingRule::telephone_number || rule == tn::ReadingRule::bracket ||
-           rule == tn::ReadingRule::plus_sign;
+    return rule == tn::ReadingRule::bracket || rule == tn::ReadingRule::plus_sign;
 }
 
 }  // namespace

@@ -33,13 +33,12 @@ class SentenceSource : public tn::CutObserver {
                                  static_cast<std::size_t>(length)});
     }
 
-    // Where the byte at `at` of the sentence comes from; of a replacement, the beginning.
+    // Where the byte at `at` of the sentence, which belongs to no replacement, comes from.
     const char* place_of(std::size_t at) const {
         const char* source = source_;
         std::size_t known = 0;  // `source` is where this byte of the sentence comes from
         for (const Replacement& r : replacements_) {
             if (at < r.at) break;
-            if (at < r.at + r.length) return r.source;
             source = r.source + r.source_length;
             known = r.at + r.length;
         }

@@ -174,8 +174,11 @@ bool TextWindow::feed_tag() {
         case tn::TagKind::span_open: return feed_opening(tag, row);
         case tn::TagKind::span_close: return feed_closing(tag, tn::find_markup_tag(row->partner));
         case tn::TagKind::removed: return feed_removed(tag);
-        case tn::TagKind::kept: break;
+        default: return feed_kept(tag);
     }
+}
+
+bool TextWindow::feed_kept(std::string_view tag) {
     if (tag.size() <= tn::MARKUP_TAG_MAX) return copy(tag);
     return feed_as_text(Finding::tag_too_long, tag.find('<', 1) == std::string_view::npos);
 }
@@ -276,7 +279,7 @@ std::size_t TextWindow::cut_position(std::size_t size) const {
         }
         if (text[at++] == ' ') after_blank = at;
     }
-    if (at == text.size() && holds_rest()) return at;
+    if (at == text.size()) return at;
     if (after_blank != 0) return after_blank;
     if (at == limit) return boundary_near(text, run, at);
     return at > prefix_ ? at : at + tag_length(text.substr(at));  // before a tag, or after it

@@ -102,6 +102,7 @@ class TextWindow {
     bool feed();
     bool feed_run();
     bool feed_tag();
+    bool feed_kept(std::string_view tag);
     bool feed_as_text(Finding finding, bool keep);
     bool feed_removed(std::string_view tag);
     bool feed_opening(std::string_view tag, const tn::MarkupTag* row);

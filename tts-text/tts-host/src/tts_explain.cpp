@@ -33,9 +33,9 @@ const char* name_of(ReadingRule rule) {
         case ReadingRule::plus_sign: return "plus sign or country code";
         case ReadingRule::contraction: return "contraction";
         case ReadingRule::mark: return "mark";
-        case ReadingRule::silent: return "not spoken";
+        case ReadingRule::silent: break;
     }
-    return "";
+    return "not spoken";
 }
 
 const char* name_of(const SectionDispatcher& step, std::string_view written) {

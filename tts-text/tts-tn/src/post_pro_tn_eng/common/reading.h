@@ -2,6 +2,7 @@
 #ifndef KAVI_TN_READING_H
 #define KAVI_TN_READING_H
 
+#include <cassert>
 #include <cstring>
 #include <string_view>
 
@@ -34,10 +35,10 @@ class Reading {
         text_[length_] = '\0';
     }
 
-    // Appends a text that must not be broken, such as a word or a tag of the user's, and answers
-    // true; or nothing, and answers false.
+    // Before anything was cut: appends a text that must not be broken, such as a word or a tag of
+    // the user's, and answers true; or nothing, and answers false.
     bool append_whole(std::string_view text) {
-        if (cut_ || text.size() > ROOM - length_) return false;
+        if (text.size() > ROOM - length_) return false;
         append(text);
         return true;
     }
@@ -70,9 +71,8 @@ class Reading {
 
     // Notes that these digits, a piece of a section's text, are in the reading.
     void note_digits(std::string_view digits) {
-        if (n_digit_runs_ < DIGIT_RUNS_MAX) {
-            digit_runs_[n_digit_runs_++] = {digits.data(), digits.size()};
-        }
+        assert(n_digit_runs_ < DIGIT_RUNS_MAX);
+        digit_runs_[n_digit_runs_++] = {digits.data(), digits.size()};
     }
 
     // How many digits of the text that begins at `text`, in a section's buffer, were read.
@@ -101,7 +101,7 @@ class Reading {
         if (words[kept.size()] != ' ') kept = kept.substr(0, kept.rfind(' ') + 1);
         std::memcpy(text_ + length_, kept.data(), kept.size());
         length_ += kept.size();
-        while (length_ > 0 && text_[length_ - 1] == ' ') --length_;
+        length_ = text().find_last_not_of(' ') + 1;  // 0 when there is none
         text_[length_] = '\0';
     }
 

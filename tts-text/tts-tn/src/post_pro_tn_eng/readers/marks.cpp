@@ -33,9 +33,8 @@ bool bracket_read(Section* bracket, Reading& reading, BoundedText& output, Secti
     Section* number = ahead(bracket, 1);
     const Section* mark = ahead(bracket, 2);
     last = nullptr;
-    const bool begins_number = is_number(number) && mark != nullptr &&
-                               mark->m_nmark == MARKSYMBOL &&
-                               phone_number_decide(ahead(bracket, 3));
+    const bool begins_number =
+        mark != nullptr && mark->m_nmark == MARKSYMBOL && phone_number_decide(ahead(bracket, 3));
     return !begins_number || country_code_read(number, reading, output, last);
 }
 

@@ -64,8 +64,8 @@ bool append_no_number(const Section* section, Reading& reading);
 
 // ---- marks: what "(", "+" and "'" mean depends on their neighbours ----
 
-// A telephone number with a country code, when "(" or "+" begins one; else null, and nothing is
-// read. False when the output, which takes it piece by piece, is full.
+// A telephone number with a country code, when "(" before a number, or "+", begins one; else null,
+// and nothing is read. False when the output, which takes it piece by piece, is full.
 bool bracket_read(Section* bracket, Reading& reading, BoundedText& output, Section*& last);
 bool plus_read(Section* plus, Reading& reading, BoundedText& output, Section*& last);
 

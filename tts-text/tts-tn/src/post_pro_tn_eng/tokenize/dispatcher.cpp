@@ -78,7 +78,7 @@ Section* SectionDispatcher::word() {
             rule_ = ReadingRule::capital_letters;
             ask_lexicon(text);
             break;
-        case WordKind::plain: rule_ = ReadingRule::word; break;
+        default: rule_ = ReadingRule::word; break;
     }
     append_spaced(text);
     return section_;
@@ -176,10 +176,9 @@ Section* SectionDispatcher::mark() {
                 if (before_number) return bracket();
                 break;
             case '+': return plus_sign();
-            case '$':
+            default:  // "$"
                 if (before_number) return money(section_->m_pnext);
                 break;
-            default: break;
         }
         words = row->otherwise;
     }

@@ -58,14 +58,13 @@ const char* PlainText::words(const char* text) {
     return end;
 }
 
-// Word by word, as far as there is room.
+// Word by word, as far as there is room: not to the end.
 const char* PlainText::plain_words(const char* text, const char* end) {
-    while (text < end) {
+    for (;;) {
         const std::string_view word = first_word(text, end);
         if (!append_spaced(word)) return nullptr;
         text += word.size() + 1;
     }
-    return end;
 }
 
 const char* PlainText::other_word(const char* text, std::string_view word) {

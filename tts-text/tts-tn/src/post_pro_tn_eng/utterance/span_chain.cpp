@@ -1,5 +1,7 @@
 #include "span_chain.h"
 
+#include <cstring>
+
 #include "TtsString.h"
 
 namespace kavi::tn {
@@ -23,8 +25,9 @@ bool SpanChain::assign(const char* names, const char* values) {
 bool SpanChain::extend(const SpanChain* outer, std::string_view name, std::string_view value) {
     names_[0] = values_[0] = '\0';
     if (outer != nullptr) {
-        if (!join(names_, outer->names_) || !join(names_, "\t")) return false;
-        if (!join(values_, outer->values_) || !join(values_, "\t")) return false;
+        std::memcpy(names_, outer->names_, SIZE);
+        std::memcpy(values_, outer->values_, SIZE);
+        if (!join(names_, "\t") || !join(values_, "\t")) return false;
     }
     if (!join(names_, name) || !join(values_, value)) return false;
     work_out_markup();

@@ -9,15 +9,39 @@
 
 namespace kavi {
 
+// As in "<punc=" tags; "?" for no mark.
+inline const char* mark_name(PUNC_type punc) {
+    switch (punc) {
+        case PUNC_DUN_FE: return "dun";
+        case PUNC_DOU_FE: return "dou";
+        case PUNC_FEN_FE: return "fen";
+        case PUNC_JU_FE: return "ju";
+        case PUNC_WEN_FE: return "wen";
+        case PUNC_TAN_FE: return "tan";
+        case PUNC_MAO_FE: return "mao";
+        case PUNC_ZUOSHU_FE: return "zuoshu";
+        case PUNC_YOUSHU_FE: return "youshu";
+        case PUNC_ZUOYIN_FE: return "zuoyin";
+        case PUNC_YOUYIN_FE: return "youyin";
+        case PUNC_ZUOKUO_FE: return "zuokuo";
+        case PUNC_YOUKUO_FE: return "youkuo";
+        case PUNC_SHENGLUE_FE: return "shenglue";
+        case PUNC_POZHE_FE: return "pozhe";
+        case TN_BEGIN_FE: return "tnbegin";
+        case TN_END_FE: return "tnend";
+        case POIB_FE: return "POIB";
+        case POIE_FE: return "POIE";
+        case PUNC_NULL_FE: break;
+    }
+    return "?";
+}
+
 // "word+dou+ju!" is a word with two marks and a forced pause, then "(emphasis=strong rate=2)" what
 // markup gives it. The head record has no word.
 inline std::string to_text(const UtteranceSyllable& record) {
-    static const char* const names[] = {"?",      "dun",     "dou",    "fen",    "ju",
-                                        "wen",    "tan",     "mao",    "zuoshu", "youshu",
-                                        "zuoyin", "youyin",  "zuokuo", "youkuo", "shenglue",
-                                        "pozhe",  "tnbegin", "tnend",  "POIB",   "POIE"};
     std::string text = record.syllable != nullptr ? record.syllable : "";
-    for (int i = 0; i < record.n_punc; ++i) text += std::string("+") + names[record.punc_arr[i]];
+    for (int i = 0; i < record.n_punc; ++i)
+        text += std::string("+") + mark_name(record.punc_arr[i]);
     if (record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE) text += "!";
     if (record.pause_type != record.pause_type_tn) text += "?";
     const CssmlTag& tag = record.cssml_tag;

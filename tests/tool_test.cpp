@@ -1,0 +1,193 @@
+// The command line's rooms, linked as a library: what is written, against golden files that a
+// person can read. `scripts/golden` writes them anew.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "format.h"
+#include "output.h"
+#include "renderer.h"
+
+// Every write of this program is cut short, and now and then interrupted.
+extern "C" ssize_t __real_write(int file, const void* bytes, std::size_t n);
+extern "C" __attribute__((used)) ssize_t __wrap_write(int file, const void* bytes, std::size_t n) {
+    static unsigned calls = 0;
+    if (++calls % 5 == 0) {
+        errno = EINTR;
+        return -1;
+    }
+    return __real_write(file, bytes, n < 7 ? n : 7);
+}
+
+namespace kavi::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path GOLDEN = KAVI_TEST_GOLDEN;
+
+std::string read_file(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
+
+struct Case {
+    const char* file;
+    Stage stage;
+    FormatName format;
+};
+
+class Rendering : public testing::TestWithParam<Case> {};
+
+TEST_P(Rendering, IsAsInTheGoldenFile) {
+    Options options;
+    options.stage = GetParam().stage;
+    options.format = GetParam().format;
+    options.files = {"input.txt", "second <&\">.txt"};
+    const fs::path before = fs::current_path();
+    fs::current_path(GOLDEN);  // so that the names in the output are those above
+    const std::unique_ptr<Format> format = make_format(options);
+    BlockReader reader(options);
+    Renderer renderer(options);
+    std::string output = format->prologue();
+    std::string messages;
+    for (Block block; reader.next(block);) {
+        const Rendered rendered = renderer.render(block);
+        EXPECT_TRUE(rendered.all_read);
+        output += rendered.output;
+        messages += rendered.messages;
+    }
+    output += format->epilogue();
+    fs::current_path(before);
+    const fs::path golden = GOLDEN / GetParam().file;
+    if (std::getenv("KAVI_RENEW_GOLDEN") != nullptr) {
+        std::ofstream(golden, std::ios::binary) << output;
+        std::ofstream(GOLDEN / "messages.txt", std::ios::binary) << messages;
+    }
+    EXPECT_EQ(output, read_file(golden));
+    EXPECT_EQ(messages, read_file(GOLDEN / "messages.txt"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Golden, Rendering,
+                         testing::Values(Case{"sentences.txt", Stage::sentences, FormatName::text},
+                                         Case{"speakable.txt", Stage::speakable, FormatName::text},
+                                         Case{"words.txt", Stage::words, FormatName::text},
+                                         Case{"explain.txt", Stage::explain, FormatName::text},
+                                         Case{"sentences.jsonl", Stage::speakable,
+                                              FormatName::jsonl},
+                                         Case{"explain.jsonl", Stage::explain, FormatName::jsonl},
+                                         Case{"page.html", Stage::speakable, FormatName::html}),
+                         [](const auto& test) {
+                             std::string name = test.param.file;
+                             name[name.find('.')] = '_';
+                             return name;
+                         });
+
+class Files : public testing::Test {
+  protected:
+    Files() { fs::create_directories(folder_); }
+    ~Files() override { fs::remove_all(folder_); }
+
+    std::string file(const std::string& name, const std::string& bytes) {
+        std::ofstream(folder_ / name, std::ios::binary) << bytes;
+        return folder_ / name;
+    }
+
+    fs::path folder_ = fs::temp_directory_path() / ("kavi_tool_test_" + std::to_string(getpid()));
+};
+
+TEST_F(Files, AreReadInBlocksOfWholeTextsWithTheirNumbers) {
+    std::string lines;
+    for (int i = 0; i < 100000; ++i) lines += "line " + std::to_string(i) + "\n";
+    Options options;
+    options.has_text = true;
+    options.text = "a\nb";
+    options.files = {file("many", lines), file("none", ""), folder_ / "missing",
+                     file("long", std::string(600000, 'x') + "\nend")};
+    BlockReader reader(options);
+    Block block;
+    ASSERT_TRUE(reader.next(block));
+    EXPECT_EQ(block.input + ":" + block.bytes, "TEXT:a\nb");
+    std::string read;
+    std::size_t next = 1;
+    while (reader.next(block) && block.input == options.files[0]) {
+        EXPECT_EQ(block.first, next);
+        EXPECT_EQ(block.bytes.back(), '\n');
+        EXPECT_LE(block.bytes.size(), 300000U);
+        for (const char c : block.bytes) next += c == '\n' ? 1 : 0;
+        read += block.bytes;
+    }
+    EXPECT_EQ(read, lines);
+    EXPECT_EQ(block.input, options.files[2]);
+    EXPECT_EQ(block.failure, "No such file or directory");
+    ASSERT_TRUE(reader.next(block));
+    EXPECT_EQ(block.bytes.size(), 600001U);
+    EXPECT_EQ(block.first, 1U);
+    ASSERT_TRUE(reader.next(block));
+    EXPECT_EQ(block.bytes, "end");
+    EXPECT_EQ(block.first, 2U);
+    EXPECT_FALSE(reader.next(block));
+}
+
+TEST_F(Files, TextsEndWithTheDelimiter) {
+    Options options;
+    options.delimiter = '\0';
+    options.files = {file("nul", std::string("a\nq.\0c</poem>", 13))};
+    BlockReader reader(options);
+    Renderer renderer(options);
+    std::string output;
+    std::string messages;
+    for (Block block; reader.next(block);) {
+        const Rendered rendered = renderer.render(block);
+        output += rendered.output;
+        messages += rendered.messages;
+    }
+    EXPECT_EQ(output, "a q <punc=ju>\nc\n");
+    EXPECT_EQ(messages.substr(options.files[0].size(), 6), ":2:2: ");
+}
+
+TEST_F(Files, OutputIsWrittenWhole) {
+    const std::string path = folder_ / "out";
+    Output output;
+    EXPECT_EQ(output.open(path), "");
+    std::string bytes;
+    for (int i = 0; i < 1000; ++i) bytes += std::to_string(i) + " ";
+    EXPECT_EQ(output.write(bytes), "");
+    EXPECT_EQ(output.write("end"), "");
+    EXPECT_EQ(output.close(), "");
+    EXPECT_EQ(read_file(path), bytes + "end");
+    EXPECT_NE(Output().open(folder_ / "no" / "folder"), "");
+    Output full;
+    ASSERT_EQ(full.open("/dev/full"), "");
+    EXPECT_EQ(full.write("a"), "No space left on device");
+}
+
+TEST_F(Files, WhatCannotBeReadIsSaidAndTheRestIsRead) {
+    Options options;
+    options.files = {folder_, file("a", "a")};
+    BlockReader reader(options);
+    Renderer renderer(options);
+    Block block;
+    ASSERT_TRUE(reader.next(block));
+    const Rendered failed = renderer.render(block);
+    EXPECT_FALSE(failed.all_read);
+    EXPECT_EQ(failed.messages,
+              "kavi-tn: " + folder_.string() + ": cannot be read: Is a directory\n");
+    ASSERT_TRUE(reader.next(block));
+    EXPECT_EQ(renderer.render(block).output, "a\n");
+}
+
+}  // namespace
+}  // namespace kavi::tool

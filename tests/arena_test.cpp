@@ -109,7 +109,7 @@ TEST(Arena, CapacityBoundsWhatIsInUseAndRefusalHarmsNothing) {
 }
 
 TEST(Arena, AFreeBlockIsRefusedWhereTheCapacityEnds) {
-    mem_stack_handle arena = mem_stack_create(100);
+    mem_stack_handle arena = mem_stack_create(120);
     void* block = mem_stack_request_buf(32, MEM_COMMON, arena);
     mem_stack_release_buf(block, 32, MEM_COMMON, arena);
     EXPECT_NE(mem_stack_request_buf(64, MEM_COMMON, arena), nullptr);
@@ -154,7 +154,7 @@ TEST(Arena, OutlivesASystemWithoutMemory) {
     arena = mem_stack_create(0);
     std::vector<void*> blocks;
     for (int i = 0; i < 60; ++i) blocks.push_back(mem_stack_request_buf(1000, MEM_COMMON, arena));
-    for (const int i : {10, 11, 12}) mem_stack_release_buf(blocks[i], 0, MEM_COMMON, arena);
+    for (const unsigned i : {10U, 11U, 12U}) mem_stack_release_buf(blocks[i], 0, MEM_COMMON, arena);
     refused.begin();
     EXPECT_EQ(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
     EXPECT_NE(mem_stack_request_buf(3000, MEM_COMMON, arena), nullptr);

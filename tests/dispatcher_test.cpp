@@ -13,7 +13,7 @@ TEST_F(Dispatcher, FullOutputFailsAndKeepsWhatFits) {
         std::string text;
         while (text.size() < 4200) text += sentence;
         // Whatever is appended last, some lengths before it leave no room for it.
-        for (std::size_t before = 0; before < 20; ++before) {
+        for (std::size_t before = 0; before < 40; ++before) {
             std::string source = std::string(before, 'x') + " " + text;
             char target[SZ_TEXT_MAX_LEN + 1] = {};
             target[SZ_TEXT_MAX_LEN] = 'g';

@@ -274,6 +274,12 @@ TEST(Host, LongSentencesAreCutBesideWhatIsNoTag) {
     for (int i = 0; i < 12; ++i) long_tags += no_tag + "b ";
     EXPECT_EQ(words_of(long_tags).back(), "b");
     EXPECT_EQ(words_of(long_tags).size(), words_of(no_tag + "b ").size() * 12);
+    // Characters of several bytes, and a "<" that begins no tag.
+    std::string euros = "<-";
+    for (int i = 0; i < 3000; ++i) euros += "\xe2\x82\xac<";
+    for (const std::string& source : read_by_layer(euros + "<orgLen=1>").sources) {
+        EXPECT_TRUE(source[0] == '<' || source[0] == '\xe2') << source[0];
+    }
     // Without a blank, and in a small arena.
     for (const char* text : {"do-<pause=1>g<orgLen=3>gy-dog<pause=2>", "1<pause=1>2-3<orgLen=3>"}) {
         std::string unbroken;

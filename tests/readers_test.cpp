@@ -113,6 +113,11 @@ TEST_F(Readers, MarksStopWhereTheOutputIsFull) {
     Section* last = head;
     EXPECT_FALSE((engine.*Peer::process_bracket)(last, target));
     EXPECT_EQ(last, head);
+    char plus[] = "+86 1";
+    Section* country = nullptr;
+    EXPECT_EQ(engine.text_to_queue(plus, country), 0);
+    EXPECT_EQ((engine.*Peer::process_plus)(country, target), nullptr);
+    release(country);
     EXPECT_EQ(target, full + "add ");
     char quote[] = "'ll";
     Section* contraction = nullptr;

@@ -11,37 +11,49 @@ using tn::ReadingRule;
 using tn::SectionDispatcher;
 using tn::SectionWindow;
 
-const char* name_of(ReadingRule rule) {
-    switch (rule) {
-        case ReadingRule::word: return "word";
-        case ReadingRule::capital_letters: return "word in capitals";
-        case ReadingRule::month: return "month";
-        case ReadingRule::telephone_label: return "telephone label";
-        case ReadingRule::telephone_number: return "telephone number";
-        case ReadingRule::separated_number: return "number with separators";
-        case ReadingRule::ordinal: return "ordinal";
-        case ReadingRule::date: return "date";
-        case ReadingRule::fraction: return "fraction";
-        case ReadingRule::money: return "dollars and cents";
-        case ReadingRule::decimal: return "decimal";
-        case ReadingRule::clock_time: return "clock time";
-        case ReadingRule::year: return "year";
-        case ReadingRule::ordinal_day: return "ordinal day";
-        case ReadingRule::cardinal: return "cardinal";
-        case ReadingRule::markup_tag: return "markup";
-        case ReadingRule::bracket: return "bracket or country code";
-        case ReadingRule::plus_sign: return "plus sign or country code";
-        case ReadingRule::contraction: return "contraction";
-        case ReadingRule::mark: return "mark";
-        case ReadingRule::silent: break;
+struct RuleName {
+    ReadingRule rule;
+    const char* name;
+};
+
+constexpr RuleName RULE_NAMES[] = {
+    {ReadingRule::word, "word"},
+    {ReadingRule::capital_letters, "word in capitals"},
+    {ReadingRule::month, "month"},
+    {ReadingRule::telephone_label, "telephone label"},
+    {ReadingRule::telephone_number, "telephone number"},
+    {ReadingRule::separated_number, "number with separators"},
+    {ReadingRule::ordinal, "ordinal"},
+    {ReadingRule::date, "date"},
+    {ReadingRule::fraction, "fraction"},
+    {ReadingRule::money, "dollars and cents"},
+    {ReadingRule::decimal, "decimal"},
+    {ReadingRule::clock_time, "clock time"},
+    {ReadingRule::year, "year"},
+    {ReadingRule::ordinal_day, "ordinal day"},
+    {ReadingRule::cardinal, "cardinal"},
+    {ReadingRule::markup_tag, "markup"},
+    {ReadingRule::bracket, "bracket or country code"},
+    {ReadingRule::plus_sign, "plus sign or country code"},
+    {ReadingRule::contraction, "contraction"},
+    {ReadingRule::mark, "mark"},
+    {ReadingRule::silent, "not spoken"},
+};
+
+// A rule is found by its place.
+constexpr bool are_in_order() {
+    int place = 0;
+    for (const RuleName& row : RULE_NAMES) {
+        if (static_cast<int>(row.rule) != place++) return false;
     }
-    return "not spoken";
+    return place == static_cast<int>(ReadingRule::silent) + 1;
 }
+static_assert(are_in_order());
 
 const char* name_of(const SectionDispatcher& step, std::string_view written) {
     if (step.outcome() == Outcome::full) return "output full";
     const bool incomplete = step.outcome() == Outcome::ended && written.empty();
-    return incomplete ? "incomplete, not read" : name_of(step.rule());
+    return incomplete ? "incomplete, not read" : RULE_NAMES[static_cast<int>(step.rule())].name;
 }
 
 }  // namespace

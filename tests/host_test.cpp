@@ -139,6 +139,7 @@ TEST(Host, ASmallArenaGetsShorterPiecesOrIsReported) {
                                             std::string(300, 'x'),
                                             "123456789012.5 a",
                                             "<breaktime=12345678901234567890>a",
+                                            std::string(30, 'x') + "<pause=1>",
                                             "it is 10:30:15 now",
                                             "+86-10-12345678 a",
                                             "we paid $1,234.50 on 3/1/2020 to NASA, 21st"};

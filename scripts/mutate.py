@@ -10,9 +10,16 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-ROOMS = ["tts-common/src", "tts-text/tts-tn/src"]
+ROOMS = ["tts-common/src", "tts-text/tts-tn/src", "tts-text/tts-host/src", "tools/kavi-tn"]
 WORKERS = os.cpu_count() or 1
 SECONDS = 60  # a fault that makes the tests run longer is noticed
+
+# The programs that must notice a fault, the quickest first.
+ENGINE_TESTS = ["build/tests/kavi_refusal_tests --gtest_fail_fast",
+                "build/tests/kavi_tests --gtest_fail_fast --gtest_filter=-Host*",
+                "build/tests/kavi_tests --gtest_fail_fast --gtest_filter=Host*"]
+TOOL_TESTS = ["build/tests/kavi_tool_tests --gtest_fail_fast",
+              "tests/kavi_tn_test.sh build/tools/kavi-tn/kavi-tn tools/kavi-tn/sample.txt"]
 
 # What is looked for in a line of code, and what is put in its place.
 FAULTS = [(re.compile(pattern), replacement) for pattern, replacement in [
@@ -27,23 +34,35 @@ FAULTS = [(re.compile(pattern), replacement) for pattern, replacement in [
     (r"(?<=, )(\d)(?=\))", lambda found: str(int(found.group(1)) + 1)),   # a section later
     (r"(?<=, )([1-9])(?=\))", lambda found: str(int(found.group(1)) - 1)),  # or earlier
     (r"(?<== )(\d+)(?=;)", lambda found: str(int(found.group(1)) + 1)),
-    (r"->m_pnext\b", ""),
+    (r"->m_pnext\b", ""), (r"->m_pprevious\b", "->m_pnext"),  # the wrong neighbour
     (r"^ +[\w.>-]+\.(append|take|append_whole|cut|clear|pass|catch_up)\(.*\);$", ""),
     (r"^ +continue;$", ""), (r"^ +break;$", ""),
+    # A release, a re-initialisation, a field or an escape left out.
+    (r"^ +(static_cast<void>\()?[\w.:>-]*(release|reset|emplace|clear|begin|push_back|report|note)\w*\(.*\);$", ""),
+    (r"^ +[\w.\[\]\"*>-]+ [+]?= [^;]*;$", ""),
+    (r"^ +case '.{1,2}': \w+ \+= .*break;$", ""),
+    # The wrong buffer, the wrong field.
+    (r"\bnames_", "values_"), (r"\bvalues_", "names_"), (r"\bsz_tag\b", "sz_value"), (r"\bspeakable_?\b", "normalized"),
+    (r"\.first\(\)", ".last()"), (r"\.offset\b", ".length"), (r"\bbefore_number\b", "after_number"),
 ]]
+STATEMENT = re.compile(r"^( +)[\w.>-]+\(.*\);$")  # two of them in the wrong order
 LITERAL = re.compile(r"""'(?:[^'\\]|\\.)'|"(?:[^"\\]|\\.)*\"""")
 NO_CODE = re.compile(r"^\s*(//|#|static_assert|assert|using|namespace|template|friend|enum)|^\S.*\) const;$")
 
 
 def all_faults():
-    """Every fault as (path, line number, the line before, the line after)."""
+    """Every fault as (path, line number, the line or two before, the same after)."""
     for room in ROOMS:
         for path in sorted((ROOT / room).rglob("*")):
             if path.suffix not in (".cpp", ".h"):
                 continue
-            for number, line in enumerate(path.read_text().split("\n")):
+            lines = path.read_text().split("\n")
+            for number, line in enumerate(lines):
                 if NO_CODE.match(line):
                     continue
+                first, second = STATEMENT.match(line), STATEMENT.match(lines[number + 1]) if line else None
+                if first and second and first.group(1) == second.group(1) and line != lines[number + 1]:
+                    yield path.relative_to(ROOT), number, line + "\n" + lines[number + 1], lines[number + 1] + "\n" + line
                 code = re.sub(r"\s*//.*", "", line)
                 for text in LITERAL.finditer(code):  # a blank of a reading
                     for less in {text.group().replace('" ', '"'), text.group().replace(' "', '"')} - {text.group()}:
@@ -71,20 +90,22 @@ class Tree:
         for name in files.decode().split("\0")[:-1]:
             (self.root / name).parent.mkdir(parents=True, exist_ok=True)
             shutil.copy(ROOT / name, self.root / name)
-        subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DKAVI_BUILD_TOOLS=OFF",
-                        "-DKAVI_INSTALL=OFF", "-DCMAKE_COMPILE_WARNING_AS_ERROR=ON"], cwd=self.root, check=True, capture_output=True)
-        if self.outcome() != "survived":
-            sys.exit("The tests fail without a fault.")
+        subprocess.run(["cmake", "-S", ".", "-B", "build", "-G", "Ninja", "-DKAVI_INSTALL=OFF", "-DCMAKE_COMPILE_WARNING_AS_ERROR=ON"], cwd=self.root, check=True, capture_output=True)
+        for tests in (ENGINE_TESTS, TOOL_TESTS):
+            if self.outcome(tests) != "survived":
+                sys.exit("The tests fail without a fault.")
 
-    def outcome(self):
-        build = subprocess.run(["cmake", "--build", "build", "--target", "kavi_tests", "kavi_refusal_tests"],
+    def outcome(self, tests):
+        targets = {test.split()[0].split("/")[-1] for test in tests if test.startswith("build/tests")} | {"kavi-tn"}
+        if tests is ENGINE_TESTS:
+            targets.remove("kavi-tn")
+        build = subprocess.run(["cmake", "--build", "build", "--target", *sorted(targets)],
                                cwd=self.root, capture_output=True)
         if build.returncode != 0:
             return "does not compile"
-        for test in ("kavi_refusal_tests", "kavi_tests --gtest_filter=-Host*", "kavi_tests --gtest_filter=Host*"):
+        for test in tests:
             try:
-                run = subprocess.run(["build/tests/" + test.split()[0], "--gtest_fail_fast", *test.split()[1:]],
-                                     cwd=self.root, capture_output=True, timeout=SECONDS)
+                run = subprocess.run(test.split(), cwd=self.root, capture_output=True, timeout=SECONDS)
             except subprocess.TimeoutExpired:
                 return "killed"
             if run.returncode != 0:
@@ -94,10 +115,10 @@ class Tree:
     def try_fault(self, path, number, before, after):
         text = (self.root / path).read_text()
         lines = text.split("\n")
-        lines[number] = after
+        lines[number:number + before.count("\n") + 1] = after.split("\n")
         (self.root / path).write_text("\n".join(lines))
         try:
-            return self.outcome()
+            return self.outcome(TOOL_TESTS if path.parts[0] == "tools" else ENGINE_TESTS)
         finally:
             (self.root / path).write_text(text)
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The command line as a user types it. Usage: kavi_tn_test.sh PATH-OF-KAVI-TN SAMPLE
 set -uo pipefail
-tool=$1 sample=$2
+tool=$(realpath "$1") sample=$(realpath "$2")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit 1

@@ -1,6 +1,6 @@
 // A host with an arena, string services and lexicon of its own links kavi::engine alone and defines
-// what MemoryStack.h, TtsString.h and EngLexicon.h declare. This one counts what is in use.
-#include <cstdarg>
+// what the engine calls: two operations of MemoryStack.h, safe_strncat and eng_lexicon_lookup. This
+// one counts what is in use.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -34,14 +34,6 @@ int safe_strncat(char* dst, const char* src, int n, int cap) {
     std::memcpy(dst + used, src, added);
     dst[used + added] = '\0';
     return 0;
-}
-
-int tts_snprintf(char* buf, int size, const char* fmt, ...) {
-    va_list args;
-    va_start(args, fmt);
-    const int length = std::vsnprintf(buf, static_cast<std::size_t>(size), fmt, args);
-    va_end(args);
-    return length;
 }
 
 int eng_lexicon_lookup(const char* word, char*, int) {

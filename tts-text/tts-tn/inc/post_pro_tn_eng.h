@@ -132,7 +132,7 @@ inline constexpr char s_number_to_char[29][2][15] = {
     {"00", " "},
 };
 
-// Ordinal words.
+// Ordinal words. "forth", "twelvth" and "ninteenth" are meant as they stand.
 inline constexpr char s_number_to_turn[27][2][15] = {
     {"1",  "first"},
     {"2",  "second"},
@@ -168,9 +168,11 @@ inline constexpr char s_number_to_turn[27][2][15] = {
 // The data's way, and the folder under src/post_pro_tn_eng that holds each step:
 //
 //   raw text -> one sentence          eng_text_normalize    sentence/
-//   sentence -> sections              text_to_queue         tokenize/
-//   sections -> speakable text        section_process       tokenize/, readers/, numbers/
+//   sentence -> speakable text        eng_text_tokenize     tokenize/, readers/, numbers/
+//   sections -> speakable text        section_process       the same, for a queue that a host holds
 //   speakable text -> records         eng_text_to_utterance_syllable    utterance/
+//
+// The tables of markup tags are in markup/, what all steps share in common/.
 //
 // The object holds nothing but the arena it takes its memory from. Working memory goes back before
 // the call that took it returns; the records of an utterance pass to the host. The object owns no
@@ -182,8 +184,8 @@ class PostProTnEng {
     ~PostProTnEng() = default;
 
     // Binds the engine to the host's arena, which must outlive its use here. May be called again.
-    // Needed before anything that takes memory; an unbound engine answers as if the arena were
-    // full.
+    // Needed before an operation that makes sections or records; eng_text_normalize and
+    // eng_text_tokenize take no memory.
     void init(mem_stack_handle mem_handle);
 
     // ---- Raw text to one sentence: sentence/ ----
@@ -191,9 +193,10 @@ class PostProTnEng {
     // Cuts the first sentence off `sz_source_text`: up to and including the first of "." "?" "!"
     // ";" "," ":" that ends one. Abbreviations are expanded, markup spans still open at the cut are
     // closed in the sentence and opened again in front of the rest.
-    //   sz_source_text  read only; of what does not fit sz_next_text nothing is handed back
+    //   sz_source_text  read only
     //   sz_target_text  4096 bytes, zero-filled; receives the sentence
-    //   sz_next_text    4096 bytes holding a text, normally ""; the rest of the source is appended
+    //   sz_next_text    4096 bytes holding a text, normally ""; the open tags and the rest of the
+    //                   source are appended: each tag, and the rest, whole or not at all
     // Always 0. Text remains when sz_next_text grew: call again on a copy of it. Malformed markup
     // (a closing tag that closes nothing or another kind, an eleventh open tag, an opening tag
     // above 199 characters, no room for a closing tag) ends the sentence there, unclosed, and the
@@ -210,8 +213,8 @@ class PostProTnEng {
     // ---- Sentence to speakable text: tokenize/, readers/, numbers/ ----
 
     // Appends the speakable text of one sentence to `sz_target_text` (4096 bytes holding a text,
-    // normally ""). 0 when done. -1 when a section could not be had (the target is unchanged) or
-    // the text did not fit (the target keeps what was written).
+    // normally ""). 0 when done, -1 when the text did not fit; the target then keeps what was
+    // written.
     int eng_text_tokenize(char* sz_source_text, char* sz_target_text);
 
     // Cuts a text into sections, appended in text order to the queue with head `sz_section`. 0, or
@@ -224,8 +227,8 @@ class PostProTnEng {
     int add_section(char* sz_source, Section*& p_section);
 
     // Appends what the queue with head `p_section` (may be null) reads as to `sz_target_text` (4096
-    // bytes holding a text). Texts of sections may change on the way, their links do not. 0 when
-    // done, -1 when the text did not fit; the target then keeps what was written.
+    // bytes holding a text). Texts and classes of sections may change on the way, their links do
+    // not. 0 when done, -1 when the text did not fit; the target then keeps what was written.
     int section_process(Section* p_section, char* sz_target_text);
 
     // ---- Speakable text to records: utterance/builder ----
@@ -237,9 +240,8 @@ class PostProTnEng {
     // The array and each record's `syllable` and `zhuyin` belong to the caller, who releases them
     // with their sizes: `n_utt` records, `syl_len` and `zy_len` bytes.
     // 0 when every word was stored. -1 with `p_utt` null and `n_utt` 0 when the arena refused the
-    // array or the working buffers before it. -1 with both set when it refused a word's storage or
-    // a later buffer, or nested spans outgrew their 199 characters of names or values: the records
-    // stored so far are complete, the others zero.
+    // array. -1 with both set when it refused a word's storage, or nested spans outgrew their 199
+    // characters of names or values: the records stored so far are complete, the others zero.
     int eng_text_to_utterance_syllable(char* sz_source_text, UtteranceSyllable*& p_utt, int& n_utt);
 
     // ---- One record at a time: utterance/records, utterance/attributes ----
@@ -266,8 +268,8 @@ class PostProTnEng {
                              const char* tag_type);
 
     // Stores the words of the span `buffer_target` in the records from `n` on, with the attributes
-    // of the chain, and moves `n` past them. False when a word's storage or the working buffers
-    // could not be had or the chain outgrew 199 characters; the words stored so far stay.
+    // of the chain, and moves `n` past them. False when a word's storage could not be had or the
+    // chain outgrew 199 characters; the words stored so far stay.
     bool insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
                           char* buffer_target, const char* tag_type);
 
@@ -283,63 +285,97 @@ class PostProTnEng {
     bool filter_text(char* p_word_text, char* sz_char_buf, char* sz_tag, char* sz_value,
                      char* sz_target, int& i, int& j, int& mark);
 
-    // Adds the number of words in the span `buffer_target` to `n`, nested spans included. False
-    // when the working buffers could not be had; `n` is then the count so far.
+    // Adds the number of words in the span `buffer_target` to `n`, nested spans included. Always
+    // true.
     bool count_embed_word(int& n, char* buffer_target);
 
   private:
-    friend struct PostProTnEngPeer;  // lets the tests reach the readers
+    friend struct PostProTnEngPeer;  // lets the tests reach the operations below
 
+    // The readers and number words one by one. Each is one line over a function of the same name,
+    // or of numbers/number_words.h, on which the dispatcher works.
+    //
+    // Tests (..._decide, ..._def) answer 1 or 0. Readers append to a text in a 500-byte buffer,
+    // `sz_target_text`; the words that have no room there are cut. Those that get a section return
+    // the last one they consumed, the others the buffer.
+
+    // Blanks digits and marks outside tags and cuts the blanks at the end of the text.
     void re_regular(char* sz_source_text);
 
-    // Readers append the reading of the pattern that begins at a section to a 500-byte buffer and
-    // return the last section they consumed, or the buffer; tests answer 1 or 0. A reader that
-    // the arena refuses its scratch buffer writes nothing and consumes its first section only.
-
     // ---- readers/telephone ----
+    // Whether a telephone number may begin here: digits, "(", "-" or a blank.
     int phone_number_decide(Section* p_section);
+    // "area code " and at most nine sections; ends before a word. `p_section` is no word.
     Section* phone_number_read(Section* p_section, char* sz_target_text);
 
-    // ---- readers/dates ----
+    // ---- readers/dates, readers/months ----
     int month_def(char* sz_source);
+    // The month's full name, or the source itself, in the place of what the buffer held.
     char* month_read(char* sz_source_text, char* sz_target_text);
     int data_decide(Section* p_section);
+    // After data_decide has said yes; returns the year.
     Section* data_number(Section* p_section, char* sz_target_text);
+    // Two or four digits; nothing for any other number of them.
     char* year_read(char* sz_source_text, char* sz_target_text);
 
-    // ---- readers/amounts ----
+    // ---- readers/amounts: each reader after its test has said yes ----
     int fraction_decide(Section* pSection);
     Section* fraction_number(Section* pSection, char* sz_target_text);
     int decimal_decide(Section* pSection);
     Section* decimal_number(Section* psection, char* sz_target_text);
+    // Whether a "$" follows the amount that begins here.
     int currency_decide(Section* pSection);
-    Section* currrency_read(Section* pSection, char* sz_target_text);  // null: the queue ran out
+    // The amount after a "$", or before one. Null when the queue ran out; its words are appended.
+    Section* currrency_read(Section* pSection, char* sz_target_text);
 
-    // ---- readers/clock_times: the form code, 1 short or 2 long, travels in m_nmark ----
+    // ---- readers/clock_times ----
+    // 0 for no time; 1 for a short form, 2 for a long one, which time_number finds in m_nmark.
     int time_decide(Section* pSection);
-    Section* time_number(Section* psection, char* sz_target_text);  // null: incomplete, no scratch
+    // Null, and nothing appended, when the form is incomplete.
+    Section* time_number(Section* psection, char* sz_target_text);
 
-    // ---- readers/number_tokens ----
-    Section* str_number(Section* p_section, char* sz_target_text);  // null: the queue ran out
+    // ---- readers/number_tokens, readers/words ----
+    // Null when the queue ran out; the words so far are appended.
+    Section* str_number(Section* p_section, char* sz_target_text);
+    // Returns the suffix; the section has zeros in the place of its last three of four digits or
+    // more.
     Section* turn(Section* p_section, char* sz_target_text);
+    // A word in capitals, in the place of what the buffer held: 1; 0 for any other, nothing
+    // written.
     int process_upper_case(Section* m_ptemp_section, char* sz_target);
 
-    // ---- readers/marks: the first two write to the 4096-byte output itself ----
-    bool process_bracket(Section*& p_temp_section, char* sz_target);  // false: the output is full
-    Section* process_plus(Section* p_temp_section, char* sz_target);  // null: the output is full
+    // ---- readers/marks: `sz_target` is the 4096-byte output itself ----
+    // Moves `p_temp_section` to the last section of a telephone number, if "(" begins one. False
+    // when the output is full.
+    bool process_bracket(Section*& p_temp_section, char* sz_target);
+    // The last section of a telephone number, or the "+". Null when the output is full.
+    Section* process_plus(Section* p_temp_section, char* sz_target);
+    // Rewrites the section after the apostrophe; appends nothing and returns the apostrophe.
     Section* process_single_quote(Section* p_temp_section, char* sz_target);
 
     // ---- numbers/ ----
+    // The first three digits, or fewer, as a cardinal.
     char* number_read(char* sz_source_text, char* sz_target_text);
+    // Digit by digit.
     char* number_to_normal(char* sz_source_text, char* sz_target_text);
+    // Whether there is nothing but digits.
     int number_def(char* sz_source);
-    char* str_turn(char* sz_source_text, char* sz_target_text);  // null: not one to three digits
+    // One to three digits as an ordinal; null, and nothing appended, for any other number of them.
+    char* str_turn(char* sz_source_text, char* sz_target_text);
+    // With scale words, in the place of what the buffer held; of more than 12 digits the first four
+    // groups.
     char* number_to_string(char* sz_source_text, char* sz_target_text);
 
-    // ---- utterance/ ----
+    // ---- utterance/: on record `n` - 1; always true ----
+    // Adds the mark of this name; one after the tenth is dropped, an unknown name counts as no
+    // mark.
     bool insert_punc(int n, UtteranceSyllable* utt, char* punc_str);
+    // `ch` is one of "& |#*+".
     bool insert_pause(int n, UtteranceSyllable* utt, char ch);
-    // Null: no tag of the language, or its opening is not closed.
+
+    // Reads the tag at `sz_text`, a "<": its name (512 bytes), its value and its paired content
+    // (each as large as the text). The place after it; null, with name and value as far as they
+    // go, when it is no tag of the language or has no ">".
     char* parse_tag(char* sz_text, char* sz_tag, char* sz_value, char* sz_target);
 
     mem_stack_handle _mem_handle;

@@ -32,9 +32,6 @@ class BoundedText {
         return size < static_cast<std::size_t>(capacity_ - length_);
     }
 
-    // Takes in what someone else has appended to the same buffer.
-    void catch_up() { length_ += static_cast<int>(std::strlen(text_ + length_)); }
-
     // Removes the last `n` characters, or all when there are fewer.
     void cut(int n) {
         length_ -= n < length_ ? n : length_;

@@ -1,4 +1,5 @@
-// Numeric dates, years, and days beside a month.
+// Numeric dates, years, and days beside a month. The day comes first: «12/25/2020» is the twelfth
+// of a month 25 that has no name.
 
 #include "../numbers/number_words.h"
 #include "months.h"

@@ -18,7 +18,7 @@ bool same(const ReadText& a, const ReadText& b) {
     return a.normalized == b.normalized && a.speakable == b.speakable && a.records == b.records;
 }
 
-// By hand, the engine drops what is behind malformed markup, and cuts long sentences elsewhere.
+// By hand, the engine drops what is after malformed markup, and cuts long sentences elsewhere.
 void layer_and_hand(const std::string& text) {
     if (text.size() >= SZ_TEXT_MAX_LEN) return;
     const ReadText layer = read_by_layer(text);

@@ -24,8 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                         [](const Diagnostic& d) { return d.finding == Finding::arena_too_small; });
         if (refused == read.all_read || (capacity == 0 && refused)) std::abort();
         if (!read.all_read) continue;
-        const ReadText behind = read_by_layer(host, piece.substr(read.covered));
-        if (!behind.sources.empty()) std::abort();
+        const ReadText rest = read_by_layer(host, piece.substr(read.covered));
+        if (!rest.sources.empty()) std::abort();
     }
     return 0;
 }

@@ -10,7 +10,7 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-ROOMS = ["tts-common/src", "tts-text/tts-tn/src", "tts-text/tts-host/src", "tools/kavi-tn"]
+FOLDERS = ["tts-common/src", "tts-text/tts-tn/src", "tts-text/tts-host/src", "tools/kavi-tn"]
 WORKERS = os.cpu_count() or 1
 SECONDS = 60  # a fault that makes the tests run longer is noticed
 
@@ -52,8 +52,8 @@ NO_CODE = re.compile(r"^\s*(//|#|static_assert|assert|using|namespace|template|f
 
 def all_faults():
     """Every fault as (path, line number, the line or two before, the same after)."""
-    for room in ROOMS:
-        for path in sorted((ROOT / room).rglob("*")):
+    for folder in FOLDERS:
+        for path in sorted((ROOT / folder).rglob("*")):
             if path.suffix not in (".cpp", ".h"):
                 continue
             lines = path.read_text().split("\n")
@@ -75,7 +75,7 @@ def all_faults():
 
 
 def choose(faults, count):
-    """So many faults, every so many of all: each room has its share."""
+    """So many faults, every so many of all: each file has its share."""
     count = min(count, len(faults))
     return [faults[i * len(faults) // count] for i in range(count)]
 
@@ -159,7 +159,7 @@ def main():
                 unexplained += 1
                 print(f"{path}:{number + 1}: survived\n  - {before.strip()}\n  + {after.strip()}", flush=True)
     total = len(faults) - outcomes.get("does not compile", 0)
-    print(f"{total} faults in {len({fault[0] for fault in faults})} rooms: {outcomes.get('killed', 0)} killed, "
+    print(f"{total} faults in {len({fault[0] for fault in faults})} files: {outcomes.get('killed', 0)} killed, "
           f"{outcomes.get('explained', 0)} survive for a reason, {unexplained} survive")
     sys.exit(unexplained > 0)
 

@@ -32,7 +32,7 @@ TEST(Arena, ABlockCostsLittleMoreThanItsSize) {
         mem_stack_handle probe = mem_stack_create(0);
         EXPECT_NE(mem_stack_request_buf(size, MEM_COMMON, probe), nullptr);
         const std::size_t cost = mem_stack_used(probe);
-        EXPECT_LE(cost, size + (size <= 32768 ? 16 : 32));
+        EXPECT_LE(cost, size + 16);
         mem_stack_destroy(probe);
         mem_stack_handle exact = mem_stack_create(cost);
         EXPECT_NE(mem_stack_request_buf(size, MEM_COMMON, exact), nullptr);
@@ -67,6 +67,17 @@ TEST(Arena, StartsAnewInItsFirstChunk) {
         EXPECT_GT(blocks.size(), 120U);
         for (void* block : blocks) mem_stack_release_buf(block, 0, MEM_COMMON, arena);
     }
+    mem_stack_destroy(arena);
+}
+
+TEST(Arena, WhatIsLeftOfAChunkServesLater) {
+    mem_stack_handle arena = mem_stack_create(0);
+    EXPECT_NE(mem_stack_request_buf(40000, MEM_COMMON, arena), nullptr);
+    EXPECT_NE(mem_stack_request_buf(30000, MEM_COMMON, arena), nullptr);  // of another chunk
+    EXPECT_NE(mem_stack_request_buf(30000, MEM_COMMON, arena), nullptr);
+    const std::size_t taken = mem_stack_taken(arena);
+    EXPECT_NE(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
+    EXPECT_EQ(mem_stack_taken(arena), taken);
     mem_stack_destroy(arena);
 }
 

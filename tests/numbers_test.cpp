@@ -30,6 +30,8 @@ TEST_F(Numbers, AreAppendedToWhatTheTargetHolds) {
     char four_digits[] = "1000";
     char target[WORD_MAX_LEN] = {};
     EXPECT_EQ((engine.*Peer::str_turn)(four_digits, target), nullptr);
+    EXPECT_EQ((engine.*Peer::str_turn)(four_digits + 3, target), target);
+    EXPECT_STREQ(target, "  ");
 }
 
 TEST_F(Numbers, DigitByDigitIsCutAfterTheLastWholeWord) {
@@ -37,7 +39,7 @@ TEST_F(Numbers, DigitByDigitIsCutAfterTheLastWholeWord) {
     EXPECT_EQ(reading.size(), 6 * 83 - 1U);
     EXPECT_EQ(reading.substr(reading.size() - 11), "seven seven");
     EXPECT_EQ(call(Peer::number_to_normal, std::string(125, '1')).size(), 499U);
-    // The 499 characters end inside "seven", and the short word behind it must not slip in.
+    // The 499 characters end inside "seven", and the short word after it must not slip in.
     const std::string ones = call(Peer::number_to_normal, std::string(124, '1') + "71");
     EXPECT_EQ(ones.substr(ones.size() - 7), "one one");
 }

@@ -129,6 +129,16 @@ TEST_F(Readers, MarksStopWhereTheOutputIsFull) {
 }
 
 TEST_F(Readers, LongReadingsAreCutAfterAWholeWord) {
+    char time[] = "0:0:0";
+    Section* head = nullptr;
+    EXPECT_EQ(engine.text_to_queue(time, head), 0);
+    head->m_nmark = 2;  // the long form
+    const std::string held(489, 'x');
+    char target[WORD_MAX_LEN] = {};
+    std::strcpy(target, held.c_str());
+    EXPECT_NE((engine.*Peer::time_number)(head, target), nullptr);
+    EXPECT_EQ(target, held + "   zero");
+    release(head);
     for (const char* before : {"Tel.", "3."}) {
         const std::string reading = tokenize(before + std::string(100, '7') + "-x");
         EXPECT_NE(reading.find("seven seven"), std::string::npos);

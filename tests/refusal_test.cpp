@@ -15,7 +15,7 @@ namespace {
 
 class Refusal : public testing::Test {
   protected:
-    // One call of each kind on what the one before it left. Checks what failure must leave behind.
+    // One call of each kind on what the one before it left. Checks what failure must leave.
     void run(std::string source) {
         UtteranceSyllable* utt = reinterpret_cast<UtteranceSyllable*>(this);
         int n_utt = -1;
@@ -29,7 +29,7 @@ class Refusal : public testing::Test {
         bool stopped = false;
         for (int i = 1; i < n_utt; ++i) {
             stopped = stopped || utt[i].syllable == nullptr;
-            EXPECT_EQ(utt[i].syllable == nullptr, stopped) << "a word behind the one that failed";
+            EXPECT_EQ(utt[i].syllable == nullptr, stopped) << "a word after the one that failed";
             EXPECT_EQ(utt[i].zhuyin == nullptr, stopped);
         }
         EXPECT_EQ(result, stopped ? -1 : 0);

@@ -1,4 +1,4 @@
-// The command line's rooms, linked as a library: what is written, against golden files that a
+// The command line's files, linked as a library: what is written, against golden files that a
 // person can read. `scripts/golden` writes them anew.
 
 #include <fcntl.h>

@@ -44,7 +44,7 @@ bool BlockReader::next(Block& block) {
     return false;
 }
 
-// The next block of the open file, up to its last delimiter; what is behind that begins the block
+// The next block of the open file, up to its last delimiter; what is after that begins the block
 // after it. At the end of the file closes it.
 bool BlockReader::next_of_file(Block& block) {
     block.input = name_;

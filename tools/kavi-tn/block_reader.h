@@ -39,7 +39,7 @@ class BlockReader {
     std::FILE* file_ = nullptr;
     std::string failure_;
     std::size_t number_ = 1;  // of the next text
-    std::string carry_;       // what was read behind the last delimiter
+    std::string carry_;       // what was read after the last delimiter
 };
 
 }  // namespace kavi::tool

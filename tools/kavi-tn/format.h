@@ -34,7 +34,7 @@ class Format {
 // One format object serves one thread.
 std::unique_ptr<Format> make_format(const Options& options);
 
-// The formats, each in a room of its own.
+// The formats, each in a file of its own.
 std::unique_ptr<Format> make_text_format(Stage stage);
 std::unique_ptr<Format> make_json_format(bool explain);
 std::unique_ptr<Format> make_html_format();

@@ -115,7 +115,7 @@ int count_words(const std::string& reading) {
     return words;
 }
 
-// Marks, break time and pause behind a word, or those of the head record.
+// Marks, break time and pause after a word, or those of the head record.
 void append_what_follows(const UtteranceSyllable& record, std::string& out) {
     for (int i = 0; i < record.n_punc; ++i) {
         out += "<span class=\"mark\" title=\"" + std::string(punctuation_name(record.punc_arr[i])) +

@@ -44,7 +44,7 @@ enum ZY_type : int {
     ZY_ARTI_SYLL = 5,
 };
 
-// Punctuation marks; behind each the name by which "<punc=" tags refer to it.
+// Punctuation marks; after each the name by which "<punc=" tags refer to it.
 enum PUNC_type : int {
     PUNC_NULL_FE = 0,       // none
     PUNC_DUN_FE = 1,        // dun
@@ -71,7 +71,7 @@ enum PUNC_type : int {
 // The markup attributes of one word: NUL-terminated, at most 19 characters each, empty when the
 // attribute does not apply.
 struct CssmlTag {
-    char breaktime[20];     // of the "<breaktime=" tag behind the word
+    char breaktime[20];     // of the "<breaktime=" tag after the word
     char emphasis[20];      // of the enclosing "<emphasis=" span
     char pro_pitch[20];     // of the enclosing "<prosody=" spans, by attribute
     char pro_rate[20];      // likewise
@@ -88,7 +88,7 @@ struct UtteranceSyllable {
     char* syllable;            // the word, or null in a record that holds none
     short syl_len;             // size of its storage: length + 1
     char letter;               // a later stage's
-    PAUSE_type pause_type;     // pause behind the word
+    PAUSE_type pause_type;     // pause after the word
     PAUSE_type pause_pl_type;  // a later stage's
     PAUSE_type pausetype_ta;   // a later stage's, initialised here
     PAUSE_type pause_type_tn;  // the pause that text normalisation decided
@@ -97,9 +97,9 @@ struct UtteranceSyllable {
     char tag_str[4][8];        // a later stage's
     ZY_type zy_type;           // a later stage's
     char* zhuyin;              // zero-filled room for the pronunciation, a later stage's
-    short zy_len;              // size of that room
+    short zy_len;              // size of that storage
     int n_punc;                // entries of punc_arr in use
-    PUNC_type punc_arr[10];    // marks behind the word, in text order
+    PUNC_type punc_arr[10];    // marks after the word, in text order
     CssmlTag cssml_tag;        // markup that applies to the word
     unsigned short ui_code;    // a later stage's
     unsigned short accent;     // a later stage's

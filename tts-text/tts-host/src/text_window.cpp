@@ -8,16 +8,11 @@ namespace kavi::host {
 
 namespace {
 
-constexpr std::size_t WORD_MAX = WORD_MAX_LEN - 1;
-
 // As much as a sentence may have and come out as from the engine itself, and some more.
 constexpr std::size_t FILL_BELOW = SZ_TEXT_MAX_LEN;
 
 // A removed tag beyond this is left out of the text before the engine removes it.
 constexpr std::size_t REMOVED_TAG_MAX = 500;
-
-// The chains of names and values in the engine's builder hold this much.
-constexpr std::size_t CHAIN_MAX = tn::SAVED_TAG_MAX;
 
 bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
@@ -30,7 +25,7 @@ std::size_t tag_length(std::string_view text) {
     const tn::MarkupTag* tag = tn::find_markup_tag(text);
     const std::size_t end = tag != nullptr ? text.find('>') : std::string_view::npos;
     if (end == std::string_view::npos) return 0;
-    return tag->kind == tn::TagKind::kept && end >= tn::MARKUP_TAG_MAX ? 0 : end + 1;
+    return tag->kind == tn::TagKind::kept && end >= tn::WORD_LENGTH_MAX ? 0 : end + 1;
 }
 
 // The first character at or after `at` that the engine does not remove, or NUL.
@@ -57,10 +52,10 @@ bool is_boundary(std::string_view text, std::size_t at) {
 // The boundary nearest before `at`, else the nearest after it, as far as a word that fits goes;
 // `at` itself when the word is too long for any.
 std::size_t boundary_near(std::string_view text, std::size_t begin, std::size_t at) {
-    for (std::size_t i = at; i > begin && at - i < WORD_MAX; --i) {
+    for (std::size_t i = at; i > begin && at - i < tn::WORD_LENGTH_MAX; --i) {
         if (is_boundary(text, i)) return i;
     }
-    for (std::size_t i = at; i - begin <= WORD_MAX; ++i) {
+    for (std::size_t i = at; i - begin <= tn::WORD_LENGTH_MAX; ++i) {
         if (is_boundary(text, i)) return std::min(i, text.size());
     }
     return at;
@@ -85,7 +80,7 @@ void FedSpans::clear() {
 }
 
 bool FedSpans::chains_fit(std::string_view tag) const {
-    return std::max(names_ + name_length(tag), values_ + value_length(tag)) <= CHAIN_MAX;
+    return std::max(names_ + name_length(tag), values_ + value_length(tag)) <= tn::SPAN_CHAIN_MAX;
 }
 
 void FedSpans::open(std::string_view tag, const tn::MarkupTag* row, bool left_out) {
@@ -179,7 +174,7 @@ bool TextWindow::feed_tag() {
 }
 
 bool TextWindow::feed_kept(std::string_view tag) {
-    if (tag.size() <= tn::MARKUP_TAG_MAX) return copy(tag);
+    if (tag.size() <= tn::WORD_LENGTH_MAX) return copy(tag);
     return feed_as_text(Finding::tag_too_long, tag.find('<', 1) == std::string_view::npos);
 }
 

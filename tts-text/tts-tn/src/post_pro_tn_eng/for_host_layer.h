@@ -5,6 +5,7 @@
 
 #include "common/ascii.h"              // IWYU pragma: export
 #include "common/bounded_text.h"       // IWYU pragma: export
+#include "common/limits.h"             // IWYU pragma: export
 #include "markup/markup_tags.h"        // IWYU pragma: export
 #include "sentence/sentence_cutter.h"  // IWYU pragma: export
 #include "tokenize/dispatcher.h"       // IWYU pragma: export

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "limits.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
@@ -58,10 +59,7 @@ class Reading {
     }
 
     // Makes room for more words of the same pattern, when those so far have been copied.
-    void clear_words() {
-        text_[0] = '\0';
-        length_ = 0;
-    }
+    void clear_words() { length_ = 0; }
 
     std::string_view text() const { return {text_, length_}; }
     bool is_cut() const { return cut_; }
@@ -86,7 +84,7 @@ class Reading {
     }
 
   private:
-    static constexpr std::size_t ROOM = WORD_MAX_LEN - 1;
+    static constexpr std::size_t ROOM = WORD_LENGTH_MAX;
     static constexpr std::size_t DIGIT_RUNS_MAX = 10;  // a country code and nine groups
 
     struct DigitRun {

@@ -4,9 +4,6 @@
 
 #include <string_view>
 
-#include "PostProcTN.h"
-#include "post_pro_tn_eng.h"
-
 namespace kavi::tn {
 
 enum class TagKind {
@@ -24,11 +21,6 @@ struct MarkupTag {
 
 // Searched in this order; the first prefix that a text begins with wins.
 extern const MarkupTag MARKUP_TAGS[13];
-
-constexpr std::size_t MARKUP_TAG_MAX = WORD_MAX_LEN - 1;  // no section holds a longer tag
-constexpr std::size_t SAVED_TAG_MAX = sizeof SsmlTagArr::begin_tag_arr[0] - 1;
-constexpr int OPEN_TAGS_MAX =
-    static_cast<int>(sizeof SsmlTagArr::begin_tag_arr / sizeof SsmlTagArr::begin_tag_arr[0]);
 
 // Whether a NUL-terminated text, or a piece of one, begins with `prefix`.
 inline bool begins_with(const char* text, std::string_view prefix) {

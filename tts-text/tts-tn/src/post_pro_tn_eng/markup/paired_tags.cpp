@@ -4,11 +4,12 @@
 #include <cstring>
 #include <new>
 
+#include "../common/limits.h"
+
 namespace kavi::tn {
 
 namespace {
 
-constexpr std::size_t TAG_NAME_MAX = MEMORY_SIZE_TAG_LABEL_TN - 1;
 constexpr std::size_t OPENING = 1;  // characters before the name
 constexpr std::size_t CLOSING = 2;
 
@@ -18,7 +19,7 @@ bool is_before(std::string_view a, std::string_view b) {
     return order != 0 ? order < 0 : a.data() < b.data();
 }
 
-// How far a name goes, as far as one can; a tag ends there or has its value behind it.
+// How far a name goes, as far as one can; a tag ends there or has its value after it.
 std::size_t name_length(const char* name) {
     std::size_t length = 0;
     while (length < TAG_NAME_MAX && name[length] != '=' && name[length] != '>' &&

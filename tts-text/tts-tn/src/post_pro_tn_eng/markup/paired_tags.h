@@ -22,7 +22,7 @@ class SortedNames {
     void add(std::string_view name);  // a piece of the text; below the capacity
     void sort();
 
-    // The first of the name at `place` or behind; what follows it is the next of that name, or of
+    // The first of the name at `place` or after it; what follows it is the next of that name, or of
     // another, or the end.
     const std::string_view* find(std::string_view name, const char* place) const;
     const std::string_view* end() const { return end_; }

@@ -4,13 +4,12 @@
 
 #include <string_view>
 
+#include "../common/limits.h"
 #include "paired_tags.h"
 #include "post_pro_tn_eng.h"
 #include "tag_ends.h"
 
 namespace kavi::tn {
-
-constexpr std::size_t TAG_NAME_MAX = MEMORY_SIZE_TAG_LABEL_TN - 1;
 
 enum class TagRole {
     simple,   // ends at its ">"

@@ -12,10 +12,14 @@
 
 namespace kavi::tn {
 
-// How far the readers look: so many sections after the first of a pattern (an amount after a
-// bracket that may begin a telephone number), and so many before it.
-constexpr int SECTIONS_AHEAD = 12;
-constexpr int SECTIONS_BEHIND = 2;
+// A telephone number has at most so many sections.
+constexpr int TELEPHONE_SECTIONS_MAX = 9;
+
+// How far the readers look: so many sections after the first of a pattern (after a bracket, a
+// telephone number with the mark before it; after a "$", four groups, a suffix and cents), and so
+// many before it.
+constexpr int SECTIONS_AHEAD = TELEPHONE_SECTIONS_MAX + 1;
+constexpr int SECTIONS_BEFORE = 2;
 
 // ---- telephone: "area code ", then group by group, digit by digit ----
 bool phone_number_decide(const Section* section);

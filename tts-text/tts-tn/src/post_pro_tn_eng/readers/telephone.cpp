@@ -12,10 +12,10 @@ bool phone_number_decide(const Section* section) {
 }
 
 Section* phone_number_read(Section* section, Reading& reading) {
-    constexpr int SECTIONS_MAX = 9;
     reading.append("area code ");
     Section* last = section;
-    for (int n = 1; n <= SECTIONS_MAX && section != nullptr; ++n, section = section->m_pnext) {
+    for (int n = 1; n <= TELEPHONE_SECTIONS_MAX && section != nullptr;
+         ++n, section = section->m_pnext) {
         if (section->m_nmark != NUMBERSYMBOL && section->m_nmark != MARKSYMBOL) break;
         last = section;
         if (section->m_nmark == MARKSYMBOL) continue;

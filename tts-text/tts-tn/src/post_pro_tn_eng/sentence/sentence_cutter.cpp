@@ -140,7 +140,7 @@ bool SentenceCutter::markup() {
 }
 
 void SentenceCutter::keep(std::string_view tag) {
-    if (tag.size() > MARKUP_TAG_MAX) {
+    if (tag.size() > WORD_LENGTH_MAX) {
         mark(false);
     } else {
         copy_tag(tag);

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "../common/bounded_text.h"
+#include "../common/limits.h"
 #include "../markup/markup_tags.h"
 #include "../markup/tag_ends.h"
 #include "PostProcTN.h"

@@ -15,7 +15,7 @@ namespace {
 
 std::string_view first_word(const char* text, const char* text_end) {
     const auto length = static_cast<std::size_t>(skip_letters(text, text_end) - text);
-    return {text, std::min(length, SECTION_TEXT_MAX)};
+    return {text, std::min(length, WORD_LENGTH_MAX)};
 }
 
 // Whether a number may stand so near after a word that it is read with regard to it: there is at

@@ -16,7 +16,7 @@ int class_of(char first) {
 
 std::string_view first_run(Run run, const char* text) {
     std::size_t length = 0;
-    while (length < SECTION_TEXT_MAX && belongs_to(run, text[length])) ++length;
+    while (length < WORD_LENGTH_MAX && belongs_to(run, text[length])) ++length;
     return {text, length};
 }
 
@@ -27,7 +27,7 @@ std::string_view first_section(const char* text, TagEnds& tag_ends) {
     if (belongs_to(DIGITS, *text)) return first_run(DIGITS, text);
     if (*text == '<' && begins_sentence_tag(text)) {
         const std::string_view tag = tag_ends.tag_at(text);
-        if (!tag.empty() && tag.size() <= SECTION_TEXT_MAX) return tag;
+        if (!tag.empty() && tag.size() <= WORD_LENGTH_MAX) return tag;
     }
     return {text, 1};
 }

@@ -4,12 +4,11 @@
 
 #include <string_view>
 
+#include "../common/limits.h"
 #include "../markup/tag_ends.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
-
-constexpr std::size_t SECTION_TEXT_MAX = WORD_MAX_LEN - 1;
 
 // The first section of a text that is not empty: a run of letters or digits, a tag, or one byte.
 // `tag_ends` serves one pass over the text.

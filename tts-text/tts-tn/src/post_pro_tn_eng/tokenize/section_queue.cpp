@@ -30,7 +30,7 @@ bool append_section(std::string_view text, Section*& head, Section*& tail, mem_s
 
 int PostProTnEng::add_section(char* sz_source, Section*& p_section) {
     if (*sz_source == '\0') return 0;
-    const std::size_t length = std::min(std::strlen(sz_source), tn::SECTION_TEXT_MAX);
+    const std::size_t length = std::min(std::strlen(sz_source), tn::WORD_LENGTH_MAX);
     Section* tail = last_of(p_section);
     return append_section({sz_source, length}, p_section, tail, _mem_handle) ? 0 : -1;
 }

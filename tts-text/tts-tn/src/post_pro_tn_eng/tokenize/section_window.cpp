@@ -27,9 +27,8 @@ Section* SectionWindow::begin(const char* text) {
 }
 
 Section* SectionWindow::after(const Section* last) {
-    Section* next = last->m_pnext;
-    if (next != nullptr && !complete_) fill(index_of(next) + 1 + SECTIONS_AHEAD);
-    return next;
+    if (!complete_) fill(index_of(last) + 2 + SECTIONS_AHEAD);
+    return last->m_pnext;
 }
 
 // Which of all sections appended a section of the ring is, from 0.

@@ -59,7 +59,7 @@ class SectionWindow {
         std::size_t length;
     };
 
-    static constexpr std::size_t CAPACITY = SECTIONS_BEHIND + 1 + SECTIONS_AHEAD;
+    static constexpr std::size_t CAPACITY = SECTIONS_BEFORE + 1 + SECTIONS_AHEAD;
 
     void append();
     void fill(std::size_t n_wanted);

@@ -47,7 +47,7 @@ bool Scanner::step() {
 
 // Whether the word is complete now.
 bool Scanner::advance() {
-    if (word_length_ == WORD_MAX_LEN - 1) return true;
+    if (word_length_ == static_cast<int>(WORD_LENGTH_MAX)) return true;
     const char c = *at_;
     if (c == ' ') {
         ++at_;

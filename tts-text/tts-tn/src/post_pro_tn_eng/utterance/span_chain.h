@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "../common/limits.h"
 #include "ShareObj.h"
 
 namespace kavi::tn {
@@ -25,7 +26,7 @@ class SpanChain {
     const CssmlTag& markup() const { return markup_; }
 
   private:
-    static constexpr int SIZE = 200;
+    static constexpr int SIZE = static_cast<int>(SPAN_CHAIN_MAX) + 1;
 
     void work_out_markup();
 

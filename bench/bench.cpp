@@ -4,6 +4,8 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <set>
+
 #include "calls.h"
 #include "corpus.h"
 #include "peers.h"
@@ -88,8 +90,7 @@ void add_ordinary(const Kind& kind) {
     if (espeak_phonemes("word") > 0) add(name + "/espeak-ng", prepared.raw, espeak_phonemes);
 }
 
-// The longest sentence of the kind whose reading fits: one that does not is given up half-way,
-// which costs less.
+// The longest sentence of the kind whose reading fits. One that does not is given up half-way.
 std::size_t longest(const Kind& kind) {
     for (std::size_t length = SZ_TEXT_MAX_LEN - 1;; length -= 64) {
         const Prepared prepared = prepare({kind.sentence(length, 1)});
@@ -97,10 +98,12 @@ std::size_t longest(const Kind& kind) {
     }
 }
 
-// One sentence of each length through all calls; as a whole megabyte straight into the builder.
+// One sentence of each length, fitting or not, through all calls; as a whole megabyte straight into
+// the builder.
 void add_lengths(const Kind& kind) {
-    for (const std::size_t length :
-         {std::size_t{64}, std::size_t{256}, std::size_t{1024}, longest(kind)}) {
+    const std::size_t fitting = longest(kind);
+    std::set<std::size_t> lengths = {64, 256, 1024, fitting, SZ_TEXT_MAX_LEN - 1};
+    for (const std::size_t length : lengths) {
         add(std::string(kind.name) + "/length/" + std::to_string(length),
             {kind.sentence(length, 1)}, read_all);
     }

@@ -36,9 +36,21 @@ const char* const TAGS[][2] = {
 // ---- news-like: who, what, and in every second sentence a number of some kind ----
 
 const char* const NAMES[] = {
-    "NASA",        "The BBC",      "Dr. Miller",   "President Ortega", "Lisbon's mayor",
-    "The council", "Anna Schmidt", "The UN",       "IBM",              "A spokesman for Shell",
-    "Mrs. Clarke", "Paris",        "The minister", "Jan. Weber",       "Toyota",
+    "NASA",
+    "The BBC",
+    "Dr. Miller",
+    "President Ortega",
+    "Lisbon's mayor",
+    "The council",
+    "Anna Schmidt",
+    "The UN",
+    "IBM",
+    "A spokesman for Shell",
+    "Mrs. Clarke",
+    "Paris",
+    "The minister",
+    "Jan. Weber",
+    "Toyota",
 };
 const char* const ACTIONS[] = {
     "said it's too early to tell",
@@ -52,10 +64,21 @@ const char* const ACTIONS[] = {
     "lost the match (after a long break)",
 };
 const char* const FIGURES[] = {
-    "at 10:30 on Friday",       "by 12.5% in May",         "for $1,250",     "on 3/11/2024",
-    "in 2019",                  "for the 21st time",       "after 45 days",  "on 7 Sept",
-    "with 12,000 people there", "at $3.50 a share",        "by 3/4",         "since 1987",
-    "in 30 of 120 towns",       "for 1,234,567 residents", "on May 5",
+    "at 10:30 on Friday",
+    "by 12.5% in May",
+    "for $1,250",
+    "on 3/11/2024",
+    "in 2019",
+    "for the 21st time",
+    "after 45 days",
+    "on 7 Sept",
+    "with 12,000 people there",
+    "at $3.50 a share",
+    "by 3/4",
+    "since 1987",
+    "in 30 of 120 towns",
+    "for 1,234,567 residents",
+    "on May 5",
 };
 const char* const ENDS[] = {". ", ". ", ". ", ", ", "? ", "! ", "; "};
 
@@ -160,6 +183,10 @@ const std::vector<Kind> WORST = {
     {"unpaired",
      [](std::size_t bytes, unsigned) {
          return repeated("<py=>a ", bytes / 3 * 2) + repeated("</py>", bytes / 3);
+     }},
+    {"too-long",  // for the output: marks that grow, then words
+     [](std::size_t bytes, unsigned) {
+         return repeated("\"", bytes / 170) + repeated("a ", bytes - bytes / 170);
      }},
     {"near-misses", [](std::size_t bytes, unsigned) { return repeated("1.1 Dt. ", bytes); }},
 };

@@ -231,7 +231,12 @@ TEST(Host, HandlersMayBeEmptyThrowOrCallAgain) {
     const auto fails = [](const auto&) { throw std::runtime_error("handler"); };
     EXPECT_THROW(host.read("a. b", fails, nullptr), std::runtime_error);
     EXPECT_THROW(host.read("<poem=p>a</prosody>. b", nullptr, fails), std::runtime_error);
-    EXPECT_EQ(read_by_layer(host, "c.").records, (std::vector<std::string>{"|c+ju!"}));
+    EXPECT_THROW(host.read("a. b</poem> <poem=q>c</poem></poem>", fails, nullptr),
+                 std::runtime_error);
+    const ReadText next = read_by_layer(host, "c</prosody>.");
+    EXPECT_EQ(next.records, (std::vector<std::string>{"|c+ju!"}));
+    ASSERT_EQ(next.diagnostics.size(), 1U);
+    EXPECT_EQ(next.diagnostics[0].offset, 1U);
 }
 
 TEST(Host, CutsAnywhereLoseNoWord) {

@@ -64,6 +64,12 @@ expect 'a page' "$(wc -l <single)" "$("$tool" --format html corpus 2>/dev/null |
 # Whole lines when it is interrupted; a clear end when nobody reads on; bounded memory.
 (while cat "$sample"; do :; done) 2>/dev/null | timeout -s INT 1 "$tool" -j 2 >cut 2>/dev/null
 expect 'an interrupt leaves whole lines' 0 "$(tail -c 1 cut | od -An -c | tr -d ' ' | grep -vc '\\n')"
+for signal in INT TERM; do
+    mkfifo pipe && { "$tool" pipe >/dev/null & } && exec 3>pipe && echo a >&3
+    sleep 0.3 && kill -$signal $! && { wait $!; ended=$?; }
+    exec 3>&- && rm pipe
+    expect "the exit status of an interrupt by $signal" 130 "$ended"
+done
 "$tool" corpus 2>err | head -n 1 >/dev/null
 expect 'a closed pipe' 'kavi-tn: cannot write: Broken pipe' "$(cat err)"
 limited() { (ulimit -v 600000; "$@"); }

@@ -75,6 +75,23 @@ TEST_F(Refusal, TheTokenizerNeedsNoArena) {
     EXPECT_EQ(arena.requests, 0);
 }
 
+TEST_F(Refusal, OfAWordInASpanLeavesTheNumberOfThoseStored) {
+    engine.init(&arena);
+    arena.first_refused = arena.last_refused = 6;  // the first block of the fourth word
+    std::vector<UtteranceSyllable> utt(6);
+    char span[] = "a b <poem=p>c d</poem> e";
+    int n = 1;
+    EXPECT_FALSE(engine.insert_ssml_info(n, utt.data(), "s", span, "emphasis"));
+    EXPECT_EQ(n, 4);
+    EXPECT_EQ(to_text(utt.data(), n), "|a(emphasis=s)|b(emphasis=s)|c(emphasis=s poem=p)");
+    EXPECT_EQ(utt[4].syllable, nullptr);
+    for (int i = 1; i < n; ++i) {
+        mem_stack_release_buf(utt[i].syllable, 0, MEM_COMMON, &arena);
+        mem_stack_release_buf(utt[i].zhuyin, 0, MEM_COMMON, &arena);
+    }
+    EXPECT_TRUE(arena.in_use.empty());
+}
+
 // On blocks with exact bounds, from sources with a byte in front of them that is no NUL.
 TEST_F(Refusal, RecordsAndAttributesKeepToTheirBounds) {
     engine.init(&arena);

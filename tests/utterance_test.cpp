@@ -95,6 +95,17 @@ TEST_F(Utterance, AttributesOneByOne) {
     EXPECT_EQ(n, 1);
     EXPECT_FALSE(engine.insert_ssml_info_in(1, utt, "a\tb\tc", "poem\tother\temphasis"));
     EXPECT_TRUE(engine.insert_ssml_info_in(1, utt, "", ""));
+    // A chain without names has its tab all the same.
+    UtteranceSyllable two[3] = {};
+    char nested[] = "a <emphasis=strong>b</emphasis>";
+    n = 1;
+    EXPECT_TRUE(engine.insert_ssml_info(n, two, "v", nested, ""));
+    EXPECT_EQ(to_text(two, n), "|a|b(emphasis=v)");
+    for (int i = 1; i < n; ++i) {
+        mem_stack_release_buf(two[i].syllable, 0, MEM_COMMON, arena);
+        mem_stack_release_buf(two[i].zhuyin, 0, MEM_COMMON, arena);
+    }
+    n = 1;
     EXPECT_EQ(to_text(utt[0]), "(breaktime=5 emphasis=e rate=1 poem=a effect=0123456789)");
 }
 

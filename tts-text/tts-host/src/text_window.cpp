@@ -61,10 +61,6 @@ std::size_t boundary_near(std::string_view text, std::size_t begin, std::size_t 
     return at;
 }
 
-std::size_t name_length(std::string_view tag) {
-    return tag.find('=') - 1;
-}
-
 std::size_t value_length(std::string_view tag) {
     return tag.size() - tag.find('=') - 2;
 }
@@ -75,12 +71,12 @@ std::size_t value_length(std::string_view tag) {
 
 void FedSpans::clear() {
     spans_.clear();
-    deeper_ = names_ = values_ = 0;
+    deeper_ = values_ = 0;
     n_open_ = 0;
 }
 
-bool FedSpans::chains_fit(std::string_view tag) const {
-    return std::max(names_ + name_length(tag), values_ + value_length(tag)) <= tn::SPAN_CHAIN_MAX;
+bool FedSpans::value_fits(std::string_view tag) const {
+    return values_ + value_length(tag) <= tn::SPAN_CHAIN_MAX;
 }
 
 void FedSpans::open(std::string_view tag, const tn::MarkupTag* row, bool left_out) {
@@ -88,10 +84,9 @@ void FedSpans::open(std::string_view tag, const tn::MarkupTag* row, bool left_ou
         ++deeper_;
         return;
     }
-    spans_.push_back({row, name_length(tag) + 1, value_length(tag) + 1, left_out});
+    spans_.push_back({row, value_length(tag) + 1, left_out});
     if (left_out) return;
     ++n_open_;
-    names_ += spans_.back().name_length;
     values_ += spans_.back().value_length;
 }
 
@@ -107,7 +102,6 @@ void FedSpans::close_innermost() {
     const Span& innermost = spans_.back();
     if (!innermost.left_out) {
         --n_open_;
-        names_ -= innermost.name_length;
         values_ -= innermost.value_length;
     }
     spans_.pop_back();
@@ -133,7 +127,6 @@ bool TextWindow::fill(bool& moved) {
         begin_ = 0;
         while (!holds_rest() && room() > 0 && feed()) {
         }
-        buffer_[end_] = '\0';
     }
     return length() > prefix_;
 }
@@ -210,7 +203,7 @@ bool TextWindow::ends_in_tag_beginning() const {
 // A tag that is left out takes its closing tag with it.
 bool TextWindow::feed_opening(std::string_view tag, const tn::MarkupTag* row) {
     const bool too_long = tag.size() > tn::SAVED_TAG_MAX;
-    const bool left_out = too_long || !spans_.has_room() || !spans_.chains_fit(tag);
+    const bool left_out = too_long || !spans_.has_room() || !spans_.value_fits(tag);
     if (left_out) {
         report(too_long            ? Finding::tag_too_long
                : spans_.has_room() ? Finding::too_much_open_markup

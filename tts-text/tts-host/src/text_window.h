@@ -18,12 +18,12 @@ class FedSpans {
   public:
     void clear();
 
-    // Whether the engine's record and the builder's chains have room for one more. What stands
-    // inside of the deepest is left out with it.
+    // Whether the engine's record has room for one more, and the builder's chain for its value:
+    // ten names are never too long. What stands inside of the deepest is left out with it.
     bool has_room() const {
         return n_open_ < tn::OPEN_TAGS_MAX && deeper_ == 0 && spans_.size() < SPANS_MAX;
     }
-    bool chains_fit(std::string_view tag) const;
+    bool value_fits(std::string_view tag) const;
 
     void open(std::string_view tag, const tn::MarkupTag* row, bool left_out);
 
@@ -39,7 +39,6 @@ class FedSpans {
   private:
     struct Span {
         const tn::MarkupTag* row;
-        std::size_t name_length;
         std::size_t value_length;
         bool left_out;
     };
@@ -49,8 +48,7 @@ class FedSpans {
     std::vector<Span> spans_;  // outermost first
     std::size_t deeper_ = 0;   // left out, inside these
     int n_open_ = 0;           // not left out
-    std::size_t names_ = 0;    // of these, the lengths of names and values with a tab after each
-    std::size_t values_ = 0;
+    std::size_t values_ = 0;   // of these, the lengths of the values with a tab after each
 };
 
 // Feeds a text of any length through a buffer: the opening tags of the spans that are open, then
@@ -64,7 +62,7 @@ class TextWindow {
     // `moved` tells whether what is left stands elsewhere now.
     bool fill(bool& moved);
 
-    // What is to be read next, with a NUL after it, and its length.
+    // What is to be read next, with one byte after it that may be written, and its length.
     char* text() { return buffer_ + begin_; }
     std::size_t length() const { return end_ - begin_; }
 

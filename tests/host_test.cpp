@@ -254,6 +254,13 @@ TEST(Host, CutsAnywhereLoseNoWord) {
         text.insert(0, std::string(3000, 'a') + " ");
         EXPECT_EQ(words_of(text + "b ").back(), "b") << before;
     }
+    // The same after so much that is silent that the sentence itself is short.
+    std::string silent;
+    while (silent.size() < 16330) silent += "<pause=1>";
+    for (std::size_t before = 0; before < 50; ++before) {
+        const std::string text = silent + std::string(before, ' ') + "dog<orgLen=3>gy b";
+        EXPECT_EQ(words_of(text), (std::vector<std::string>{"doggy", "b"})) << before;
+    }
     // Without a blank: between words, between numbers, after a character of several bytes, after
     // a tag; and where there is no such place, within the word.
     for (const std::string piece : {"wordword-", "1234567,", "\xc3\xa9\xe2\x82\xac",

@@ -18,38 +18,15 @@ status() { "$@" >/dev/null 2>&1; echo $?; }
 expect 'text' 'I have  two  cats <punc=ju>' "$("$tool" -t 'I have 2 cats.')"
 expect 'standard input' 'a <punc=ju>|b' "$(printf 'a.\nb' | "$tool" | paste -sd'|')"
 expect 'files in order' 'a|b|c' "$(echo a >1; echo c >3; echo b | "$tool" 1 - 3 | paste -sd'|')"
-expect 'sentences' 'doctor  X.' "$("$tool" --sentences -t 'Dr. X.')"
-expect 'words' 'word  pause                      marks  break  attributes|a     intonation phrase, forced  dou           poem=p' \
-    "$("$tool" --words -t '<poem=p>a,</poem>' | sed -n 1,2p | paste -sd'|')"
 expect 'NUL-separated texts' 'a b|c' "$(printf 'a\nb\0c' | "$tool" -0 | sed 's/  */ /g' | paste -sd'|')"
-expect 'explain' '  [5][.][5]  decimal   five  point five' "$("$tool" --explain -t '5.5' | sed -n 2p)"
 expect 'an output file' 'a' "$("$tool" -t a -o out && cat out)"
 expect 'an unreadable file, others written' $'a\na\n1' \
     "$(echo a >in; "$tool" in missing in 2>/dev/null; echo $?)"
-expect 'its message' 'kavi-tn: missing: cannot be read: No such file or directory' "$("$tool" missing 2>&1)"
-expect 'a directory' 1 "$(status "$tool" .)"
 expect 'wrong usage' 2 "$(status "$tool" --bad)"
 expect 'two stages' 2 "$(status "$tool" --words --sentences -t a)"
 expect 'help' 0 "$(status "$tool" --help)"
-expect 'file and line of a finding' 'in:2:2: this closing tag closes nothing; it is left out' \
-    "$(printf 'x\na</poem>\n' >in; "$tool" in 2>&1 >/dev/null)"
 expect 'a full disk' 'kavi-tn: cannot write: No space left on device' "$("$tool" -t a 2>&1 >/dev/full)"
 expect 'its exit status' 1 "$("$tool" -t a >/dev/full 2>/dev/null; echo $?)"
-
-# JSON Lines: valid whatever the bytes; sources tile the text.
-printf 'One. \xff\xfe two <emphasis=strong>three, "4"</emphasis>\n12345678901234\n' >bytes
-expect 'JSON' 'ok' "$("$tool" --format jsonl --explain bytes 2>/dev/null | python3 -c '
-import json, sys
-rows = [json.loads(line) for line in sys.stdin]
-first = [r for r in rows if r["line"] == 1]
-assert [r["sentence"] for r in first] == [1, 2, 3], first
-assert [r["offset"] for r in first[1:]] == [r["offset"] + r["length"] for r in first[:-1]]
-assert "UTF-8" in first[1]["diagnostics"][0]["message"]
-assert first[1]["words"][1]["emphasis"] == "strong"
-assert first[1]["words"][1]["pause"] == "PAUSE_INTONATION_PHRASE_FORCE_FE"
-assert "four groups" in rows[-1]["diagnostics"][0]["message"]
-assert rows[-1]["runs"][0]["rule"] == "cardinal"
-print("ok")')"
 
 # The output is the same bytes for every number of threads, and under GNU parallel.
 for i in $(seq 3000); do sed "s/paid/paid $i/" "$sample"; done >corpus

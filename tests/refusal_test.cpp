@@ -85,10 +85,7 @@ TEST_F(Refusal, OfAWordInASpanLeavesTheNumberOfThoseStored) {
     EXPECT_EQ(n, 4);
     EXPECT_EQ(to_text(utt.data(), n), "|a(emphasis=s)|b(emphasis=s)|c(emphasis=s poem=p)");
     EXPECT_EQ(utt[4].syllable, nullptr);
-    for (int i = 1; i < n; ++i) {
-        mem_stack_release_buf(utt[i].syllable, 0, MEM_COMMON, &arena);
-        mem_stack_release_buf(utt[i].zhuyin, 0, MEM_COMMON, &arena);
-    }
+    release_words(utt.data(), 1, n, &arena);
     EXPECT_TRUE(arena.in_use.empty());
 }
 
@@ -102,6 +99,13 @@ TEST_F(Refusal, RecordsAndAttributesKeepToTheirBounds) {
         EXPECT_TRUE(engine.insert_syllable(1, utt.data(), text));
         EXPECT_EQ(utt[1].syllable, source.substr(1));
         EXPECT_EQ(utt[1].syl_len, static_cast<short>(length + 1U));
+        const std::size_t zhuyin = std::max<std::size_t>(10 * length, 128);
+        EXPECT_EQ(utt[1].zy_len, static_cast<short>(zhuyin));
+        EXPECT_EQ(std::string(utt[1].zhuyin, zhuyin), std::string(zhuyin, '\0'));
+        EXPECT_EQ(utt[1].pause_type, PAUSE_WORD_FE);
+        EXPECT_EQ(utt[1].pausetype_ta, PAUSE_WORD_FE);
+        EXPECT_EQ(utt[1].pause_type_tn, PAUSE_WORD_FE);
+        EXPECT_EQ(utt[1].pause_pl_type, PAUSE_SYLLABLE_FE);
         const std::string field = source.substr(1, 19);
         EXPECT_TRUE(engine.insert_breaktime(2, utt.data(), text));
         EXPECT_TRUE(engine.insert_emphasis_in(2, utt.data(), text));
@@ -120,9 +124,7 @@ TEST_F(Refusal, RecordsAndAttributesKeepToTheirBounds) {
         EXPECT_TRUE(engine.insert_emphasis_in(2, utt.data(), ""));
         EXPECT_EQ(std::string(utt[1].cssml_tag.poem, 20), "p" + std::string(19, '\0'));
         EXPECT_EQ(std::string(utt[1].cssml_tag.emphasis, 20), std::string(20, '\0'));
-        mem_stack_release_buf(utt[1].syllable, length + 1, MEM_COMMON, &arena);
-        mem_stack_release_buf(utt[1].zhuyin, static_cast<std::size_t>(utt[1].zy_len), MEM_COMMON,
-                              &arena);
+        release_words(utt.data(), 1, 2, &arena);
     }
     EXPECT_TRUE(arena.in_use.empty());
 }

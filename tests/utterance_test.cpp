@@ -39,30 +39,13 @@ TEST_F(Utterance, AsInTheTables) {
     }
 }
 
-TEST_F(Utterance, RecordsAreSizedAndInitialised) {
+TEST_F(Utterance, AWordWithoutStorageLeavesNothing) {
     char buffer[] = "";
-    UtteranceSyllable utt[3] = {};
-    for (const auto& [length, zhuyin] :
-         std::vector<std::pair<std::size_t, int>>{{0, 128}, {12, 128}, {13, 130}, {499, 4990}}) {
-        const std::string word(length, 'w');
-        ASSERT_TRUE(engine.insert_syllable(1, utt, word.c_str()));
-        EXPECT_EQ(utt[1].syllable, word);
-        EXPECT_EQ(utt[1].syl_len, static_cast<short>(length + 1));
-        EXPECT_EQ(utt[1].zy_len, zhuyin);
-        EXPECT_EQ(std::string(utt[1].zhuyin, static_cast<std::size_t>(zhuyin)),
-                  std::string(static_cast<std::size_t>(zhuyin), '\0'));
-        EXPECT_EQ(utt[1].pause_type, PAUSE_WORD_FE);
-        EXPECT_EQ(utt[1].pausetype_ta, PAUSE_WORD_FE);
-        EXPECT_EQ(utt[1].pause_type_tn, PAUSE_WORD_FE);
-        EXPECT_EQ(utt[1].pause_pl_type, PAUSE_SYLLABLE_FE);
-        mem_stack_release_buf(utt[1].syllable, 0, MEM_COMMON, arena);
-        mem_stack_release_buf(utt[1].zhuyin, 0, MEM_COMMON, arena);
-    }
-    engine.init(nullptr);
+    UtteranceSyllable utt[2] = {};
     utt[1].syllable = buffer;
+    engine.init(nullptr);
     EXPECT_FALSE(engine.insert_syllable(1, utt, "word"));
     EXPECT_EQ(utt[1].syllable, nullptr);
-    engine.init(arena);
     EXPECT_TRUE((engine.*Peer::insert_punc)(1, utt, buffer));
     EXPECT_EQ(utt[0].n_punc, 1);
 }
@@ -101,11 +84,7 @@ TEST_F(Utterance, AttributesOneByOne) {
     n = 1;
     EXPECT_TRUE(engine.insert_ssml_info(n, two, "v", nested, ""));
     EXPECT_EQ(to_text(two, n), "|a|b(emphasis=v)");
-    for (int i = 1; i < n; ++i) {
-        mem_stack_release_buf(two[i].syllable, 0, MEM_COMMON, arena);
-        mem_stack_release_buf(two[i].zhuyin, 0, MEM_COMMON, arena);
-    }
-    n = 1;
+    release_words(two, 1, n, arena);
     EXPECT_EQ(to_text(utt[0]), "(breaktime=5 emphasis=e rate=1 poem=a effect=0123456789)");
 }
 
@@ -114,10 +93,7 @@ TEST_F(Utterance, ASpanIsStoredFromTheNextRecordOn) {
     int n_utt = 0;
     char four[] = "x y z w";
     EXPECT_EQ(engine.eng_text_to_utterance_syllable(four, utt, n_utt), 0);
-    for (int i : {2, 3}) {
-        mem_stack_release_buf(utt[i].syllable, 0, MEM_COMMON, arena);
-        mem_stack_release_buf(utt[i].zhuyin, 0, MEM_COMMON, arena);
-    }
+    release_words(utt, 2, 4, arena);
     int n = 2;
     char words[] = "a <poem=q>b</poem>";
     EXPECT_TRUE(engine.insert_ssml_info(n, utt, "p", words, "emphasis"));

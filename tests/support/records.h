@@ -6,42 +6,16 @@
 
 #include "MemoryStack.h"
 #include "ShareObj.h"
+#include "names.h"
 
 namespace kavi {
-
-// As in "<punc=" tags; "?" for no mark.
-inline const char* mark_name(PUNC_type punc) {
-    switch (punc) {
-        case PUNC_DUN_FE: return "dun";
-        case PUNC_DOU_FE: return "dou";
-        case PUNC_FEN_FE: return "fen";
-        case PUNC_JU_FE: return "ju";
-        case PUNC_WEN_FE: return "wen";
-        case PUNC_TAN_FE: return "tan";
-        case PUNC_MAO_FE: return "mao";
-        case PUNC_ZUOSHU_FE: return "zuoshu";
-        case PUNC_YOUSHU_FE: return "youshu";
-        case PUNC_ZUOYIN_FE: return "zuoyin";
-        case PUNC_YOUYIN_FE: return "youyin";
-        case PUNC_ZUOKUO_FE: return "zuokuo";
-        case PUNC_YOUKUO_FE: return "youkuo";
-        case PUNC_SHENGLUE_FE: return "shenglue";
-        case PUNC_POZHE_FE: return "pozhe";
-        case TN_BEGIN_FE: return "tnbegin";
-        case TN_END_FE: return "tnend";
-        case POIB_FE: return "POIB";
-        case POIE_FE: return "POIE";
-        case PUNC_NULL_FE: break;
-    }
-    return "?";
-}
 
 // "word+dou+ju!" is a word with two marks and a forced pause, then "(emphasis=strong rate=2)" what
 // markup gives it. The head record has no word.
 inline std::string to_text(const UtteranceSyllable& record) {
     std::string text = record.syllable != nullptr ? record.syllable : "";
     for (int i = 0; i < record.n_punc; ++i)
-        text += std::string("+") + mark_name(record.punc_arr[i]);
+        text += std::string("+") + tool::punctuation_name(record.punc_arr[i]);
     if (record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE) text += "!";
     if (record.pause_type != record.pause_type_tn) text += "?";
     const CssmlTag& tag = record.cssml_tag;
@@ -63,14 +37,18 @@ inline std::string to_text(const UtteranceSyllable* utt, int n_utt) {
     return text;
 }
 
-// What a host does with an utterance that it has read.
-inline void release(UtteranceSyllable* utt, int n_utt, mem_stack_handle arena) {
-    for (int i = 0; i < n_utt; ++i) {
+inline void release_words(UtteranceSyllable* utt, int begin, int end, mem_stack_handle arena) {
+    for (int i = begin; i < end; ++i) {
         mem_stack_release_buf(utt[i].syllable, static_cast<std::size_t>(utt[i].syl_len), MEM_COMMON,
                               arena);
         mem_stack_release_buf(utt[i].zhuyin, static_cast<std::size_t>(utt[i].zy_len), MEM_COMMON,
                               arena);
     }
+}
+
+// What a host does with an utterance that it has read.
+inline void release(UtteranceSyllable* utt, int n_utt, mem_stack_handle arena) {
+    release_words(utt, 0, n_utt, arena);
     mem_stack_release_buf(utt, static_cast<std::size_t>(n_utt) * sizeof(UtteranceSyllable),
                           MEM_COMMON, arena);
 }

@@ -11,7 +11,33 @@
 namespace kavi::tool {
 
 const char* enumerator(PAUSE_type pause);
-const char* punctuation_name(PUNC_type punc);  // as in "<punc=" tags; "unknown" for no mark
+
+// As in "<punc=" tags; "unknown" for no mark.
+inline const char* punctuation_name(PUNC_type punc) {
+    switch (punc) {
+        case PUNC_DUN_FE: return "dun";
+        case PUNC_DOU_FE: return "dou";
+        case PUNC_FEN_FE: return "fen";
+        case PUNC_JU_FE: return "ju";
+        case PUNC_WEN_FE: return "wen";
+        case PUNC_TAN_FE: return "tan";
+        case PUNC_MAO_FE: return "mao";
+        case PUNC_ZUOSHU_FE: return "zuoshu";
+        case PUNC_YOUSHU_FE: return "youshu";
+        case PUNC_ZUOYIN_FE: return "zuoyin";
+        case PUNC_YOUYIN_FE: return "youyin";
+        case PUNC_ZUOKUO_FE: return "zuokuo";
+        case PUNC_YOUKUO_FE: return "youkuo";
+        case PUNC_SHENGLUE_FE: return "shenglue";
+        case PUNC_POZHE_FE: return "pozhe";
+        case TN_BEGIN_FE: return "tnbegin";
+        case TN_END_FE: return "tnend";
+        case POIB_FE: return "POIB";
+        case POIE_FE: return "POIE";
+        case PUNC_NULL_FE: break;
+    }
+    return "unknown";
+}
 
 // Attribute names and values of a word, break time aside, in the record's order; empty values are
 // attributes that are not set.

@@ -1,5 +1,5 @@
-// The host's bounded string services. The engine calls safe_strncat; a host with services of its own
-// need not define tts_snprintf for it.
+// The host's bounded string services. The engine calls safe_strncat; a host with services of its
+// own need not define tts_snprintf for it.
 #ifndef KAVI_TTS_STRING_H
 #define KAVI_TTS_STRING_H
 

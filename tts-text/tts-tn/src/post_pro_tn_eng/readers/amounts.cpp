@@ -11,7 +11,7 @@ bool fraction_decide(Section* number) {
 }
 
 Section* fraction_number(Section* number, Reading& reading) {
-    Section* below = ahead(number, 2);
+    Section* below = number->m_pnext->m_pnext;
     append_number(number->sz_char, reading);
     reading.append(" over ");
     append_number(below->sz_char, reading);
@@ -24,7 +24,7 @@ bool decimal_decide(Section* number) {
 }
 
 Section* decimal_number(Section* number, Reading& reading) {
-    Section* decimals = ahead(number, 2);
+    Section* decimals = number->m_pnext->m_pnext;
     append_number(number->sz_char, reading);
     reading.append(" point ");
     append_each_digit(decimals->sz_char, reading);

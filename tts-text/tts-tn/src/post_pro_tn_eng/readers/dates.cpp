@@ -35,13 +35,14 @@ bool data_decide(Section* day) {
 }
 
 Section* data_number(Section* day, Reading& reading) {
-    Section* year = ahead(day, 4);
+    const Section* month = day->m_pnext->m_pnext;
+    Section* year = month->m_pnext->m_pnext;
     reading.append(" the ");
     append_ordinal(day->sz_char, reading);
     reading.append(" of ");
-    append_month(ahead(day, 2), reading);
+    append_month(month, reading);
     reading.append(" ");
-    if (is_number(year)) {
+    if (year->m_nmark == NUMBERSYMBOL) {
         year_read(year->sz_char, reading);
     } else {
         append_month(year, reading);

@@ -1,5 +1,6 @@
 // Numbers with thousands separators, and ordinals with their suffix.
 
+#include <cassert>
 #include <cstring>
 
 #include "../markup/markup_tags.h"
@@ -59,6 +60,7 @@ Section* str_number(Section* number, Reading& reading) {
     const NumberForm form = number_form(number);
     Section* group = number;
     for (std::size_t n = form.groups_after; n > 0; --n) {
+        assert(group != nullptr);  // number_form has seen it
         append_cardinal(group->sz_char, reading);
         Section* next_group = ahead(group, 2);
         const bool is_whole =

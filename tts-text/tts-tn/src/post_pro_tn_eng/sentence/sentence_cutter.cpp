@@ -124,7 +124,7 @@ bool SentenceCutter::expand_abbreviation() {
 bool SentenceCutter::markup() {
     const MarkupTag* tag = find_markup_tag(next_);
     const std::string_view text = tag != nullptr ? tag_ends_.tag_at(next_) : std::string_view();
-    if (text.empty()) {
+    if (tag == nullptr || text.empty()) {
         mark(false);
         return true;
     }

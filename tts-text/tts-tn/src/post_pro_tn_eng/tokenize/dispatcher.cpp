@@ -1,5 +1,7 @@
 #include "dispatcher.h"
 
+#include <cassert>
+
 #include "../markup/markup_tags.h"
 #include "../numbers/number_words.h"
 #include "../readers/months.h"
@@ -181,6 +183,7 @@ Section* SectionDispatcher::mark() {
                 break;
         }
         words = row->otherwise;
+        assert(words != READER);
     }
     append(words);
     if (row->spaced && outcome_ == Outcome::go_on) append(" ");

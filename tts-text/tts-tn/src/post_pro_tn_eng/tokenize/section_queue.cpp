@@ -19,7 +19,8 @@ Section* last_of(Section* section) {
 bool append_section(std::string_view text, Section*& head, Section*& tail, mem_stack_handle arena) {
     void* memory = mem_stack_request_buf(sizeof(Section), MEM_COMMON, arena);
     if (memory == nullptr) return false;
-    auto* section = new (memory) Section{};
+    auto* section = new (memory) Section;
+    *section = {};
     tn::set_section(*section, text);
     if (head == nullptr) head = section;
     tn::link_section(*section, tail);

@@ -13,8 +13,6 @@ namespace kavi::tn {
 // characters.
 class SpanChain {
   public:
-    SpanChain() {}  // nothing, until one of these:
-
     // A chain as a host gives it. False when one of the lists is too long.
     bool assign(const char* names, const char* values);
 
@@ -30,9 +28,9 @@ class SpanChain {
 
     void work_out_markup();
 
-    char names_[SIZE];
-    char values_[SIZE];
-    CssmlTag markup_;
+    char names_[SIZE] = {};
+    char values_[SIZE] = {};
+    CssmlTag markup_ = {};
 };
 
 // Sets the attributes that a chain gives. False at the first pair that cannot be applied, those

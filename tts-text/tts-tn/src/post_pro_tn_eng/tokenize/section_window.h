@@ -20,6 +20,7 @@ class SectionWindow {
     };
 
     // A NUL follows the text. `tag_ends` serves one pass over it.
+    // cppcheck-suppress uninitMemberVar ; of the ring, those appended are set
     SectionWindow(Reach reach, TagEnds& tag_ends) : reach_(reach), tag_ends_(tag_ends) {}
     SectionWindow(const SectionWindow&) = delete;
     SectionWindow& operator=(const SectionWindow&) = delete;

@@ -20,26 +20,6 @@ constexpr MarkupTag MARKUP_TAGS[13] = {
 };
 // clang-format on
 
-namespace {
-
-template <typename Text>
-const MarkupTag* find(Text text) {
-    for (const MarkupTag& tag : MARKUP_TAGS) {
-        if (begins_with(text, tag.prefix)) return &tag;
-    }
-    return nullptr;
-}
-
-}  // namespace
-
-const MarkupTag* find_markup_tag(const char* text) {
-    return find(text);
-}
-
-const MarkupTag* find_markup_tag(std::string_view text) {
-    return find(text);
-}
-
 bool begins_sentence_tag(const char* text) {
     for (const MarkupTag& tag : MARKUP_TAGS) {
         if (tag.kind != TagKind::removed && begins_with(text, tag.prefix)) return true;

@@ -34,8 +34,13 @@ inline bool begins_with(std::string_view text, std::string_view prefix) {
 }
 
 // The row of the tag that `text` begins with, or null.
-const MarkupTag* find_markup_tag(const char* text);
-const MarkupTag* find_markup_tag(std::string_view text);
+template <typename Text>
+const MarkupTag* find_markup_tag(Text text) {
+    for (const MarkupTag& tag : MARKUP_TAGS) {
+        if (begins_with(text, tag.prefix)) return &tag;
+    }
+    return nullptr;
+}
 
 // Whether `text` begins with a tag of sentences. "<punc=english>" is one: a removed tag that comes
 // to a sentence by another way is an ordinary punctuation tag.

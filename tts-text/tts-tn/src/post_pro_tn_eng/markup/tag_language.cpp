@@ -4,15 +4,13 @@
 #include <cassert>
 #include <cstring>
 
-#include "markup_tags.h"
-
 namespace kavi::tn {
 
 namespace {
 
 // A name belongs to the first row that it begins with. Only the exact name has the use.
 struct TagName {
-    std::string_view prefix;
+    char prefix[13];
     TagRole role;
     TagUse use;
 };
@@ -34,9 +32,12 @@ constexpr TagName TAG_NAMES[] = {
 };
 // clang-format on
 
-const TagName* find_name(const char* name) {
+// The row that the name begins with, and how much of the name that is; null when there is none.
+const TagName* find_name(const char* name, std::size_t& length) {
     for (const TagName& tag : TAG_NAMES) {
-        if (begins_with(name, tag.prefix)) return &tag;
+        length = 0;
+        while (tag.prefix[length] != '\0' && name[length] == tag.prefix[length]) ++length;
+        if (tag.prefix[length] == '\0') return &tag;
     }
     return nullptr;
 }
@@ -44,7 +45,8 @@ const TagName* find_name(const char* name) {
 }  // namespace
 
 bool read_opening(const char* name, const char* end, TagEnds& tag_ends, Tag& tag) {
-    const TagName* kind = find_name(name);
+    std::size_t prefix_length = 0;
+    const TagName* kind = find_name(name, prefix_length);
     if (kind == nullptr) return false;
     const std::string_view text = tag_ends.tag_at(name);
     if (text.empty() || text.data() + text.size() > end) return false;
@@ -52,7 +54,7 @@ bool read_opening(const char* name, const char* end, TagEnds& tag_ends, Tag& tag
     const std::size_t name_length = std::min(inside.find('='), inside.size());
     if (name_length > TAG_NAME_MAX) return false;
     tag.role = kind->role;
-    tag.use = name_length == kind->prefix.size() ? kind->use : TagUse::none;
+    tag.use = name_length == prefix_length ? kind->use : TagUse::none;
     tag.name = inside.substr(0, name_length);
     tag.value = inside.substr(std::min(name_length + 1, inside.size()));
     tag.content = {};

@@ -11,14 +11,14 @@
 
 namespace kavi::tn {
 
-enum class TagRole {
+enum class TagRole : unsigned char {
     simple,   // ends at its ">"
     dropped,  // paired; goes with its content
     span,     // paired; its content is read
 };
 
 // What the builder does at a tag.
-enum class TagUse { none, punc, breaktime, span };
+enum class TagUse : unsigned char { none, punc, breaktime, span };
 
 // A tag, as it stands in the text.
 struct Tag {

@@ -45,7 +45,7 @@ static Section* read_dollars(Section* amount, Reading& reading) {
     const Section* next = amount->m_pnext;
     if (next != nullptr && next->sz_char[0] == '.') {
         append_number(amount->sz_char, reading);
-        const long dollars = value_of(amount);
+        const int dollars = value_of(amount);
         if (dollars != 0) reading.append(dollars == 1 ? "dollar " : "dollars ");
         return amount;
     }

@@ -18,7 +18,7 @@ constexpr TimeUnit HOURS = {" hour ", " zero hour ", " hours "};
 constexpr TimeUnit MINUTES = {" minute ", " zero minute ", " minutes "};
 constexpr TimeUnit SECONDS = {" second ", " zero second ", " seconds "};
 
-const char* unit_word(const TimeUnit& unit, long value) {
+const char* unit_word(const TimeUnit& unit, int value) {
     if (value == 1) return unit.one;
     return value == 0 ? unit.zero : unit.many;
 }

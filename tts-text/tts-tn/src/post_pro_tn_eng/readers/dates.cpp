@@ -70,9 +70,9 @@ void year_read(std::string_view digits, Reading& reading) {
     append_cardinal(years, reading);
 }
 
-bool is_year(long value) {
-    constexpr long FIRST_YEAR = 1100;
-    constexpr long LAST_YEAR = 9999;
+bool is_year(int value) {
+    constexpr int FIRST_YEAR = 1100;
+    constexpr int LAST_YEAR = 9999;
     return value >= FIRST_YEAR && value <= LAST_YEAR;
 }
 

@@ -33,7 +33,7 @@ Section* data_number(Section* day, Reading& reading);
 void year_read(std::string_view digits, Reading& reading);
 
 // Whether a plain number of this value is read as a year.
-bool is_year(long value);
+bool is_year(int value);
 
 // Whether a plain number is the day of a month that stands beside it.
 bool is_day_of_month(Section* number);

@@ -2,7 +2,6 @@
 #ifndef KAVI_TN_SECTIONS_H
 #define KAVI_TN_SECTIONS_H
 
-#include <cstdlib>
 #include <cstring>
 
 #include "../common/ascii.h"
@@ -33,10 +32,16 @@ inline bool has_digits_only(const Section* section) {
     return section != nullptr && is_digits(section->sz_char);
 }
 
-// The value of the digits that the section begins with, as the readers compare it.
-inline long value_of(const Section* section) {
+// The value of the digits that the section begins with, as far as readers compare it: of any number
+// above 9999, something above that.
+inline int value_of(const Section* section) {
     constexpr int BASE = 10;
-    return std::strtol(section->sz_char, nullptr, BASE);
+    constexpr int ENOUGH = 9999;
+    int value = 0;
+    for (const char* c = section->sz_char; is_digit(*c) && value <= ENOUGH; ++c) {
+        value = value * BASE + (*c - '0');
+    }
+    return value;
 }
 
 inline bool is_ordinal_suffix(const Section* section) {

@@ -20,7 +20,7 @@ Section* phone_number_read(Section* section, Reading& reading) {
         last = section;
         if (section->m_nmark == MARKSYMBOL) continue;
         const std::string_view digits = section->sz_char;
-        const long value = n == 1 ? value_of(section) : 0;
+        const int value = n == 1 ? value_of(section) : 0;
         if (value == 800 || value == 900) {
             reading.append(value == 800 ? "eight hundred " : "nine hundred ");
             reading.note_digits(digits);

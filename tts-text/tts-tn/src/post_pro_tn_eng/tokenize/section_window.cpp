@@ -8,11 +8,10 @@ namespace kavi::tn {
 namespace {
 
 // Whether no reader looks past the section: see readers/readers.h.
-bool stops_readers(const Section& section, const char* after) {
+bool stops_readers(std::string_view section, const char* after) {
     const bool glued =
         is_digit(*after) || is_letter(*after) || (*after == '.' && is_digit(after[1]));
-    return section.m_nmark == STRINGSYMBOL && !glued &&
-           word_kind(section.sz_char) == WordKind::plain;
+    return is_letter(section[0]) && !glued && word_kind(section) == WordKind::plain;
 }
 
 }  // namespace
@@ -56,7 +55,7 @@ void SectionWindow::append() {
     link_section(section, tail_);
     ++n_;
     end_ += text.size();
-    complete_ = reach_ == Reach::plain_word && stops_readers(section, end_);
+    complete_ = reach_ == Reach::plain_word && stops_readers(text, end_);
 }
 
 bool SectionWindow::is_amount_before_dollar(const Section* number) {

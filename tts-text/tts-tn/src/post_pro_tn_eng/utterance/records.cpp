@@ -64,6 +64,20 @@ constexpr PuncName PUNC_NAMES[] = {
 };
 // clang-format on
 
+struct PauseCharacter {
+    char character;
+    PAUSE_type pause;
+};
+
+// "*" is one too, and changes nothing.
+constexpr PauseCharacter PAUSE_CHARACTERS[] = {
+    {'&', PAUSE_SYLLABLE_FORCE_FE},
+    {'+', PAUSE_SYLLABLE_FORCE_FE},
+    {' ', PAUSE_WORD_FORCE_FE},
+    {'|', PAUSE_PHRASE_FORCE_FE},
+    {'#', PAUSE_INTONATION_PHRASE_FORCE_FE},
+};
+
 void force_pause(UtteranceSyllable& record, PAUSE_type pause) {
     record.pause_type = pause;
     record.pause_type_tn = pause;
@@ -99,13 +113,8 @@ bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, char* punc_str) {
 
 bool PostProTnEng::insert_pause(int n, UtteranceSyllable* utt, char ch) {
     assert(ch == '&' || ch == ' ' || ch == '|' || ch == '#' || ch == '*' || ch == '+');
-    switch (ch) {
-        case '&':
-        case '+': force_pause(utt[n - 1], PAUSE_SYLLABLE_FORCE_FE); break;
-        case ' ': force_pause(utt[n - 1], PAUSE_WORD_FORCE_FE); break;
-        case '|': force_pause(utt[n - 1], PAUSE_PHRASE_FORCE_FE); break;
-        case '#': force_pause(utt[n - 1], PAUSE_INTONATION_PHRASE_FORCE_FE); break;
-        default: break;
+    for (const PauseCharacter& row : PAUSE_CHARACTERS) {
+        if (row.character == ch) force_pause(utt[n - 1], row.pause);
     }
     return true;
 }

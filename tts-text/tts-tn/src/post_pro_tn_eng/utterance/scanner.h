@@ -33,6 +33,9 @@ class Scanner {
         end_ = end;
     }
 
+    // The name in the "<punc=" tag at `at`, where no word has begun; empty when there is none.
+    std::string_view mark_at(const char* at);
+
     // Reads one character or one tag. True when that completed the word in the buffer.
     bool step();
 

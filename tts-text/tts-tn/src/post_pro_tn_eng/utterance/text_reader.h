@@ -69,6 +69,9 @@ bool read_text(Scanner& scanner, Visitor& visitor) {
             at = end + 1;
         } else if (*at == ' ') {
             ++at;
+        } else if (const std::string_view name = scanner.mark_at(at); !name.empty()) {
+            if (!visitor.punc(name)) return false;
+            at = name.data() + name.size() + 1;
         } else {
             scanner.go_on_at(at);
             if (!read_by_steps(scanner, end, visitor)) return false;
@@ -81,8 +84,9 @@ bool read_text(Scanner& scanner, Visitor& visitor) {
 // Reads a text from its beginning. False when the visitor did not go on.
 template <typename Visitor>
 bool read_text(std::string_view text, mem_stack_handle arena, Visitor& visitor) {
-    char word[WORD_MAX_LEN] = {'\0'};
+    char word[WORD_MAX_LEN];
     Scanner scanner(text.data(), text.data() + text.size(), word, 0, arena);
+    scanner.clear_word();
     return read_text(scanner, visitor);
 }
 

@@ -2,6 +2,7 @@
 #ifndef KAVI_TN_WORD_FILLER_H
 #define KAVI_TN_WORD_FILLER_H
 
+#include <optional>
 #include <string_view>
 
 #include "../common/clear.h"
@@ -72,14 +73,13 @@ class WordFiller {
 
     // False when the chain has no room for the span.
     bool enter(std::string_view name, std::string_view value) {
-        inside_ = true;
-        return own_.extend(outer_, name, value);
+        return own_.emplace().extend(outer_, name, value);
     }
     static bool is_too_deep() { return false; }  // the chain bounds the depth
     void leave(const WordFiller& inside) { record_ = inside.record_; }
 
   private:
-    const SpanChain* chain() const { return inside_ ? &own_ : outer_; }
+    const SpanChain* chain() const { return own_ ? &*own_ : outer_; }
 
     char* request(std::size_t size) {
         return static_cast<char*>(mem_stack_request_buf(size, MEM_COMMON, arena_));
@@ -87,9 +87,8 @@ class WordFiller {
 
     mem_stack_handle arena_;
     UtteranceSyllable* record_;
-    const SpanChain* outer_;  // of the spans that enclose this pass; null for none
-    bool inside_ = false;
-    SpanChain own_;  // with the span that this pass has entered
+    const SpanChain* outer_;        // of the spans that enclose this pass; null for none
+    std::optional<SpanChain> own_;  // with the span that this pass has entered
 };
 
 }  // namespace kavi::tn

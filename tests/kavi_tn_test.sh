@@ -22,6 +22,13 @@ expect 'NUL-separated texts' 'a b|c' "$(printf 'a\nb\0c' | "$tool" -0 | sed 's/ 
 expect 'an output file' 'a' "$("$tool" -t a -o out && cat out)"
 expect 'an unreadable file, others written' $'a\na\n1' \
     "$(echo a >in; "$tool" in missing in 2>/dev/null; echo $?)"
+expect 'output onto the input' 'a  two' "$(echo 'a 2' >in; "$tool" in -o in && cat in)"
+expect 'an output that an input is missing for' 'as before' \
+    "$(echo 'as before' >out; "$tool" in missing -o out 2>/dev/null || cat out)"
+expect 'a finding with --strict' 1 "$(echo 'a</poem>' >in; status "$tool" --strict in)"
+expect 'a finding without' 0 "$(status "$tool" in)"
+expect 'the summary' 'kavi-tn: 1 stray-closing-tag: this closing tag closes nothing; it is left out' \
+    "$("$tool" --summary in 2>&1 >/dev/null | tail -n 1)"
 expect 'wrong usage' 2 "$(status "$tool" --bad)"
 expect 'two stages' 2 "$(status "$tool" --words --sentences -t a)"
 expect 'help' 0 "$(status "$tool" --help)"
@@ -41,11 +48,13 @@ expect 'a page' "$(wc -l <single)" "$("$tool" --format html corpus 2>/dev/null |
 # Whole lines when it is interrupted; a clear end when nobody reads on; bounded memory.
 (while cat "$sample"; do :; done) 2>/dev/null | timeout -s INT 1 "$tool" -j 2 >cut 2>/dev/null
 expect 'an interrupt leaves whole lines' 0 "$(tail -c 1 cut | od -An -c | tr -d ' ' | grep -vc '\\n')"
+echo a >out
 for signal in INT TERM; do
-    mkfifo pipe && { "$tool" pipe >/dev/null & } && exec 3>pipe && echo a >&3
+    mkfifo pipe && { "$tool" pipe -o out 2>/dev/null & } && exec 3>pipe && echo a >&3
     sleep 0.3 && kill -$signal $! && { wait $!; ended=$?; }
     exec 3>&- && rm pipe
     expect "the exit status of an interrupt by $signal" 130 "$ended"
+    expect "a file that was to be written, after $signal" 'a' "$(cat out)"
 done
 "$tool" corpus 2>err | head -n 1 >/dev/null
 expect 'a closed pipe' 'kavi-tn: cannot write: Broken pipe' "$(cat err)"

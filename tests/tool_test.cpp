@@ -67,7 +67,7 @@ TEST_P(Rendering, IsAsInTheGoldenFile) {
         const Rendered rendered = renderer.render(block);
         EXPECT_TRUE(rendered.all_read);
         output += rendered.output;
-        messages += rendered.messages;
+        for (const FindingMessage& finding : rendered.findings) messages += finding.text;
     }
     output += format->epilogue();
     fs::current_path(before);
@@ -152,26 +152,48 @@ TEST_F(Files, TextsEndWithTheDelimiter) {
     for (Block block; reader.next(block);) {
         const Rendered rendered = renderer.render(block);
         output += rendered.output;
-        messages += rendered.messages;
+        for (const FindingMessage& finding : rendered.findings) messages += finding.text;
     }
     EXPECT_EQ(output, "a q <punc=ju>\nc\n");
     EXPECT_EQ(messages.substr(options.files[0].size(), 6), ":2:2: ");
 }
 
-TEST_F(Files, OutputIsWrittenWhole) {
-    const std::string path = folder_ / "out";
-    Output output;
-    EXPECT_EQ(output.open(path), "");
+TEST_F(Files, OutputTakesItsNameWhenAllIsWritten) {
+    const std::string path = file("out", "before");
+    fs::permissions(path, fs::perms(0640));
+    fs::create_symlink("out", folder_ / "link");
     std::string bytes;
     for (int i = 0; i < 1000; ++i) bytes += std::to_string(i) + " ";
-    EXPECT_EQ(output.write(bytes), "");
-    EXPECT_EQ(output.write("end"), "");
-    EXPECT_EQ(output.close(), "");
-    EXPECT_EQ(read_file(path), bytes + "end");
+    for (const bool commits : {false, true}) {
+        Output output;
+        EXPECT_EQ(output.open(folder_ / "link"), "");
+        EXPECT_EQ(output.write(bytes), "");
+        EXPECT_EQ(read_file(path), "before");
+        if (commits) {
+            EXPECT_EQ(output.commit(), "");
+        }
+    }
+    EXPECT_EQ(read_file(path), bytes);
+    EXPECT_TRUE(fs::is_symlink(folder_ / "link"));
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0640));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 2);
     EXPECT_NE(Output().open(folder_ / "no" / "folder"), "");
     Output full;
     ASSERT_EQ(full.open("/dev/full"), "");
     EXPECT_EQ(full.write("a"), "No space left on device");
+}
+
+TEST(Findings, OfAKindAreWrittenAndThenCounted) {
+    FindingsReport report;
+    EXPECT_EQ(report.summary(), "kavi-tn: no findings\n");
+    const std::vector<FindingMessage> many(15, {Finding::nul_byte, "nul\n"});
+    EXPECT_EQ(report.take(many).size(), 15U * 4);
+    EXPECT_EQ(report.take(many).size(), 5U * 4);
+    EXPECT_EQ(report.take({{Finding::reading_cut, "cut\n"}}), "cut\n");
+    EXPECT_EQ(report.not_written(), "kavi-tn: 10 more: a NUL byte is read as a blank\n");
+    EXPECT_EQ(report.summary(),
+              "kavi-tn: 30 nul-byte: a NUL byte is read as a blank\n"
+              "kavi-tn: 1 reading-cut: the reading of this number is too long and was cut\n");
 }
 
 TEST_F(Files, WhatCannotBeReadIsSaidAndTheRestIsRead) {
@@ -183,7 +205,7 @@ TEST_F(Files, WhatCannotBeReadIsSaidAndTheRestIsRead) {
     ASSERT_TRUE(reader.next(block));
     const Rendered failed = renderer.render(block);
     EXPECT_FALSE(failed.all_read);
-    EXPECT_EQ(failed.messages,
+    EXPECT_EQ(failed.failure,
               "kavi-tn: " + folder_.string() + ": cannot be read: Is a directory\n");
     ASSERT_TRUE(reader.next(block));
     EXPECT_EQ(renderer.render(block).output, "a\n");

@@ -22,16 +22,20 @@ int run(int argc, char** argv) {
     CLI::App app{"Turns English text into speakable words, a sentence a line."};
     app.footer(
         "Every input line is a text of its own. Messages go to standard error as "
-        "NAME:LINE:BYTE: text.\nExit status: 0 when everything was normalised, 1 when something "
-        "could not be read, normalised or written, 2 for wrong usage, 130 when interrupted.");
+        "NAME:LINE:BYTE: text; of a kind, the first 20.\nExit status: 0 when everything was "
+        "normalised, 1 when something could not be read, normalised or written, 2 for wrong usage, "
+        "130 when interrupted.");
     app.set_version_flag("--version", "kavi-tn " KAVI_VERSION);
     const CLI::Option* text = app.add_option("-t,--text", options.text, "Read TEXT first");
     app.add_option("FILE", options.files, "Files to read, \"-\" for standard input (the default)");
-    app.add_option("-o,--output", options.output, "Write to FILE instead of standard output");
+    app.add_option("-o,--output", options.output,
+                   "Write to FILE, which changes only when all is written");
     const CLI::Option* nul =
         app.add_flag("-0,--null", "Texts end with a NUL byte instead of a line end");
     app.add_option("-j,--jobs", options.jobs, "Read with N threads; the output stays the same")
         ->check(CLI::Range(1, 256));
+    app.add_flag("--strict", options.strict, "Exit with 1 when there is any finding");
+    app.add_flag("--summary", options.summary, "Say in the end how many findings there were");
     const std::map<std::string, FormatName> formats = {
         {"text", FormatName::text}, {"jsonl", FormatName::jsonl}, {"html", FormatName::html}};
     app.add_option("--format", options.format, "text (the default), jsonl or html")

@@ -19,6 +19,8 @@ struct Options {
     std::string output;  // empty: standard output
     char delimiter = '\n';
     unsigned jobs = 1;
+    bool strict = false;   // a finding makes the exit status 1
+    bool summary = false;  // says in the end how many findings there were
 };
 
 }  // namespace kavi::tool

@@ -1,9 +1,11 @@
 #include "output.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -23,11 +25,33 @@ bool is_terminal() {
 }  // namespace
 
 std::string Output::open(const std::string& path) {
-    constexpr int MODE = 0666;
-    descriptor_ = path.empty()
-                      ? STDOUT_FILENO
-                      : ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, MODE);
+    constexpr mode_t PERMISSIONS = 07777;
+    if (path.empty()) {
+        descriptor_ = STDOUT_FILENO;
+        return {};
+    }
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0) {
+        constexpr mode_t NEW_FILE = 0666;
+        const mode_t mask = ::umask(0);
+        ::umask(mask);
+        return open_beside(path, NEW_FILE & ~mask);
+    }
+    if (S_ISREG(status.st_mode)) {
+        // A link stays one: the file that it names is replaced.
+        return open_beside(std::filesystem::canonical(path), status.st_mode & PERMISSIONS);
+    }
+    descriptor_ = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
     return descriptor_ < 0 ? path + ": " + std::strerror(errno) : "";
+}
+
+std::string Output::open_beside(const std::string& target, unsigned mode) {
+    std::string name = target + ".XXXXXX";
+    descriptor_ = ::mkostemp(name.data(), O_CLOEXEC);
+    if (descriptor_ < 0) return target + ": " + std::strerror(errno);
+    target_ = target;
+    temporary_ = name;
+    return ::fchmod(descriptor_, mode) != 0 ? target + ": " + std::strerror(errno) : "";
 }
 
 std::string Output::write(std::string_view piece) {
@@ -39,9 +63,21 @@ std::string Output::write(std::string_view piece) {
     return {};
 }
 
-std::string Output::close() {
-    const bool failed = ::close(descriptor_) != 0;
-    return failed ? std::strerror(errno) : "";
+std::string Output::commit() {
+    const bool closed = ::close(descriptor_) == 0;
+    descriptor_ = -1;
+    const bool renamed =
+        closed && (target_.empty() || std::rename(temporary_.c_str(), target_.c_str()) == 0);
+    if (!renamed) return std::strerror(errno);
+    target_.clear();
+    return {};
+}
+
+void Output::abandon() {
+    if (target_.empty()) return;
+    if (descriptor_ >= 0) static_cast<void>(::close(descriptor_));
+    static_cast<void>(::unlink(temporary_.c_str()));
+    target_.clear();
 }
 
 Progress::Progress(const Options& options) {

@@ -11,16 +11,32 @@
 
 namespace kavi::tool {
 
-// Standard output or a file, written in whole pieces. Every operation answers why it failed, or
-// nothing.
+// Standard output or a file, written in whole pieces. A file is written under another name beside
+// its own, which it takes when all is written: until then the file there is as it was, and may be
+// an input. What cannot be renamed, such as a pipe or a device, is written directly. Every
+// operation answers why it failed, or nothing.
 class Output {
   public:
+    Output() = default;
+    ~Output() { abandon(); }
+    Output(const Output&) = delete;
+    Output& operator=(const Output&) = delete;
+
     std::string open(const std::string& path);  // "": standard output
     std::string write(std::string_view piece);
-    std::string close();
+
+    // All is written.
+    std::string commit();
+
+    // What was written to a file is not to be kept.
+    void abandon();
 
   private:
+    std::string open_beside(const std::string& target, unsigned mode);
+
     int descriptor_ = -1;
+    std::string target_;     // empty: nothing is to be renamed
+    std::string temporary_;  // its name until then
 };
 
 // Bytes done, rate and time left on standard error: only on a terminal, and only for files.

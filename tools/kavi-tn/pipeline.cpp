@@ -11,6 +11,7 @@
 #include <thread>
 #include <vector>
 
+#include "findings_report.h"
 #include "output.h"
 #include "renderer.h"
 
@@ -91,16 +92,22 @@ class Window {
     bool ended_ = false;
 };
 
-// The reader may wait for input that never comes, so the process does not wait for it.
-[[noreturn]] void leave(int status) {
+// The end before the end of the input. The reader may wait for input that never comes, so the
+// process does not wait for it; what was written to a file is not kept.
+[[noreturn]] void leave(Output& output, int status, const std::string& message) {
+    output.abandon();
+    write_messages(message);
     std::cerr.flush();
     std::_Exit(status);
 }
 
-void require_written(const std::string& failure) {
-    if (failure.empty()) return;
-    write_messages("kavi-tn: cannot write: " + failure + "\n");
-    leave(1);
+void require_written(Output& output, const std::string& failure) {
+    if (!failure.empty()) leave(output, 1, "kavi-tn: cannot write: " + failure + "\n");
+}
+
+// What becomes of the file that was to be written.
+std::string as_it_was(const Options& options) {
+    return options.output.empty() ? "\n" : "; " + options.output + " is as it was\n";
 }
 
 }  // namespace
@@ -112,9 +119,9 @@ int run_pipeline(const Options& options) {
     static_cast<void>(std::signal(SIGTERM, on_interrupt));
 
     Output output;
-    require_written(output.open(options.output));
+    require_written(output, output.open(options.output));
     const std::unique_ptr<Format> format = make_format(options);
-    require_written(output.write(format->prologue()));
+    require_written(output, output.write(format->prologue()));
 
     Window window(2 * options.jobs + 2);
     std::vector<std::thread> threads;
@@ -136,21 +143,35 @@ int run_pipeline(const Options& options) {
         });
     }
 
-    bool succeeded = true;
+    bool all_read = true;
+    std::size_t texts = 0;
+    FindingsReport findings;
     Progress progress(options);
     while (const std::unique_ptr<Job> job = window.next()) {
-        if (!job->rendered.messages.empty()) progress.clear();
-        write_messages(job->rendered.messages);
-        require_written(output.write(job->rendered.output));
+        const Rendered& rendered = job->rendered;
+        const std::string messages = findings.take(rendered.findings) + rendered.failure;
+        if (!messages.empty()) progress.clear();
+        write_messages(messages);
+        require_written(output, output.write(rendered.output));
         progress.advance(job->block.bytes.size());
-        succeeded = succeeded && job->rendered.all_read;
+        texts += rendered.texts;
+        all_read = all_read && rendered.all_read;
     }
     progress.clear();
-    if (interrupted != 0) leave(INTERRUPTED);
+    if (interrupted != 0) {
+        leave(
+            output, INTERRUPTED,
+            "kavi-tn: interrupted after " + std::to_string(texts) + " texts" + as_it_was(options));
+    }
     for (std::thread& thread : threads) thread.join();
-    require_written(output.write(format->epilogue()));
-    require_written(output.close());
-    return succeeded ? 0 : 1;
+    write_messages(findings.not_written());
+    if (options.summary) write_messages(findings.summary());
+    if (!all_read && !options.output.empty()) {
+        leave(output, 1, "kavi-tn: not all could be read" + as_it_was(options));
+    }
+    require_written(output, output.write(format->epilogue()));
+    require_written(output, output.commit());
+    return all_read && !(options.strict && !findings.empty()) ? 0 : 1;
 }
 
 }  // namespace kavi::tool

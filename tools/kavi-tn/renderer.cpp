@@ -13,11 +13,11 @@ Rendered Renderer::render(const Block& block) {
     for (std::size_t line = block.first; !rest.empty(); ++line) {
         const std::string_view text = rest.substr(0, rest.find(delimiter_));
         render_text(block, line, text, rendered);
+        ++rendered.texts;
         rest.remove_prefix(std::min(text.size() + 1, rest.size()));
     }
     if (!block.failure.empty()) {
-        rendered.messages +=
-            "kavi-tn: " + block.input + ": cannot be read: " + block.failure + "\n";
+        rendered.failure = "kavi-tn: " + block.input + ": cannot be read: " + block.failure + "\n";
         rendered.all_read = false;
     }
     return rendered;
@@ -36,9 +36,10 @@ void Renderer::render_text(const Block& block, std::size_t line, std::string_vie
         },
         [&](const Diagnostic& diagnostic) {
             diagnostics.push_back(diagnostic);
-            rendered.messages += block.input + ":" + std::to_string(line) + ":" +
-                                 std::to_string(diagnostic.offset + 1) + ": " +
-                                 describe(diagnostic.finding) + "\n";
+            rendered.findings.push_back(
+                {diagnostic.finding, block.input + ":" + std::to_string(line) + ":" +
+                                         std::to_string(diagnostic.offset + 1) + ": " +
+                                         describe(diagnostic.finding) + "\n"});
         });
     rendered.all_read = rendered.all_read && all_read;
 }

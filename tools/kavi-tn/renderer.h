@@ -4,16 +4,20 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "block_reader.h"
+#include "findings_report.h"
 #include "format.h"
 
 namespace kavi::tool {
 
 struct Rendered {
-    std::string output;    // whole lines
-    std::string messages;  // whole lines
+    std::string output;  // whole lines
+    std::vector<FindingMessage> findings;
+    std::size_t texts = 0;  // read
     bool all_read = true;
+    std::string failure;  // a line about it, if the input could not be read
 };
 
 // One renderer serves one thread. The result depends on the block alone.

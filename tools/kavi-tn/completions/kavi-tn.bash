@@ -6,8 +6,8 @@ _kavi_tn() {
         -t | --text | -j | --jobs) return ;;
     esac
     case $current in
-        -*) mapfile -t COMPREPLY < <(compgen -W "-t --text -o --output -0 --null -j --jobs --format
-            --sentences --speakable --words --explain -h --help --version" -- "$current") ;;
+        -*) mapfile -t COMPREPLY < <(compgen -W "-t --text -o --output -0 --null -j --jobs --strict
+            --summary --format --sentences --speakable --words --explain -h --help --version" -- "$current") ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     esac
 }

@@ -53,7 +53,7 @@ bool is_dollar(const Section* section);
 Section* currrency_read(Section* amount, Reading& reading);
 
 // ---- clock_times: of the form that time_decide has found ----
-enum TimeForm { NO_TIME = 0, SHORT_TIME = 1, LONG_TIME = 2 };
+enum TimeForm : int { NO_TIME = 0, SHORT_TIME = 1, LONG_TIME = 2 };
 TimeForm time_decide(Section* hours);
 Section* time_number(Section* hours, TimeForm form, Reading& reading);  // null: incomplete
 

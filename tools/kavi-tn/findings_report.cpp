@@ -1,0 +1,33 @@
+#include "findings_report.h"
+
+namespace kavi::tool {
+
+std::string FindingsReport::take(const std::vector<FindingMessage>& messages) {
+    std::string lines;
+    for (const FindingMessage& message : messages) {
+        if (++counts_[message.finding] <= WRITTEN_OF_A_KIND) lines += message.text;
+    }
+    return lines;
+}
+
+std::string FindingsReport::not_written() const {
+    std::string lines;
+    for (const auto& [finding, count] : counts_) {
+        if (count <= WRITTEN_OF_A_KIND) continue;
+        lines += "kavi-tn: " + std::to_string(count - WRITTEN_OF_A_KIND) +
+                 " more: " + describe(finding) + "\n";
+    }
+    return lines;
+}
+
+std::string FindingsReport::summary() const {
+    if (counts_.empty()) return "kavi-tn: no findings\n";
+    std::string lines;
+    for (const auto& [finding, count] : counts_) {
+        lines += "kavi-tn: " + std::to_string(count) + " " + code_of(finding) + ": " +
+                 describe(finding) + "\n";
+    }
+    return lines;
+}
+
+}  // namespace kavi::tool

@@ -1,0 +1,42 @@
+// What is told about the input beside the output: messages as they come, and what they add up to.
+#ifndef KAVI_TOOL_FINDINGS_REPORT_H
+#define KAVI_TOOL_FINDINGS_REPORT_H
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tts_findings.h"
+
+namespace kavi::tool {
+
+// A finding and the line to write about it.
+struct FindingMessage {
+    Finding finding;
+    std::string text;
+};
+
+// Counts the findings of all inputs. The first of each kind are written, the others only counted.
+class FindingsReport {
+  public:
+    // Takes the messages in the order of the input; returns those to write, a line each.
+    std::string take(const std::vector<FindingMessage>& messages);
+
+    // How many of each kind were not written.
+    std::string not_written() const;
+
+    // How many there were of each kind.
+    std::string summary() const;
+
+    bool empty() const { return counts_.empty(); }
+
+  private:
+    static constexpr std::size_t WRITTEN_OF_A_KIND = 20;
+
+    std::map<Finding, std::size_t> counts_;
+};
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_FINDINGS_REPORT_H

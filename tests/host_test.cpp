@@ -207,6 +207,16 @@ TEST(Host, MarkupThatIsNeverClosedCostsNoMoreTheMoreThereIs) {
     EXPECT_EQ(closed.records.back(), "|x(poem=a)|y");
 }
 
+TEST(Host, AStretchThatIsNotSpokenIsReportedOnceHoweverItIsFed) {
+    for (std::size_t before = 16370; before < 16390; ++before) {
+        const std::string text = std::string(before, ' ') + "a\xe2\x82\xac\xe2\x82\xac b";
+        const ReadText read = read_by_layer(text);
+        ASSERT_EQ(read.diagnostics.size(), 1U) << before;
+        EXPECT_EQ(read.diagnostics[0].offset, before + 1);
+        EXPECT_EQ(read.diagnostics[0].length, 6U);
+    }
+}
+
 TEST(Host, DiagnosticsStandBeforeTheirSentenceInOrder) {
     std::string events;
     TtsHost().read(

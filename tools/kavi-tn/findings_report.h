@@ -5,11 +5,15 @@
 #include <cstddef>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tts_findings.h"
 
 namespace kavi::tool {
+
+// A finding in one clear sentence, with the characters that it is about.
+std::string describe(const Diagnostic& diagnostic, std::string_view text);
 
 // A finding and the line to write about it.
 struct FindingMessage {

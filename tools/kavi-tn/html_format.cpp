@@ -7,6 +7,7 @@
 #include <iterator>
 #include <string>
 
+#include "findings_report.h"
 #include "format.h"
 #include "names.h"
 #include "tts_explain.h"
@@ -161,7 +162,7 @@ class HtmlFormat : public Format {
         out += "</div>";
         for (const Diagnostic& d : diagnostics) {
             out += "<p class=\"finding\">Byte " + std::to_string(d.offset + 1) + ": " +
-                   escape(describe(d.finding)) + "</p>";
+                   escape(describe(d, place.text)) + "</p>";
         }
         out += "</article>\n";
     }

@@ -1,9 +1,8 @@
 // JSON Lines: an object a sentence.
 
-#include <utf8.h>
-
 #include <nlohmann/json.hpp>
 
+#include "findings_report.h"
 #include "format.h"
 #include "names.h"
 #include "tts_explain.h"
@@ -59,15 +58,10 @@ class JsonFormat : public Format {
             if (i > 0 || has_marks(record)) json["words"].push_back(word(record));
         }
         json["diagnostics"] = Json::array();
-        const auto report = [&](std::size_t offset, const char* message) {
+        const auto report = [&](std::size_t offset, const std::string& message) {
             json["diagnostics"].push_back({{"offset", offset}, {"message", message}});
         };
-        for (const Diagnostic& d : diagnostics) report(d.offset, describe(d.finding));
-        const auto* bad = utf8::find_invalid(source.begin(), source.end());
-        if (bad != source.end()) {
-            report(sentence.offset + static_cast<std::size_t>(bad - source.begin()),
-                   "bytes that are not UTF-8 are shown as replacement characters");
-        }
+        for (const Diagnostic& d : diagnostics) report(d.offset, describe(d, place.text));
         if (explain_) {
             json["abbreviations"] = explanation(explain_abbreviations(sentence, place.text));
             json["runs"] = explanation(explain(sentence.normalized));

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "names.h"
+
 namespace kavi::tool {
 
 Renderer::Renderer(const Options& options)
@@ -39,7 +41,7 @@ void Renderer::render_text(const Block& block, std::size_t line, std::string_vie
             rendered.findings.push_back(
                 {diagnostic.finding, block.input + ":" + std::to_string(line) + ":" +
                                          std::to_string(diagnostic.offset + 1) + ": " +
-                                         describe(diagnostic.finding) + "\n"});
+                                         describe(diagnostic, text) + "\n"});
         });
     rendered.all_read = rendered.all_read && all_read;
 }

@@ -16,6 +16,7 @@ enum class Finding {
     tag_inside_tag,
     tag_never_closed,
     nul_byte,
+    not_spoken,
     digits_not_read,
     tag_in_telephone_number,
     reading_cut,
@@ -31,6 +32,7 @@ const char* describe(Finding finding);
 struct Diagnostic {
     std::size_t offset;  // of the first byte it is about, in the text given to read()
     Finding finding;
+    std::size_t length = 1;  // of what is not spoken, in bytes; of no meaning for other findings
 };
 
 }  // namespace kavi

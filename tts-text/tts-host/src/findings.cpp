@@ -25,6 +25,7 @@ constexpr Row ROWS[] = {
      "this tag stands inside the beginning of another; a blank is read in its place"},
     {Finding::tag_never_closed, "tag-never-closed", "this tag has no \">\"; it is read as text"},
     {Finding::nul_byte, "nul-byte", "a NUL byte is read as a blank"},
+    {Finding::not_spoken, "not-spoken", "bytes outside ASCII are not spoken"},
     {Finding::digits_not_read, "digits-not-read",
      "not all digits of this number are read (of a long one, four groups from the left)"},
     {Finding::tag_in_telephone_number, "tag-in-telephone-number",

@@ -1,6 +1,7 @@
 #include "text_window.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <iterator>
 
@@ -61,6 +62,21 @@ std::size_t boundary_near(std::string_view text, std::size_t begin, std::size_t 
     return at;
 }
 
+bool is_outside_ascii(char c) {
+    return static_cast<unsigned char>(c) > 127;
+}
+
+// The first byte outside ASCII from `at` on, or `end`: by eights as long as there are so many.
+std::size_t find_outside_ascii(std::string_view text, std::size_t at, std::size_t end) {
+    constexpr std::uint64_t TOP_BITS = 0x8080808080808080;
+    for (std::uint64_t eight = 0; end - at >= sizeof eight; at += sizeof eight) {
+        std::memcpy(&eight, text.data() + at, sizeof eight);
+        if ((eight & TOP_BITS) != 0) break;
+    }
+    while (at < end && !is_outside_ascii(text[at])) ++at;
+    return at;
+}
+
 std::size_t value_length(std::string_view tag) {
     return tag.size() - tag.find('=') - 2;
 }
@@ -112,7 +128,7 @@ void FedSpans::close_innermost() {
 void TextWindow::begin(std::string_view text) {
     text_ = text;
     next_ = begin_ = prefix_ = end_ = origin_ = left_out_ = 0;
-    next_tag_ = next_tag_end_ = next_nul_ = 0;
+    next_tag_ = next_tag_end_ = next_nul_ = not_spoken_end_ = 0;
     spans_.clear();
     gaps_.clear();
     findings_.clear();
@@ -148,7 +164,24 @@ bool TextWindow::feed() {
 bool TextWindow::feed_run() {
     const std::size_t end =
         std::min(find_from_here('<', next_tag_), find_from_here('\0', next_nul_));
-    return copy(text_.substr(next_, std::min(end - next_, room())));
+    const std::string_view run = text_.substr(next_, std::min(end - next_, room()));
+    report_not_spoken(run);
+    return copy(run);
+}
+
+// Reports each stretch of bytes outside ASCII, as far as the text goes; one that the last run ended
+// with has been reported.
+void TextWindow::report_not_spoken(std::string_view run) {
+    const std::size_t run_end = next_ + run.size();
+    std::size_t at = std::max(next_, not_spoken_end_);
+    while ((at = find_outside_ascii(text_, at, run_end)) < run_end) {
+        not_spoken_end_ = at;
+        while (not_spoken_end_ < text_.size() && is_outside_ascii(text_[not_spoken_end_])) {
+            ++not_spoken_end_;
+        }
+        findings_.push_back({at, Finding::not_spoken, not_spoken_end_ - at});
+        at = not_spoken_end_;
+    }
 }
 
 bool TextWindow::feed_tag() {

@@ -99,6 +99,7 @@ class TextWindow {
     // ---- each takes one piece of the text, or answers false when it needs more room ----
     bool feed();
     bool feed_run();
+    void report_not_spoken(std::string_view run);
     bool feed_tag();
     bool feed_kept(std::string_view tag);
     bool feed_as_text(Finding finding, bool keep);
@@ -130,6 +131,8 @@ class TextWindow {
     std::size_t next_tag_ = 0;
     std::size_t next_tag_end_ = 0;
     std::size_t next_nul_ = 0;
+
+    std::size_t not_spoken_end_ = 0;  // of the last stretch that was reported, in the text
 };
 
 }  // namespace kavi::host

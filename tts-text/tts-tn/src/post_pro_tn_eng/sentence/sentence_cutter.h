@@ -55,22 +55,22 @@ class SentenceCutter {
     const SsmlTagArr& open_tags() const { return tags_; }
 
   private:
-    bool take_next();
-    void drop_leading_blank();
-    bool between_digits() const;
-    void mark(bool ends_sentence);
-    void run();
-    void full_stop();
-    bool expand_abbreviation();
+    inline bool take_next();
+    inline void drop_leading_blank();
+    inline bool between_digits() const;
+    inline void mark(bool ends_sentence);
+    inline void run();
+    inline void full_stop();
+    inline bool expand_abbreviation();
 
-    bool markup();
-    void keep(std::string_view tag);
-    bool copy_tag(std::string_view tag);
-    bool open_span(std::string_view tag);
-    bool close_span(const MarkupTag& tag);
-    bool close_open_spans();
+    inline bool markup();
+    inline void keep(std::string_view tag);
+    inline bool copy_tag(std::string_view tag);
+    inline bool open_span(std::string_view tag);
+    inline bool close_span(const MarkupTag& tag);
+    inline bool close_open_spans();
 
-    void report(std::string_view source, int target_at);
+    inline void report(std::string_view source, int target_at);
 
     const char* next_;     // the read position
     const char* stretch_;  // where the next abbreviation search begins

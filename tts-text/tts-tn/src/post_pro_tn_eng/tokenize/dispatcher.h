@@ -107,29 +107,29 @@ class SectionDispatcher {
     };
 
     // ---- one for each kind of section and pattern: the last section consumed, or null ----
-    Section* step();
-    Section* word();
-    Section* telephone();
-    Section* number();
-    Section* plain_number();
-    Section* clock_time();
-    Section* money(Section* amount);
-    Section* mark();
-    Section* bracket();
-    Section* plus_sign();
-    Section* smaller();
+    inline Section* step();
+    inline Section* word();
+    inline Section* telephone();
+    inline Section* number();
+    inline Section* plain_number();
+    inline Section* clock_time();
+    inline Section* money(Section* amount);
+    inline Section* mark();
+    inline Section* bracket();
+    inline Section* plus_sign();
+    inline Section* smaller();
 
-    Section* section_after(const Section* last);
-    bool is_amount_before_dollar();
+    inline Section* section_after(const Section* last);
+    inline bool is_amount_before_dollar();
     bool greater_follows(const Section* next);
 
     // Appends to the output; the outcome tells whether it fitted.
-    void append(std::string_view words);
-    void append_spaced(std::string_view words);
+    inline void append(std::string_view words);
+    inline void append_spaced(std::string_view words);
 
     // Appends a step's words, or those of the reading, and says what the step was.
-    Section* read_as(ReadingRule rule, std::string_view words, Section* last);
-    Section* reading_as(ReadingRule rule, Section* last);
+    inline Section* read_as(ReadingRule rule, std::string_view words, Section* last);
+    inline Section* reading_as(ReadingRule rule, Section* last);
 
     BoundedText& output_;
     SectionWindow* window_ = nullptr;  // null for a queue

@@ -27,12 +27,12 @@ class PlainText {
   private:
     // Each reads what begins at `text` and returns where that ends; `text` itself when a reader has
     // to look at it, null when the output is full.
-    const char* words(const char* text);
-    const char* plain_words(const char* text, const char* end);
-    const char* other_word(const char* text, std::string_view word);
-    const char* mark(const char* text);
-    const char* smaller(const char* text);
-    const char* apostrophe(const char* text);
+    inline const char* words(const char* text);
+    inline const char* plain_words(const char* text, const char* end);
+    inline const char* other_word(const char* text, std::string_view word);
+    inline const char* mark(const char* text);
+    inline const char* smaller(const char* text);
+    inline const char* apostrophe(const char* text);
 
     bool append_spaced(std::string_view words) {
         return output_.append(words) && output_.append(" ");

@@ -62,8 +62,8 @@ class SectionWindow {
 
     static constexpr std::size_t CAPACITY = SECTIONS_BEFORE + 1 + SECTIONS_AHEAD;
 
-    void append();
-    void fill(std::size_t n_wanted);
+    inline void append();
+    inline void fill(std::size_t n_wanted);
     std::size_t index_of(const Section* section) const;
 
     Reach reach_;

@@ -56,9 +56,9 @@ class Scanner {
   private:
     enum class Met { no_tag, tag, word_end };
 
-    Met meet_tag();
-    bool advance();
-    bool only_tags_follow();
+    inline Met meet_tag();
+    inline bool advance();
+    inline bool only_tags_follow();
 
     const char* at_;
     const char* end_;

@@ -20,6 +20,8 @@ std::size_t dot_offset(int row);
 // made of near misses is searched once for each.
 class AbbreviationSearch {
   public:
+    AbbreviationSearch() {}  // not constant: that would clear the finders that few texts need
+
     // The row of the abbreviation whose first "." is the one at `dot`, or NO_ABBREVIATION.
     // `stretch` is where the search begins: at the start of the sentence, or after the last
     // abbreviation or decimal point; `dot` is the first "." from there on. Stretches move forward

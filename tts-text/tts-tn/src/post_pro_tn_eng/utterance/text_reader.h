@@ -19,8 +19,8 @@ template <typename Visitor>
 bool visit_tag(Scanner& scanner, Visitor& visitor) {
     const Tag tag = *scanner.tag();
     switch (tag.use) {
-        case TagUse::punc: return visitor.punc(tag.value);
-        case TagUse::breaktime: return visitor.breaktime(tag.value);
+        case TagUse::punc: visitor.punc(tag.value); return true;
+        case TagUse::breaktime: visitor.breaktime(tag.value); return true;
         case TagUse::span: {
             const char* const end = scanner.end();
             const char* const content = tag.content.data();
@@ -54,10 +54,10 @@ bool read_by_steps(Scanner& scanner, const char* goal, Visitor& visitor) {
     return true;
 }
 
-// Reads the scanner's text to its end and hands what it meets to the visitor: word(word),
-// punc(name) and breaktime(value), which answer whether to go on, and spans: a copy of the visitor
-// has enter(name, value) called and reads the span, unless it is_too_deep(); then the visitor
-// itself has leave(copy) called. False when one did not go on.
+// Reads the scanner's text to its end and hands what it meets to the visitor: punc(name),
+// breaktime(value), word(word), which answers whether to go on, and spans: a copy of the visitor
+// has enter(name, value) called, which answers too, and reads the span, unless it is_too_deep();
+// then the visitor itself has leave(copy) called. False when one did not go on.
 template <typename Visitor>
 bool read_text(Scanner& scanner, Visitor& visitor) {
     const char* const text_end = scanner.end();
@@ -70,7 +70,7 @@ bool read_text(Scanner& scanner, Visitor& visitor) {
         } else if (*at == ' ') {
             ++at;
         } else if (const std::string_view name = scanner.mark_at(at); !name.empty()) {
-            if (!visitor.punc(name)) return false;
+            visitor.punc(name);
             at = name.data() + name.size() + 1;
         } else {
             scanner.go_on_at(at);

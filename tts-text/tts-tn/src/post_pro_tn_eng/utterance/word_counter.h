@@ -17,8 +17,8 @@ class WordCounter {
         ++n_;
         return true;
     }
-    bool punc(std::string_view /*name*/) { return true; }
-    bool breaktime(std::string_view /*value*/) { return true; }
+    void punc(std::string_view /*name*/) {}
+    void breaktime(std::string_view /*value*/) {}
 
     bool enter(std::string_view /*name*/, std::string_view /*value*/) {
         ++depth_;

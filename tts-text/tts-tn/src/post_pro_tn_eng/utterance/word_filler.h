@@ -62,14 +62,8 @@ class WordFiller {
         if (const SpanChain* spans = chain()) record.cssml_tag = spans->markup();
         return true;
     }
-    bool punc(std::string_view name) {
-        add_punc(record_[-1], name);
-        return true;
-    }
-    bool breaktime(std::string_view value) {
-        set_breaktime(record_[-1], value);
-        return true;
-    }
+    void punc(std::string_view name) { add_punc(record_[-1], name); }
+    void breaktime(std::string_view value) { set_breaktime(record_[-1], value); }
 
     // False when the chain has no room for the span.
     bool enter(std::string_view name, std::string_view value) {

@@ -13,11 +13,10 @@ namespace kavi::tn {
 template <typename Visitor>
 bool read_text(Scanner& scanner, Visitor& visitor);
 
-// Hands what a tag tells to the visitor; a span is read to its end as a text by itself. False when
+// Hands what the last tag tells to the visitor; a span is read to its end as a text by itself. False when
 // the visitor said so.
 template <typename Visitor>
-bool visit_tag(Scanner& scanner, Visitor& visitor) {
-    const Tag tag = *scanner.tag();
+bool visit_tag(const Tag tag, Scanner& scanner, Visitor& visitor) {
     switch (tag.use) {
         case TagUse::punc: visitor.punc(tag.value); return true;
         case TagUse::breaktime: visitor.breaktime(tag.value); return true;
@@ -46,8 +45,8 @@ bool read_by_steps(Scanner& scanner, const char* goal, Visitor& visitor) {
         if (scanner.step()) {
             go_on = visitor.word(scanner.word());
             scanner.clear_word();
-        } else if (scanner.tag() != nullptr) {
-            go_on = visit_tag(scanner, visitor);
+        } else if (const Tag* tag = scanner.tag()) {
+            go_on = visit_tag(*tag, scanner, visitor);
         }
         if (!go_on) return false;
     } while (!scanner.at_end() && (scanner.has_word() || scanner.at() < goal));

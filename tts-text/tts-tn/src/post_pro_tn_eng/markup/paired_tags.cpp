@@ -39,6 +39,13 @@ bool is_name(const char* text, std::string_view name, char end) {
 
 // ---- sorted names ----
 
+bool SortedNames::reserve(std::size_t capacity) {
+    const std::size_t size = (capacity + 1) * sizeof(std::string_view);
+    begin_ = static_cast<std::string_view*>(mem_stack_request_buf(size, MEM_COMMON, arena_));
+    end_ = begin_;
+    return begin_ != nullptr;
+}
+
 void SortedNames::add(std::string_view name) {
     new (end_++) std::string_view(name);
 }
@@ -69,7 +76,10 @@ const std::string_view* SortedNames::find(std::string_view name, const char* pla
 
 const char* PairedTags::find_closing(const char* content, const char* end, std::string_view name) {
     constexpr int FAILURES_MAX = 8;
-    if (failures_ >= FAILURES_MAX && !sorted_) sort_tags(content);
+    if (failures_ == FAILURES_MAX) {
+        ++failures_;  // once, even if the arena refuses
+        sort_tags(content);
+    }
     const char* closing = is_sorted_ ? look_up(content, name) : search(content, end, name);
     if (closing != nullptr && closing + CLOSING + name.size() < end) return closing;
     ++failures_;
@@ -97,8 +107,7 @@ const char* PairedTags::search(const char* content, const char* end, std::string
 
 void PairedTags::sort_tags(const char* text) {
     const auto tags = static_cast<std::size_t>(std::count(text, text + std::strlen(text), '<'));
-    SortedTags& sorted = sorted_.emplace(arena_, tags);
-    is_sorted_ = sorted.openings && sorted.closings;
+    is_sorted_ = openings_.reserve(tags) && closings_.reserve(tags);
     if (!is_sorted_) return;
     for (const char* at = text; *at != '\0'; ++at) {
         if (*at != '<') continue;
@@ -106,19 +115,19 @@ void PairedTags::sort_tags(const char* text) {
         const char* name = at + (closes ? CLOSING : OPENING);
         const std::size_t length = name_length(name);
         if (name[length] == (closes ? '>' : '=')) {
-            (closes ? sorted.closings : sorted.openings).add({name, length});
+            (closes ? closings_ : openings_).add({name, length});
         }
     }
-    sorted.openings.sort();
-    sorted.closings.sort();
+    openings_.sort();
+    closings_.sort();
 }
 
 const char* PairedTags::look_up(const char* content, std::string_view name) const {
-    const std::string_view* const end = sorted_->closings.end();
-    const std::string_view* closing = sorted_->closings.find(name, content + CLOSING);
+    const std::string_view* const end = closings_.end();
+    const std::string_view* closing = closings_.find(name, content + CLOSING);
     if (closing == end || *closing != name) return nullptr;
-    const auto nested = sorted_->openings.find(name, closing->data()) -
-                        sorted_->openings.find(name, content + OPENING);
+    const auto nested =
+        openings_.find(name, closing->data()) - openings_.find(name, content + OPENING);
     const std::string_view* const match = closing + std::min(nested, end - closing);
     if (match == end || *match != name) return nullptr;
     return match->data() - CLOSING;

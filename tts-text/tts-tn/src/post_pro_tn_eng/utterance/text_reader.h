@@ -13,15 +13,16 @@ namespace kavi::tn {
 template <typename Visitor>
 bool read_text(Scanner& scanner, Visitor& visitor);
 
-// Hands what the last tag tells to the visitor; a span is read to its end as a text by itself. False when
-// the visitor said so.
+// Hands what the last tag tells to the visitor; a span is read to its end as a text by itself.
+// False when the visitor said so.
 template <typename Visitor>
-bool visit_tag(const Tag tag, Scanner& scanner, Visitor& visitor) {
+bool visit_tag(const Tag& tag, Scanner& scanner, Visitor& visitor) {
     switch (tag.use) {
         case TagUse::punc: visitor.punc(tag.value); return true;
         case TagUse::breaktime: visitor.breaktime(tag.value); return true;
         case TagUse::span: {
             const char* const end = scanner.end();
+            const char* const after = tag.after;  // the scanner reads its next tag into this one
             const char* const content = tag.content.data();
             Visitor inside(visitor);
             if (!inside.enter(tag.name, tag.value)) return false;
@@ -29,7 +30,7 @@ bool visit_tag(const Tag tag, Scanner& scanner, Visitor& visitor) {
             const bool read = inside.is_too_deep() || read_text(scanner, inside);
             visitor.leave(inside);
             scanner.clear_word();  // one that a tag at the end of the span has left incomplete
-            scanner.go_on_at(tag.after, end);
+            scanner.go_on_at(after, end);
             return read;
         }
         default: return true;

@@ -66,10 +66,11 @@ bool is_outside_ascii(char c) {
     return static_cast<unsigned char>(c) > 127;
 }
 
-// The first byte outside ASCII from `at` on, or `end`: by eights as long as there are so many.
+// The first byte outside ASCII from `at` on, else `end`, or `at` when it stands after that: by
+// eights as long as there are so many.
 std::size_t find_outside_ascii(std::string_view text, std::size_t at, std::size_t end) {
     constexpr std::uint64_t TOP_BITS = 0x8080808080808080;
-    for (std::uint64_t eight = 0; end - at >= sizeof eight; at += sizeof eight) {
+    for (std::uint64_t eight = 0; at + sizeof eight <= end; at += sizeof eight) {
         std::memcpy(&eight, text.data() + at, sizeof eight);
         if ((eight & TOP_BITS) != 0) break;
     }

@@ -304,13 +304,15 @@ TEST(Host, LongSentencesAreCutBesideWhatIsNoTag) {
         EXPECT_TRUE(source[0] == '<' || source[0] == '\xe2') << source[0];
     }
     // Without a blank, and in a small arena.
-    for (const char* text : {"do-<pause=1>g<orgLen=3>gy-dog<pause=2>", "1<pause=1>2-3<orgLen=3>"}) {
+    for (const char* piece : {"dog<orgLen=3>gy-", "12<pause=1>3-"}) {
         std::string unbroken;
-        for (int i = 0; i < 200; ++i) unbroken += text;
-        for (const std::size_t capacity : {0U, 3000U, 6000U}) {
-            std::string spoken;
-            for (const std::string& word : read_by_layer(unbroken, capacity).words) spoken += word;
-            EXPECT_EQ(spoken.find("doggy") == std::string::npos, text[0] == '1') << capacity;
+        for (int i = 0; i < 200; ++i) unbroken += piece;
+        const std::string whole = piece[0] == 'd' ? "doggy" : "three";
+        for (std::size_t capacity = 4000; capacity < 12000; capacity += 501) {
+            const ReadText read = read_by_layer(unbroken, capacity);
+            EXPECT_TRUE(read.all_read) << piece << capacity;
+            EXPECT_EQ(std::count(read.words.begin(), read.words.end(), whole), 200)
+                << piece << capacity;
         }
     }
 }

@@ -29,37 +29,14 @@ std::size_t tag_length(std::string_view text) {
     return tag->kind == tn::TagKind::kept && end >= tn::WORD_LENGTH_MAX ? 0 : end + 1;
 }
 
-// The first character at or after `at` that the engine does not remove, or NUL.
-char character_from(std::string_view text, std::size_t at) {
-    while (at < text.size()) {
-        const std::string_view here = text.substr(at);
-        const tn::MarkupTag* tag = tn::find_markup_tag(here);
-        if (tag == nullptr || tag->kind != tn::TagKind::removed) return text[at];
-        at += std::min(here.find('>'), here.size() - 1) + 1;
-    }
-    return '\0';
-}
-
-// Whether text may be cut before position `at`, which is not its start, without cutting a word, a
-// number or a character.
-bool is_boundary(std::string_view text, std::size_t at) {
-    if (at >= text.size()) return true;
-    const char before = text[at - 1];
-    const char after = character_from(text, at);
+// Whether text may be cut between two characters without cutting a word, a number or a character.
+bool is_boundary(char before, char after) {
     return !(tn::is_letter(before) && tn::is_letter(after)) &&
            !(tn::is_digit(before) && tn::is_digit(after)) && !is_continuation(after);
 }
 
-// The boundary nearest before `at`, else the nearest after it, as far as a word that fits goes;
-// `at` itself when the word is too long for any.
-std::size_t boundary_near(std::string_view text, std::size_t begin, std::size_t at) {
-    for (std::size_t i = at; i > begin && at - i < tn::WORD_LENGTH_MAX; --i) {
-        if (is_boundary(text, i)) return i;
-    }
-    for (std::size_t i = at; i - begin <= tn::WORD_LENGTH_MAX; ++i) {
-        if (is_boundary(text, i)) return std::min(i, text.size());
-    }
-    return at;
+bool is_removed_tag(std::string_view text, std::size_t tag_length) {
+    return tag_length > 0 && tn::find_markup_tag(text)->kind == tn::TagKind::removed;
 }
 
 bool is_outside_ascii(char c) {
@@ -288,23 +265,28 @@ bool TextWindow::leave_out(std::size_t length) {
 
 std::size_t TextWindow::cut_position(std::size_t size) const {
     const std::string_view text(buffer_ + begin_, length());
-    const std::size_t limit = std::min(prefix_ + size, text.size());
+    const std::size_t limit = prefix_ + size;
     std::size_t after_blank = 0;
-    std::size_t run = prefix_;  // where the text after the last tag begins
-    std::size_t at = prefix_;
-    while (at < limit) {
-        const std::size_t tag = tag_length(text.substr(at));
-        if (at + tag > limit) break;
-        if (tag > 0) {
-            run = at += tag;
-            continue;
+    std::size_t between = 0;  // words, numbers, characters or tags
+    std::size_t within = 0;   // a word that is longer than any that is read whole
+    char before = ' ';        // the last character that the engine does not remove
+    for (std::size_t at = prefix_, next = 0; at < text.size(); at = next) {
+        const std::string_view here = text.substr(at);
+        const std::size_t tag = tag_length(here);
+        next = at + std::max<std::size_t>(tag, 1);
+        if (!is_removed_tag(here, tag)) {
+            if (at > prefix_ && is_boundary(before, here[0])) between = at;
+            before = text[next - 1];
         }
-        if (text[at++] == ' ') after_blank = at;
+        if (at > prefix_ && at <= limit) within = at;
+        if (next > limit) {
+            if (after_blank != 0) return after_blank;
+            if (between != 0) return between;
+            if (within != 0 && next - prefix_ > tn::WORD_LENGTH_MAX) return within;
+        }
+        if (here[0] == ' ') after_blank = next;
     }
-    if (at == text.size()) return at;
-    if (after_blank != 0) return after_blank;
-    if (at == limit) return boundary_near(text, run, at);
-    return at > prefix_ ? at : at + tag_length(text.substr(at));  // before a tag, or after it
+    return text.size();
 }
 
 // The tags are written over what has been consumed, which they come from: so there is room.

@@ -215,6 +215,7 @@ TEST(Host, AStretchThatIsNotSpokenIsReportedOnceHoweverItIsFed) {
         EXPECT_EQ(read.diagnostics[0].offset, before + 1);
         EXPECT_EQ(read.diagnostics[0].length, 6U);
     }
+    EXPECT_TRUE(read_by_layer("a\x7f b").diagnostics.empty());
 }
 
 TEST(Host, DiagnosticsStandBeforeTheirSentenceInOrder) {
@@ -283,6 +284,7 @@ TEST(Host, CutsAnywhereLoseNoWord) {
             for (const std::string& source : read.sources) {
                 EXPECT_TRUE(piece[0] == '<' || source.size() % piece.size() == 0) << piece;
             }
+            for (const std::string& word : read.words) EXPECT_TRUE(piece[0] != '<' || word == "x");
         }
     }
 }

@@ -149,6 +149,7 @@ int main(int argc, char** argv) {
     using namespace kavi::bench;
     keep_memory();
     for (const Kind& kind : ORDINARY) add_ordinary(kind);
+    add_ordinary(LICENCES);
     for (const Kind& kind : ORDINARY) add_lengths(kind);
     for (const Kind& kind : WORST) add_lengths(kind);
     add_host(ORDINARY[0]);

@@ -43,6 +43,20 @@ std::string read_file(const fs::path& path) {
     return bytes.str();
 }
 
+// All that the files of the options are rendered to; `messages` takes the findings.
+std::string render(const Options& options, std::string& messages) {
+    BlockReader reader(options);
+    Renderer renderer(options);
+    std::string output;
+    for (Block block; reader.next(block);) {
+        const Rendered rendered = renderer.render(block);
+        EXPECT_TRUE(rendered.all_read);
+        output += rendered.output;
+        for (const FindingMessage& finding : rendered.findings) messages += finding.text;
+    }
+    return output;
+}
+
 struct Case {
     const char* file;
     Stage stage;
@@ -59,17 +73,8 @@ TEST_P(Rendering, IsAsInTheGoldenFile) {
     const fs::path before = fs::current_path();
     fs::current_path(GOLDEN);  // so that the names in the output are those above
     const std::unique_ptr<Format> format = make_format(options);
-    BlockReader reader(options);
-    Renderer renderer(options);
-    std::string output = format->prologue();
     std::string messages;
-    for (Block block; reader.next(block);) {
-        const Rendered rendered = renderer.render(block);
-        EXPECT_TRUE(rendered.all_read);
-        output += rendered.output;
-        for (const FindingMessage& finding : rendered.findings) messages += finding.text;
-    }
-    output += format->epilogue();
+    const std::string output = format->prologue() + render(options, messages) + format->epilogue();
     fs::current_path(before);
     const fs::path golden = GOLDEN / GetParam().file;
     if (std::getenv("KAVI_RENEW_GOLDEN") != nullptr) {
@@ -145,16 +150,8 @@ TEST_F(Files, TextsEndWithTheDelimiter) {
     Options options;
     options.delimiter = '\0';
     options.files = {file("nul", std::string("a\nq.\0c</poem>", 13))};
-    BlockReader reader(options);
-    Renderer renderer(options);
-    std::string output;
     std::string messages;
-    for (Block block; reader.next(block);) {
-        const Rendered rendered = renderer.render(block);
-        output += rendered.output;
-        for (const FindingMessage& finding : rendered.findings) messages += finding.text;
-    }
-    EXPECT_EQ(output, "a q <punc=ju>\nc\n");
+    EXPECT_EQ(render(options, messages), "a q <punc=ju>\nc\n");
     EXPECT_EQ(messages.substr(options.files[0].size(), 6), ":2:2: ");
 }
 

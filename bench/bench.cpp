@@ -128,8 +128,12 @@ void add_host(const Kind& kind) {
                 static TtsHost host;
                 int records = 0;
                 host.read(
-                    text, [&](const HostSentence& sentence) { records += sentence.n_records; },
-                    [](const Diagnostic&) {});
+                    text,
+                    [&](const HostSentence& sentence) {
+                        records += sentence.n_records;
+                        return true;
+                    },
+                    nullptr);
                 return records;
             });
     }

@@ -18,7 +18,8 @@ install(FILES
     tts-common/front_end_share/inc/ShareObj.h
     tts-text/tts-tn/inc/post_pro_tn_eng.h tts-text/tts-tn/inc/PostProcTN.h
     tts-text/tts-host/inc/tts_host.h tts-text/tts-host/inc/tts_findings.h
-    tts-text/tts-host/inc/tts_explain.h
+    tts-text/tts-host/inc/tts_explain.h tts-text/tts-host/inc/tts_plain.h
+    tts-text/tts-host/inc/tts_places.h
     ${CMAKE_CURRENT_BINARY_DIR}/include/kavi_version.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavi)
 install(EXPORT kaviTargets NAMESPACE kavi:: DESTINATION ${KAVI_PACKAGE_DIR})

@@ -12,9 +12,11 @@ int main() {
                 std::printf("%s (pause %d, emphasis \"%s\")\n", word.syllable, word.pause_type,
                             word.cssml_tag.emphasis);
             }
+            return true;
         },
         [](const kavi::Diagnostic& diagnostic) {
             std::printf("byte %zu: %s\n", diagnostic.offset, kavi::describe(diagnostic.finding));
+            return true;
         });
     return all_read ? 0 : 1;
 }

@@ -1,5 +1,5 @@
 // One host layer reads a text piece by piece, with a small arena or a large one: every piece is
-// covered without a gap, and what could not be read is reported.
+// covered without a gap, every word has its place, and what could not be read is reported.
 
 #include <algorithm>
 
@@ -23,6 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::any_of(read.diagnostics.begin(), read.diagnostics.end(),
                         [](const Diagnostic& d) { return d.finding == Finding::arena_too_small; });
         if (refused == read.all_read || (capacity == 0 && refused)) std::abort();
+        if (!read.fault.empty()) std::abort();
         if (!read.all_read) continue;
         const ReadText rest = read_by_layer(host, piece.substr(read.covered));
         if (!rest.sources.empty()) std::abort();

@@ -40,6 +40,7 @@ TEST(Explain, AbbreviationsAsInTheTable) {
             row[0],
             [&](const HostSentence& sentence) {
                 abbreviations += to_text(explain_abbreviations(sentence, row[0])) + "|";
+                return true;
             },
             nullptr);
         EXPECT_EQ(abbreviations, row[1]) << row[0];

@@ -7,6 +7,7 @@
 
 #include "expect_table.h"
 #include "host_reader.h"
+#include "tts_plain.h"
 
 namespace kavi {
 namespace {
@@ -42,12 +43,67 @@ TEST(Host, ShortTextsComeOutAsByHand) {
             std::any_of(layer.diagnostics.begin(), layer.diagnostics.end(),
                         [](const Diagnostic& d) { return d.finding < Finding::tag_too_long; });
         EXPECT_TRUE(layer.all_read);
+        EXPECT_EQ(layer.fault, "") << text;
         if (malformed) continue;  // by hand, the engine drops the rest
         const ReadText hand = read_by_hand(text);
         ASSERT_EQ(layer.normalized, hand.normalized) << text;
         ASSERT_EQ(layer.speakable, hand.speakable) << text;
         ASSERT_EQ(layer.records, hand.records) << text;
     }
+}
+
+TEST(Host, WordsComeFromTheirPlaces) {
+    expect_table("places", [](const std::string& text) {
+        const ReadText read = read_by_layer(text);
+        EXPECT_EQ(read.fault, "") << text;
+        std::string places;
+        for (const std::string& place : read.places) places += (places.empty() ? "" : " ") + place;
+        return TableRow{text, places};
+    });
+}
+
+TEST(Host, EveryLetterAndDigitOfOrdinarySentencesHasAWord) {
+    for (const char* table :
+         {"dates", "money", "clock_times", "number_tokens", "words", "symbols"}) {
+        for (const TableRow& row : read_table(table)) {
+            if (row[0].find('<') != std::string::npos) continue;
+            std::string covered = row[0];
+            TtsHost().read(
+                row[0],
+                [&](const HostSentence& sentence) {
+                    for (int i = 1; i < sentence.n_records; ++i) {
+                        const TextRange place = sentence.places[i].source;
+                        covered.replace(place.offset, place.length, place.length, ' ');
+                    }
+                    return true;
+                },
+                [&](const Diagnostic& d) {
+                    for (std::size_t at = d.offset; std::isdigit(covered[at]) != 0; ++at) {
+                        covered[at] = ' ';  // not read
+                    }
+                    return true;
+                });
+            EXPECT_EQ(std::find_if(covered.begin(), covered.end(),
+                                   [](char c) { return std::isalnum(c) != 0; }),
+                      covered.end())
+                << row[0] << "\n"
+                << covered;
+        }
+    }
+}
+
+TEST(Host, PlainTextAsInTheTable) {
+    expect_table("plain", [](const std::string& text) {
+        std::string plain;
+        TtsHost().read(
+            text,
+            [&](const HostSentence& sentence) {
+                plain += plain_text(sentence.records, sentence.n_records) + "|";
+                return true;
+            },
+            nullptr);
+        return TableRow{text, plain};
+    });
 }
 
 TEST(Host, SourcesOfSentencesCoverTheText) {
@@ -222,8 +278,14 @@ TEST(Host, DiagnosticsStandBeforeTheirSentenceInOrder) {
     std::string events;
     TtsHost().read(
         "a</poem> 1234567890123 <x</poem>. b</poem>! c",
-        [&](const HostSentence& sentence) { events += std::string(sentence.speakable) + "|"; },
-        [&](const Diagnostic& d) { events += std::to_string(d.offset) + " "; });
+        [&](const HostSentence& sentence) {
+            events += std::string(sentence.speakable) + "|";
+            return true;
+        },
+        [&](const Diagnostic& d) {
+            events += std::to_string(d.offset) + " ";
+            return true;
+        });
     EXPECT_EQ(events.substr(0, 9), "1 9 25 a ");
     EXPECT_NE(events.find("|35 b"), std::string::npos) << events;
 }
@@ -235,11 +297,12 @@ TEST(Host, HandlersMayBeEmptyThrowOrCallAgain) {
     const auto again = [&](const auto&) {
         ++sentences;
         EXPECT_FALSE(host.read(
-            "x. y", [](const HostSentence&) { FAIL(); }, nullptr));
+            "x. y", [](const HostSentence&) -> bool { throw 0; }, nullptr));
+        return true;
     };
     EXPECT_TRUE(host.read("a</poem>. b", again, again));
     EXPECT_EQ(sentences, 3) << "and the text is read to its end";
-    const auto fails = [](const auto&) { throw std::runtime_error("handler"); };
+    const auto fails = [](const auto&) -> bool { throw std::runtime_error("handler"); };
     EXPECT_THROW(host.read("a. b", fails, nullptr), std::runtime_error);
     EXPECT_THROW(host.read("<poem=p>a</prosody>. b", nullptr, fails), std::runtime_error);
     EXPECT_THROW(host.read("a. b</poem> <poem=q>c</poem></poem>", fails, nullptr),

@@ -2,6 +2,7 @@
 #ifndef KAVI_TESTS_HOST_READER_H
 #define KAVI_TESTS_HOST_READER_H
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -13,12 +14,47 @@
 
 namespace kavi {
 
+// What is wrong with the pieces and places of a sentence of `text`; empty for nothing.
+inline std::string fault_of_places(const HostSentence& sentence, std::string_view text) {
+    const std::size_t begin = sentence.source.offset;
+    const std::size_t end = begin + sentence.source.length;
+    std::size_t at = 0;
+    std::size_t offset = begin;
+    for (std::size_t i = 0; i < sentence.n_pieces; ++i) {
+        const SourcePiece& piece = sentence.pieces[i];
+        if (piece.at != at) return "a piece does not begin where the last one ended";
+        if (piece.source.offset < offset) return "pieces out of order";
+        at += piece.length;
+        offset = piece.source.offset + piece.source.length;
+        if (offset > end) return "a piece is not of this sentence";
+        std::string copy(text.substr(piece.source.offset, piece.source.length));
+        std::replace(copy.begin(), copy.end(), '\0', ' ');
+        const bool is_copy = !piece.is_abbreviation && piece.length > 1;
+        if (is_copy && piece.source.length > 0 &&
+            sentence.normalized.substr(piece.at, piece.length) != copy)
+            return "a piece is no copy";
+    }
+    if (at != sentence.normalized.size()) return "the pieces are not the sentence";
+    offset = begin;
+    for (int i = 1; i < sentence.n_records; ++i) {
+        const WordPlace& place = sentence.places[i];
+        if (place.source.offset < offset) return "words out of order";
+        if (place.source.length == 0) return "a word from nowhere";
+        if (place.source.offset + place.source.length > end) return "a word of another sentence";
+        if (sentence.speakable[place.at] != sentence.records[i].syllable[0]) return "no such word";
+        offset = place.source.offset;
+    }
+    return "";
+}
+
 struct ReadText {
     std::vector<std::string> normalized;
     std::vector<std::string> speakable;
     std::vector<std::string> records;
     std::vector<std::string> words;  // of all records
     std::vector<std::string> sources;
+    std::vector<std::string> places;  // of all records, each as "word=its source"
+    std::string fault;                // of the places
     std::vector<Diagnostic> diagnostics;
     std::size_t covered = 0;  // bytes of source, from the start without a gap
     bool all_read = false;
@@ -33,12 +69,22 @@ inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
             result.speakable.emplace_back(sentence.speakable);
             result.records.push_back(to_text(sentence.records, sentence.n_records));
             for (int i = 1; i < sentence.n_records; ++i) {
-                result.words.emplace_back(sentence.records[i].syllable);
+                const char* word = sentence.records[i].syllable;
+                const TextRange place = sentence.places[i].source;
+                result.words.emplace_back(word);
+                result.places.push_back(std::string(word) + "=" +
+                                        std::string(text.substr(place.offset, place.length)));
             }
-            result.sources.emplace_back(text.substr(sentence.offset, sentence.length));
-            if (sentence.offset == result.covered) result.covered += sentence.length;
+            if (result.fault.empty()) result.fault = fault_of_places(sentence, text);
+            result.sources.emplace_back(
+                text.substr(sentence.source.offset, sentence.source.length));
+            if (sentence.source.offset == result.covered) result.covered += sentence.source.length;
+            return true;
         },
-        [&](const Diagnostic& diagnostic) { result.diagnostics.push_back(diagnostic); });
+        [&](const Diagnostic& diagnostic) {
+            result.diagnostics.push_back(diagnostic);
+            return true;
+        });
     return result;
 }
 

@@ -42,14 +42,15 @@ class JsonFormat : public Format {
 
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
-        const std::string_view source = place.text.substr(sentence.offset, sentence.length);
+        const std::string_view source =
+            place.text.substr(sentence.source.offset, sentence.source.length);
         Json json;
         json["input"] = place.input;
         json["line"] = place.line;
         json["sentence"] = place.sentence;
         json["source"] = source;
-        json["offset"] = sentence.offset;
-        json["length"] = sentence.length;
+        json["offset"] = sentence.source.offset;
+        json["length"] = sentence.source.length;
         json["normalized"] = sentence.normalized;
         json["speakable"] = sentence.speakable;
         json["words"] = Json::array();

@@ -35,6 +35,7 @@ void Renderer::render_text(const Block& block, std::size_t line, std::string_vie
             const Place place = {block.input, line, ++sentences, text};
             format_->write(place, sentence, diagnostics, rendered.output);
             diagnostics.clear();
+            return true;
         },
         [&](const Diagnostic& diagnostic) {
             diagnostics.push_back(diagnostic);
@@ -42,6 +43,7 @@ void Renderer::render_text(const Block& block, std::size_t line, std::string_vie
                 {diagnostic.finding, block.input + ":" + std::to_string(line) + ":" +
                                          std::to_string(diagnostic.offset + 1) + ": " +
                                          describe(diagnostic, text) + "\n"});
+            return true;
         });
     rendered.all_read = rendered.all_read && all_read;
 }

@@ -7,38 +7,43 @@
 #include <memory>
 #include <string_view>
 
+#include "MemoryStack.h"
 #include "ShareObj.h"
 #include "tts_findings.h"
+#include "tts_places.h"
 
 namespace kavi {
 
-// An abbreviation that was written out.
-struct Expansion {
-    std::size_t offset;  // of what was written, in the text given to read()
-    std::size_t length;
-    std::size_t at;  // of its words, in the normalised sentence
-    std::size_t length_there;
-};
-
 struct HostSentence {
-    std::size_t offset;                // where its source begins, in the text given to read()
-    std::size_t length;                // of its source, which begins where the last one ended
+    TextRange source;                  // begins where that of the last sentence ended
     std::string_view normalized;       // what eng_text_normalize made of it
     std::string_view speakable;        // what eng_text_tokenize made of that; NUL-terminated
     const UtteranceSyllable* records;  // what eng_text_to_utterance_syllable made of that
     int n_records;
-    const Expansion* expansions;  // in order
-    std::size_t n_expansions;
+    const WordPlace* places;    // of each record; the head record has an empty source
+    const SourcePiece* pieces;  // in order; together they are the normalised sentence
+    std::size_t n_pieces;
 };
 
-// Owns an arena and an engine. One object serves one thread at a time; objects share nothing.
+// The source of `length` bytes at `at` of the normalised sentence: all of an abbreviation for any
+// byte of it. Empty for what has none.
+TextRange source_of(const HostSentence& sentence, std::size_t at, std::size_t length);
+
+// Makes the three calls of the engine. One object serves one thread at a time; objects share
+// nothing.
 class TtsHost {
   public:
-    using SentenceHandler = std::function<void(const HostSentence&)>;
-    using DiagnosticHandler = std::function<void(const Diagnostic&)>;
+    // A handler answers whether to go on. An empty one is not called.
+    using SentenceHandler = std::function<bool(const HostSentence&)>;
+    using DiagnosticHandler = std::function<bool(const Diagnostic&)>;
 
-    // `n_capacity` bounds the arena, in bytes; 0: no limit.
+    // On an arena of its own. `n_capacity` bounds it, in bytes; 0: no limit.
     explicit TtsHost(std::size_t n_capacity = 0);
+
+    // On an arena that stays the caller's, and that nobody else uses during a call of read().
+    // Between calls, nothing of it is in use here.
+    explicit TtsHost(mem_stack_handle arena);
+
     ~TtsHost();
     TtsHost(const TtsHost&) = delete;
     TtsHost& operator=(const TtsHost&) = delete;
@@ -47,8 +52,7 @@ class TtsHost {
     // `on_sentence` for each sentence in order; what the call is given lives until it returns.
     // The diagnostics of a sentence come directly before it, in the order of their offsets, those
     // after the last sentence at the end. The sources of the sentences cover the text, but for
-    // what was passed over and what is silent after the last sentence. An empty handler is not
-    // called.
+    // what was passed over and what is silent after the last sentence.
     //
     // A text of up to 4,095 bytes whose sentences have up to 3,000 when they are normalised comes
     // out as if the engine had been called by hand. A sentence that the engine's buffers or the
@@ -57,8 +61,10 @@ class TtsHost {
     // small even for a short piece, that piece is passed over, with a diagnostic. True when there
     // was none of these.
     //
-    // Called from a handler of the same object, it reads nothing and answers false. What a handler
-    // throws comes through; the rest of the text is not read, and the object can read another.
+    // When a handler answers false, the rest of the text is not read, no handler is called any
+    // more, and the answer is false. What a handler throws comes through. Either way the object
+    // can read another text. Called from a handler of the same object, it reads nothing and
+    // answers false.
     bool read(std::string_view text, const SentenceHandler& on_sentence,
               const DiagnosticHandler& on_diagnostic);
 

@@ -13,7 +13,7 @@ bool is_telephone_number(tn::ReadingRule rule) {
 
 }  // namespace
 
-void ReadingFindings::on_step(const tn::SectionDispatcher& step) {
+void ReadingFindings::add_step(const tn::SectionDispatcher& step) {
     const Section* longest = step.first();  // number, of which the first
     std::size_t longest_length = 0;
     for (const Section* s = step.first(); s != nullptr; s = s->m_pnext) {

@@ -11,7 +11,7 @@ namespace kavi::host {
 
 // Looks on while a sentence is read, and notes digits that are not, readings that were cut, and
 // tags that were passed over; with offsets in the sentence.
-class ReadingFindings : public tn::StepObserver {
+class ReadingFindings {
   public:
     // Before a sentence that begins at `sentence`.
     void begin(const char* sentence) {
@@ -19,7 +19,7 @@ class ReadingFindings : public tn::StepObserver {
         findings_.clear();
     }
 
-    void on_step(const tn::SectionDispatcher& step) override;
+    void add_step(const tn::SectionDispatcher& step);
 
     const std::vector<Diagnostic>& findings() const { return findings_; }
 

@@ -1,4 +1,4 @@
-// Which byte of its source each byte of a sentence comes from.
+// Which bytes of the text each byte of a sentence stands for.
 #ifndef KAVI_HOST_SENTENCE_SOURCE_H
 #define KAVI_HOST_SENTENCE_SOURCE_H
 
@@ -7,49 +7,44 @@
 #include <vector>
 
 #include "for_host_layer.h"
+#include "text_window.h"
+#include "tts_places.h"
 
 namespace kavi::host {
 
-// Looks on while a sentence is cut.
+// The source of `length` bytes at `at` of a sentence that these pieces tile.
+TextRange source_in(const SourcePiece* pieces, std::size_t n_pieces, std::size_t at,
+                    std::size_t length);
+
+// Looks on while a sentence is cut, and tells then what its pieces stand for.
 class SentenceSource : public tn::CutObserver {
   public:
-    // A piece of the source, and the piece of the sentence that stands for it. What is in neither
-    // is the same in both.
+    // Before a sentence is cut from what the window holds.
+    void begin() { replacements_.clear(); }
+
+    void on_replaced(std::string_view source, int target_at, int length) override {
+        replacements_.push_back(
+            {source, static_cast<std::size_t>(target_at), static_cast<std::size_t>(length)});
+    }
+
+    // After it was cut, and before the window moves on.
+    void find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter);
+
+    const std::vector<SourcePiece>& pieces() const { return pieces_; }
+
+    TextRange source_of(std::size_t at, std::size_t length) const {
+        return source_in(pieces_.data(), pieces_.size(), at, length);
+    }
+
+  private:
     struct Replacement {
-        const char* source;
-        std::size_t source_length;
+        std::string_view source;  // in the window
         std::size_t at;
         std::size_t length;
     };
 
-    // Before a sentence whose source begins at `source`.
-    void begin(const char* source) {
-        source_ = source;
-        replacements_.clear();
-    }
-
-    void on_replaced(std::string_view source, int target_at, int length) override {
-        replacements_.push_back({source.data(), source.size(), static_cast<std::size_t>(target_at),
-                                 static_cast<std::size_t>(length)});
-    }
-
-    // Where the byte at `at` of the sentence, which belongs to no replacement, comes from.
-    const char* place_of(std::size_t at) const {
-        const char* source = source_;
-        std::size_t known = 0;  // `source` is where this byte of the sentence comes from
-        for (const Replacement& r : replacements_) {
-            if (at < r.at) break;
-            source = r.source + r.source_length;
-            known = r.at + r.length;
-        }
-        return source + (at - known);
-    }
-
-    const std::vector<Replacement>& replacements() const { return replacements_; }
-
-  private:
-    const char* source_ = nullptr;
     std::vector<Replacement> replacements_;
+    std::vector<SourcePiece> pieces_;
 };
 
 }  // namespace kavi::host

@@ -316,4 +316,44 @@ std::size_t TextWindow::source_offset(const char* at) const {
     return offset;
 }
 
+void TextWindow::Sources::copied_up_to(const char* end) {
+    const auto index = static_cast<std::size_t>(end - window_.buffer_);
+    const std::size_t prefix_end = window_.begin_ + window_.prefix_;
+    if (from_ < prefix_end) {
+        const std::size_t length = std::min(index, prefix_end) - from_;
+        add(length, {window_.origin_ + prefix_end + window_.left_out_, 0}, false);
+        from_ += length;
+    }
+    while (is_gap_before(index)) {
+        copy_up_to(window_.gaps_[n_gaps_].at - 1 - window_.origin_);
+        const std::size_t begin = offset();
+        pass(from_ + 1);
+        add(1, {begin, offset() - begin}, false);
+    }
+    copy_up_to(index);
+}
+
+void TextWindow::Sources::replaced(std::string_view source, std::size_t length) {
+    const std::size_t begin = offset();
+    pass(from_ + source.size());
+    add(length, {begin, offset() - begin}, length > 0);
+}
+
+bool TextWindow::Sources::is_gap_before(std::size_t index) const {
+    return n_gaps_ < window_.gaps_.size() && window_.gaps_[n_gaps_].at <= window_.origin_ + index;
+}
+
+// Nothing is left out before that.
+void TextWindow::Sources::copy_up_to(std::size_t index) {
+    const std::size_t length = index - from_;
+    if (length > 0) add(length, {offset(), length}, false);
+    from_ = index;
+}
+
+// Passes bytes of the window that have been told of, and what is left out among them.
+void TextWindow::Sources::pass(std::size_t index) {
+    for (; is_gap_before(index); ++n_gaps_) left_out_ += window_.gaps_[n_gaps_].length;
+    from_ = index;
+}
+
 }  // namespace kavi::host

@@ -8,6 +8,7 @@
 
 #include "for_host_layer.h"
 #include "tts_findings.h"
+#include "tts_places.h"
 
 namespace kavi::host {
 
@@ -80,6 +81,40 @@ class TextWindow {
     // Where in the text a byte of the buffer comes from; `text()` is the first that has not been
     // consumed.
     std::size_t source_offset(const char* at) const;
+
+    // Lists what the bytes of a sentence stand for, from `text()` on: in order, and before the
+    // window moves on.
+    class Sources {
+      public:
+        Sources(const TextWindow& window, std::vector<SourcePiece>& pieces)
+            : window_(window), pieces_(pieces), from_(window.begin_), left_out_(window.left_out_) {}
+
+        // The sentence has a copy of what stands in the window up to there.
+        void copied_up_to(const char* end);
+
+        // It has `length` other bytes for this piece of the window.
+        void replaced(std::string_view source, std::size_t length);
+
+        // It has `length` bytes more, for nothing.
+        void added(std::size_t length) { add(length, {offset(), 0}, false); }
+
+      private:
+        void add(std::size_t length, TextRange source, bool is_abbreviation) {
+            pieces_.push_back({at_, length, source, is_abbreviation});
+            at_ += length;
+        }
+        bool is_gap_before(std::size_t index) const;
+        void copy_up_to(std::size_t index);
+        void pass(std::size_t index);
+        std::size_t offset() const { return window_.origin_ + from_ + left_out_; }
+
+        const TextWindow& window_;
+        std::vector<SourcePiece>& pieces_;
+        std::size_t from_;        // the next byte of the buffer
+        std::size_t at_ = 0;      // the next byte of the sentence
+        std::size_t left_out_;    // bytes left out before the next
+        std::size_t n_gaps_ = 0;  // passed, of those after what has been consumed
+    };
 
     // What was found in what has been fed, in order; the reader takes them off.
     std::deque<Diagnostic>& findings() { return findings_; }

@@ -68,14 +68,20 @@ std::vector<ExplainedRun> explain(std::string_view normalized) {
     std::vector<ExplainedRun> runs;
     while (dispatcher.next()) {
         const char* begin = SectionWindow::source(dispatcher.first()).data();
-        ExplainedRun run = {static_cast<std::size_t>(begin - sentence.c_str()), {}, {}, nullptr};
+        // The letters that an apostrophe rewrites are a step of their own.
+        const bool goes_on = !runs.empty() && SectionWindow::is_rewritten(dispatcher.first());
+        if (!goes_on) {
+            runs.push_back({static_cast<std::size_t>(begin - sentence.c_str()), 0, {}, {}, 0, {}});
+        }
+        ExplainedRun& run = runs.back();
         for (const Section* s = dispatcher.first(); s != nullptr; s = s->m_pnext) {
             run.sections.emplace_back(SectionWindow::source(s));
+            run.length += run.sections.back().size();
             if (s == dispatcher.last()) break;
         }
-        run.reading = speakable + dispatcher.output_before();
-        run.rule = name_of(dispatcher, run.reading);
-        runs.push_back(std::move(run));
+        run.reading_at = static_cast<std::size_t>(dispatcher.output_before());
+        run.reading = speakable + run.reading_at;
+        if (!goes_on) run.rule = name_of(dispatcher, run.reading);
     }
     return runs;
 }
@@ -83,11 +89,14 @@ std::vector<ExplainedRun> explain(std::string_view normalized) {
 std::vector<ExplainedRun> explain_abbreviations(const HostSentence& sentence,
                                                 std::string_view text) {
     std::vector<ExplainedRun> runs;
-    for (std::size_t i = 0; i < sentence.n_expansions; ++i) {
-        const Expansion& e = sentence.expansions[i];
-        runs.push_back({e.at,
-                        {std::string(text.substr(e.offset, e.length))},
-                        std::string(sentence.normalized.substr(e.at, e.length_there)),
+    for (std::size_t i = 0; i < sentence.n_pieces; ++i) {
+        const SourcePiece& piece = sentence.pieces[i];
+        if (!piece.is_abbreviation) continue;
+        runs.push_back({piece.at,
+                        piece.length,
+                        {std::string(text.substr(piece.source.offset, piece.source.length))},
+                        std::string(sentence.normalized.substr(piece.at, piece.length)),
+                        0,
                         "abbreviation"});
     }
     return runs;

@@ -8,6 +8,7 @@
 
 #include "for_host_layer.h"
 #include "reading_findings.h"
+#include "reading_places.h"
 #include "sentence_source.h"
 #include "text_window.h"
 
@@ -21,12 +22,12 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 }  // namespace
 
-class TtsHost::State {
+class TtsHost::State : tn::ReadingObserver {
   public:
-    explicit State(std::size_t n_capacity) : arena_(mem_stack_create(n_capacity)) {
-        engine_.init(arena_);
+    State(mem_stack_handle arena, bool owns_arena) : arena_(arena), owns_arena_(owns_arena) {}
+    ~State() {
+        if (owns_arena_) mem_stack_destroy(arena_);
     }
-    ~State() { mem_stack_destroy(arena_); }
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
@@ -58,12 +59,21 @@ class TtsHost::State {
     bool read_piece();
     bool read_sentence(std::size_t cut);
     void release_records();
-    void collect_expansions();
+    void collect_places();
     void collect_diagnostics(bool done);
-    void report(std::size_t end, const DiagnosticHandler& on_diagnostic);
+    bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
+
+    // While a sentence is read.
+    void on_plain_text(std::string_view source, int target_at) override {
+        reading_places_.add_plain_text(source, target_at);
+    }
+    void on_step(const tn::SectionDispatcher& step) override {
+        reading_places_.add_step(step);
+        findings_.add_step(step);
+    }
 
     mem_stack_handle arena_;
-    PostProTnEng engine_;
+    bool owns_arena_;
     bool is_reading_ = false;
     host::TextWindow window_;
     host::SentenceSource source_;
@@ -72,7 +82,9 @@ class TtsHost::State {
     std::optional<tn::SentenceCutter> cutter_;             // of the last sentence
     const char* rest_ = nullptr;                           // in the window, after that
     std::vector<Diagnostic> diagnostics_;                  // of that
-    std::vector<Expansion> expansions_;
+    host::ReadingPlaces reading_places_;
+    std::vector<const char*> word_begins_;  // in the speakable text
+    std::vector<WordPlace> places_;
     char normalized_[SZ_TEXT_MAX_LEN] = {};
     char speakable_[SZ_TEXT_MAX_LEN] = {};
     UtteranceSyllable* utt_ = nullptr;
@@ -90,27 +102,31 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
         if (moved) abbreviations_.reset();
         const bool done = read_piece();
         const std::size_t end = window_.source_offset(rest_);
+        if (done) source_.find_pieces(window_, *cutter_);
         collect_diagnostics(done);
-        report(end, on_diagnostic);
+        if (!report(end, on_diagnostic)) return false;
         if (!done) {
             all_read = false;
             begin = end;
         } else if (normalized_[0] != '\0') {
-            collect_expansions();
-            if (on_sentence) {
-                on_sentence(
-                    {begin, end - begin,
-                     std::string_view(normalized_, static_cast<std::size_t>(cutter_->length())),
-                     speakable_, utt_, n_utt_, expansions_.data(), expansions_.size()});
-            }
+            collect_places();
+            const HostSentence sentence = {
+                {begin, end - begin},
+                {normalized_, static_cast<std::size_t>(cutter_->length())},
+                speakable_,
+                utt_,
+                n_utt_,
+                places_.data(),
+                source_.pieces().data(),
+                source_.pieces().size()};
+            if (on_sentence && !on_sentence(sentence)) return false;
             begin = end;
         }
         window_.consume(rest_, cutter_->open_tags());
         release_records();
     }
     diagnostics_.clear();
-    report(text.size(), on_diagnostic);
-    return all_read;
+    return report(text.size(), on_diagnostic) && all_read;
 }
 
 // The first sentence of the window, or of a shorter and shorter piece of it until the engine's
@@ -133,16 +149,19 @@ bool TtsHost::State::read_sentence(std::size_t cut) {
     char* text = window_.text();
     const char after = text[cut];
     text[cut] = '\0';
-    source_.begin(text);
+    source_.begin();
     if (!abbreviations_) abbreviations_.emplace();
     cutter_.emplace(text, normalized_, *abbreviations_, &source_);
     const bool well_formed = cutter_->cut();
     rest_ = cutter_->rest();
     text[cut] = after;
     findings_.begin(normalized_);
+    reading_places_.begin(speakable_);
+    word_begins_.clear();
     return well_formed && cutter_->length() <= SENTENCE_MAX &&
-           tn::tokenize(normalized_, speakable_, &findings_) == 0 &&
-           engine_.eng_text_to_utterance_syllable(speakable_, utt_, n_utt_) == 0;
+           tn::tokenize(normalized_, speakable_, this) == 0 &&
+           tn::build_utterance<host::PlacingFiller>(speakable_, arena_, utt_, n_utt_,
+                                                    word_begins_) == 0;
 }
 
 void TtsHost::State::release_records() {
@@ -158,11 +177,16 @@ void TtsHost::State::release_records() {
     n_utt_ = 0;
 }
 
-void TtsHost::State::collect_expansions() {
-    expansions_.clear();
-    for (const host::SentenceSource::Replacement& r : source_.replacements()) {
-        if (r.length == 0) continue;  // removed
-        expansions_.push_back({window_.source_offset(r.source), r.source_length, r.at, r.length});
+void TtsHost::State::collect_places() {
+    places_.assign(1, {{source_.source_of(0, 1).offset, 0}, 0});
+    for (std::size_t i = 0; i < word_begins_.size(); ++i) {
+        const char* word = word_begins_[i];
+        const auto length = static_cast<std::size_t>(utt_[i + 1].syl_len - 1);
+        const std::string_view read_from = reading_places_.source_of({word, length});
+        places_.push_back(
+            {source_.source_of(static_cast<std::size_t>(read_from.data() - normalized_),
+                               read_from.size()),
+             static_cast<std::size_t>(word - speakable_)});
     }
 }
 
@@ -174,30 +198,40 @@ void TtsHost::State::collect_diagnostics(bool done) {
         return;
     }
     for (const Diagnostic& finding : findings_.findings()) {
-        const char* place = source_.place_of(finding.offset);
-        diagnostics_.push_back({window_.source_offset(place), finding.finding});
+        diagnostics_.push_back({source_.source_of(finding.offset, 1).offset, finding.finding});
     }
     std::stable_sort(diagnostics_.begin(), diagnostics_.end(), is_before);
 }
 
-// Reports these, and what was found in the text before `end`, in the order of their offsets.
-void TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnostic) {
+// Reports these, and what was found in the text before `end`, in the order of their offsets. False
+// when the handler said so.
+bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnostic) {
     std::deque<Diagnostic>& in_text = window_.findings();
+    const auto hand_over = [&](const Diagnostic& diagnostic) {
+        return !on_diagnostic || on_diagnostic(diagnostic);
+    };
     const auto report_text_before = [&](std::size_t offset) {
         while (!in_text.empty() && in_text.front().offset < offset) {
             const Diagnostic first = in_text.front();
             in_text.pop_front();
-            if (on_diagnostic) on_diagnostic(first);
+            if (!hand_over(first)) return false;
         }
+        return true;
     };
     for (const Diagnostic& diagnostic : diagnostics_) {
-        report_text_before(diagnostic.offset);
-        if (on_diagnostic) on_diagnostic(diagnostic);
+        if (!report_text_before(diagnostic.offset) || !hand_over(diagnostic)) return false;
     }
-    report_text_before(end);
+    return report_text_before(end);
 }
 
-TtsHost::TtsHost(std::size_t n_capacity) : state_(std::make_unique<State>(n_capacity)) {}
+TextRange source_of(const HostSentence& sentence, std::size_t at, std::size_t length) {
+    return host::source_in(sentence.pieces, sentence.n_pieces, at, length);
+}
+
+TtsHost::TtsHost(std::size_t n_capacity)
+    : state_(std::make_unique<State>(mem_stack_create(n_capacity), true)) {}
+
+TtsHost::TtsHost(mem_stack_handle arena) : state_(std::make_unique<State>(arena, false)) {}
 
 TtsHost::~TtsHost() = default;
 

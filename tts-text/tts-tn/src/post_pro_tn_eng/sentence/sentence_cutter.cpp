@@ -182,6 +182,7 @@ bool SentenceCutter::close_span(const MarkupTag& tag) {
 }
 
 bool SentenceCutter::close_open_spans() {
+    length_before_closing_ = target_.length();
     for (int i = tags_.begin_arr_len - 1; i >= 0; --i) {
         if (!target_.append(find_markup_tag(tags_.begin_tag_arr[i])->partner)) return false;
     }

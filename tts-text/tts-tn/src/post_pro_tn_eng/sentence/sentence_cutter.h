@@ -45,6 +45,10 @@ class SentenceCutter {
     // pass: the spans stay open, and what follows is not to be read.
     bool cut();
 
+    // After cut(): where the sentence's own source ends; what has been added closes its spans.
+    const char* end() const { return next_; }
+    int length_before_closing() const { return length_before_closing_; }
+
     // After cut(): where the next sentence begins, once what is silent has been passed over.
     const char* rest() const;
 
@@ -80,7 +84,8 @@ class SentenceCutter {
     char previous_ = 0;  // the last character that the scan recorded; tags do not count
     bool stop_ = false;  // the sentence has ended
     bool full_ = false;  // it has no room for the tag at hand
-    SsmlTagArr tags_;    // of its entries, those below begin_arr_len hold texts
+    int length_before_closing_ = 0;
+    SsmlTagArr tags_;  // of its entries, those below begin_arr_len hold texts
     TagEnds tag_ends_;
 };
 

@@ -39,12 +39,16 @@ const char* end_of_plain_words(const char* text, const char* text_end) {
 
 }  // namespace
 
-const char* PlainText::read(const char* text) {
+const char* PlainText::read(const char* text, ReadingObserver* observer) {
     for (;;) {
         while (*text == ' ') ++text;
         if (*text == '\0' || is_digit(*text)) return text;
+        const int target_at = output_.length();
         const char* end = belongs_to(LETTERS, *text) ? words(text) : mark(text);
         if (end == text || end == nullptr) return end;
+        if (observer != nullptr) {
+            observer->on_plain_text({text, static_cast<std::size_t>(end - text)}, target_at);
+        }
         text = end;
     }
 }

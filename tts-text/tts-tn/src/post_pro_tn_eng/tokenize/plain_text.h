@@ -6,6 +6,7 @@
 
 #include "../common/bounded_text.h"
 #include "../markup/tag_ends.h"
+#include "reading_observer.h"
 #include "section_window.h"
 
 namespace kavi::tn {
@@ -21,8 +22,9 @@ class PlainText {
 
     // Appends the readings from `text` on and returns where they end: at the end of the text, or
     // where a pattern may begin that a reader has to look at. Null when the output is full; it then
-    // holds what fitted.
-    const char* read(const char* text);
+    // holds what fitted. `observer` is shown each word, or stretch of words, and mark; it may be
+    // null.
+    const char* read(const char* text, ReadingObserver* observer);
 
   private:
     // Each reads what begins at `text` and returns where that ends; `text` itself when a reader has

@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "../common/ascii.h"
 #include "../readers/readers.h"
 #include "section_cut.h"
 
@@ -41,6 +42,11 @@ class SectionWindow {
     static std::string_view source(const Section* section) {
         const auto* placed = static_cast<const PlacedSection*>(section);
         return {placed->begin, placed->length};
+    }
+
+    // Whether the apostrophe before a section of this window has rewritten it.
+    static bool is_rewritten(const Section* section) {
+        return is_letter(section->sz_char[0]) && source(section) != section->sz_char;
     }
 
     // Whether a "$" follows the amount that begins with this number.

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "../common/ascii.h"
+#include "dispatcher.h"
 #include "plain_text.h"
 
 namespace kavi {
@@ -11,7 +12,7 @@ namespace tn {
 
 // Sections are made only of what a reader has to look at: the plain text between goes straight to
 // the output.
-int tokenize(const char* sz_source_text, char* sz_target_text, StepObserver* observer) {
+int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* observer) {
     BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
     if (output.length() == SZ_TEXT_MAX_LEN) return -1;  // no text: nothing terminates it
     bool all_words = output.length() == 0;
@@ -19,7 +20,7 @@ int tokenize(const char* sz_source_text, char* sz_target_text, StepObserver* obs
     SectionWindow window(SectionWindow::Reach::plain_word, tag_ends);
     PlainText plain_text(sz_source_text + std::strlen(sz_source_text), tag_ends, window, output);
     for (const char* text = sz_source_text;;) {
-        text = plain_text.read(text);
+        text = plain_text.read(text, observer);
         if (text == nullptr) return -1;
         if (*text == '\0') break;
         SectionDispatcher dispatcher(text, window, output);

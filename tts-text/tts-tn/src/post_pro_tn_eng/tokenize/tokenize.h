@@ -2,21 +2,12 @@
 #ifndef KAVI_TN_TOKENIZE_H
 #define KAVI_TN_TOKENIZE_H
 
-#include "dispatcher.h"
+#include "reading_observer.h"
 
 namespace kavi::tn {
 
-// Is shown every step of the dispatcher. Plain text takes none.
-class StepObserver {
-  public:
-    virtual void on_step(const SectionDispatcher& step) = 0;
-
-  protected:
-    ~StepObserver() = default;
-};
-
 // What PostProTnEng::eng_text_tokenize does; `observer` may be null.
-int tokenize(const char* sz_source_text, char* sz_target_text, StepObserver* observer);
+int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* observer);
 
 // Leaves only letters and blanks outside tags, and no blank at the end.
 void re_regular(char* sz_source_text);

@@ -86,7 +86,7 @@ void force_pause(UtteranceSyllable& record, PAUSE_type pause) {
 }  // namespace
 
 bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf) {
-    if (!tn::WordFiller(_mem_handle, utt + n, nullptr).word(sz_char_buf)) return false;
+    if (!tn::WordFiller(_mem_handle, utt + n, nullptr).store(sz_char_buf)) return false;
     utt[n].cssml_tag = {};
     return true;
 }

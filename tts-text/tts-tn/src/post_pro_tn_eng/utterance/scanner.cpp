@@ -68,6 +68,7 @@ bool Scanner::advance() {
         const Met met = meet_tag();
         if (met != Met::no_tag) return met == Met::word_end;
     }
+    if (word_length_ == 0) word_begin_ = at_;
     word_[word_length_++] = c;
     ++at_;
     return last;

@@ -44,6 +44,7 @@ class Scanner {
 
     // The word that the last step completed.
     std::string_view word() const { return {word_, static_cast<std::size_t>(word_length_)}; }
+    const char* word_begin() const { return word_begin_; }  // in the text
     int word_length() const { return word_length_; }
     bool has_word() const { return word_[0] != '\0'; }
 
@@ -64,6 +65,7 @@ class Scanner {
     const char* end_;
     char* word_;
     int word_length_;
+    const char* word_begin_ = nullptr;
     bool met_tag_ = false;
     Tag tag_ = {};                      // the last that was met
     const char* text_ahead_ = nullptr;  // up to here there are more than tags

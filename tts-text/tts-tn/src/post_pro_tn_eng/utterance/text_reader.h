@@ -44,7 +44,7 @@ bool read_by_steps(Scanner& scanner, const char* goal, Visitor& visitor) {
     do {
         bool go_on = true;
         if (scanner.step()) {
-            go_on = visitor.word(scanner.word());
+            go_on = visitor.word(scanner.word(), scanner.word_begin());
             scanner.clear_word();
         } else if (const Tag* tag = scanner.tag()) {
             go_on = visit_tag(*tag, scanner, visitor);
@@ -55,7 +55,8 @@ bool read_by_steps(Scanner& scanner, const char* goal, Visitor& visitor) {
 }
 
 // Reads the scanner's text to its end and hands what it meets to the visitor: punc(name),
-// breaktime(value), word(word), which answers whether to go on, and spans: a copy of the visitor
+// breaktime(value), word(word, where it begins in the text), which answers whether to go on, and
+// spans: a copy of the visitor
 // has enter(name, value) called, which answers too, and reads the span, unless it is_too_deep();
 // then the visitor itself has leave(copy) called. False when one did not go on.
 template <typename Visitor>
@@ -65,7 +66,7 @@ bool read_text(Scanner& scanner, Visitor& visitor) {
         const char* end = skip_word(at, text_end);
         const auto length = static_cast<std::size_t>(end - at);
         if (length > 0 && length < WORD_MAX_LEN && *end == ' ') {
-            if (!visitor.word({at, length})) return false;  // the usual word: nothing is copied
+            if (!visitor.word({at, length}, at)) return false;  // the usual word: nothing is copied
             at = end + 1;
         } else if (*at == ' ') {
             ++at;

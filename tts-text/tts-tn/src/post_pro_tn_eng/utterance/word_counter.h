@@ -13,7 +13,7 @@ constexpr int SPANS_NESTED_MAX = 64;
 // Counts the words that it is shown, and those of spans.
 class WordCounter {
   public:
-    bool word(std::string_view /*word*/) {
+    bool word(std::string_view /*word*/, const char* /*begin*/) {
         ++n_;
         return true;
     }

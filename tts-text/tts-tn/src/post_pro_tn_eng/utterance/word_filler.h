@@ -35,8 +35,10 @@ class WordFiller {
     // Where the next word goes.
     UtteranceSyllable* record() const { return record_; }
 
+    bool word(std::string_view word, const char* /*begin*/) { return store(word); }
+
     // At the default pause. False when the arena refused the word's storage: nothing is kept.
-    bool word(std::string_view word) {
+    bool store(std::string_view word) {
         constexpr std::size_t ZHUYIN_MIN = 128;
         constexpr std::size_t ZHUYIN_PER_CHARACTER = 10;
         const std::size_t size = word.size() + 1;

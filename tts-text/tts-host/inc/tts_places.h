@@ -1,0 +1,34 @@
+// Where in a text the parts of its sentences come from.
+#ifndef KAVI_TTS_PLACES_H
+#define KAVI_TTS_PLACES_H
+
+#include <cstddef>
+
+namespace kavi {
+
+// Bytes of the text given to read().
+struct TextRange {
+    std::size_t offset;
+    std::size_t length;
+};
+
+// A piece of the normalised sentence, and the bytes of the text that it stands for. A piece as long
+// as its source is a copy of it, unless it is an abbreviation written out. A piece without a source
+// is a tag that opens or closes a span where the text was cut; one without a length, or with a
+// blank for its source, is what was left out.
+struct SourcePiece {
+    std::size_t at;  // in the normalised sentence
+    std::size_t length;
+    TextRange source;
+    bool is_abbreviation;
+};
+
+// Where the word of a record comes from. The words of one number share a source.
+struct WordPlace {
+    TextRange source;
+    std::size_t at;  // of the word, in the speakable text
+};
+
+}  // namespace kavi
+
+#endif  // KAVI_TTS_PLACES_H

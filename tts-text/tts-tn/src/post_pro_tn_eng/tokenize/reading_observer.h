@@ -1,0 +1,26 @@
+// Who looks on while a sentence is read.
+#ifndef KAVI_TN_READING_OBSERVER_H
+#define KAVI_TN_READING_OBSERVER_H
+
+#include <string_view>
+
+namespace kavi::tn {
+
+class SectionDispatcher;
+
+// Is shown what is read as what, in order: together it is the sentence, but for blanks.
+class ReadingObserver {
+  public:
+    // `source`, a word, a stretch of words or a mark that reads the same wherever it stands, was
+    // written to the output from `target_at` on.
+    virtual void on_plain_text(std::string_view source, int target_at) = 0;
+
+    virtual void on_step(const SectionDispatcher& step) = 0;
+
+  protected:
+    ~ReadingObserver() = default;
+};
+
+}  // namespace kavi::tn
+
+#endif  // KAVI_TN_READING_OBSERVER_H

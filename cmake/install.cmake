@@ -1,43 +1,48 @@
 # Headers, libraries, the tool and its companions in their usual places; the same package from the
-# build tree; a Debian package.
+# build tree; an uninstall target.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
+find_program(GZIP gzip REQUIRED)
 
 set(KAVI_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/kavi)
-set(KAVI_LIBRARIES kavi_engine kavi_services kavi_tn kavi_host)
-foreach(library ${KAVI_LIBRARIES})
+set(KAVI_LIBRARIES kavi_engine kavi_services kavi_host)
+foreach(library ${KAVI_LIBRARIES} kavi_tn)
     string(REPLACE kavi_ "" name ${library})
     set_target_properties(${library} PROPERTIES EXPORT_NAME ${name})
     target_include_directories(${library} INTERFACE
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/kavi>)
 endforeach()
 
-install(TARGETS ${KAVI_LIBRARIES} EXPORT kaviTargets)
+install(TARGETS ${KAVI_LIBRARIES} kavi_tn EXPORT kaviTargets
+    LIBRARY COMPONENT library NAMELINK_COMPONENT development
+    ARCHIVE COMPONENT development)
 install(FILES
     tts-common/inc/MemoryStack.h tts-common/inc/TtsString.h tts-common/inc/EngLexicon.h
     tts-common/front_end_share/inc/ShareObj.h
     tts-text/tts-tn/inc/post_pro_tn_eng.h tts-text/tts-tn/inc/PostProcTN.h
     tts-text/tts-host/inc/tts_host.h tts-text/tts-host/inc/tts_findings.h
     tts-text/tts-host/inc/tts_explain.h tts-text/tts-host/inc/tts_plain.h
-    tts-text/tts-host/inc/tts_places.h
+    tts-text/tts-host/inc/tts_places.h tts-text/tts-host/inc/tts_names.h
     ${CMAKE_CURRENT_BINARY_DIR}/include/kavi_version.h
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavi)
-install(EXPORT kaviTargets NAMESPACE kavi:: DESTINATION ${KAVI_PACKAGE_DIR})
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavi COMPONENT development)
+install(EXPORT kaviTargets NAMESPACE kavi:: DESTINATION ${KAVI_PACKAGE_DIR} COMPONENT development)
 export(EXPORT kaviTargets NAMESPACE kavi:: FILE ${CMAKE_CURRENT_BINARY_DIR}/kaviTargets.cmake)
 configure_package_config_file(cmake/kaviConfig.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/kaviConfig.cmake
     INSTALL_DESTINATION ${KAVI_PACKAGE_DIR})
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/kaviConfigVersion.cmake
     COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kaviConfig.cmake
-    ${CMAKE_CURRENT_BINARY_DIR}/kaviConfigVersion.cmake DESTINATION ${KAVI_PACKAGE_DIR})
+    ${CMAKE_CURRENT_BINARY_DIR}/kaviConfigVersion.cmake
+    DESTINATION ${KAVI_PACKAGE_DIR} COMPONENT development)
 
 # pkg-config: installed, where the file finds its prefix from its own place, and uninstalled.
 file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 set(KAVI_PC_CFLAGS "-I\${pcfiledir}/${up}${CMAKE_INSTALL_INCLUDEDIR}/kavi")
 set(KAVI_PC_LIBDIR "\${pcfiledir}/${up}${CMAKE_INSTALL_LIBDIR}")
 configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/kavi.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kavi.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-set(KAVI_PC_CFLAGS -I${CMAKE_CURRENT_SOURCE_DIR}/tts-text/tts-host/inc)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kavi.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+set(KAVI_PC_CFLAGS -I${KAVI_HOST_INC})
 foreach(include ${KAVI_INCLUDES})
     string(APPEND KAVI_PC_CFLAGS " -I${include}")
 endforeach()
@@ -45,19 +50,26 @@ set(KAVI_PC_LIBDIR ${CMAKE_CURRENT_BINARY_DIR})
 configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/kavi-uninstalled.pc @ONLY)
 
 if(KAVI_BUILD_TOOLS)
-    install(TARGETS kavi-tn)
-    install(FILES tools/kavi-tn/kavi-tn.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    # Shared libraries are found from the tool's own place, whatever the prefix.
+    file(RELATIVE_PATH libraries_from_tool /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+    set_target_properties(kavi-tn PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_tool}")
+    install(TARGETS kavi-tn RUNTIME COMPONENT tool)
+    set(page ${CMAKE_CURRENT_BINARY_DIR}/kavi-tn.1)
+    configure_file(tools/kavi-tn/kavi-tn.1 ${page} COPYONLY)
+    execute_process(COMMAND ${GZIP} -9nfk ${page})
+    install(FILES ${page}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
     set(completions tools/kavi-tn/completions)
     install(FILES ${completions}/kavi-tn.bash RENAME kavi-tn
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
-    install(FILES ${completions}/_kavi-tn DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
+    install(FILES ${completions}/_kavi-tn
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tool)
     install(FILES ${completions}/kavi-tn.fish
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tool)
 endif()
 
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_CONTACT "The kavi maintainers <maintainers@kavi.invalid>")
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-include(CPack)
+if(PROJECT_IS_TOP_LEVEL)
+    add_custom_target(uninstall COMMAND ${CMAKE_COMMAND} -P
+        ${CMAKE_CURRENT_SOURCE_DIR}/cmake/uninstall.cmake
+        ${CMAKE_CURRENT_BINARY_DIR}/install_manifest.txt)
+    include(cmake/debian.cmake)
+endif()

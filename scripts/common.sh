@@ -9,22 +9,29 @@ if [ "${1:-}" = --help ]; then
     exit 0
 fi
 
-# install PACKAGE: as root on a system with apt; otherwise says what is missing and ends.
-install() {
+# need COMMAND PACKAGE / need_file PATTERN PACKAGE / need_python MODULE PACKAGE: what the script cannot
+# do without. Then install_missing: as root on a system with apt; otherwise it says what is missing,
+# all at once, and ends.
+missing=()
+need() { command -v "$1" >/dev/null || missing+=("$2"); }
+need_file() { compgen -G "$1" >/dev/null || missing+=("$2"); }
+need_python() { /usr/bin/python3 -c "import $1" 2>/dev/null || missing+=("$2"); }
+install_missing() {
+    [ ${#missing[@]} -gt 0 ] || return 0
+    local command=(apt-get install -q -y --no-install-recommends "${missing[@]}")
     if [ "$(id -u)" != 0 ] || ! command -v apt-get >/dev/null; then
-        echo "Missing: the package $1. Install it and run this again." >&2
+        printf 'Missing packages. Install them and run this again:\n    sudo %s\n' "${command[*]}" >&2
         exit 1
     fi
-    echo "Installing $1" >&2
+    say "Installing ${missing[*]}"
     export DEBIAN_FRONTEND=noninteractive
-    [ -n "${apt_updated:-}" ] || apt-get update -q >/dev/null
-    apt_updated=yes
-    apt-get install -q -y --no-install-recommends "$1" >/dev/null
+    apt-get update -q >/dev/null
+    "${command[@]}" >/dev/null
+    missing=()
 }
 
-# need COMMAND PACKAGE / need_file PATTERN PACKAGE: what the script cannot do without.
-need() { command -v "$1" >/dev/null || install "$2"; }
-need_file() { compgen -G "$1" >/dev/null || install "$2"; }
+# say WORDS: what takes long now.
+say() { echo "$*" >&2; }
 
 need_compiler() {
     need cmake cmake
@@ -35,6 +42,6 @@ need_compiler() {
 # What the command line is built with.
 need_tool_libraries() {
     need_file /usr/include/CLI/CLI.hpp libcli11-dev
-    need_file /usr/include/nlohmann/json.hpp nlohmann-json3-dev
+    need_file /usr/include/rapidjson/writer.h rapidjson-dev
     need_file /usr/include/utf8.h libutfcpp-dev
 }

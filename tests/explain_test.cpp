@@ -7,7 +7,7 @@ namespace {
 std::string to_text(const std::vector<ExplainedRun>& runs) {
     std::string text;
     for (const ExplainedRun& run : runs) {
-        text += (text.empty() ? "" : " ") + std::to_string(run.at);
+        text += (text.empty() ? "" : " ") + std::to_string(run.source.offset);
         for (const std::string& section : run.sections) text += "[" + section + "]";
         text += run.reading + "(" + run.rule + ")";
     }
@@ -25,26 +25,27 @@ TEST(Explain, RunsTileTheSentenceAsItStands) {
         for (const TableRow& row : read_table(table)) {
             std::string sections;
             for (const ExplainedRun& run : explain(row[0])) {
-                EXPECT_EQ(run.at, sections.size()) << row[0];
+                EXPECT_EQ(run.source.offset, sections.size()) << row[0];
                 for (const std::string& section : run.sections) sections += section;
+                EXPECT_EQ(run.source.offset + run.source.length, sections.size()) << row[0];
             }
             EXPECT_EQ(sections, row[0]);
         }
     }
 }
 
-TEST(Explain, AbbreviationsAsInTheTable) {
-    for (const TableRow& row : read_table("explained_abbreviations")) {
-        std::string abbreviations;
+TEST(Explain, RunsStandInTheTextAsInTheTable) {
+    expect_table("explained_texts", [](const std::string& text) {
+        std::string runs;
         TtsHost().read(
-            row[0],
+            text,
             [&](const HostSentence& sentence) {
-                abbreviations += to_text(explain_abbreviations(sentence, row[0])) + "|";
+                runs += to_text(explain(sentence, text)) + "|";
                 return true;
             },
             nullptr);
-        EXPECT_EQ(abbreviations, row[1]) << row[0];
-    }
+        return TableRow{text, runs};
+    });
 }
 
 TEST(Explain, StopsWhereTheOutputIsFull) {

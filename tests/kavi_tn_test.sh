@@ -12,8 +12,9 @@ expect() {
     printf 'FAILED %s\n  expected: %s\n  actual:   %s\n' "$1" "$2" "$3"
     failures=$((failures + 1))
 }
-# status COMMAND...: its exit status alone
+# status COMMAND...: its exit status alone; said COMMAND...: its first message
 status() { "$@" >/dev/null 2>&1; echo $?; }
+said() { "$@" 2>&1 >/dev/null | head -n 1; }
 
 expect 'text' 'I have  two  cats <punc=ju>' "$("$tool" -t 'I have 2 cats.')"
 expect 'standard input' 'a <punc=ju>|b' "$(printf 'a.\nb' | "$tool" | paste -sd'|')"
@@ -30,10 +31,46 @@ expect 'a finding without' 0 "$(status "$tool" in)"
 expect 'the summary' 'kavi-tn: 1 stray-closing-tag: this closing tag closes nothing; it is left out' \
     "$("$tool" --summary in 2>&1 >/dev/null | tail -n 1)"
 expect 'wrong usage' 2 "$(status "$tool" --bad)"
-expect 'two stages' 2 "$(status "$tool" --words --sentences -t a)"
-expect 'help' 0 "$(status "$tool" --help)"
-expect 'a full disk' 'kavi-tn: cannot write: No space left on device' "$("$tool" -t a 2>&1 >/dev/full)"
+while IFS='|' read -r arguments message; do
+    # shellcheck disable=SC2086
+    expect "usage: $arguments" "kavi-tn: $message" "$(said "$tool" $arguments)"
+done <<'TABLE'
+--bad|no such option: --bad
+--format|--format: takes a value
+--format 2|--format: takes text, jsonl or html, not "2"
+-j x|--jobs: takes a number from 0 to 256, not "x"
+-j 257|--jobs: takes a number from 0 to 256, not "257"
+--strict=x|--strict: takes no value
+--words --sentences|--sentences and --words exclude each other
+--words --format jsonl|--words goes with --format text alone; choose by --fields
+--plain --format html|--plain goes with --format text alone
+--fields line|--fields goes with --format jsonl alone
+--format jsonl --fields line,x|--fields: takes names of fields with commas between them, not "line,x"
+--format jsonl --fields ,|--fields: takes names of fields with commas between them, not ","
+TABLE
+expect 'help' 'Usage: kavi-tn [OPTION]... [-t TEXT] [FILE]...' "$("$tool" --help --words | head -n 1)"
+expect 'the last of repeated options' '{"line":1}' \
+    "$("$tool" -j 9 -j 0 --format html --format jsonl --fields plain --fields line -t b -t a)"
+expect 'a line for each text' $'a b, c\n\nd' "$(printf 'a b, c\n\nd' | "$tool" --plain)"
+expect 'a full disk' 'kavi-tn: cannot write standard output: No space left on device' \
+    "$("$tool" -t a 2>&1 >/dev/full)"
 expect 'its exit status' 1 "$("$tool" -t a >/dev/full 2>/dev/null; echo $?)"
+expect 'a full disk at a device' 'kavi-tn: cannot write /dev/full: No space left on device' \
+    "$(said "$tool" -t a -o /dev/full)"
+expect 'a closed standard output' 'kavi-tn: cannot write standard output: Bad file descriptor' \
+    "$("$tool" -t a 2>&1 >&-)"
+expect 'a closed standard input' 'kavi-tn: standard input: cannot be read: Bad file descriptor' \
+    "$("$tool" 2>&1 <&-)"
+expect 'no message in the output' 'a' "$("$tool" -t 'a</poem>' -o out 2>&- && cat out)"
+echo 'a</poem>' >$'new\nline\033[31m'
+expect 'a name with control characters' \
+    '"new\nline\x1b[31m":1: byte 1: this closing tag closes nothing; it is left out' \
+    "$(said "$tool" $'new\nline\033[31m')"
+gzip -k in && printf '\1\2\3 \4\5\n' >binary
+expect 'a compressed input' \
+    'kavi-tn: in.gz: seems to be compressed; read it by: gzip -dc FILE | kavi-tn' "$(said "$tool" in.gz)"
+expect 'a binary input' 'kavi-tn: binary: seems to be binary, not text' "$(said "$tool" binary)"
+expect 'NUL bytes that end texts' '' "$(printf 'a\0b\0' | said "$tool" -0)"
 
 # The output is the same bytes for every number of threads, and under GNU parallel.
 for i in $(seq 3000); do sed "s/paid/paid $i/" "$sample"; done >corpus
@@ -50,16 +87,59 @@ expect 'a page' "$(wc -l <single)" "$("$tool" --format html corpus 2>/dev/null |
 expect 'an interrupt leaves whole lines' 0 "$(tail -c 1 cut | od -An -c | tr -d ' ' | grep -vc '\\n')"
 echo a >out
 for signal in INT TERM; do
-    mkfifo pipe && { "$tool" pipe -o out 2>/dev/null & } && exec 3>pipe && echo a >&3
+    # A shell script has its background commands ignore SIGINT.
+    mkfifo pipe && { env --default-signal=INT "$tool" pipe -o out 2>/dev/null & } &&
+        exec 3>pipe && echo a >&3
     sleep 0.3 && kill -$signal $! && { wait $!; ended=$?; }
     exec 3>&- && rm pipe
-    expect "the exit status of an interrupt by $signal" 130 "$ended"
+    expect "the exit status of an interrupt by $signal" $((128 + $(kill -l $signal))) "$ended"
     expect "a file that was to be written, after $signal" 'a' "$(cat out)"
 done
+# The output blocks, and the program ends all the same.
+mkfifo pipe && exec 3<>pipe
+"$tool" corpus >pipe 2>/dev/null & sleep 0.3
+began=$(date +%s%N) && kill -TERM $! && { wait $!; ended=$?; }
+exec 3>&- && rm pipe
+expect 'an interrupt of a blocked output, within a second' '143 0' \
+    "$ended $((($(date +%s%N) - began) / 1000000000))"
+mkfifo pipe
+"$tool" pipe >out 2>/dev/null & exec 3>pipe && echo a >&3
+sleep 0.3 && kill -INT $! && echo b >&3 && exec 3>&- && { wait $!; ended=$?; } && rm pipe
+expect 'an interrupt that was ignored' '0 a b' "$ended $(paste -sd' ' out)"
 "$tool" corpus 2>err | head -n 1 >/dev/null
-expect 'a closed pipe' 'kavi-tn: cannot write: Broken pipe' "$(cat err)"
+expect 'a reader that goes away' '141 ' "${PIPESTATUS[0]} $(cat err)"
+(trap '' PIPE; "$tool" corpus 2>err; echo $? >ended) | head -n 1 >/dev/null
+expect 'the same with SIGPIPE ignored' '1 kavi-tn: cannot write standard output: Broken pipe' \
+    "$(cat ended err | paste -sd' ')"
+
+# At a terminal: announced, answered line by line, one end of file is the end.
+terminal=$(python3 - "$tool" <<'PYTHON'
+import os, pty, select, sys
+child, terminal = pty.fork()
+if child == 0:
+    os.environ["TERM"] = "xterm"
+    os.execv(sys.argv[1], [sys.argv[1]])
+def answer(part):
+    text = b""
+    while part not in text and select.select([terminal], [], [], 10)[0]:
+        text += os.read(terminal, 1000)
+    return part in text
+told = answer(b"reading from the terminal; Ctrl-D on a line of its own ends it")
+os.write(terminal, b"a 2\n")
+first = answer(b"a  two")
+os.write(terminal, b"b 3\n")
+second = answer(b"b  three")
+os.write(terminal, b"\x04")
+print(told, first, second, os.waitpid(child, 0)[1])
+PYTHON
+)
+expect 'a terminal' 'True True True 0' "$terminal"
 limited() { (ulimit -v 600000; "$@"); }
 if limited "$tool" --version >/dev/null 2>&1; then # a sanitizer alone takes more
+    expect 'no memory for a line' 'kavi-tn: not enough memory' \
+        "$(head -c 100000000 /dev/zero | tr '\0' 'a' | (ulimit -v 200000; said "$tool" -j 2))"
+    expect 'no memory for threads' 'kavi-tn: cannot start a thread: Resource temporarily unavailable' \
+        "$(ulimit -v 200000; said "$tool" -j 256 corpus)"
     expect 'bounded memory' 4285715 \
         "$(head -c 300000000 /dev/zero | tr '\0' 'a' | fold -w 70 | limited "$tool" -j 2 | wc -l)"
 fi

@@ -6,7 +6,7 @@
 
 #include "MemoryStack.h"
 #include "ShareObj.h"
-#include "names.h"
+#include "tts_names.h"
 
 namespace kavi {
 
@@ -15,7 +15,7 @@ namespace kavi {
 inline std::string to_text(const UtteranceSyllable& record) {
     std::string text = record.syllable != nullptr ? record.syllable : "";
     for (int i = 0; i < record.n_punc; ++i)
-        text += std::string("+") + tool::punctuation_name(record.punc_arr[i]);
+        text += std::string("+") + punctuation_name(record.punc_arr[i]);
     if (record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE) text += "!";
     if (record.pause_type != record.pause_type_tn) text += "?";
     const CssmlTag& tag = record.cssml_tag;

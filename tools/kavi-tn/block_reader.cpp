@@ -1,7 +1,12 @@
 #include "block_reader.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstring>
+
+#include "first_look.h"
 
 namespace kavi::tool {
 
@@ -29,15 +34,18 @@ bool BlockReader::next(Block& block) {
     block = {};
     if (text_pending_) {
         text_pending_ = false;
-        block.input = "TEXT";
+        begin_input("TEXT");
+        block.input = name_;
+        block.number = input_number_;
         block.bytes = options_.text;
         return true;
     }
-    while (file_ != nullptr || next_file_ < options_.files.size()) {
-        if (file_ == nullptr) open(options_.files[next_file_++]);
-        if (file_ != nullptr && next_of_file(block)) return true;
+    while (file_ >= 0 || next_file_ < options_.files.size()) {
+        if (file_ < 0) open(options_.files[next_file_++]);
+        if (file_ >= 0 && next_of_file(block)) return true;
         if (failure_.empty()) continue;
         block.input = name_;
+        block.number = input_number_;
         block.failure.swap(failure_);
         return true;
     }
@@ -48,19 +56,14 @@ bool BlockReader::next(Block& block) {
 // after it. At the end of the file closes it.
 bool BlockReader::next_of_file(Block& block) {
     block.input = name_;
+    block.number = input_number_;
     block.first = number_;
     block.bytes.swap(carry_);
     carry_.clear();
-    for (;;) {
-        const std::size_t searched = block.bytes.size();
-        block.bytes.resize(searched + BLOCK_BYTES);
-        const std::size_t n = std::fread(&block.bytes[searched], 1, BLOCK_BYTES, file_);
-        block.bytes.resize(searched + n);
-        if (n == 0) {
-            if (std::ferror(file_) != 0) failure_ = std::strerror(errno);
-            close();
-            break;
-        }
+    for (std::size_t searched = block.bytes.size(); read_more(block.bytes);
+         searched = block.bytes.size()) {
+        if (is_new_) block.notice = first_look(block.bytes, options_);
+        is_new_ = false;
         const std::size_t last = block.bytes.rfind(options_.delimiter);
         if (last != std::string::npos && last >= searched) {
             carry_.assign(block.bytes, last + 1);
@@ -72,17 +75,38 @@ bool BlockReader::next_of_file(Block& block) {
     return !block.bytes.empty();
 }
 
+// Appends what there is, at least one byte. False at the end of the file, which is closed then.
+bool BlockReader::read_more(std::string& bytes) {
+    const std::size_t size = bytes.size();
+    bytes.resize(size + BLOCK_BYTES);
+    ssize_t n = 0;
+    do {
+        n = ::read(file_, &bytes[size], BLOCK_BYTES);
+    } while (n < 0 && errno == EINTR);
+    bytes.resize(size + static_cast<std::size_t>(n > 0 ? n : 0));
+    if (n > 0) return true;
+    if (n < 0) failure_ = std::strerror(errno);
+    close();
+    return false;
+}
+
+void BlockReader::begin_input(const std::string& name) {
+    name_ = name;
+    ++input_number_;
+    number_ = 1;
+    is_new_ = true;
+}
+
 void BlockReader::open(const std::string& name) {
     const bool is_standard_input = name == "-";
-    name_ = is_standard_input ? "standard input" : name;
-    number_ = 1;
-    file_ = is_standard_input ? stdin : std::fopen(name.c_str(), "rb");
-    if (file_ == nullptr) failure_ = std::strerror(errno);
+    begin_input(is_standard_input ? "standard input" : name);
+    file_ = is_standard_input ? STDIN_FILENO : ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file_ < 0) failure_ = std::strerror(errno);
 }
 
 void BlockReader::close() {
-    if (file_ != nullptr && file_ != stdin) static_cast<void>(std::fclose(file_));
-    file_ = nullptr;
+    if (file_ > STDIN_FILENO) static_cast<void>(::close(file_));
+    file_ = -1;
 }
 
 }  // namespace kavi::tool

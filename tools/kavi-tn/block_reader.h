@@ -2,7 +2,6 @@
 #ifndef KAVI_TOOL_BLOCK_READER_H
 #define KAVI_TOOL_BLOCK_READER_H
 
-#include <cstdio>
 #include <string>
 
 #include "options.h"
@@ -10,13 +9,17 @@
 namespace kavi::tool {
 
 struct Block {
-    std::string input;      // the name that messages and records give
-    std::size_t first = 1;  // number of the first text in its input
-    std::string bytes;      // whole texts, each but perhaps the last with its delimiter
-    std::string failure;    // why the input could not be read, or read on
+    std::string input;       // the name that messages and records give
+    std::size_t number = 0;  // of the input, from 1
+    std::size_t first = 1;   // number of the first text in its input
+    std::string bytes;       // whole texts, each but perhaps the last with its delimiter
+    std::string notice;      // of an input that is no text as it seems
+    std::string failure;     // why the input could not be read, or read on
 };
 
-// Reads all inputs in order. A text longer than a block makes a larger block.
+// Reads all inputs in order. What has come of an input is handed out as soon as it holds a whole
+// text, so that a terminal and a pipe are answered at once. A text longer than a block makes a
+// larger block.
 class BlockReader {
   public:
     explicit BlockReader(const Options& options);
@@ -29,14 +32,18 @@ class BlockReader {
 
   private:
     bool next_of_file(Block& block);
+    bool read_more(std::string& bytes);
+    void begin_input(const std::string& name);
     void open(const std::string& name);
     void close();
 
     const Options& options_;
     bool text_pending_;
     std::size_t next_file_ = 0;
+    std::size_t input_number_ = 0;
     std::string name_;
-    std::FILE* file_ = nullptr;
+    int file_ = -1;
+    bool is_new_ = false;  // nothing of it has been read
     std::string failure_;
     std::size_t number_ = 1;  // of the next text
     std::string carry_;       // what was read after the last delimiter

@@ -15,9 +15,10 @@ namespace kavi::tool {
 // Where a sentence comes from.
 struct Place {
     std::string_view input;
-    std::size_t line;       // the text's number in its input
-    std::size_t sentence;   // its number in the text
-    std::string_view text;  // all of it
+    std::size_t input_number;  // from 1
+    std::size_t line;          // the text's number in its input, from 1
+    std::size_t sentence;      // its number in the text, from 1
+    std::string_view text;     // all of it
 };
 
 class Format {
@@ -26,9 +27,15 @@ class Format {
     virtual std::string prologue() const { return {}; }
     virtual std::string epilogue() const { return {}; }
 
-    // Appends what is to be written for one sentence, in whole lines.
+    // Appends what is to be written for one sentence, in whole lines; `diagnostics` are those
+    // before its end.
     virtual void write(const Place& place, const HostSentence& sentence,
                        const std::vector<Diagnostic>& diagnostics, std::string& out) = 0;
+
+    // Appends what is to be written when a text has ended, whose last sentence was that of `place`;
+    // `diagnostics` are those after that.
+    virtual void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
+                          std::string& /*out*/) {}
 };
 
 // One format object serves one thread.
@@ -36,7 +43,7 @@ std::unique_ptr<Format> make_format(const Options& options);
 
 // The formats, each in a file of its own.
 std::unique_ptr<Format> make_text_format(Stage stage);
-std::unique_ptr<Format> make_json_format(bool explain);
+std::unique_ptr<Format> make_json_format(const std::vector<Field>& fields);
 std::unique_ptr<Format> make_html_format();
 
 }  // namespace kavi::tool

@@ -1,14 +1,16 @@
-// One self-contained page: what was said under what was written, with pauses, marks and markup.
-
-#include <utf8.h>
+// One self-contained page: what is said under what was written, with marks, pauses, markup and the
+// rules of the readings.
+//
+// A page has many words, so the elements are short: in a row, <u> is a piece as it was written,
+// with what is said for it in it; <i> a word that is said, <b> a mark, a break or a pause, <small>
+// a rule or the attributes that begin, <s> what is not spoken, <code> markup.
 
 #include <algorithm>
-#include <cctype>
-#include <iterator>
 #include <string>
 
 #include "findings_report.h"
 #include "format.h"
+#include "html_page.h"
 #include "names.h"
 #include "tts_explain.h"
 
@@ -16,183 +18,227 @@ namespace kavi::tool {
 
 namespace {
 
-// Sentences that are not on the screen are not laid out, so a long page opens at once.
-constexpr const char* PROLOGUE = R"(<!DOCTYPE html>
-<html lang="en">
-<head>
-<meta charset="utf-8">
-<meta name="viewport" content="width=device-width, initial-scale=1">
-<title>What it will say</title>
-<style>
-:root { color-scheme: light dark; --ink: #1d2430; --page: #fbfaf7; --chip: #ffffff; --line: #d5d2ca;
-  --soft: #6b6f78; --pause: #b4552d; --alarm: #a3202c; --emphasis: #d98e04; --prosody: #2f7fbf;
-  --poem: #8a56b0; --effect: #2e9268; }
-@media (prefers-color-scheme: dark) { :root { --ink: #e7e4dd; --page: #16181d; --chip: #22262e;
-  --line: #3a3f4a; --soft: #9aa0ab; --pause: #f09a6c; --alarm: #ff8088; --emphasis: #f0b84a;
-  --prosody: #6db5ec; --poem: #c79ae6; --effect: #6fd0a5; } }
-body { margin: 0 auto; padding: 1rem; max-width: 60rem; color: var(--ink); background: var(--page);
-  font: 1rem/1.4 system-ui, sans-serif; }
-article { padding: .7rem 0; border-bottom: 1px solid var(--line); content-visibility: auto;
-  contain-intrinsic-size: auto 6rem; }
-h2 { margin: 0 0 .4rem; font-size: .75rem; font-weight: normal; color: var(--soft); }
-.row { display: flex; flex-wrap: wrap; gap: .5rem .3rem; align-items: flex-start; }
-.run { display: inline-flex; flex-direction: column; max-width: 100%; }
-.written { min-height: 1.4em; overflow-wrap: anywhere; padding: 0 .2rem; font-size: .75rem; color: var(--soft); }
-.said { display: flex; flex-wrap: wrap; gap: .2rem; }
-.word { overflow-wrap: anywhere; padding: .1rem .4rem; border: 1px solid var(--line);
-  border-radius: .4rem; background: var(--chip); }
-.mark, .break { color: var(--pause); font-weight: bold; }
-.pause { align-self: stretch; background: var(--pause); border-radius: 2px; }
-.s2 { width: 2px; } .s3 { width: 4px; } .s4 { width: 6px; }
-.band { display: block; height: 4px; margin-top: 1px; border-radius: 2px; }
-.emphasis { background: var(--emphasis); } .poem { background: var(--poem); }
-.pitch, .rate, .volume, .spectrum { background: var(--prosody); }
-.quill_effect { background: var(--effect); }
-.finding { margin: .4rem 0 0; color: var(--alarm); font-size: .85rem; }
-</style>
-</head>
-<body>
-<h1>What it will say</h1>
-)";
-
-constexpr const char* EPILOGUE = "</body>\n</html>\n";
-
-std::string escape(std::string_view text) {
-    std::string valid;
-    utf8::replace_invalid(text.begin(), text.end(), std::back_inserter(valid));
-    std::string escaped;
-    for (const char c : valid) {
+void append_escaped(std::string_view text, std::string& out) {
+    constexpr const char* DIGITS = "0123456789abcdef";
+    for (const char c : valid_utf8(text)) {
+        const auto byte = static_cast<unsigned char>(c);
         switch (c) {
-            case '&': escaped += "&amp;"; break;
-            case '<': escaped += "&lt;"; break;
-            case '>': escaped += "&gt;"; break;
-            case '"': escaped += "&quot;"; break;
-            default: escaped += c;
+            case '&': out += "&amp;"; break;
+            case '<': out += "&lt;"; break;
+            case '>': out += "&gt;"; break;
+            case '"': out += "&quot;"; break;
+            case '\t':
+            case '\n':
+            case '\r': out += ' '; break;
+            default:
+                if (byte < ' ' || byte == 0x7f) {
+                    out.append("\\x").append(1, DIGITS[byte / 16]).append(1, DIGITS[byte % 16]);
+                } else {
+                    out += c;
+                }
         }
     }
-    return escaped;
 }
 
-// How strong a pause is, from nothing to the longest.
-int strength(PAUSE_type pause) {
+void append_element(const char* name, std::string_view text, std::string& out) {
+    out.append("<").append(name) += '>';
+    append_escaped(text, out);
+    out.append("</").append(name) += '>';
+}
+
+// How a pause is shown; empty for one that every word has.
+const char* strokes(PAUSE_type pause) {
     switch (pause) {
         case PAUSE_PHRASE_FE:
-        case PAUSE_PHRASE_FORCE_FE: return 2;
+        case PAUSE_PHRASE_FORCE_FE: return "|";
         case PAUSE_INTONATION_PHRASE_FE:
         case PAUSE_INTONATION_PHRASE_FORCE_FE:
-        case PAUSE_PLRULE_INTONATION_PHRASE_FORCE_FE: return 3;
-        case PAUSE_SENTENCE_FE: return 4;
-        default: return 0;
+        case PAUSE_PLRULE_INTONATION_PHRASE_FORCE_FE: return "||";
+        case PAUSE_SENTENCE_FE: return "|||";
+        default: return "";
     }
 }
 
-std::string glyph(PUNC_type punc) {
-    switch (punc) {
-        case PUNC_DOU_FE: return ",";
-        case PUNC_FEN_FE: return ";";
-        case PUNC_JU_FE: return ".";
-        case PUNC_WEN_FE: return "?";
-        case PUNC_TAN_FE: return "!";
-        case PUNC_MAO_FE: return ":";
-        case PUNC_ZUOYIN_FE: return "&quot;";
-        case PUNC_ZUOKUO_FE: return "(";
-        case PUNC_YOUKUO_FE: return ")";
-        default: return punctuation_name(punc);
-    }
+bool is_blank(std::string_view text) {
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
-// The words that a reading is cut into: letters outside tags, as they are in the speakable text.
-int count_words(const std::string& reading) {
-    int words = 0;
-    bool in_word = false;
-    for (std::size_t i = 0; i < reading.size(); ++i) {
-        const std::size_t tag_end = reading[i] == '<' ? reading.find('>', i) : std::string::npos;
-        if (tag_end != std::string::npos) i = tag_end;
-        const auto c = static_cast<unsigned char>(reading[i]);
-        const bool is_letter = tag_end == std::string::npos && c < 128 && std::isalpha(c) != 0;
-        if (is_letter && !in_word) ++words;
-        in_word = is_letter;
-    }
-    return words;
+// The name in the "<punc=" tag that a reading begins with; empty when there is none.
+std::string_view mark_in(std::string_view reading) {
+    constexpr std::string_view PREFIX = "<punc=";
+    if (reading.substr(0, PREFIX.size()) != PREFIX) return {};
+    return reading.substr(PREFIX.size(), reading.find('>') - PREFIX.size());
 }
 
-// Marks, break time and pause after a word, or those of the head record.
-void append_what_follows(const UtteranceSyllable& record, std::string& out) {
-    for (int i = 0; i < record.n_punc; ++i) {
-        out += "<span class=\"mark\" title=\"" + std::string(punctuation_name(record.punc_arr[i])) +
-               "\">" + glyph(record.punc_arr[i]) + "</span>";
-    }
-    if (record.cssml_tag.breaktime[0] != '\0') {
-        out += "<span class=\"break\">&#9208; " + escape(record.cssml_tag.breaktime) + "</span>";
-    }
-    if (const int bar = strength(record.pause_type)) {
-        out += "<span class=\"pause s" + std::to_string(bar) + "\" title=\"" +
-               enumerator(record.pause_type) + "\"></span>";
-    }
-}
-
-void append_word(const UtteranceSyllable& record, std::string& out) {
-    out += "<span class=\"word\">" + escape(record.syllable);
-    for (const auto& [name, value] : attributes(record.cssml_tag)) {
-        if (*value == '\0') continue;
-        out += "<span class=\"band " + std::string(name) + "\" title=\"" + name + " " +
-               escape(value) + "\"></span>";
-    }
-    out += "</span>";
-    append_what_follows(record, out);
-}
-
-class HtmlFormat : public Format {
+// One sentence, from its first byte to its last.
+class SentenceWriter {
   public:
-    std::string prologue() const override { return PROLOGUE; }
-    std::string epilogue() const override { return EPILOGUE; }
+    SentenceWriter(const Place& place, const HostSentence& sentence,
+                   const std::vector<Diagnostic>& diagnostics, std::string& out)
+        : place_(place),
+          sentence_(sentence),
+          diagnostics_(diagnostics),
+          out_(out),
+          at_(sentence.source.offset) {}
 
-    void write(const Place& place, const HostSentence& sentence,
-               const std::vector<Diagnostic>& diagnostics, std::string& out) override {
-        out += "<article><h2>" + escape(place.input) + ", line " + std::to_string(place.line) +
-               "</h2><div class=\"row\">";
-        append_what_follows(sentence.records[0], out);
-        const Abbreviations abbreviations = explain_abbreviations(sentence, place.text);
-        int next = 1;
-        for (const ExplainedRun& run : explain(sentence.normalized)) {
-            const int end = std::min(next + count_words(run.reading), sentence.n_records);
-            append_run(run, abbreviations, sentence.records + next, end - next, out);
-            next = end;
+    void write_row() {
+        out_ += "<div>";
+        write_head(sentence_.records[0]);
+        for (const ExplainedRun& run : explain(sentence_, place_.text)) {
+            write_left_out(run.source.offset);
+            write_run(run);
+            at_ = std::max(at_, run.source.offset + run.source.length);
+            write_numbers_of_findings(at_);
         }
-        out += "</div>";
-        for (const Diagnostic& d : diagnostics) {
-            out += "<p class=\"finding\">Byte " + std::to_string(d.offset + 1) + ": " +
-                   escape(describe(d, place.text)) + "</p>";
-        }
-        out += "</article>\n";
+        write_left_out(sentence_.source.offset + sentence_.source.length);
+        write_numbers_of_findings(place_.text.size());
+        out_ += "</div>";
     }
 
   private:
-    using Abbreviations = std::vector<ExplainedRun>;
-
-    // What was written for a run: its sections, or the abbreviation it is the first word of;
-    // nothing for the further words of one.
-    static std::string written(const ExplainedRun& run, const Abbreviations& abbreviations) {
-        for (const ExplainedRun& abbreviation : abbreviations) {
-            if (run.at == abbreviation.at) return abbreviation.sections[0];
-            if (run.at > abbreviation.at &&
-                run.at < abbreviation.at + abbreviation.reading.size()) {
-                return "";
-            }
-        }
-        std::string text;
-        for (const std::string& section : run.sections) text += section;
-        return text;
+    std::string_view written(const TextRange& source) const {
+        return place_.text.substr(source.offset, source.length);
     }
 
-    static void append_run(const ExplainedRun& run, const Abbreviations& abbreviations,
-                           const UtteranceSyllable* words, int n_words, std::string& out) {
-        if (n_words == 0) return;
-        out += "<span class=\"run\" title=\"" + std::string(run.rule) +
-               "\"><span class=\"written\">" + escape(written(run, abbreviations)) +
-               "</span><span class=\"said\">";
-        for (int i = 0; i < n_words; ++i) append_word(words[i], out);
-        out += "</span></span>";
+    // What stands before the first word.
+    void write_head(const UtteranceSyllable& head) {
+        std::string before;
+        write_after_word(head, before);
+        if (!before.empty()) out_ += "<u><i>" + before + "</i></u>";
+    }
+
+    // What the sentence was cut without.
+    void write_left_out(std::size_t end) {
+        if (at_ >= end) return;
+        write_silent(place_.text.substr(at_, end - at_));
+        at_ = end;
+    }
+
+    void write_silent(std::string_view text) {
+        is_blank(text) ? static_cast<void>(out_ += ' ') : append_element("s", text, out_);
+    }
+
+    void write_run(const ExplainedRun& run) {
+        const std::string_view text = written(run.source);
+        const int end = words_before(run.reading_at + run.reading.size());
+        const std::string_view mark = mark_in(run.reading);
+        if (next_ < end) {
+            out_ += "<u>";
+            append_escaped(text, out_);
+            for (; next_ < end; ++next_) write_word(sentence_.records[next_]);
+            if (!run.is_word) append_element("small", run.rule, out_);
+            out_ += "</u>";
+        } else if (!mark.empty()) {
+            out_ += "<u>";
+            append_escaped(text, out_);
+            append_element("b", glyph(mark), out_);
+            out_ += "</u>";
+        } else if (!text.empty() && text[0] == '<' && !is_blank(run.reading)) {
+            append_element("code", text, out_);
+        } else {
+            write_silent(text);
+        }
+    }
+
+    // The number of the first word that stands there in the speakable text, or after that.
+    int words_before(std::size_t speakable_end) const {
+        int end = next_;
+        while (end < sentence_.n_records && sentence_.places[end].at < speakable_end) ++end;
+        return end;
+    }
+
+    // As punctuation writes it, or else its name.
+    static std::string_view glyph(std::string_view mark) {
+        for (const auto& [name, text] : MARK_GLYPHS) {
+            if (mark == name) return text;
+        }
+        return mark;
+    }
+
+    void write_word(const UtteranceSyllable& record) {
+        std::string attributes;
+        append_attributes(record.cssml_tag, attributes);
+        out_ += attributes.empty() ? "<i>" : "<i class=m>";
+        append_escaped(record.syllable, out_);
+        write_after_word(record, out_);
+        out_ += "</i>";
+        if (attributes != attributes_ && !attributes.empty()) {
+            append_element("small", attributes, out_);
+        }
+        attributes_ = attributes;
+    }
+
+    static void write_after_word(const UtteranceSyllable& record, std::string& out) {
+        const char* breaktime = record.cssml_tag.breaktime;
+        if (*breaktime != '\0') append_element("b", std::string("break ") + breaktime, out);
+        const char* pause = strokes(record.pause_type);
+        if (*pause != '\0') append_element("b", pause, out);
+    }
+
+    // Numbers that lead to the findings before `end`.
+    void write_numbers_of_findings(std::size_t end) {
+        for (; n_findings_ < diagnostics_.size() && diagnostics_[n_findings_].offset < end;) {
+            const std::string number = std::to_string(++n_findings_);
+            out_ += "<sup><a href=#" + anchor(place_) + "-" + number + ">" + number + "</a></sup>";
+        }
+    }
+
+    const Place& place_;
+    const HostSentence& sentence_;
+    const std::vector<Diagnostic>& diagnostics_;
+    std::string& out_;
+    std::size_t at_;          // the next byte of the text
+    int next_ = 1;            // the next record
+    std::string attributes_;  // of the last word
+    std::size_t n_findings_ = 0;
+};
+
+class HtmlFormat : public Format {
+  public:
+    std::string prologue() const override { return HTML_PROLOGUE; }
+    std::string epilogue() const override { return HTML_EPILOGUE; }
+
+    void write(const Place& place, const HostSentence& sentence,
+               const std::vector<Diagnostic>& diagnostics, std::string& out) override {
+        begin_article(place, out);
+        const TextRange source = sentence.source;
+        append_element("p", place.text.substr(source.offset, source.length), out);
+        SentenceWriter(place, sentence, diagnostics, out).write_row();
+        end_article(place, diagnostics, out);
+    }
+
+    void end_text(const Place& place, const std::vector<Diagnostic>& diagnostics,
+                  std::string& out) override {
+        Place after = place;
+        ++after.sentence;
+        if (diagnostics.empty()) return begin_input(after, out);
+        begin_article(after, out);
+        end_article(after, diagnostics, out);
+    }
+
+  private:
+    // The name of an input, before its first sentence or in the place of that.
+    static void begin_input(const Place& place, std::string& out) {
+        if (place.line == 1 && place.sentence == 1) append_element("h2", place.input, out);
+    }
+
+    static void begin_article(const Place& place, std::string& out) {
+        begin_input(place, out);
+        const std::string name = anchor(place);
+        out += "<article id=" + name + "><a href=#" + name + ">line " + std::to_string(place.line) +
+               "</a>";
+    }
+
+    static void end_article(const Place& place, const std::vector<Diagnostic>& diagnostics,
+                            std::string& out) {
+        if (!diagnostics.empty()) out += "<ol>";
+        std::size_t number = 0;
+        for (const Diagnostic& d : diagnostics) {
+            out += "<li id=" + anchor(place) + "-" + std::to_string(++number) + ">byte " +
+                   std::to_string(d.offset) + ": ";
+            append_escaped(describe(d, place.text), out);
+        }
+        out += diagnostics.empty() ? "</article>\n" : "</ol></article>\n";
     }
 };
 

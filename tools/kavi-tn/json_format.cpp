@@ -1,83 +1,205 @@
-// JSON Lines: an object a sentence.
+// JSON Lines: an object a sentence. docs/kavi-tn.schema.json describes it.
 
-#include <nlohmann/json.hpp>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <algorithm>
 
 #include "findings_report.h"
 #include "format.h"
 #include "names.h"
 #include "tts_explain.h"
+#include "tts_plain.h"
 
 namespace kavi::tool {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json word(const UtteranceSyllable& record) {
-    Json json;
-    json["word"] = record.syllable != nullptr ? Json(record.syllable) : Json(nullptr);
-    json["pause"] = enumerator(record.pause_type);
-    json["punctuation"] = Json::array();
-    for (int i = 0; i < record.n_punc; ++i) {
-        json["punctuation"].push_back(punctuation_name(record.punc_arr[i]));
-    }
-    if (record.cssml_tag.breaktime[0] != '\0') json["breaktime"] = record.cssml_tag.breaktime;
-    for (const auto& [name, value] : attributes(record.cssml_tag)) {
-        if (*value != '\0') json[name] = value;
-    }
-    return json;
-}
-
-Json explanation(const std::vector<ExplainedRun>& runs) {
-    Json json = Json::array();
-    for (const ExplainedRun& run : runs) {
-        json.push_back({{"sections", run.sections}, {"rule", run.rule}, {"reading", run.reading}});
-    }
-    return json;
-}
-
-class JsonFormat : public Format {
+// One object after the other. Text that is not UTF-8 has U+FFFD in the place of what is not.
+class JsonLine {
   public:
-    explicit JsonFormat(bool explain) : explain_(explain) {}
+    JsonLine() : writer_(buffer_) {}
 
-    void write(const Place& place, const HostSentence& sentence,
-               const std::vector<Diagnostic>& diagnostics, std::string& out) override {
-        const std::string_view source =
-            place.text.substr(sentence.source.offset, sentence.source.length);
-        Json json;
-        json["input"] = place.input;
-        json["line"] = place.line;
-        json["sentence"] = place.sentence;
-        json["source"] = source;
-        json["offset"] = sentence.source.offset;
-        json["length"] = sentence.source.length;
-        json["normalized"] = sentence.normalized;
-        json["speakable"] = sentence.speakable;
-        json["words"] = Json::array();
-        for (int i = 0; i < sentence.n_records; ++i) {
-            const UtteranceSyllable& record = sentence.records[i];
-            if (i > 0 || has_marks(record)) json["words"].push_back(word(record));
-        }
-        json["diagnostics"] = Json::array();
-        const auto report = [&](std::size_t offset, const std::string& message) {
-            json["diagnostics"].push_back({{"offset", offset}, {"message", message}});
-        };
-        for (const Diagnostic& d : diagnostics) report(d.offset, describe(d, place.text));
-        if (explain_) {
-            json["abbreviations"] = explanation(explain_abbreviations(sentence, place.text));
-            json["runs"] = explanation(explain(sentence.normalized));
-        }
-        out += json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+    void begin() {
+        buffer_.Clear();
+        writer_.Reset(buffer_);
+        writer_.StartObject();
+    }
+    void end(std::string& out) {
+        writer_.EndObject();
+        out.append(buffer_.GetString(), buffer_.GetSize()) += '\n';
+    }
+
+    void key(std::string_view name) {
+        writer_.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
+    }
+    void text(std::string_view value) {
+        const bool is_ascii = std::none_of(
+            value.begin(), value.end(), [](char c) { return static_cast<unsigned char>(c) > 127; });
+        is_ascii ? put(value) : put(valid_utf8(value));
+    }
+    void number(std::size_t value) { writer_.Uint64(value); }
+    void null() { writer_.Null(); }
+
+    template <typename Write>
+    void object(Write write) {
+        writer_.StartObject();
+        write();
+        writer_.EndObject();
+    }
+    template <typename Write>
+    void array(Write write) {
+        writer_.StartArray();
+        write();
+        writer_.EndArray();
+    }
+
+    void field(std::string_view name, std::string_view value) {
+        key(name);
+        text(value);
+    }
+    void field(std::string_view name, std::size_t value) {
+        key(name);
+        number(value);
+    }
+    void range(const TextRange& range) {
+        field("offset", range.offset);
+        field("length", range.length);
     }
 
   private:
-    bool explain_;
+    void put(std::string_view value) {
+        writer_.String(value.data(), static_cast<rapidjson::SizeType>(value.size()));
+    }
+
+    rapidjson::StringBuffer buffer_;
+    rapidjson::Writer<rapidjson::StringBuffer> writer_;
+};
+
+class JsonFormat : public Format {
+  public:
+    explicit JsonFormat(std::vector<Field> fields) : fields_(std::move(fields)) {
+        if (!fields_.empty()) return;
+        for (int i = 0; i < static_cast<int>(Field::runs); ++i) {
+            fields_.push_back(static_cast<Field>(i));
+        }
+    }
+
+    void write(const Place& place, const HostSentence& sentence,
+               const std::vector<Diagnostic>& diagnostics, std::string& out) override {
+        line_.begin();
+        for (const Field field : fields_) {
+            line_.key(name_of(field));
+            write_field(field, place, sentence, diagnostics);
+        }
+        line_.end(out);
+    }
+
+    // What was found after the last sentence has an object of its own, without a sentence.
+    void end_text(const Place& place, const std::vector<Diagnostic>& diagnostics,
+                  std::string& out) override {
+        if (diagnostics.empty() || !has(Field::findings)) return;
+        line_.begin();
+        if (has(Field::input)) line_.field(name_of(Field::input), place.input);
+        if (has(Field::line)) line_.field(name_of(Field::line), place.line);
+        line_.key(name_of(Field::findings));
+        write_findings(place, diagnostics);
+        line_.end(out);
+    }
+
+  private:
+    bool has(Field field) const {
+        return std::find(fields_.begin(), fields_.end(), field) != fields_.end();
+    }
+
+    void write_field(Field field, const Place& place, const HostSentence& sentence,
+                     const std::vector<Diagnostic>& diagnostics) {
+        const TextRange source = sentence.source;
+        switch (field) {
+            case Field::input: return line_.text(place.input);
+            case Field::line: return line_.number(place.line);
+            case Field::sentence: return line_.number(place.sentence);
+            case Field::offset: return line_.number(source.offset);
+            case Field::length: return line_.number(source.length);
+            case Field::source: return line_.text(place.text.substr(source.offset, source.length));
+            case Field::normalized: return line_.text(sentence.normalized);
+            case Field::speakable: return line_.text(sentence.speakable);
+            case Field::plain: return line_.text(plain_text(sentence.records, sentence.n_records));
+            case Field::words: return write_words(sentence);
+            case Field::findings: return write_findings(place, diagnostics);
+            case Field::runs: return write_runs(place, sentence);
+        }
+    }
+
+    void write_words(const HostSentence& sentence) {
+        line_.array([&] {
+            for (int i = 0; i < sentence.n_records; ++i) {
+                const UtteranceSyllable& record = sentence.records[i];
+                if (i == 0 && !has_marks(record)) continue;
+                write_word(record, sentence.places[i]);
+            }
+        });
+    }
+
+    // The head record, which holds what comes before the first word, has no word.
+    void write_word(const UtteranceSyllable& record, const WordPlace& place) {
+        line_.object([&] {
+            line_.key("word");
+            record.syllable != nullptr ? line_.text(record.syllable) : line_.null();
+            line_.range(place.source);
+            line_.field("pause", pause_name(record.pause_type));
+            if (record.n_punc > 0) {
+                line_.key("marks");
+                line_.array([&] {
+                    for (int i = 0; i < record.n_punc; ++i) {
+                        line_.text(punctuation_name(record.punc_arr[i]));
+                    }
+                });
+            }
+            const char* breaktime = record.cssml_tag.breaktime;
+            if (*breaktime != '\0') line_.field("breaktime", breaktime);
+            for (const auto& [name, value] : attributes(record.cssml_tag)) {
+                if (*value != '\0') line_.field(name, value);
+            }
+        });
+    }
+
+    void write_findings(const Place& place, const std::vector<Diagnostic>& diagnostics) {
+        line_.array([&] {
+            for (const Diagnostic& diagnostic : diagnostics) {
+                line_.object([&] {
+                    line_.field("code", code_of(diagnostic.finding));
+                    line_.field("offset", diagnostic.offset);
+                    line_.field("message", describe(diagnostic, place.text));
+                });
+            }
+        });
+    }
+
+    void write_runs(const Place& place, const HostSentence& sentence) {
+        line_.array([&] {
+            for (const ExplainedRun& run : explain(sentence, place.text)) {
+                line_.object([&] {
+                    line_.range(run.source);
+                    line_.field("rule", run.rule);
+                    line_.key("sections");
+                    line_.array([&] {
+                        for (const std::string& section : run.sections) line_.text(section);
+                    });
+                    line_.field("reading", run.reading);
+                });
+            }
+        });
+    }
+
+    std::vector<Field> fields_;
+    JsonLine line_;
 };
 
 }  // namespace
 
-std::unique_ptr<Format> make_json_format(bool explain) {
-    return std::make_unique<JsonFormat>(explain);
+std::unique_ptr<Format> make_json_format(const std::vector<Field>& fields) {
+    return std::make_unique<JsonFormat>(fields);
 }
 
 }  // namespace kavi::tool

@@ -1,56 +1,38 @@
-// The names of what a record holds.
+// The names of fields, lists of what a record holds, and names and values of the user's for
+// messages.
 #ifndef KAVI_TOOL_NAMES_H
 #define KAVI_TOOL_NAMES_H
 
-#include <array>
+#include <optional>
 #include <string>
-#include <utility>
+#include <string_view>
 
 #include "ShareObj.h"
+#include "options.h"
+#include "tts_names.h"
 
 namespace kavi::tool {
 
-const char* enumerator(PAUSE_type pause);
+std::string_view name_of(Field field);
+std::optional<Field> field_of(std::string_view name);
 
-// As in "<punc=" tags; "unknown" for no mark.
-inline const char* punctuation_name(PUNC_type punc) {
-    switch (punc) {
-        case PUNC_DUN_FE: return "dun";
-        case PUNC_DOU_FE: return "dou";
-        case PUNC_FEN_FE: return "fen";
-        case PUNC_JU_FE: return "ju";
-        case PUNC_WEN_FE: return "wen";
-        case PUNC_TAN_FE: return "tan";
-        case PUNC_MAO_FE: return "mao";
-        case PUNC_ZUOSHU_FE: return "zuoshu";
-        case PUNC_YOUSHU_FE: return "youshu";
-        case PUNC_ZUOYIN_FE: return "zuoyin";
-        case PUNC_YOUYIN_FE: return "youyin";
-        case PUNC_ZUOKUO_FE: return "zuokuo";
-        case PUNC_YOUKUO_FE: return "youkuo";
-        case PUNC_SHENGLUE_FE: return "shenglue";
-        case PUNC_POZHE_FE: return "pozhe";
-        case TN_BEGIN_FE: return "tnbegin";
-        case TN_END_FE: return "tnend";
-        case POIB_FE: return "POIB";
-        case POIE_FE: return "POIE";
-        case PUNC_NULL_FE: break;
-    }
-    return "unknown";
-}
-
-// Attribute names and values of a word, break time aside, in the record's order; empty values are
-// attributes that are not set.
-std::array<std::pair<const char*, const char*>, 7> attributes(const CssmlTag& tag);
-
-// The punctuation names of a record, and its attributes that are set, separated by blanks.
-std::string punctuation_list(const UtteranceSyllable& record);
-std::string attribute_list(const CssmlTag& tag);
+// Appends the punctuation names of a record, or its attributes that are set, separated by blanks.
+void append_punctuation(const UtteranceSyllable& record, std::string& out);
+void append_attributes(const CssmlTag& tag, std::string& out);
 
 // Whether there is something to tell about the head record.
 inline bool has_marks(const UtteranceSyllable& record) {
     return record.n_punc > 0 || record.cssml_tag.breaktime[0] != '\0';
 }
+
+// A name or a value of the user's for a message: in quotation marks, with control characters and
+// bytes that are no UTF-8 escaped, when it has any or blanks at its ends; so that it cannot pass
+// for another line.
+std::string in_quotes(std::string_view text);
+std::string shown(std::string_view name);  // quoted only where it must be
+
+// The same text with U+FFFD for what is not UTF-8.
+std::string valid_utf8(std::string_view text);
 
 }  // namespace kavi::tool
 

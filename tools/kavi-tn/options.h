@@ -7,12 +7,29 @@
 
 namespace kavi::tool {
 
-enum class Stage { sentences, speakable, words, explain };
+enum class Stage { sentences, speakable, plain, words, explain };
 enum class FormatName { text, jsonl, html };
+
+// The fields of an object of JSON Lines, in their order.
+enum class Field {
+    input,
+    line,
+    sentence,
+    offset,
+    length,
+    source,
+    normalized,
+    speakable,
+    plain,
+    words,
+    findings,
+    runs,
+};
 
 struct Options {
     Stage stage = Stage::speakable;
     FormatName format = FormatName::text;
+    std::vector<Field> fields;       // of JSON Lines; empty: all but the runs
     std::vector<std::string> files;  // "-" is standard input
     bool has_text = false;
     std::string text;    // read before the files

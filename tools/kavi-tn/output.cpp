@@ -4,10 +4,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
@@ -18,17 +18,26 @@ namespace {
 
 constexpr const char* CLEAR_TO_END = "\033[K";
 
+// Whether messages go to a terminal that can do more than write lines.
 bool is_terminal() {
-    return isatty(STDERR_FILENO) != 0;
+    const char* terminal = std::getenv("TERM");
+    const bool is_dumb = terminal == nullptr || std::string_view(terminal) == "dumb";
+    return !is_dumb && isatty(STDERR_FILENO) != 0;
+}
+
+// As no-color.org has it: set, and not to the empty text.
+bool wants_colour() {
+    const char* no_colour = std::getenv("NO_COLOR");
+    return is_terminal() && (no_colour == nullptr || *no_colour == '\0');
 }
 
 }  // namespace
 
-std::string Output::open(const std::string& path) {
+int Output::open(const std::string& path) {
     constexpr mode_t PERMISSIONS = 07777;
     if (path.empty()) {
         descriptor_ = STDOUT_FILENO;
-        return {};
+        return 0;
     }
     struct stat status = {};
     if (::stat(path.c_str(), &status) != 0) {
@@ -42,42 +51,45 @@ std::string Output::open(const std::string& path) {
         return open_beside(std::filesystem::canonical(path), status.st_mode & PERMISSIONS);
     }
     descriptor_ = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
-    return descriptor_ < 0 ? path + ": " + std::strerror(errno) : "";
+    return descriptor_ < 0 ? errno : 0;
 }
 
-std::string Output::open_beside(const std::string& target, unsigned mode) {
+int Output::open_beside(const std::string& target, unsigned mode) {
+    const std::lock_guard lock(renaming_);
     std::string name = target + ".XXXXXX";
     descriptor_ = ::mkostemp(name.data(), O_CLOEXEC);
-    if (descriptor_ < 0) return target + ": " + std::strerror(errno);
+    if (descriptor_ < 0) return errno;
     target_ = target;
     temporary_ = name;
-    return ::fchmod(descriptor_, mode) != 0 ? target + ": " + std::strerror(errno) : "";
+    return ::fchmod(descriptor_, mode) != 0 ? errno : 0;
 }
 
-std::string Output::write(std::string_view piece) {
+int Output::write(std::string_view piece) {
     while (!piece.empty()) {
         const ssize_t n = ::write(descriptor_, piece.data(), piece.size());
-        if (n < 0 && errno != EINTR) return std::strerror(errno);
+        if (n < 0 && errno != EINTR) return errno;
         if (n > 0) piece.remove_prefix(static_cast<std::size_t>(n));
     }
-    return {};
+    return 0;
 }
 
-std::string Output::commit() {
+int Output::commit() {
+    const std::lock_guard lock(renaming_);
     const bool closed = ::close(descriptor_) == 0;
     descriptor_ = -1;
     const bool renamed =
         closed && (target_.empty() || std::rename(temporary_.c_str(), target_.c_str()) == 0);
-    if (!renamed) return std::strerror(errno);
+    if (!renamed) return errno;
     target_.clear();
-    return {};
+    return 0;
 }
 
-void Output::abandon() {
-    if (target_.empty()) return;
-    if (descriptor_ >= 0) static_cast<void>(::close(descriptor_));
+bool Output::abandon() {
+    const std::lock_guard lock(renaming_);
+    if (target_.empty()) return false;
     static_cast<void>(::unlink(temporary_.c_str()));
     target_.clear();
+    return true;
 }
 
 Progress::Progress(const Options& options) {
@@ -115,9 +127,16 @@ void Progress::clear() {
 }
 
 void write_messages(std::string_view messages) {
-    static const bool in_colour = is_terminal() && std::getenv("NO_COLOR") == nullptr;
+    static const bool in_colour = wants_colour();
     if (messages.empty()) return;
     std::cerr << (in_colour ? "\033[33m" : "") << messages << (in_colour ? "\033[0m" : "");
+}
+
+void announce_terminal(const Options& options) {
+    const bool reads_it = std::count(options.files.begin(), options.files.end(), "-") > 0;
+    if (reads_it && isatty(STDIN_FILENO) != 0 && isatty(STDERR_FILENO) != 0) {
+        write_messages("kavi-tn: reading from the terminal; Ctrl-D on a line of its own ends it\n");
+    }
 }
 
 }  // namespace kavi::tool

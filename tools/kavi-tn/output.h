@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <mutex>
 #include <string>
 #include <string_view>
 
@@ -13,8 +14,8 @@ namespace kavi::tool {
 
 // Standard output or a file, written in whole pieces. A file is written under another name beside
 // its own, which it takes when all is written: until then the file there is as it was, and may be
-// an input. What cannot be renamed, such as a pipe or a device, is written directly. Every
-// operation answers why it failed, or nothing.
+// an input. What cannot be renamed, such as a pipe or a device, is written directly. Operations
+// answer the system's error number, or 0.
 class Output {
   public:
     Output() = default;
@@ -22,19 +23,22 @@ class Output {
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
-    std::string open(const std::string& path);  // "": standard output
-    std::string write(std::string_view piece);
+    int open(const std::string& path);  // "": standard output
+    int write(std::string_view piece);
 
     // All is written.
-    std::string commit();
+    int commit();
 
-    // What was written to a file is not to be kept.
-    void abandon();
+    // What was written to a file is not to be kept. True when the file is as it was; false for
+    // what is written directly, and after commit(). Another thread than that of the other
+    // operations may call it, before the process ends.
+    bool abandon();
 
   private:
-    std::string open_beside(const std::string& target, unsigned mode);
+    int open_beside(const std::string& target, unsigned mode);
 
     int descriptor_ = -1;
+    std::mutex renaming_;    // of what follows
     std::string target_;     // empty: nothing is to be renamed
     std::string temporary_;  // its name until then
 };
@@ -56,8 +60,11 @@ class Progress {
     Clock::time_point last_ = begin_;
 };
 
-// Messages, in colour on a terminal unless NO_COLOR is set.
+// Messages, in colour on a terminal that has any, unless NO_COLOR says not to.
 void write_messages(std::string_view messages);
+
+// On a terminal, that standard input is read from it, if the options ask for that.
+void announce_terminal(const Options& options);
 
 }  // namespace kavi::tool
 

@@ -11,40 +11,42 @@ Renderer::Renderer(const Options& options)
 
 Rendered Renderer::render(const Block& block) {
     Rendered rendered;
+    const std::string name = "kavi-tn: " + shown(block.input) + ": ";
+    if (!block.notice.empty()) rendered.notice = name + block.notice + "\n";
     std::string_view rest = block.bytes;
     for (std::size_t line = block.first; !rest.empty(); ++line) {
         const std::string_view text = rest.substr(0, rest.find(delimiter_));
-        render_text(block, line, text, rendered);
+        render_text({block.input, block.number, line, 0, text}, rendered);
         ++rendered.texts;
         rest.remove_prefix(std::min(text.size() + 1, rest.size()));
     }
     if (!block.failure.empty()) {
-        rendered.failure = "kavi-tn: " + block.input + ": cannot be read: " + block.failure + "\n";
+        rendered.failure = name + "cannot be read: " + block.failure + "\n";
         rendered.all_read = false;
     }
     return rendered;
 }
 
-void Renderer::render_text(const Block& block, std::size_t line, std::string_view text,
-                           Rendered& rendered) {
-    std::vector<Diagnostic> diagnostics;  // of the sentence to come
-    std::size_t sentences = 0;
+void Renderer::render_text(const Place& text, Rendered& rendered) {
+    Place place = text;
+    diagnostics_.clear();
     const bool all_read = host_.read(
-        text,
+        text.text,
         [&](const HostSentence& sentence) {
-            const Place place = {block.input, line, ++sentences, text};
-            format_->write(place, sentence, diagnostics, rendered.output);
-            diagnostics.clear();
+            ++place.sentence;
+            format_->write(place, sentence, diagnostics_, rendered.output);
+            diagnostics_.clear();
             return true;
         },
         [&](const Diagnostic& diagnostic) {
-            diagnostics.push_back(diagnostic);
+            diagnostics_.push_back(diagnostic);
             rendered.findings.push_back(
-                {diagnostic.finding, block.input + ":" + std::to_string(line) + ":" +
-                                         std::to_string(diagnostic.offset + 1) + ": " +
-                                         describe(diagnostic, text) + "\n"});
+                {diagnostic.finding, shown(text.input) + ":" + std::to_string(text.line) +
+                                         ": byte " + std::to_string(diagnostic.offset) + ": " +
+                                         describe(diagnostic, text.text) + "\n"});
             return true;
         });
+    format_->end_text(place, diagnostics_, rendered.output);
     rendered.all_read = rendered.all_read && all_read;
 }
 

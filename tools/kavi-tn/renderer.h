@@ -17,6 +17,7 @@ struct Rendered {
     std::vector<FindingMessage> findings;
     std::size_t texts = 0;  // read
     bool all_read = true;
+    std::string notice;   // a line about an input that seems to be no text
     std::string failure;  // a line about it, if the input could not be read
 };
 
@@ -28,12 +29,12 @@ class Renderer {
     Rendered render(const Block& block);
 
   private:
-    void render_text(const Block& block, std::size_t line, std::string_view text,
-                     Rendered& rendered);
+    void render_text(const Place& text, Rendered& rendered);
 
     char delimiter_;
     TtsHost host_;
     std::unique_ptr<Format> format_;
+    std::vector<Diagnostic> diagnostics_;  // of the sentence to come
 };
 
 }  // namespace kavi::tool

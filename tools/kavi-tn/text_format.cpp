@@ -3,37 +3,78 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "format.h"
 #include "names.h"
 #include "tts_explain.h"
+#include "tts_plain.h"
 
 namespace kavi::tool {
 
 namespace {
 
-template <std::size_t Columns>
-using Rows = std::vector<std::array<std::string, Columns>>;
-
-// Columns as wide as their widest field, two blanks between, a blank line at the end.
-template <std::size_t Columns>
-void append_table(const Rows<Columns>& rows, std::string& out) {
-    std::array<std::size_t, Columns> widths = {};
-    for (const auto& row : rows) {
-        for (std::size_t i = 0; i < Columns; ++i) widths[i] = std::max(widths[i], row[i].size());
+// How many characters a field has, if it is UTF-8.
+std::size_t width_of(std::string_view field) {
+    constexpr unsigned CONTINUATION = 0x80;
+    constexpr unsigned CONTINUATION_MASK = 0xC0;
+    std::size_t width = 0;
+    for (const char c : field) {
+        if ((static_cast<unsigned char>(c) & CONTINUATION_MASK) != CONTINUATION) ++width;
     }
-    for (const auto& row : rows) {
-        std::string line;
-        for (std::size_t i = 0; i < Columns; ++i) {
-            line += row[i] + std::string(widths[i] + 2 - row[i].size(), ' ');
-        }
-        line.erase(line.find_last_not_of(' ') + 1);
-        out += line + "\n";
-    }
-    out += "\n";
+    return width;
 }
+
+// Rows of fields in columns as wide as their widest field, two blanks between. The fields stand in
+// one text, one after the other.
+template <std::size_t Columns>
+class Table {
+  public:
+    void clear() {
+        text_.clear();
+        ends_.clear();
+        widths_ = {};
+    }
+
+    // The text to append the next field to.
+    std::string& field() { return text_; }
+
+    // Ends the field, and after the last of a row the row.
+    void end_field() {
+        std::size_t& width = widths_[ends_.size() % Columns];
+        width = std::max(width, width_of(last()));
+        ends_.push_back(text_.size());
+    }
+    void add(std::string_view field) {
+        text_ += field;
+        end_field();
+    }
+
+    // All rows, and an empty line.
+    void append_to(std::string& out) const {
+        std::size_t begin = 0;
+        std::size_t blanks = 0;
+        for (std::size_t i = 0; i < ends_.size(); ++i) {
+            const std::size_t column = i % Columns;
+            const std::string_view field(text_.data() + begin, ends_[i] - begin);
+            if (column == 0) blanks = 0;
+            if (!field.empty()) out.append(blanks, ' ').append(field);
+            blanks = (field.empty() ? blanks : 0) + widths_[column] + 2 - width_of(field);
+            if (column == Columns - 1) out += '\n';
+            begin = ends_[i];
+        }
+        out += '\n';
+    }
+
+  private:
+    std::string_view last() const {
+        return std::string_view(text_).substr(ends_.empty() ? 0 : ends_.back());
+    }
+
+    std::string text_;
+    std::vector<std::size_t> ends_;
+    std::array<std::size_t, Columns> widths_ = {};
+};
 
 class SentenceFormat : public Format {
   public:
@@ -51,59 +92,79 @@ class SpeakableFormat : public Format {
     }
 };
 
-// The enumerator's name in words: "intonation phrase, forced".
-std::string pause_in_words(PAUSE_type pause) {
-    constexpr std::string_view PREFIX = "PAUSE_";
-    constexpr std::string_view SUFFIX = "_FE";
-    constexpr std::string_view FORCED = " force";
-    std::string name = enumerator(pause);
-    name = name.substr(PREFIX.size(), name.size() - PREFIX.size() - SUFFIX.size());
-    for (char& c : name) c = c == '_' ? ' ' : static_cast<char>(c - 'A' + 'a');
-    const std::size_t forced = name.rfind(FORCED);
-    return forced == std::string::npos ? name : name.substr(0, forced) + ", forced";
-}
-
-class WordFormat : public Format {
+// A line for each text, also for one without words, so that the lines can stand beside those of the
+// input.
+class PlainFormat : public Format {
   public:
     void write(const Place& /*place*/, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
-        Rows<5> rows = {{"word", "pause", "marks", "break", "attributes"}};
+        const std::string plain = plain_text(sentence.records, sentence.n_records);
+        if (plain.empty()) return;
+        if (has_words_) out += ' ';
+        out += plain;
+        has_words_ = true;
+    }
+    void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
+                  std::string& out) override {
+        out += '\n';
+        has_words_ = false;
+    }
+
+  private:
+    bool has_words_ = false;
+};
+
+class WordFormat : public Format {
+  public:
+    void write(const Place& place, const HostSentence& sentence,
+               const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
+        table_.clear();
+        for (const char* title : {"word", "written", "pause", "marks", "break", "attributes"}) {
+            table_.add(title);
+        }
         for (int i = 0; i < sentence.n_records; ++i) {
             const UtteranceSyllable& record = sentence.records[i];
             if (i == 0 && !has_marks(record)) continue;
-            rows.push_back({i == 0 ? "(head)" : record.syllable, pause_in_words(record.pause_type),
-                            punctuation_list(record), record.cssml_tag.breaktime,
-                            attribute_list(record.cssml_tag)});
+            const TextRange source = sentence.places[i].source;
+            table_.add(i == 0 ? "(head)" : record.syllable);
+            table_.add(place.text.substr(source.offset, source.length));
+            table_.add(pause_name(record.pause_type));
+            append_punctuation(record, table_.field());
+            table_.end_field();
+            table_.add(record.cssml_tag.breaktime);
+            append_attributes(record.cssml_tag, table_.field());
+            table_.end_field();
         }
-        append_table(rows, out);
+        table_.append_to(out);
     }
+
+  private:
+    Table<6> table_;
 };
 
 class ExplainFormat : public Format {
   public:
+    // Blanks between sections stay out: nothing is written for them.
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
-        // An abbreviation stands before the words that it was expanded to.
-        std::vector<ExplainedRun> runs = explain_abbreviations(sentence, place.text);
-        for (ExplainedRun& run : explain(sentence.normalized)) runs.push_back(std::move(run));
-        std::stable_sort(runs.begin(), runs.end(),
-                         [](const auto& a, const auto& b) { return a.at < b.at; });
-        Rows<3> rows;
-        append_rows(runs, rows);
-        append_table(rows, out);
+        table_.clear();
+        for (const ExplainedRun& run : explain(sentence, place.text)) {
+            if (run.sections.size() == 1 && run.sections[0] == " ") continue;
+            table_.field() += "  ";
+            for (const std::string& section : run.sections) {
+                table_.field().append("[").append(section) += ']';
+            }
+            table_.end_field();
+            table_.add(run.rule);
+            const std::string_view reading = run.reading;
+            table_.add(reading.substr(0, reading.find_last_not_of(' ') + 1));
+        }
+        table_.append_to(out);
     }
 
   private:
-    // Blanks between sections stay out: nothing is written for them.
-    static void append_rows(const std::vector<ExplainedRun>& runs, Rows<3>& rows) {
-        for (const ExplainedRun& run : runs) {
-            if (run.sections.size() == 1 && run.sections[0] == " ") continue;
-            std::string sections = "  ";
-            for (const std::string& section : run.sections) sections += "[" + section + "]";
-            rows.push_back({sections, run.rule, run.reading});
-        }
-    }
+    Table<3> table_;
 };
 
 }  // namespace
@@ -111,6 +172,7 @@ class ExplainFormat : public Format {
 std::unique_ptr<Format> make_text_format(Stage stage) {
     switch (stage) {
         case Stage::sentences: return std::make_unique<SentenceFormat>();
+        case Stage::plain: return std::make_unique<PlainFormat>();
         case Stage::words: return std::make_unique<WordFormat>();
         case Stage::explain: return std::make_unique<ExplainFormat>();
         case Stage::speakable: break;
@@ -120,7 +182,7 @@ std::unique_ptr<Format> make_text_format(Stage stage) {
 
 std::unique_ptr<Format> make_format(const Options& options) {
     switch (options.format) {
-        case FormatName::jsonl: return make_json_format(options.stage == Stage::explain);
+        case FormatName::jsonl: return make_json_format(options.fields);
         case FormatName::html: return make_html_format();
         case FormatName::text: break;
     }

@@ -1,13 +1,22 @@
 # bash completion for kavi-tn
 _kavi_tn() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    # Readline makes "=" a word of its own.
+    [ "$current" = = ] && current=
+    [ "$previous" = = ] && previous=${COMP_WORDS[COMP_CWORD - 2]}
     case $previous in
         --format) mapfile -t COMPREPLY < <(compgen -W "text jsonl html" -- "$current") && return ;;
+        --fields)
+            local before=
+            [[ $current == *,* ]] && before=${current%,*},
+            mapfile -t COMPREPLY < <(compgen -P "$before" -W "input line sentence offset length source
+                normalized speakable plain words findings runs" -- "${current##*,}") && return ;;
         -t | --text | -j | --jobs) return ;;
     esac
     case $current in
         -*) mapfile -t COMPREPLY < <(compgen -W "-t --text -o --output -0 --null -j --jobs --strict
-            --summary --format --sentences --speakable --words --explain -h --help --version" -- "$current") ;;
+            --summary --format --fields --sentences --speakable --plain --words --explain -h --help
+            --version" -- "$current") ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     esac
 }

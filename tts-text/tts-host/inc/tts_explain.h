@@ -8,27 +8,29 @@
 #include <vector>
 
 #include "tts_host.h"
+#include "tts_places.h"
 
 namespace kavi {
 
 // A run of sections that were read together.
 struct ExplainedRun {
-    std::size_t at;  // of its bytes in the normalised sentence
-    std::size_t length;
-    std::vector<std::string> sections;  // these bytes, as they were cut
+    TextRange source;                   // its bytes
+    std::vector<std::string> sections;  // these, as they were cut; a character is not broken
     std::string reading;                // what was written for them; empty for nothing
     std::size_t reading_at;             // of that in the speakable text
     const char* rule;                   // the rule that chose it, in the field's words
+    bool is_word;                       // read by the rule that copies a word
 };
 
 // The runs of one sentence as eng_text_normalize wrote it (at most 4095 bytes), in order: together
-// they are the sentence as it stands, or as much of it as fits the engine's output.
+// they are the sentence as it stands, or as much of it as fits the engine's output. Their sources
+// are places in `normalized`.
 std::vector<ExplainedRun> explain(std::string_view normalized);
 
-// The abbreviations of a sentence of `text`, in order: each a run with what was written in the text
-// for its one section, and with its words in the normalised sentence for its reading.
-std::vector<ExplainedRun> explain_abbreviations(const HostSentence& sentence,
-                                                std::string_view text);
+// The same with places in `text`, which the sentence was read from. An abbreviation is one run, by
+// the rule "abbreviation", with what was written in the text for its section. A tag that closes or
+// opens a span where the text was cut has an empty source; what was left out is in none.
+std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view text);
 
 }  // namespace kavi
 

@@ -1,5 +1,7 @@
 #include "tts_explain.h"
 
+#include <algorithm>
+
 #include "for_host_layer.h"
 
 namespace kavi {
@@ -56,6 +58,48 @@ const char* name_of(const SectionDispatcher& step, std::string_view written) {
     return incomplete ? "incomplete, not read" : RULE_NAMES[static_cast<int>(step.rule())].name;
 }
 
+// Whether the run is bytes outside ASCII and `section` goes on with a character of theirs.
+bool continues_character(const ExplainedRun& run, std::string_view section) {
+    constexpr unsigned CONTINUATION = 0x80;
+    constexpr unsigned CONTINUATION_MASK = 0xC0;
+    return (static_cast<unsigned char>(section[0]) & CONTINUATION_MASK) == CONTINUATION &&
+           static_cast<unsigned char>(run.sections.back().back()) >= CONTINUATION;
+}
+
+// Adds the sections of a step to a run.
+void add_sections(const SectionDispatcher& step, ExplainedRun& run) {
+    for (const Section* s = step.first(); s != nullptr; s = s->m_pnext) {
+        const std::string_view section = SectionWindow::source(s);
+        run.source.length += section.size();
+        if (!run.sections.empty() && continues_character(run, section)) {
+            run.sections.back() += section;
+        } else {
+            run.sections.emplace_back(section);
+        }
+        if (s == step.last()) break;
+    }
+}
+
+// Whether a step belongs to the run before it: it is the letters that an apostrophe rewrites, or a
+// byte of the same character.
+bool goes_on(const SectionDispatcher& step, const ExplainedRun& run) {
+    return SectionWindow::is_rewritten(step.first()) ||
+           continues_character(run, SectionWindow::source(step.first()));
+}
+
+bool is_abbreviation(const HostSentence& sentence, std::size_t at) {
+    const SourcePiece* begin = sentence.pieces;
+    const SourcePiece* piece =
+        std::upper_bound(begin, begin + sentence.n_pieces, at,
+                         [](std::size_t byte, const SourcePiece& p) { return byte < p.at; });
+    return piece != begin && piece[-1].is_abbreviation;
+}
+
+// Whether a run shares source with the one before it, as the words of an abbreviation do.
+bool overlaps(const TextRange& source, const ExplainedRun& before) {
+    return source.length > 0 && source.offset < before.source.offset + before.source.length;
+}
+
 }  // namespace
 
 std::vector<ExplainedRun> explain(std::string_view normalized) {
@@ -67,37 +111,40 @@ std::vector<ExplainedRun> explain(std::string_view normalized) {
     SectionDispatcher dispatcher(sentence.c_str(), window, output);
     std::vector<ExplainedRun> runs;
     while (dispatcher.next()) {
-        const char* begin = SectionWindow::source(dispatcher.first()).data();
-        // The letters that an apostrophe rewrites are a step of their own.
-        const bool goes_on = !runs.empty() && SectionWindow::is_rewritten(dispatcher.first());
-        if (!goes_on) {
-            runs.push_back({static_cast<std::size_t>(begin - sentence.c_str()), 0, {}, {}, 0, {}});
+        const auto reading_at = static_cast<std::size_t>(dispatcher.output_before());
+        if (runs.empty() || !goes_on(dispatcher, runs.back())) {
+            const char* begin = SectionWindow::source(dispatcher.first()).data();
+            runs.push_back({{static_cast<std::size_t>(begin - sentence.c_str()), 0},
+                            {},
+                            {},
+                            reading_at,
+                            name_of(dispatcher, speakable + reading_at),
+                            dispatcher.rule() == ReadingRule::word});
         }
-        ExplainedRun& run = runs.back();
-        for (const Section* s = dispatcher.first(); s != nullptr; s = s->m_pnext) {
-            run.sections.emplace_back(SectionWindow::source(s));
-            run.length += run.sections.back().size();
-            if (s == dispatcher.last()) break;
-        }
-        run.reading_at = static_cast<std::size_t>(dispatcher.output_before());
-        run.reading = speakable + run.reading_at;
-        if (!goes_on) run.rule = name_of(dispatcher, run.reading);
+        add_sections(dispatcher, runs.back());
+        runs.back().reading += speakable + reading_at;
     }
     return runs;
 }
 
-std::vector<ExplainedRun> explain_abbreviations(const HostSentence& sentence,
-                                                std::string_view text) {
+std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view text) {
     std::vector<ExplainedRun> runs;
-    for (std::size_t i = 0; i < sentence.n_pieces; ++i) {
-        const SourcePiece& piece = sentence.pieces[i];
-        if (!piece.is_abbreviation) continue;
-        runs.push_back({piece.at,
-                        piece.length,
-                        {std::string(text.substr(piece.source.offset, piece.source.length))},
-                        std::string(sentence.normalized.substr(piece.at, piece.length)),
-                        0,
-                        "abbreviation"});
+    for (ExplainedRun& run : explain(sentence.normalized)) {
+        const std::size_t at = run.source.offset;
+        run.source = source_of(sentence, at, run.source.length);
+        if (!runs.empty() && overlaps(run.source, runs.back())) {
+            ExplainedRun& before = runs.back();
+            const std::size_t end = run.source.offset + run.source.length;
+            before.source.length = std::max(before.source.length, end - before.source.offset);
+            before.reading += run.reading;
+            continue;
+        }
+        if (is_abbreviation(sentence, at)) {
+            run.rule = "abbreviation";
+            run.is_word = false;
+            run.sections = {std::string(text.substr(run.source.offset, run.source.length))};
+        }
+        runs.push_back(std::move(run));
     }
     return runs;
 }

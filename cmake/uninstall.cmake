@@ -1,0 +1,10 @@
+# Takes away what the last installation from this build put in its places.
+set(manifest ${CMAKE_ARGV3})
+if(NOT EXISTS ${manifest})
+    message(FATAL_ERROR "Nothing has been installed from this build: there is no ${manifest}")
+endif()
+file(STRINGS ${manifest} files)
+foreach(file ${files})
+    message(STATUS "Removing $ENV{DESTDIR}${file}")
+    file(REMOVE $ENV{DESTDIR}${file})
+endforeach()

@@ -1,0 +1,223 @@
+#include "command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <charconv>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "kavi_version.h"
+#include "names.h"
+
+namespace kavi::tool {
+
+namespace {
+
+constexpr const char* HELP = R"(Usage: kavi-tn [OPTION]... [-t TEXT] [FILE]...
+Turns English text into the words that a speech engine says. Reads TEXT, then each FILE, "-" or
+nothing for standard input; every line is a text of its own.
+
+What is written of each sentence, a line or a table each:
+  --speakable          words with marks as tags (the default)
+  --plain              words with single blanks and punctuation; a line for each text
+  --sentences          the sentence as cut, abbreviations expanded
+  --words              a table of the words with pauses, marks and markup
+  --explain            what was written, what is said for it, and the rule
+
+How it is written:
+  --format FORMAT      text (the default), jsonl (an object a sentence) or html (a page)
+  --fields LIST        of jsonl: input,line,sentence,offset,length,source,normalized,speakable,
+                       plain,words,findings,runs; without it all but runs
+  -o, --output FILE    to FILE, which changes only when all is written, and may be an input
+
+How it is read:
+  -t, --text TEXT      read TEXT first
+  -0, --null           texts end with a NUL byte instead of a line end
+  -j, --jobs N         with N threads, 0 for all processors; the output stays the same
+
+What is told beside it, on standard error, as NAME:LINE: byte OFFSET: text:
+  --strict             exit with 1 when there is any finding
+  --summary            say in the end how many findings of each kind there were
+
+  -h, --help           show this
+  --version            show the version
+
+Examples:
+  kavi-tn -t 'Dr. Smith paid $5.50.'
+  kavi-tn --explain notes.txt
+  kavi-tn --format jsonl --fields source,plain -j 0 corpus.txt -o corpus.jsonl
+  kavi-tn --format html page.txt -o page.html
+
+Exit status: 0 when everything was normalised, 1 when something could not be read, normalised or
+written, 2 for wrong usage, 128 and the signal's number when interrupted.
+)";
+
+constexpr unsigned JOBS_MAX = 256;
+
+struct FormatRow {
+    const char* name;
+    FormatName format;
+};
+constexpr FormatRow FORMATS[] = {
+    {"text", FormatName::text}, {"jsonl", FormatName::jsonl}, {"html", FormatName::html}};
+
+std::string wrong_value(const std::string& takes, const std::string& value) {
+    return "takes " + takes + ", not " + in_quotes(value);
+}
+
+// Each gives a value to the options, and answers what is wrong with it, or nothing.
+
+std::string set_format(const std::string& value, Options& options) {
+    for (const FormatRow& row : FORMATS) {
+        if (value != row.name) continue;
+        options.format = row.format;
+        return {};
+    }
+    return wrong_value("text, jsonl or html", value);
+}
+
+std::string set_jobs(const std::string& value, Options& options) {
+    unsigned jobs = 0;
+    const char* end = value.data() + value.size();
+    const auto [rest, error] = std::from_chars(value.data(), end, jobs);
+    if (error != std::errc() || rest != end || jobs > JOBS_MAX) {
+        return wrong_value("a number from 0 to 256", value);
+    }
+    options.jobs = jobs != 0 ? jobs : std::max(1U, std::thread::hardware_concurrency());
+    return {};
+}
+
+std::string set_fields(const std::string& value, Options& options) {
+    options.fields.clear();
+    std::istringstream list(value);
+    for (std::string name; std::getline(list, name, ',');) {
+        const std::optional<Field> field = field_of(name);
+        if (!field) return wrong_value("names of fields with commas between them", value);
+        options.fields.push_back(*field);
+    }
+    std::sort(options.fields.begin(), options.fields.end());
+    options.fields.erase(std::unique(options.fields.begin(), options.fields.end()),
+                         options.fields.end());
+    return options.fields.empty() ? wrong_value("names of fields", value) : "";
+}
+
+// The command line, bound to the options that it sets.
+class Parser {
+  public:
+    explicit Parser(Options& options) : options_(options) {
+        app_.set_help_flag();
+        add_flag("-h,--help", help_);
+        add_flag("--version", version_);
+        text_ = app_.add_option("-t,--text", options.text)->take_last();
+        app_.add_option("FILE", options.files);
+        app_.add_option("-o,--output", options.output)->take_last();
+        add_flag("-0,--null", null_);
+        add_flag("--strict", options.strict);
+        add_flag("--summary", options.summary);
+        add_value("-j,--jobs", set_jobs);
+        add_value("--format", set_format);
+        fields_ = add_value("--fields", set_fields);
+        add_stage("--sentences", Stage::sentences);
+        add_stage("--speakable", Stage::speakable);
+        add_stage("--plain", Stage::plain);
+        add_stage("--words", Stage::words);
+        add_stage("--explain", Stage::explain);
+    }
+
+    // What is wrong with the arguments, or nothing.
+    std::string parse(int argc, char** argv) {
+        try {
+            app_.parse(argc, argv);
+        } catch (const CLI::ExtrasError&) {
+            return "no such option: " + app_.remaining()[0];
+        } catch (const CLI::ArgumentMismatch& error) {
+            const std::string text = error.what();
+            const bool is_flag = text.find("flag override") != std::string::npos;
+            const std::string name = text.substr(0, text.find_first_of(": "));
+            return is_flag ? "--" + name + ": takes no value" : name + ": takes a value";
+        } catch (const CLI::ParseError& error) {
+            return error.what();
+        }
+        if (stages_.size() > 1) {
+            return stages_[0] + " and " + stages_[1] + " exclude each other";
+        }
+        if (!stages_.empty() && options_.format != FormatName::text) {
+            return stages_[0] + " goes with --format text alone" +
+                   (options_.format == FormatName::jsonl ? "; choose by --fields" : "");
+        }
+        if (fields_->count() > 0 && options_.format != FormatName::jsonl) {
+            return "--fields goes with --format jsonl alone";
+        }
+        options_.has_text = text_->count() > 0;
+        if (null_) options_.delimiter = '\0';
+        if (!options_.has_text && options_.files.empty()) options_.files.emplace_back("-");
+        return {};
+    }
+
+    bool wants_help() const { return help_; }
+    bool wants_version() const { return version_; }
+
+  private:
+    using Setter = std::string (*)(const std::string& value, Options& options);
+
+    CLI::Option* add_value(const char* name, Setter set) {
+        return app_
+            .add_option_function<std::string>(
+                name,
+                [this, name, set](const std::string& value) {
+                    const std::string wrong = set(value, options_);
+                    const std::string_view names = name;
+                    if (wrong.empty()) return;
+                    throw CLI::ValidationError(std::string(names.substr(names.find("--"))), wrong);
+                })
+            ->take_last();
+    }
+
+    void add_flag(const char* name, bool& flag) {
+        app_.add_flag(name, flag)->disable_flag_override();
+    }
+
+    void add_stage(const char* name, Stage stage) {
+        app_.add_flag_callback(name,
+                               [this, name, stage] {
+                                   stages_.emplace_back(name);
+                                   options_.stage = stage;
+                               })
+            ->disable_flag_override();
+    }
+
+    Options& options_;
+    CLI::App app_;
+    bool help_ = false;
+    bool version_ = false;
+    bool null_ = false;
+    CLI::Option* text_ = nullptr;
+    CLI::Option* fields_ = nullptr;
+    std::vector<std::string> stages_;
+};
+
+}  // namespace
+
+std::optional<Options> parse_command_line(int argc, char** argv, int& status) {
+    constexpr int WRONG_USAGE = 2;
+    Options options;
+    Parser parser(options);
+    const std::string wrong = parser.parse(argc, argv);
+    status = 0;
+    if (parser.wants_help()) {
+        std::cout << HELP;
+    } else if (parser.wants_version()) {
+        std::cout << "kavi-tn " KAVI_VERSION "\n";
+    } else if (!wrong.empty()) {
+        std::cerr << "kavi-tn: " << wrong << "\nTry \"kavi-tn --help\".\n";
+        status = WRONG_USAGE;
+    } else {
+        return options;
+    }
+    return {};
+}
+
+}  // namespace kavi::tool

@@ -1,0 +1,30 @@
+// What stands around the sentences of a page.
+#ifndef KAVI_TOOL_HTML_PAGE_H
+#define KAVI_TOOL_HTML_PAGE_H
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "format.h"
+
+namespace kavi::tool {
+
+extern const char* const HTML_PROLOGUE;
+extern const char* const HTML_EPILOGUE;
+
+// Marks that punctuation writes with one or two characters.
+inline constexpr std::pair<std::string_view, std::string_view> MARK_GLYPHS[] = {
+    {"dun", ","},    {"dou", ","},   {"fen", ";"},       {"ju", "."},      {"wen", "?"},
+    {"tan", "!"},    {"mao", ":"},   {"zuoyin", "\""},   {"youyin", "\""}, {"zuokuo", "("},
+    {"youkuo", ")"}, {"pozhe", "-"}, {"shenglue", "..."}};
+
+// Where a sentence stands on the page.
+inline std::string anchor(const Place& place) {
+    return std::to_string(place.input_number) + "." + std::to_string(place.line) + "." +
+           std::to_string(place.sentence);
+}
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_HTML_PAGE_H

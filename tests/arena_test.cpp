@@ -72,13 +72,40 @@ TEST(Arena, StartsAnewInItsFirstChunk) {
 
 TEST(Arena, WhatIsLeftOfAChunkServesLater) {
     mem_stack_handle arena = mem_stack_create(0);
-    EXPECT_NE(mem_stack_request_buf(40000, MEM_COMMON, arena), nullptr);
-    EXPECT_NE(mem_stack_request_buf(30000, MEM_COMMON, arena), nullptr);  // of another chunk
-    EXPECT_NE(mem_stack_request_buf(30000, MEM_COMMON, arena), nullptr);
+    EXPECT_NE(mem_stack_request_buf(45024, MEM_COMMON, arena), nullptr);
+    EXPECT_NE(mem_stack_request_buf(45024, MEM_COMMON, arena), nullptr);  // of another chunk
+    EXPECT_NE(mem_stack_request_buf(10000, MEM_COMMON, arena), nullptr);
     const std::size_t taken = mem_stack_taken(arena);
-    EXPECT_NE(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
+    EXPECT_GE(taken, mem_stack_used(arena));
+    EXPECT_NE(mem_stack_request_buf(20480, MEM_COMMON, arena), nullptr);  // all of the first
     EXPECT_EQ(mem_stack_taken(arena), taken);
     mem_stack_destroy(arena);
+}
+
+TEST(Arena, AFreeLargeBlockServesAgain) {
+    mem_stack_handle arena = mem_stack_create(0);
+    void* block = mem_stack_request_buf(50000, MEM_COMMON, arena);
+    const std::size_t cost = mem_stack_used(arena);
+    for (const std::size_t size : {50000U, 45000U}) {
+        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
+        EXPECT_EQ(mem_stack_request_buf(size, MEM_COMMON, arena), block);
+        EXPECT_EQ(mem_stack_used(arena), cost);
+    }
+    mem_stack_destroy(arena);
+}
+
+TEST(Arena, AFreeBlockServesNoneOfAnotherClass) {
+    for (std::size_t large = 1040; large <= 33000; large += 256) {
+        mem_stack_handle arena = mem_stack_create(0);
+        mem_stack_release_buf(mem_stack_request_buf(large, MEM_COMMON, arena), 0, MEM_COMMON,
+                              arena);
+        for (std::size_t small = 16; small <= 1024; small += 16) {
+            const std::size_t used = mem_stack_used(arena);
+            EXPECT_NE(mem_stack_request_buf(small, MEM_COMMON, arena), nullptr);
+            EXPECT_EQ(mem_stack_used(arena), used + small + 16) << large;
+        }
+        mem_stack_destroy(arena);
+    }
 }
 
 // What was given back in one size is to be had in another, and nothing more is taken for it.
@@ -164,11 +191,11 @@ TEST(Arena, OutlivesASystemWithoutMemory) {
     // Neighbours become one block before a request is refused for want of memory.
     arena = mem_stack_create(0);
     std::vector<void*> blocks;
-    for (int i = 0; i < 60; ++i) blocks.push_back(mem_stack_request_buf(1000, MEM_COMMON, arena));
+    for (int i = 0; i < 64; ++i) blocks.push_back(mem_stack_request_buf(1000, MEM_COMMON, arena));
     for (const unsigned i : {10U, 11U, 12U}) mem_stack_release_buf(blocks[i], 0, MEM_COMMON, arena);
     refused.begin();
     EXPECT_EQ(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
-    EXPECT_NE(mem_stack_request_buf(3000, MEM_COMMON, arena), nullptr);
+    EXPECT_NE(mem_stack_request_buf(2500, MEM_COMMON, arena), nullptr);
     EXPECT_EQ(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
     refused.end();
     mem_stack_destroy(arena);

@@ -313,6 +313,80 @@ TEST(Host, HandlersMayBeEmptyThrowOrCallAgain) {
     EXPECT_EQ(next.diagnostics[0].offset, 1U);
 }
 
+TEST(Host, AStretchThatIsNotSpokenEndsWithTheText) {
+    const std::string_view longer = "a\xe2\x82\xac\xe2\x82\xac";
+    const ReadText read = read_by_layer(longer.substr(0, 4));
+    ASSERT_EQ(read.diagnostics.size(), 1U);
+    EXPECT_EQ(read.diagnostics[0].length, 3U);
+}
+
+TEST(Host, StopsWhenAHandlerSaysSo) {
+    TtsHost host;
+    int calls = 0;
+    const auto second_stops = [&](const auto&) { return ++calls < 2; };
+    EXPECT_FALSE(host.read("a. b. c.", second_stops, nullptr));
+    EXPECT_EQ(calls, 2);
+    calls = 0;
+    EXPECT_FALSE(host.read("a</poem></poem></poem>. b", nullptr, second_stops));
+    EXPECT_EQ(calls, 2);
+    calls = 1;
+    EXPECT_FALSE(host.read("</poem>", nullptr, second_stops)) << "after the last sentence too";
+    EXPECT_TRUE(read_by_layer(host, "a").diagnostics.empty()) << "nothing is left of the last text";
+}
+
+TEST(Host, ReadsOnAnArenaThatIsHandedInAndLeavesNothingThere) {
+    mem_stack_handle arena = mem_stack_create(0);
+    {
+        TtsHost host(arena);
+        std::size_t in_use = 0;
+        const auto look = [&](const HostSentence&) {
+            in_use = mem_stack_used(arena);
+            return true;
+        };
+        EXPECT_TRUE(host.read("a b c. d", look, nullptr));
+        EXPECT_GT(in_use, 0U);
+        EXPECT_EQ(mem_stack_used(arena), 0U);
+        host.read(
+            "a b c. d", [](const HostSentence&) { return false; }, nullptr);
+        EXPECT_EQ(mem_stack_used(arena), 0U);
+        EXPECT_ANY_THROW(host.read(
+            "a b c. d", [](const HostSentence&) -> bool { throw 0; }, nullptr));
+        EXPECT_EQ(mem_stack_used(arena), 0U);
+    }
+    EXPECT_NE(mem_stack_request_buf(1, MEM_COMMON, arena), nullptr);
+    mem_stack_destroy(arena);
+}
+
+TEST(Host, OneTextLeavesNothingToTheNext) {
+    const std::string ten_tags =
+        "<poem=\"a\"><poem=b><poem=c><poem=d><poem=e><poem=f><poem=g><poem=h>"
+        "<poem=i><poem=j>x";
+    std::string deep;
+    for (int i = 0; i < 70; ++i) deep += "<poem=" + std::string(200, 'x') + ">";
+    for (const std::string& first :
+         {std::string("</poem>a </poem>b"), deep, "<poem=" + std::string(150, 'x') + ">a",
+          std::string(20000, 'a') + "</poem>\xff"}) {
+        TtsHost host;
+        read_by_layer(host, first);
+        const ReadText second = read_by_layer(host, "\xff b </poem>" + ten_tags);
+        ASSERT_EQ(second.diagnostics.size(), 2U) << first.substr(0, 100);
+        EXPECT_EQ(second.diagnostics[0].offset, 0U);
+        EXPECT_EQ(second.diagnostics[1].finding, Finding::stray_closing_tag);
+        EXPECT_EQ(second.diagnostics[1].offset, 4U);
+        EXPECT_EQ(second.fault, "");
+        EXPECT_EQ(second.places.front(), "b=b");
+    }
+}
+
+TEST(Host, AbbreviationsAreThoseOfTheTextAfterALongSentence) {
+    std::string text;
+    while (text.size() < 3600) text += nth_word(text.size()) + " ";
+    // By hand, "dr." ends a sentence as long as there is a "Dr." further on.
+    const ReadText read = read_by_layer(text + "dr. x, dr. y Dr. z");
+    ASSERT_GE(read.normalized.size(), 3U);
+    EXPECT_EQ(read.normalized.back(), "y doctor  z");
+}
+
 TEST(Host, CutsAnywhereLoseNoWord) {
     // A tag at every place around the end of the buffer.
     for (std::size_t before = 16340; before < 16390; ++before) {

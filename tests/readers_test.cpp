@@ -49,6 +49,25 @@ TEST_F(Readers, TestsOfPatterns) {
     }
 }
 
+TEST_F(Readers, AnOrdinalKeepsZerosInThePlaceOfAGroupAfterOthers) {
+    for (const auto& [digits, left] : {std::pair("123", "123"), std::pair("1234", "1000")}) {
+        std::string sentence = std::string(digits) + "th";
+        Section* head = nullptr;
+        EXPECT_EQ(engine.text_to_queue(sentence.data(), head), 0);
+        char target[WORD_MAX_LEN] = {};
+        EXPECT_EQ((engine.*Peer::turn)(head, target), head->m_pnext);
+        EXPECT_STREQ(head->sz_char, left);
+        release(head);
+    }
+}
+
+TEST_F(Readers, WhatStandsInTheOutputAlreadyIsCleanedToo) {
+    char sentence[] = "a";
+    char target[SZ_TEXT_MAX_LEN] = "5";
+    EXPECT_EQ(engine.eng_text_tokenize(sentence, target), 0);
+    EXPECT_STREQ(target, " a");
+}
+
 TEST_F(Readers, WithoutAPattern) {
     EXPECT_EQ(call(Peer::month_read, "Sep"), "Sep");
     char number[] = "10";

@@ -9,6 +9,7 @@
 #include "records.h"
 #include "strict_services.h"
 #include "table.h"
+#include "tts_host.h"
 
 namespace kavi {
 namespace {
@@ -96,7 +97,9 @@ TEST_F(Refusal, RecordsAndAttributesKeepToTheirBounds) {
         const std::string source = "\x7f" + std::string(length, 'w');
         char* text = const_cast<char*>(source.c_str()) + 1;
         std::vector<UtteranceSyllable> utt(2);
+        std::strcpy(utt[1].cssml_tag.poem, "p");  // of an earlier word
         EXPECT_TRUE(engine.insert_syllable(1, utt.data(), text));
+        EXPECT_STREQ(utt[1].cssml_tag.poem, "");
         EXPECT_EQ(utt[1].syllable, source.substr(1));
         EXPECT_EQ(utt[1].syl_len, static_cast<short>(length + 1U));
         const std::size_t zhuyin = std::max<std::size_t>(10 * length, 128);
@@ -127,6 +130,24 @@ TEST_F(Refusal, RecordsAndAttributesKeepToTheirBounds) {
         release_words(utt.data(), 1, 2, &arena);
     }
     EXPECT_TRUE(arena.in_use.empty());
+}
+
+// The host layer on a host's own arena and services, which have no way to make an arena.
+TEST_F(Refusal, TheHostLayerUsesTheServicesOfItsHost) {
+    TtsHost host(&arena);
+    int words = 0;
+    EXPECT_TRUE(host.read(
+        "it's 2. b",
+        [&](const HostSentence& sentence) {
+            EXPECT_FALSE(arena.in_use.empty());
+            words += sentence.n_records - 1;
+            return true;
+        },
+        nullptr));
+    EXPECT_EQ(words, 4);
+    EXPECT_TRUE(arena.in_use.empty());
+    arena.first_refused = arena.requests;
+    EXPECT_FALSE(host.read("a", nullptr, nullptr));
 }
 
 TEST_F(Refusal, TheLexiconIsAskedForWordsInCapitals) {

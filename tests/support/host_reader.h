@@ -76,6 +76,11 @@ inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
                                         std::string(text.substr(place.offset, place.length)));
             }
             if (result.fault.empty()) result.fault = fault_of_places(sentence, text);
+            for (const Diagnostic& d : result.diagnostics) {
+                if (d.finding == Finding::arena_too_small && d.offset >= sentence.source.offset) {
+                    result.fault = "what was passed over belongs to a sentence";
+                }
+            }
             result.sources.emplace_back(
                 text.substr(sentence.source.offset, sentence.source.length));
             if (sentence.source.offset == result.covered) result.covered += sentence.source.length;

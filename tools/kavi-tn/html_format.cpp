@@ -123,14 +123,12 @@ class SentenceWriter {
         const int end = words_before(run.reading_at + run.reading.size());
         const std::string_view mark = mark_in(run.reading);
         if (next_ < end) {
-            out_ += "<u>";
-            append_escaped(text, out_);
+            begin_piece(text);
             for (; next_ < end; ++next_) write_word(sentence_.records[next_]);
             if (!run.is_word) append_element("small", run.rule, out_);
             out_ += "</u>";
         } else if (!mark.empty()) {
-            out_ += "<u>";
-            append_escaped(text, out_);
+            begin_piece(text);
             append_element("b", glyph(mark), out_);
             out_ += "</u>";
         } else if (!text.empty() && text[0] == '<' && !is_blank(run.reading)) {
@@ -138,6 +136,12 @@ class SentenceWriter {
         } else {
             write_silent(text);
         }
+    }
+
+    void begin_piece(std::string_view text) {
+        out_ += "<u>";
+        append_escaped(text, out_);
+        out_ += "<br>";
     }
 
     // The number of the first word that stands there in the speakable text, or after that.

@@ -24,17 +24,16 @@ article:target, li:target { outline: 2px solid var(--pause); }
 h2 { font-size: 1rem; margin: 1.5rem 0 .5rem; }
 article > a { font-size: .8rem; color: var(--soft); }
 article p { margin: 0 0 .4rem; white-space: pre-wrap; overflow-wrap: anywhere; }
-article > div { display: flex; flex-wrap: wrap; gap: .4rem .3rem; align-items: flex-start; }
-u { display: inline-flex; flex-wrap: wrap; gap: .1rem .2rem; max-width: 100%; text-decoration: none;
-  font-size: .8rem; color: var(--soft); overflow-wrap: anywhere; }
-u::after { content: ""; flex-basis: 100%; }
-i { font-style: normal; font-size: 1rem; color: var(--ink); padding: 0 .4rem; background: var(--chip);
-  border: 1px solid var(--line); border-radius: .4rem; order: 1; overflow-wrap: anywhere; }
+u { display: inline-block; vertical-align: top; margin: 0 .4rem .3rem 0; max-width: 100%;
+  text-decoration: none; font-size: .8rem; color: var(--soft); overflow-wrap: anywhere; }
+i { display: inline-block; font-style: normal; font-size: 1rem; color: var(--ink); padding: 0 .4rem;
+  margin: 0 .2rem .1rem 0; background: var(--chip); border: 1px solid var(--line);
+  border-radius: .4rem; overflow-wrap: anywhere; max-width: 100%; box-sizing: border-box; }
 i.m { border-bottom: 3px solid var(--span); }
-b { order: 1; padding-left: .3rem; font-size: 1rem; color: var(--pause); }
-small { order: 2; flex-basis: 100%; font-size: .75rem; color: var(--soft); }
+b { padding: 0 .3rem; font-size: 1rem; color: var(--pause); }
+small { display: block; font-size: .75rem; }
 i + small { color: var(--span); }
-s, code { font-size: .8rem; color: var(--soft); overflow-wrap: anywhere; }
+s, code { display: inline-block; font-size: .8rem; margin-right: .4rem; color: var(--soft); overflow-wrap: anywhere; }
 ol { margin: .4rem 0 0; color: var(--alarm); font-size: .9rem; }
 sup a { color: var(--alarm); }
 #tools { display: flex; flex-wrap: wrap; gap: .5rem 1rem; align-items: center; }

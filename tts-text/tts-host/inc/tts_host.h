@@ -37,7 +37,8 @@ class TtsHost {
     using SentenceHandler = std::function<bool(const HostSentence&)>;
     using DiagnosticHandler = std::function<bool(const Diagnostic&)>;
 
-    // On an arena of its own. `n_capacity` bounds it, in bytes; 0: no limit.
+    // On an arena of its own, by mem_stack_create and mem_stack_destroy, which a host with services
+    // of its own need not have otherwise. `n_capacity` bounds it, in bytes; 0: no limit.
     explicit TtsHost(std::size_t n_capacity = 0);
 
     // On an arena that stays the caller's, and that nobody else uses during a call of read().
@@ -70,6 +71,8 @@ class TtsHost {
 
   private:
     class State;
+    TtsHost(mem_stack_handle arena, void (*destroy)(mem_stack_handle));
+
     std::unique_ptr<State> state_;
 };
 

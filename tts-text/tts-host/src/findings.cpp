@@ -18,8 +18,7 @@ constexpr Row ROWS[] = {
     {Finding::too_many_open_tags, "too-many-open-tags",
      "ten tags are open here; this one is left out with its closing tag"},
     {Finding::too_much_open_markup, "too-much-open-markup",
-     "more than 199 characters of names or values are open; this tag is left out with its closing "
-     "tag"},
+     "more than 199 characters of names or values are open; it is left out with its closing tag"},
     {Finding::tag_too_long, "tag-too-long", "this tag is too long to be read as one"},
     {Finding::tag_inside_tag, "tag-inside-tag",
      "this tag stands inside the beginning of another; a blank is read in its place"},

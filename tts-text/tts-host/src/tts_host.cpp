@@ -24,9 +24,11 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 class TtsHost::State : tn::ReadingObserver {
   public:
-    State(mem_stack_handle arena, bool owns_arena) : arena_(arena), owns_arena_(owns_arena) {}
+    // `destroy` may be null.
+    State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
+        : arena_(arena), destroy_(destroy) {}
     ~State() {
-        if (owns_arena_) mem_stack_destroy(arena_);
+        if (destroy_ != nullptr) destroy_(arena_);
     }
     State(const State&) = delete;
     State& operator=(const State&) = delete;
@@ -73,7 +75,7 @@ class TtsHost::State : tn::ReadingObserver {
     }
 
     mem_stack_handle arena_;
-    bool owns_arena_;
+    void (*destroy_)(mem_stack_handle);
     bool is_reading_ = false;
     host::TextWindow window_;
     host::SentenceSource source_;
@@ -228,10 +230,10 @@ TextRange source_of(const HostSentence& sentence, std::size_t at, std::size_t le
     return host::source_in(sentence.pieces, sentence.n_pieces, at, length);
 }
 
-TtsHost::TtsHost(std::size_t n_capacity)
-    : state_(std::make_unique<State>(mem_stack_create(n_capacity), true)) {}
+TtsHost::TtsHost(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
+    : state_(std::make_unique<State>(arena, destroy)) {}
 
-TtsHost::TtsHost(mem_stack_handle arena) : state_(std::make_unique<State>(arena, false)) {}
+TtsHost::TtsHost(mem_stack_handle arena) : TtsHost(arena, nullptr) {}
 
 TtsHost::~TtsHost() = default;
 

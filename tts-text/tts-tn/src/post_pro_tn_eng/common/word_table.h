@@ -17,15 +17,6 @@ const char* find_word(const char (&table)[Rows][2][Width], std::string_view key)
     return nullptr;
 }
 
-// The same for a number word, whose key is one digit or two (`second` is NUL for one). A key that
-// is not in the table has the empty word.
-template <std::size_t Rows, std::size_t Width>
-const char* number_word(const char (&table)[Rows][2][Width], char first, char second = '\0') {
-    const char key[] = {first, second, '\0'};
-    const char* word = find_word(table, key);
-    return word != nullptr ? word : "";
-}
-
 }  // namespace kavi::tn
 
 #endif  // KAVI_TN_WORD_TABLE_H

@@ -1,0 +1,42 @@
+"""Every command of the documents does what they say.
+
+Each "$ command" of a console block in README.md and docs/*.md prints what stands under it; each example
+of the man page and of --help runs.
+
+Usage: documents_test.py PATH-OF-KAVI-TN PROJECT
+"""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+tool, project = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2])
+environment = {**os.environ, "PATH": f"{tool.parent}:{os.environ['PATH']}"}
+
+
+def run(command, folder):
+    return subprocess.run(["bash", "-c", command], cwd=folder, env=environment, capture_output=True,
+                          text=True, check=True).stdout
+
+
+commands = examples = 0
+with tempfile.TemporaryDirectory() as folder:
+    for name in ("notes.txt", "corpus.txt", "page.txt"):
+        (pathlib.Path(folder) / name).write_text("Dr. Smith paid $5.50.\n")
+    for document in [project / "README.md", *sorted((project / "docs").glob("*.md"))]:
+        for block in re.findall(r"^```console\n(.*?)^```", document.read_text(), re.M | re.S):
+            for part in re.split(r"^\$ ", block, flags=re.M)[1:]:
+                command, expected = part.split("\n", 1)
+                actual = run(command, folder)
+                assert actual == expected, f"{document}: {command}\n{actual}\ninstead of\n{expected}"
+                commands += 1
+    page = (project / "tools/kavi-tn/kavi-tn.1").read_text()
+    for example in re.findall(r"^\.Dl (kavi-tn .*)$", page, re.M) + \
+            re.findall(r"^  (kavi-tn .*)$", run("kavi-tn --help", folder), re.M):
+        run(example, folder)
+        examples += 1
+assert commands >= 3 and examples >= 8, (commands, examples)
+print(commands, "commands and", examples, "examples do what is said")

@@ -72,7 +72,7 @@ TEST(Host, EveryLetterAndDigitOfOrdinarySentencesHasAWord) {
                 row[0],
                 [&](const HostSentence& sentence) {
                     for (int i = 1; i < sentence.n_records; ++i) {
-                        const TextRange place = sentence.places[i].source;
+                        const TextRange place = sentence.places.words()[i].source;
                         covered.replace(place.offset, place.length, place.length, ' ');
                     }
                     return true;

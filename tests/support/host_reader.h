@@ -20,8 +20,7 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
     const std::size_t end = begin + sentence.source.length;
     std::size_t at = 0;
     std::size_t offset = begin;
-    for (std::size_t i = 0; i < sentence.n_pieces; ++i) {
-        const SourcePiece& piece = sentence.pieces[i];
+    for (const SourcePiece& piece : sentence.places.pieces()) {
         if (piece.at != at) return "a piece does not begin where the last one ended";
         if (piece.source.offset < offset) return "pieces out of order";
         at += piece.length;
@@ -37,7 +36,7 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
     if (at != sentence.normalized.size()) return "the pieces are not the sentence";
     offset = begin;
     for (int i = 1; i < sentence.n_records; ++i) {
-        const WordPlace& place = sentence.places[i];
+        const WordPlace& place = sentence.places.words()[i];
         if (place.source.offset < offset) return "words out of order";
         if (place.source.length == 0) return "a word from nowhere";
         if (place.source.offset + place.source.length > end) return "a word of another sentence";
@@ -70,7 +69,7 @@ inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
             result.records.push_back(to_text(sentence.records, sentence.n_records));
             for (int i = 1; i < sentence.n_records; ++i) {
                 const char* word = sentence.records[i].syllable;
-                const TextRange place = sentence.places[i].source;
+                const TextRange place = sentence.places.words()[i].source;
                 result.words.emplace_back(word);
                 result.places.push_back(std::string(word) + "=" +
                                         std::string(text.substr(place.offset, place.length)));

@@ -20,14 +20,8 @@ struct HostSentence {
     std::string_view speakable;        // what eng_text_tokenize made of that; NUL-terminated
     const UtteranceSyllable* records;  // what eng_text_to_utterance_syllable made of that
     int n_records;
-    const WordPlace* places;    // of each record; the head record has an empty source
-    const SourcePiece* pieces;  // in order; together they are the normalised sentence
-    std::size_t n_pieces;
+    SentencePlaces& places;  // where its parts come from
 };
-
-// The source of `length` bytes at `at` of the normalised sentence: all of an abbreviation for any
-// byte of it. Empty for what has none.
-TextRange source_of(const HostSentence& sentence, std::size_t at, std::size_t length);
 
 // Makes the three calls of the engine. One object serves one thread at a time; objects share
 // nothing.

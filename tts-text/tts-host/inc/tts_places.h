@@ -3,6 +3,7 @@
 #define KAVI_TTS_PLACES_H
 
 #include <cstddef>
+#include <vector>
 
 namespace kavi {
 
@@ -27,6 +28,23 @@ struct SourcePiece {
 struct WordPlace {
     TextRange source;
     std::size_t at;  // of the word, in the speakable text
+};
+
+// The places of one sentence, found when they are first asked for.
+class SentencePlaces {
+  public:
+    // In order; together they are the normalised sentence.
+    virtual const std::vector<SourcePiece>& pieces() = 0;
+
+    // Of each record; the head record has an empty source.
+    virtual const std::vector<WordPlace>& words() = 0;
+
+    // The source of `length` bytes at `at` of the normalised sentence: all of an abbreviation for
+    // any byte of it. Empty for what has none.
+    TextRange source_of(std::size_t at, std::size_t length);
+
+  protected:
+    ~SentencePlaces() = default;
 };
 
 }  // namespace kavi

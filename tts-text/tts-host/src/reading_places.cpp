@@ -1,5 +1,8 @@
 #include "reading_places.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace kavi::host {
 
 void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
@@ -12,15 +15,44 @@ void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
                    step.output_before());
 }
 
-std::string_view ReadingPlaces::source_of(std::string_view word) {
-    const auto at = static_cast<std::size_t>(word.data() - speakable_);
+void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
+                                const std::vector<const char*>& word_begins,
+                                const UtteranceSyllable* records, std::vector<WordPlace>& places) {
+    next_ = next_at_ = copied_end_ = 0;
+    PieceCursor cursor(pieces);
+    places.clear();
+    places.push_back({{cursor.source_of(0, 1).offset, 0}, 0});
+    for (const char* begin : word_begins) {
+        const auto at = static_cast<std::size_t>(begin - speakable_);
+        if (at >= next_at_) go_on_to(at, cursor);
+        const auto length = static_cast<std::size_t>((++records)->syl_len - 1);
+        places.push_back({at < copied_end_ ? TextRange{at + shift_, length} : source_, at});
+    }
+}
+
+// Moves on to the reading that the word at `at` belongs to. Stretches of words are copied, all of
+// them; where the text has something left out in one, each of its words is looked up.
+void ReadingPlaces::go_on_to(std::size_t at, PieceCursor& pieces) {
     while (next_ < readings_.size() && readings_[next_].target_at <= at) ++next_;
+    next_at_ = next_ < readings_.size() ? readings_[next_].target_at : SZ_TEXT_MAX_LEN;
     const Reading& reading = readings_[next_ - 1];
-    const std::size_t letters = at - reading.target_at;
-    const bool is_copy = tn::is_letter(reading.source[0]) &&
-                         letters + word.size() <= reading.source.size() &&
-                         reading.source.substr(letters, word.size()) == word;
-    return is_copy ? reading.source.substr(letters, word.size()) : reading.source;
+    const char* copy = speakable_ + reading.target_at;
+    const std::size_t length = reading.source.size();
+    const auto sentence_at = static_cast<std::size_t>(reading.source.data() - sentence_);
+    source_ = pieces.source_of(sentence_at, length);
+    copied_end_ = 0;
+    const bool is_copy = tn::is_letter(reading.source[0]) && !tn::is_letter(copy[length]) &&
+                         std::memcmp(reading.source.data(), copy, length) == 0;
+    if (!is_copy) return;
+    if (source_.length == length) {
+        copied_end_ = reading.target_at + length;
+        shift_ = source_.offset - reading.target_at;
+        return;
+    }
+    const std::size_t offset = at - reading.target_at;
+    const std::size_t word_length = reading.source.substr(offset).find_first_of(' ');
+    source_ = pieces.source_of(sentence_at + offset, std::min(word_length, length - offset));
+    next_at_ = at + 1;
 }
 
 }  // namespace kavi::host

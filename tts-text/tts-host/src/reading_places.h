@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "for_host_layer.h"
+#include "sentence_source.h"
+#include "tts_places.h"
 
 namespace kavi::host {
 
@@ -14,10 +16,10 @@ namespace kavi::host {
 class ReadingPlaces {
   public:
     // Before a sentence is read to `speakable`.
-    void begin(const char* speakable) {
+    void begin(const char* sentence, const char* speakable) {
+        sentence_ = sentence;
         speakable_ = speakable;
         readings_.clear();
-        next_ = 0;
     }
 
     void add_plain_text(std::string_view source, int target_at) {
@@ -25,9 +27,12 @@ class ReadingPlaces {
     }
     void add_step(const tn::SectionDispatcher& step);
 
-    // What a word of the speakable text was read from; each word stands after the last one asked
-    // for. A word that was copied has its own letters, any other all that was read with it.
-    std::string_view source_of(std::string_view word);
+    // Where each of the words comes from that begin there in the speakable text, in order; record 0
+    // is the head record. A word that was copied has its own letters, any other all that was read
+    // with it.
+    void find_places(const std::vector<SourcePiece>& pieces,
+                     const std::vector<const char*>& word_begins, const UtteranceSyllable* records,
+                     std::vector<WordPlace>& places);
 
   private:
     // A piece of the sentence, and where in the speakable text its reading begins.
@@ -36,9 +41,19 @@ class ReadingPlaces {
         std::size_t target_at;
     };
 
+    void go_on_to(std::size_t at, PieceCursor& pieces);
+
+    const char* sentence_ = nullptr;
     const char* speakable_ = nullptr;
     std::vector<Reading> readings_;
-    std::size_t next_ = 0;  // the reading after that of the last word
+
+    // ---- of the last reading that was gone on to ----
+
+    std::size_t next_ = 0;        // the reading after it
+    std::size_t next_at_ = 0;     // where that begins in the speakable text
+    std::size_t copied_end_ = 0;  // up to there it is a copy of one stretch of the text,
+    std::size_t shift_ = 0;       // so much further on there
+    TextRange source_ = {};       // all that it was read from
 };
 
 // Stores where each word begins in the speakable text, beside what a WordFiller does.

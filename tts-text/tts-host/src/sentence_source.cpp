@@ -1,7 +1,5 @@
 #include "sentence_source.h"
 
-#include <algorithm>
-
 namespace kavi::host {
 
 namespace {
@@ -17,17 +15,15 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
 
 }  // namespace
 
-TextRange source_in(const SourcePiece* pieces, std::size_t n_pieces, std::size_t at,
-                    std::size_t length) {
-    const auto piece_at = [=](std::size_t byte) {
-        return std::upper_bound(pieces, pieces + n_pieces, byte,
-                                [](std::size_t b, const SourcePiece& p) { return b < p.at; }) -
-               1;
-    };
-    const TextRange first = source_of_byte(*piece_at(at), at);
+TextRange PieceCursor::source_of(std::size_t at, std::size_t length) {
+    go_on_to(at);
+    const TextRange first = source_of_byte(*piece_, at);
     if (length <= 1) return first;
     const std::size_t last_at = at + length - 1;
-    const TextRange last = source_of_byte(*piece_at(last_at), last_at);
+    if (last_at < piece_->at + piece_->length && is_copy(*piece_)) return {first.offset, length};
+    PieceCursor end(*this);
+    end.go_on_to(last_at);
+    const TextRange last = source_of_byte(*end.piece_, last_at);
     return {first.offset, last.offset + last.length - first.offset};
 }
 

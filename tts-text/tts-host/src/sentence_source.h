@@ -12,9 +12,24 @@
 
 namespace kavi::host {
 
-// The source of `length` bytes at `at` of a sentence that these pieces tile.
-TextRange source_in(const SourcePiece* pieces, std::size_t n_pieces, std::size_t at,
-                    std::size_t length);
+// Which pieces stand for what, asked for one place after the other.
+class PieceCursor {
+  public:
+    // Of the pieces of a sentence that is not empty.
+    explicit PieceCursor(const std::vector<SourcePiece>& pieces)
+        : piece_(pieces.data()), end_(piece_ + pieces.size()) {}
+
+    // The source of `length` bytes at `at`, not before the last ones.
+    TextRange source_of(std::size_t at, std::size_t length);
+
+  private:
+    void go_on_to(std::size_t at) {
+        while (piece_ + 1 != end_ && piece_[1].at <= at) ++piece_;
+    }
+
+    const SourcePiece* piece_;
+    const SourcePiece* end_;
+};
 
 // Looks on while a sentence is cut, and tells then what its pieces stand for.
 class SentenceSource : public tn::CutObserver {
@@ -31,10 +46,6 @@ class SentenceSource : public tn::CutObserver {
     void find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter);
 
     const std::vector<SourcePiece>& pieces() const { return pieces_; }
-
-    TextRange source_of(std::size_t at, std::size_t length) const {
-        return source_in(pieces_.data(), pieces_.size(), at, length);
-    }
 
   private:
     struct Replacement {

@@ -88,11 +88,10 @@ bool goes_on(const SectionDispatcher& step, const ExplainedRun& run) {
 }
 
 bool is_abbreviation(const HostSentence& sentence, std::size_t at) {
-    const SourcePiece* begin = sentence.pieces;
-    const SourcePiece* piece =
-        std::upper_bound(begin, begin + sentence.n_pieces, at,
-                         [](std::size_t byte, const SourcePiece& p) { return byte < p.at; });
-    return piece != begin && piece[-1].is_abbreviation;
+    const std::vector<SourcePiece>& pieces = sentence.places.pieces();
+    return std::any_of(pieces.begin(), pieces.end(), [=](const SourcePiece& piece) {
+        return piece.is_abbreviation && piece.at <= at && at < piece.at + piece.length;
+    });
 }
 
 // Whether a run shares source with the one before it, as the words of an abbreviation do.
@@ -131,7 +130,7 @@ std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view
     std::vector<ExplainedRun> runs;
     for (ExplainedRun& run : explain(sentence.normalized)) {
         const std::size_t at = run.source.offset;
-        run.source = source_of(sentence, at, run.source.length);
+        run.source = sentence.places.source_of(at, run.source.length);
         if (!runs.empty() && overlaps(run.source, runs.back())) {
             ExplainedRun& before = runs.back();
             const std::size_t end = run.source.offset + run.source.length;

@@ -22,7 +22,7 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 }  // namespace
 
-class TtsHost::State : tn::ReadingObserver {
+class TtsHost::State : tn::ReadingObserver, SentencePlaces {
   public:
     // `destroy` may be null.
     State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
@@ -61,7 +61,6 @@ class TtsHost::State : tn::ReadingObserver {
     bool read_piece();
     bool read_sentence(std::size_t cut);
     void release_records();
-    void collect_places();
     void collect_diagnostics(bool done);
     bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
@@ -73,6 +72,10 @@ class TtsHost::State : tn::ReadingObserver {
         reading_places_.add_step(step);
         findings_.add_step(step);
     }
+
+    // While it is handed over, and before the window moves on.
+    const std::vector<SourcePiece>& pieces() override;
+    const std::vector<WordPlace>& words() override;
 
     mem_stack_handle arena_;
     void (*destroy_)(mem_stack_handle);
@@ -87,6 +90,8 @@ class TtsHost::State : tn::ReadingObserver {
     host::ReadingPlaces reading_places_;
     std::vector<const char*> word_begins_;  // in the speakable text
     std::vector<WordPlace> places_;
+    bool are_pieces_known_ = false;
+    bool are_words_known_ = false;
     char normalized_[SZ_TEXT_MAX_LEN] = {};
     char speakable_[SZ_TEXT_MAX_LEN] = {};
     UtteranceSyllable* utt_ = nullptr;
@@ -104,23 +109,19 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
         if (moved) abbreviations_.reset();
         const bool done = read_piece();
         const std::size_t end = window_.source_offset(rest_);
-        if (done) source_.find_pieces(window_, *cutter_);
         collect_diagnostics(done);
         if (!report(end, on_diagnostic)) return false;
         if (!done) {
             all_read = false;
             begin = end;
         } else if (normalized_[0] != '\0') {
-            collect_places();
             const HostSentence sentence = {
                 {begin, end - begin},
                 {normalized_, static_cast<std::size_t>(cutter_->length())},
                 speakable_,
                 utt_,
                 n_utt_,
-                places_.data(),
-                source_.pieces().data(),
-                source_.pieces().size()};
+                *this};
             if (on_sentence && !on_sentence(sentence)) return false;
             begin = end;
         }
@@ -157,8 +158,9 @@ bool TtsHost::State::read_sentence(std::size_t cut) {
     const bool well_formed = cutter_->cut();
     rest_ = cutter_->rest();
     text[cut] = after;
+    are_pieces_known_ = are_words_known_ = false;
     findings_.begin(normalized_);
-    reading_places_.begin(speakable_);
+    reading_places_.begin(normalized_, speakable_);
     word_begins_.clear();
     return well_formed && cutter_->length() <= SENTENCE_MAX &&
            tn::tokenize(normalized_, speakable_, this) == 0 &&
@@ -179,19 +181,6 @@ void TtsHost::State::release_records() {
     n_utt_ = 0;
 }
 
-void TtsHost::State::collect_places() {
-    places_.assign(1, {{source_.source_of(0, 1).offset, 0}, 0});
-    for (std::size_t i = 0; i < word_begins_.size(); ++i) {
-        const char* word = word_begins_[i];
-        const auto length = static_cast<std::size_t>(utt_[i + 1].syl_len - 1);
-        const std::string_view read_from = reading_places_.source_of({word, length});
-        places_.push_back(
-            {source_.source_of(static_cast<std::size_t>(read_from.data() - normalized_),
-                               read_from.size()),
-             static_cast<std::size_t>(word - speakable_)});
-    }
-}
-
 // What was found in the sentence, with offsets in the text.
 void TtsHost::State::collect_diagnostics(bool done) {
     diagnostics_.clear();
@@ -200,7 +189,7 @@ void TtsHost::State::collect_diagnostics(bool done) {
         return;
     }
     for (const Diagnostic& finding : findings_.findings()) {
-        diagnostics_.push_back({source_.source_of(finding.offset, 1).offset, finding.finding});
+        diagnostics_.push_back({source_of(finding.offset, 1).offset, finding.finding});
     }
     std::stable_sort(diagnostics_.begin(), diagnostics_.end(), is_before);
 }
@@ -226,8 +215,20 @@ bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnos
     return report_text_before(end);
 }
 
-TextRange source_of(const HostSentence& sentence, std::size_t at, std::size_t length) {
-    return host::source_in(sentence.pieces, sentence.n_pieces, at, length);
+const std::vector<SourcePiece>& TtsHost::State::pieces() {
+    if (!are_pieces_known_) source_.find_pieces(window_, *cutter_);
+    are_pieces_known_ = true;
+    return source_.pieces();
+}
+
+const std::vector<WordPlace>& TtsHost::State::words() {
+    if (!are_words_known_) reading_places_.find_places(pieces(), word_begins_, utt_, places_);
+    are_words_known_ = true;
+    return places_;
+}
+
+TextRange SentencePlaces::source_of(std::size_t at, std::size_t length) {
+    return host::PieceCursor(pieces()).source_of(at, length);
 }
 
 TtsHost::TtsHost(mem_stack_handle arena, void (*destroy)(mem_stack_handle))

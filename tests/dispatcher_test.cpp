@@ -79,6 +79,17 @@ TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
     EXPECT_STREQ(empty, " dollars  ");
 }
 
+TEST_F(Dispatcher, TheFormOfATimeStandsInThePlaceOfItsClass) {
+    char sentence[] = "10:30";
+    Section* head = nullptr;
+    ASSERT_EQ(engine.text_to_queue(sentence, head), 0);
+    const int form = (engine.*PostProTnEngPeer::time_decide)(head);
+    char target[SZ_TEXT_MAX_LEN] = {};
+    EXPECT_EQ(engine.section_process(head, target), 0);
+    EXPECT_EQ(head->m_nmark, form);
+    release(head);
+}
+
 TEST_F(Dispatcher, WholePipeline) {
     Cut cut = normalize("Dr. Smith paid $5.50 on 3/1/2020, ok?");
     EXPECT_EQ(cut.sentence, "doctor  Smith paid $5.50 on 3/1/2020,");

@@ -368,6 +368,7 @@ TEST(Host, OneTextLeavesNothingToTheNext) {
           std::string(20000, 'a') + "</poem>\xff"}) {
         TtsHost host;
         read_by_layer(host, first);
+        host.read("a. </poem>b", [](const HostSentence&) { return false; }, nullptr);
         const ReadText second = read_by_layer(host, "\xff b </poem>" + ten_tags);
         ASSERT_EQ(second.diagnostics.size(), 2U) << first.substr(0, 100);
         EXPECT_EQ(second.diagnostics[0].offset, 0U);
@@ -378,13 +379,15 @@ TEST(Host, OneTextLeavesNothingToTheNext) {
     }
 }
 
-TEST(Host, AbbreviationsAreThoseOfTheTextAfterALongSentence) {
-    std::string text;
-    while (text.size() < 3600) text += nth_word(text.size()) + " ";
-    // By hand, "dr." ends a sentence as long as there is a "Dr." further on.
-    const ReadText read = read_by_layer(text + "dr. x, dr. y Dr. z");
-    ASSERT_GE(read.normalized.size(), 3U);
-    EXPECT_EQ(read.normalized.back(), "y doctor  z");
+TEST(Host, WhatIsPassedOverBelongsToNoSentence) {
+    const std::string text = std::string(60, 'a') + " b c d e f g h i j k l m n o p. q";
+    int both = 0;
+    for (std::size_t capacity = 500; capacity < 8000; capacity += 100) {
+        const ReadText read = read_by_layer(text, capacity);
+        EXPECT_EQ(read.fault, "") << capacity;
+        both += !read.all_read && !read.words.empty() ? 1 : 0;
+    }
+    EXPECT_GT(both, 0);
 }
 
 TEST(Host, CutsAnywhereLoseNoWord) {

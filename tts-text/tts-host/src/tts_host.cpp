@@ -126,7 +126,6 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
             begin = end;
         }
         window_.consume(rest_, cutter_->open_tags());
-        release_records();
     }
     diagnostics_.clear();
     return report(text.size(), on_diagnostic) && all_read;

@@ -141,7 +141,6 @@ Section* SectionDispatcher::clock_time() {
     const TimeForm form = time_decide(section_);
     section_->m_nmark = form;
     Section* last = time_number(section_, form, reading_);
-    rule_ = ReadingRule::clock_time;
     return last != nullptr ? reading_as(ReadingRule::clock_time, last) : nullptr;
 }
 

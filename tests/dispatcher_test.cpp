@@ -80,7 +80,7 @@ TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
 }
 
 TEST_F(Dispatcher, TheFormOfATimeStandsInThePlaceOfItsClass) {
-    char sentence[] = "10:30";
+    char sentence[] = "10:30:15";
     Section* head = nullptr;
     ASSERT_EQ(engine.text_to_queue(sentence, head), 0);
     const int form = (engine.*PostProTnEngPeer::time_decide)(head);

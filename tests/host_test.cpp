@@ -72,7 +72,7 @@ TEST(Host, EveryLetterAndDigitOfOrdinarySentencesHasAWord) {
                 row[0],
                 [&](const HostSentence& sentence) {
                     for (int i = 1; i < sentence.n_records; ++i) {
-                        const TextRange place = sentence.places.words()[i].source;
+                        const TextRange place = sentence.places.of_record(i).source;
                         covered.replace(place.offset, place.length, place.length, ' ');
                     }
                     return true;
@@ -104,6 +104,13 @@ TEST(Host, PlainTextAsInTheTable) {
             nullptr);
         return TableRow{text, plain};
     });
+}
+
+TEST(Host, NamesOfWhatNoSentenceHas) {
+    EXPECT_STREQ(pause_name(PAUSE_SYL_FE), "syl");
+    EXPECT_STREQ(pause_name(static_cast<PAUSE_type>(PAUSE_SYL_FE - 1)), "unknown");
+    EXPECT_STREQ(punctuation_name(POIE_FE), "POIE");
+    EXPECT_STREQ(punctuation_name(static_cast<PUNC_type>(POIE_FE + 1)), "unknown");
 }
 
 TEST(Host, SourcesOfSentencesCoverTheText) {
@@ -329,8 +336,11 @@ TEST(Host, StopsWhenAHandlerSaysSo) {
     calls = 0;
     EXPECT_FALSE(host.read("a</poem></poem></poem>. b", nullptr, second_stops));
     EXPECT_EQ(calls, 2);
-    calls = 1;
-    EXPECT_FALSE(host.read("</poem>", nullptr, second_stops)) << "after the last sentence too";
+    for (const char* text : {"</poem>", "a</poem> 1234567890123", "1234567890123"}) {
+        calls = 1;
+        EXPECT_FALSE(host.read(text, nullptr, second_stops)) << text;
+        EXPECT_EQ(calls, 2);
+    }
     EXPECT_TRUE(read_by_layer(host, "a").diagnostics.empty()) << "nothing is left of the last text";
 }
 
@@ -368,7 +378,8 @@ TEST(Host, OneTextLeavesNothingToTheNext) {
           std::string(20000, 'a') + "</poem>\xff"}) {
         TtsHost host;
         read_by_layer(host, first);
-        host.read("a. </poem>b", [](const HostSentence&) { return false; }, nullptr);
+        host.read(
+            "a. </poem>b", [](const HostSentence&) { return false; }, nullptr);
         const ReadText second = read_by_layer(host, "\xff b </poem>" + ten_tags);
         ASSERT_EQ(second.diagnostics.size(), 2U) << first.substr(0, 100);
         EXPECT_EQ(second.diagnostics[0].offset, 0U);

@@ -36,7 +36,7 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
     if (at != sentence.normalized.size()) return "the pieces are not the sentence";
     offset = begin;
     for (int i = 1; i < sentence.n_records; ++i) {
-        const WordPlace& place = sentence.places.words()[i];
+        const WordPlace& place = sentence.places.of_record(i);
         if (place.source.offset < offset) return "words out of order";
         if (place.source.length == 0) return "a word from nowhere";
         if (place.source.offset + place.source.length > end) return "a word of another sentence";
@@ -69,7 +69,7 @@ inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
             result.records.push_back(to_text(sentence.records, sentence.n_records));
             for (int i = 1; i < sentence.n_records; ++i) {
                 const char* word = sentence.records[i].syllable;
-                const TextRange place = sentence.places.words()[i].source;
+                const TextRange place = sentence.places.of_record(i).source;
                 result.words.emplace_back(word);
                 result.places.push_back(std::string(word) + "=" +
                                         std::string(text.substr(place.offset, place.length)));

@@ -147,7 +147,8 @@ class SentenceWriter {
     // The number of the first word that stands there in the speakable text, or after that.
     int words_before(std::size_t speakable_end) const {
         int end = next_;
-        while (end < sentence_.n_records && sentence_.places.words()[end].at < speakable_end) ++end;
+        while (end < sentence_.n_records && sentence_.places.of_record(end).at < speakable_end)
+            ++end;
         return end;
     }
 

@@ -136,7 +136,7 @@ class JsonFormat : public Format {
             for (int i = 0; i < sentence.n_records; ++i) {
                 const UtteranceSyllable& record = sentence.records[i];
                 if (i == 0 && !has_marks(record)) continue;
-                write_word(record, sentence.places.words()[i]);
+                write_word(record, sentence.places.of_record(i));
             }
         });
     }

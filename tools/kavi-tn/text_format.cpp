@@ -125,7 +125,7 @@ class WordFormat : public Format {
         for (int i = 0; i < sentence.n_records; ++i) {
             const UtteranceSyllable& record = sentence.records[i];
             if (i == 0 && !has_marks(record)) continue;
-            const TextRange source = sentence.places.words()[i].source;
+            const TextRange source = sentence.places.of_record(i).source;
             table_.add(i == 0 ? "(head)" : record.syllable);
             table_.add(place.text.substr(source.offset, source.length));
             table_.add(pause_name(record.pause_type));

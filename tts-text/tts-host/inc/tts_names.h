@@ -9,7 +9,7 @@
 
 namespace kavi {
 
-// As in "intonation phrase, forced".
+// As in "intonation phrase, forced"; "unknown" for a value that is none.
 const char* pause_name(PAUSE_type pause);
 
 // As in "<punc=" tags; "unknown" for no mark.

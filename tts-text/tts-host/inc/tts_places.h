@@ -38,6 +38,7 @@ class SentencePlaces {
 
     // Of each record; the head record has an empty source.
     virtual const std::vector<WordPlace>& words() = 0;
+    const WordPlace& of_record(int n) { return words()[static_cast<std::size_t>(n)]; }
 
     // The source of `length` bytes at `at` of the normalised sentence: all of an abbreviation for
     // any byte of it. Empty for what has none.

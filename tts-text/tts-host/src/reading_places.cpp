@@ -1,7 +1,6 @@
 #include "reading_places.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace kavi::host {
 
@@ -30,20 +29,21 @@ void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
     }
 }
 
-// Moves on to the reading that the word at `at` belongs to. Stretches of words are copied, all of
-// them; where the text has something left out in one, each of its words is looked up.
+// Moves on to the reading that the word at `at` belongs to. A piece that begins with a letter is
+// words that are copied, or one that is written out: then it is longer. Where the text has
+// something left out among words, each of them is looked up.
 void ReadingPlaces::go_on_to(std::size_t at, PieceCursor& pieces) {
     while (next_ < readings_.size() && readings_[next_].target_at <= at) ++next_;
     next_at_ = next_ < readings_.size() ? readings_[next_].target_at : SZ_TEXT_MAX_LEN;
     const Reading& reading = readings_[next_ - 1];
-    const char* copy = speakable_ + reading.target_at;
     const std::size_t length = reading.source.size();
     const auto sentence_at = static_cast<std::size_t>(reading.source.data() - sentence_);
     source_ = pieces.source_of(sentence_at, length);
     copied_end_ = 0;
-    const bool is_copy = tn::is_letter(reading.source[0]) && !tn::is_letter(copy[length]) &&
-                         std::memcmp(reading.source.data(), copy, length) == 0;
-    if (!is_copy) return;
+    if (!tn::is_letter(reading.source[0]) ||
+        tn::is_letter(speakable_[reading.target_at + length])) {
+        return;
+    }
     if (source_.length == length) {
         copied_end_ = reading.target_at + length;
         shift_ = source_.offset - reading.target_at;

@@ -22,7 +22,7 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 }  // namespace
 
-class TtsHost::State : tn::ReadingObserver, SentencePlaces {
+class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
   public:
     // `destroy` may be null.
     State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))

@@ -2,48 +2,70 @@
 
 namespace kavi {
 
-const char* pause_name(PAUSE_type pause) {
-    switch (pause) {
-        case PAUSE_SYLLABLE_FE: return "syllable";
-        case PAUSE_WORD_FE: return "word";
-        case PAUSE_PHRASE_FE: return "phrase";
-        case PAUSE_INTONATION_PHRASE_FE: return "intonation phrase";
-        case PAUSE_SENTENCE_FE: return "sentence";
-        case PAUSE_SYLLABLE_FORCE_FE: return "syllable, forced";
-        case PAUSE_WORD_FORCE_FE: return "word, forced";
-        case PAUSE_PHRASE_FORCE_FE: return "phrase, forced";
-        case PAUSE_INTONATION_PHRASE_FORCE_FE: return "intonation phrase, forced";
-        case PAUSE_PHONE_FE: return "phone";
-        case PAUSE_SYL_FE: return "syl";
-        case PAUSE_PLRULE_INTONATION_PHRASE_FORCE_FE: return "plrule intonation phrase, forced";
+namespace {
+
+struct PauseRow {
+    PAUSE_type pause;
+    const char* name;
+};
+
+constexpr PauseRow PAUSES[] = {
+    {PAUSE_SYL_FE, "syl"},
+    {PAUSE_PHONE_FE, "phone"},
+    {PAUSE_SYLLABLE_FE, "syllable"},
+    {PAUSE_WORD_FE, "word"},
+    {PAUSE_PHRASE_FE, "phrase"},
+    {PAUSE_INTONATION_PHRASE_FE, "intonation phrase"},
+    {PAUSE_SENTENCE_FE, "sentence"},
+    {PAUSE_SYLLABLE_FORCE_FE, "syllable, forced"},
+    {PAUSE_WORD_FORCE_FE, "word, forced"},
+    {PAUSE_PHRASE_FORCE_FE, "phrase, forced"},
+    {PAUSE_INTONATION_PHRASE_FORCE_FE, "intonation phrase, forced"},
+    {PAUSE_PLRULE_INTONATION_PHRASE_FORCE_FE, "plrule intonation phrase, forced"},
+};
+
+struct PunctuationRow {
+    PUNC_type punc;
+    const char* name;
+};
+
+constexpr PunctuationRow PUNCTUATION[] = {
+    {PUNC_NULL_FE, "unknown"},  {PUNC_DUN_FE, "dun"},       {PUNC_DOU_FE, "dou"},
+    {PUNC_FEN_FE, "fen"},       {PUNC_JU_FE, "ju"},         {PUNC_WEN_FE, "wen"},
+    {PUNC_TAN_FE, "tan"},       {PUNC_MAO_FE, "mao"},       {PUNC_ZUOSHU_FE, "zuoshu"},
+    {PUNC_YOUSHU_FE, "youshu"}, {PUNC_ZUOYIN_FE, "zuoyin"}, {PUNC_YOUYIN_FE, "youyin"},
+    {PUNC_ZUOKUO_FE, "zuokuo"}, {PUNC_YOUKUO_FE, "youkuo"}, {PUNC_SHENGLUE_FE, "shenglue"},
+    {PUNC_POZHE_FE, "pozhe"},   {TN_BEGIN_FE, "tnbegin"},   {TN_END_FE, "tnend"},
+    {POIB_FE, "POIB"},          {POIE_FE, "POIE"},
+};
+
+// Rows are found by their place, from the least value on.
+constexpr bool are_in_order() {
+    int value = PAUSE_SYL_FE;
+    for (const PauseRow& row : PAUSES) {
+        if (row.pause != value++) return false;
     }
-    return "";
+    value = PUNC_NULL_FE;
+    for (const PunctuationRow& row : PUNCTUATION) {
+        if (row.punc != value++) return false;
+    }
+    return true;
+}
+static_assert(are_in_order());
+
+template <typename Row, int N>
+const char* name_at(const Row (&rows)[N], int place) {
+    return place >= 0 && place < N ? rows[place].name : "unknown";
+}
+
+}  // namespace
+
+const char* pause_name(PAUSE_type pause) {
+    return name_at(PAUSES, pause - PAUSE_SYL_FE);
 }
 
 const char* punctuation_name(PUNC_type punc) {
-    switch (punc) {
-        case PUNC_DUN_FE: return "dun";
-        case PUNC_DOU_FE: return "dou";
-        case PUNC_FEN_FE: return "fen";
-        case PUNC_JU_FE: return "ju";
-        case PUNC_WEN_FE: return "wen";
-        case PUNC_TAN_FE: return "tan";
-        case PUNC_MAO_FE: return "mao";
-        case PUNC_ZUOSHU_FE: return "zuoshu";
-        case PUNC_YOUSHU_FE: return "youshu";
-        case PUNC_ZUOYIN_FE: return "zuoyin";
-        case PUNC_YOUYIN_FE: return "youyin";
-        case PUNC_ZUOKUO_FE: return "zuokuo";
-        case PUNC_YOUKUO_FE: return "youkuo";
-        case PUNC_SHENGLUE_FE: return "shenglue";
-        case PUNC_POZHE_FE: return "pozhe";
-        case TN_BEGIN_FE: return "tnbegin";
-        case TN_END_FE: return "tnend";
-        case POIB_FE: return "POIB";
-        case POIE_FE: return "POIE";
-        case PUNC_NULL_FE: break;
-    }
-    return "unknown";
+    return name_at(PUNCTUATION, punc);
 }
 
 std::array<std::pair<const char*, const char*>, 7> attributes(const CssmlTag& tag) {

@@ -179,7 +179,6 @@ Section* SectionDispatcher::mark() {
             case '+': return plus_sign();
             default:  // "$"
                 if (before_number) return money(section_->m_pnext);
-                break;
         }
         words = row->otherwise;
         assert(words != READER);

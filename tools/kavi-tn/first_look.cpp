@@ -6,24 +6,23 @@ namespace kavi::tool {
 
 namespace {
 
-using std::string_view_literals::operator""sv;
-
 struct Signature {
     std::string_view begins_with;
     const char* notice;
 };
 
 constexpr Signature SIGNATURES[] = {
-    {"\x1f\x8b"sv, "seems to be compressed; read it by: gzip -dc FILE | kavi-tn"},
-    {"BZh"sv, "seems to be compressed; read it by: bzip2 -dc FILE | kavi-tn"},
-    {"\xfd"
-     "7zXZ\0"sv,
+    {"\x1f\x8b", "seems to be compressed; read it by: gzip -dc FILE | kavi-tn"},
+    {"BZh", "seems to be compressed; read it by: bzip2 -dc FILE | kavi-tn"},
+    {std::string_view("\xfd"
+                      "7zXZ\0",
+                      6),
      "seems to be compressed; read it by: xz -dc FILE | kavi-tn"},
-    {"\x28\xb5\x2f\xfd"sv, "seems to be compressed; read it by: zstd -dc FILE | kavi-tn"},
-    {"PK\x03\x04"sv, "seems to be an archive or a document; read it by: unzip -p FILE | kavi-tn"},
-    {"%PDF-"sv, "seems to be a PDF document; read it by: pdftotext FILE - | kavi-tn"},
-    {"\xff\xfe"sv, "seems to be UTF-16; read it by: iconv -f UTF-16 -t UTF-8 FILE | kavi-tn"},
-    {"\xfe\xff"sv, "seems to be UTF-16; read it by: iconv -f UTF-16 -t UTF-8 FILE | kavi-tn"},
+    {"\x28\xb5\x2f\xfd", "seems to be compressed; read it by: zstd -dc FILE | kavi-tn"},
+    {"PK\x03\x04", "seems to be an archive or a document; read it by: unzip -p FILE | kavi-tn"},
+    {"%PDF-", "seems to be a PDF document; read it by: pdftotext FILE - | kavi-tn"},
+    {"\xff\xfe", "seems to be UTF-16; read it by: iconv -f UTF-16 -t UTF-8 FILE | kavi-tn"},
+    {"\xfe\xff", "seems to be UTF-16; read it by: iconv -f UTF-16 -t UTF-8 FILE | kavi-tn"},
 };
 
 bool is_no_text(char c) {

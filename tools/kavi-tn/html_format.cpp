@@ -184,7 +184,8 @@ class SentenceWriter {
     void write_numbers_of_findings(std::size_t end) {
         for (; n_findings_ < diagnostics_.size() && diagnostics_[n_findings_].offset < end;) {
             const std::string number = std::to_string(++n_findings_);
-            out_ += "<sup><a href=#" + anchor(place_) + "-" + number + ">" + number + "</a></sup>";
+            out_.append("<sup><a href=#").append(anchor(place_)).append("-").append(number);
+            out_.append(">").append(number).append("</a></sup>");
         }
     }
 

@@ -36,7 +36,9 @@ class JsonLine {
     void text(std::string_view value) {
         const bool is_ascii = std::none_of(
             value.begin(), value.end(), [](char c) { return static_cast<unsigned char>(c) > 127; });
-        is_ascii ? put(value) : put(valid_utf8(value));
+        if (is_ascii) return put(value);
+        const std::string valid = valid_utf8(value);
+        put(valid);
     }
     void number(std::size_t value) { writer_.Uint64(value); }
     void null() { writer_.Null(); }

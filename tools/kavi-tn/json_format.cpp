@@ -36,9 +36,7 @@ class JsonLine {
     void text(std::string_view value) {
         const bool is_ascii = std::none_of(
             value.begin(), value.end(), [](char c) { return static_cast<unsigned char>(c) > 127; });
-        if (is_ascii) return put(value);
-        const std::string valid = valid_utf8(value);
-        put(valid);
+        is_ascii ? put(value) : put(valid_utf8(value));
     }
     void number(std::size_t value) { writer_.Uint64(value); }
     void null() { writer_.Null(); }
@@ -71,6 +69,7 @@ class JsonLine {
 
   private:
     void put(std::string_view value) {
+        // cppcheck-suppress danglingTemporaryLifetime ; the writer copies
         writer_.String(value.data(), static_cast<rapidjson::SizeType>(value.size()));
     }
 

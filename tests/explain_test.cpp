@@ -52,7 +52,7 @@ TEST(Explain, StopsWhereTheOutputIsFull) {
     EXPECT_TRUE(explain("").empty());
     const std::vector<ExplainedRun> runs = explain(std::string(1000, '?'));
     EXPECT_EQ(runs.size(), 410U);  // ten characters each
-    EXPECT_STREQ(runs.back().rule, "output full");
+    EXPECT_EQ(runs.back().rule, "output full");
 }
 
 }  // namespace

@@ -46,7 +46,7 @@ std::string read_file(const fs::path& path) {
 // All that the files of the options are rendered to; `messages` takes the findings.
 std::string render(const Options& options, std::string& messages) {
     BlockReader reader(options);
-    Renderer renderer(options);
+    Renderer renderer(options, nullptr);
     std::string output;
     for (Block block; reader.next(block);) {
         const Rendered rendered = renderer.render(block);
@@ -204,7 +204,7 @@ TEST_F(Files, WhatCannotBeReadIsSaidAndTheRestIsRead) {
     Options options;
     options.files = {folder_, file("a", "a")};
     BlockReader reader(options);
-    Renderer renderer(options);
+    Renderer renderer(options, nullptr);
     Block block;
     ASSERT_TRUE(reader.next(block));
     const Rendered failed = renderer.render(block);

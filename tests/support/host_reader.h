@@ -24,11 +24,12 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
         if (piece.at != at) return "a piece does not begin where the last one ended";
         if (piece.source.offset < offset) return "pieces out of order";
         at += piece.length;
-        offset = piece.source.offset + piece.source.length;
-        if (offset > end) return "a piece is not of this sentence";
+        // What was rewritten may be the source of several pieces.
+        offset = piece.source.offset + (piece.rule == nullptr ? piece.source.length : 0);
+        if (piece.source.offset + piece.source.length > end) return "a piece is not of this sentence";
         std::string copy(text.substr(piece.source.offset, piece.source.length));
         std::replace(copy.begin(), copy.end(), '\0', ' ');
-        const bool is_copy = !piece.is_abbreviation && piece.length > 1;
+        const bool is_copy = piece.rule == nullptr && piece.length > 1;
         if (is_copy && piece.source.length > 0 &&
             sentence.normalized.substr(piece.at, piece.length) != copy)
             return "a piece is no copy";
@@ -38,7 +39,9 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
     for (int i = 1; i < sentence.n_records; ++i) {
         const WordPlace& place = sentence.places.of_record(i);
         if (place.source.offset < offset) return "words out of order";
-        if (place.source.length == 0) return "a word from nowhere";
+        // A tag that is opened again may be no tag to the builder.
+        const bool is_of_tag = sentence.records[i].syllable[0] == '<';
+        if (place.source.length == 0 && !is_of_tag) return "a word from nowhere";
         if (place.source.offset + place.source.length > end) return "a word of another sentence";
         if (sentence.speakable[place.at] != sentence.records[i].syllable[0]) return "no such word";
         offset = place.source.offset;

@@ -34,6 +34,12 @@ How it is written:
   -o, --output FILE    to FILE, which changes only when all is written, and may be an input
 
 How it is read:
+      --lexicon FILE   with FILE's readings: lines WRITTEN, a tab, SPOKEN
+      --everyday       with rules for everyday English: $1.5 million, 5 km, won't, 1990s, ...
+      --without LIST   of these not: titles,contractions,currencies,units,years,times,addresses,
+                       roman,numbers,letters,shields
+      --american-dates 3/1/2020 is March first
+      --check          FILEs hold TEXT, a tab, the words expected; says where others are spoken
   -t, --text TEXT      read TEXT first
   -0, --null           texts end with a NUL byte instead of a line end
   -j, --jobs N         with N threads, 0 for all processors; the output stays the same
@@ -104,6 +110,16 @@ std::string set_fields(const std::string& value, Options& options) {
     return options.fields.empty() ? wrong_value("names of fields", value) : "";
 }
 
+std::string set_without(const std::string& value, Options& options) {
+    std::istringstream list(value);
+    for (std::string name; std::getline(list, name, ',');) {
+        const std::optional<EverydayClass> everyday_class = everyday_class_of(name);
+        if (!everyday_class) return wrong_value("names of classes with commas between them", value);
+        options.without.push_back(*everyday_class);
+    }
+    return {};
+}
+
 // The command line, bound to the options that it sets.
 class Parser {
   public:
@@ -120,6 +136,11 @@ class Parser {
         add_value("-j,--jobs", set_jobs);
         add_value("--format", set_format);
         fields_ = add_value("--fields", set_fields);
+        app_.add_option("--lexicon", options.lexicon)->take_last();
+        add_flag("--everyday", options.everyday);
+        without_ = add_value("--without", set_without);
+        american_dates_ = add_flag("--american-dates", options.american_dates);
+        add_flag("--check", options.check);
         add_stage("--sentences", Stage::sentences);
         add_stage("--speakable", Stage::speakable);
         add_stage("--plain", Stage::plain);
@@ -151,6 +172,14 @@ class Parser {
         if (fields_->count() > 0 && options_.format != FormatName::jsonl) {
             return "--fields goes with --format jsonl alone";
         }
+        for (const CLI::Option* option : {without_, american_dates_}) {
+            if (option->count() > 0 && !options_.everyday) {
+                return option->get_name() + " goes with --everyday alone";
+            }
+        }
+        if (options_.check && (!stages_.empty() || options_.format != FormatName::text)) {
+            return "--check writes neither stages nor formats";
+        }
         options_.has_text = text_->count() > 0;
         if (null_) options_.delimiter = '\0';
         if (!options_.has_text && options_.files.empty()) options_.files.emplace_back("-");
@@ -176,8 +205,8 @@ class Parser {
             ->take_last();
     }
 
-    void add_flag(const char* name, bool& flag) {
-        app_.add_flag(name, flag)->disable_flag_override();
+    CLI::Option* add_flag(const char* name, bool& flag) {
+        return app_.add_flag(name, flag)->disable_flag_override();
     }
 
     void add_stage(const char* name, Stage stage) {
@@ -196,6 +225,8 @@ class Parser {
     bool null_ = false;
     CLI::Option* text_ = nullptr;
     CLI::Option* fields_ = nullptr;
+    CLI::Option* without_ = nullptr;
+    CLI::Option* american_dates_ = nullptr;
     std::vector<std::string> stages_;
 };
 

@@ -6,6 +6,7 @@
 #include <exception>
 #include <iostream>
 
+#include "check.h"
 #include "command_line.h"
 #include "pipeline.h"
 
@@ -28,7 +29,9 @@ int main(int argc, char** argv) {
     try {
         int status = 0;
         const auto options = kavi::tool::parse_command_line(argc, argv, status);
-        return options ? kavi::tool::run_pipeline(*options) : status;
+        if (!options) return status;
+        return options->check ? kavi::tool::run_check(*options)
+                              : kavi::tool::run_pipeline(*options);
     } catch (const std::exception& error) {
         std::cerr << "kavi-tn: " << error.what() << '\n';
         return 1;

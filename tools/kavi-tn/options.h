@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "tts_everyday.h"
+
 namespace kavi::tool {
 
 enum class Stage { sentences, speakable, plain, words, explain };
@@ -32,8 +34,13 @@ struct Options {
     std::vector<Field> fields;       // of JSON Lines; empty: all but the runs
     std::vector<std::string> files;  // "-" is standard input
     bool has_text = false;
-    std::string text;    // read before the files
-    std::string output;  // empty: standard output
+    std::string text;     // read before the files
+    std::string output;   // empty: standard output
+    std::string lexicon;  // a file; empty: none
+    bool everyday = false;
+    std::vector<EverydayClass> without;  // classes of everyday English that stay off
+    bool american_dates = false;
+    bool check = false;  // the files hold texts and the words that are expected
     char delimiter = '\n';
     unsigned jobs = 1;
     bool strict = false;   // a finding makes the exit status 1

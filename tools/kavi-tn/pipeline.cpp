@@ -17,6 +17,7 @@
 #include "job_window.h"
 #include "names.h"
 #include "output.h"
+#include "readings.h"
 #include "renderer.h"
 
 namespace kavi::tool {
@@ -36,6 +37,7 @@ class Run {
     int all() {
         had_pipe_signal_ = std::signal(SIGPIPE, SIG_IGN) != SIG_IGN;
         take_interrupts([this] { leave_interrupted(); });
+        if (const std::string error = readings_.load(options_); !error.empty()) fail(error);
         require_written(output_.open(options_.output));
         announce_terminal(options_);
         require_written(output_.write(format_->prologue()));
@@ -84,7 +86,7 @@ class Run {
         });
         for (unsigned i = 0; i < options_.jobs; ++i) {
             start([this] {
-                Renderer renderer(options_);
+                Renderer renderer(options_, readings_.everyday());
                 while (Job* job = window_.take()) {
                     job->rendered = renderer.render(job->block);
                     window_.rendered(*job);
@@ -143,6 +145,7 @@ class Run {
     JobWindow window_;
     std::vector<std::thread> threads_;
     Output output_;
+    Readings readings_;
     Progress progress_;
     FindingsReport findings_;
     std::unique_ptr<Format> format_;

@@ -6,8 +6,10 @@
 
 namespace kavi::tool {
 
-Renderer::Renderer(const Options& options)
-    : delimiter_(options.delimiter), format_(make_format(options)) {}
+Renderer::Renderer(const Options& options, const Everyday* everyday)
+    : delimiter_(options.delimiter), format_(make_format(options)) {
+    host_.rewrite_by(everyday);
+}
 
 Rendered Renderer::render(const Block& block) {
     Rendered rendered;

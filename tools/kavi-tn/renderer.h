@@ -24,7 +24,8 @@ struct Rendered {
 // One renderer serves one thread. The result depends on the block alone.
 class Renderer {
   public:
-    explicit Renderer(const Options& options);
+    // `everyday` rewrites the texts; null: they are read as they are. It stays the caller's.
+    Renderer(const Options& options, const Everyday* everyday);
 
     Rendered render(const Block& block);
 

@@ -18,7 +18,7 @@ struct ExplainedRun {
     std::vector<std::string> sections;  // these, as they were cut; a character is not broken
     std::string reading;                // what was written for them; empty for nothing
     std::size_t reading_at;             // of that in the speakable text
-    const char* rule;                   // the rule that chose it, in the field's words
+    std::string rule;                   // the rule that chose it, in the field's words
     bool is_word;                       // read by the rule that copies a word
 };
 
@@ -28,7 +28,8 @@ struct ExplainedRun {
 std::vector<ExplainedRun> explain(std::string_view normalized);
 
 // The same with places in `text`, which the sentence was read from. An abbreviation is one run, by
-// the rule "abbreviation", with what was written in the text for its section. A tag that closes or
+// the rule "abbreviation", with what was written in the text for its section; so is what a rewriter
+// has rewritten, by its rule, with the file and line that say so. A tag that closes or
 // opens a span where the text was cut has an empty source; what was left out is in none.
 std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view text);
 

@@ -11,6 +11,7 @@
 #include "ShareObj.h"
 #include "tts_findings.h"
 #include "tts_places.h"
+#include "tts_rewriter.h"
 
 namespace kavi {
 
@@ -38,6 +39,10 @@ class TtsHost {
     // On an arena that stays the caller's, and that nobody else uses during a call of read().
     // Between calls, nothing of it is in use here.
     explicit TtsHost(mem_stack_handle arena);
+
+    // From now on texts are read as this makes them; null: as they are. It stays the caller's. All
+    // that handlers are told is about the text as it was written.
+    void rewrite_by(const TextRewriter* rewriter);
 
     ~TtsHost();
     TtsHost(const TtsHost&) = delete;

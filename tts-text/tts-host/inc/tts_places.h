@@ -14,14 +14,16 @@ struct TextRange {
 };
 
 // A piece of the normalised sentence, and the bytes of the text that it stands for. A piece as long
-// as its source is a copy of it, unless it is an abbreviation written out. A piece without a source
+// as its source is a copy of it, unless a rule has rewritten it. A piece without a source
 // is a tag that opens or closes a span where the text was cut; one without a length, or with a
 // blank for its source, is what was left out.
 struct SourcePiece {
     std::size_t at;  // in the normalised sentence
     std::size_t length;
     TextRange source;
-    bool is_abbreviation;
+    const char* rule;            // that wrote it: "abbreviation", or of a rewriter; null for none
+    const char* file = nullptr;  // of the lexicon that says so, and where there
+    std::size_t line_number = 0;
 };
 
 // Where the word of a record comes from. The words of one number share a source.
@@ -40,8 +42,8 @@ class SentencePlaces {
     virtual const std::vector<WordPlace>& words() = 0;
     const WordPlace& of_record(int n) { return words()[static_cast<std::size_t>(n)]; }
 
-    // The source of `length` bytes at `at` of the normalised sentence: all of an abbreviation for
-    // any byte of it. Empty for what has none.
+    // The source of `length` bytes at `at` of the normalised sentence: all of what was rewritten
+    // for any byte of it. Empty for what has none.
     TextRange source_of(std::size_t at, std::size_t length);
 
   protected:

@@ -44,7 +44,7 @@ void ReadingPlaces::go_on_to(std::size_t at, PieceCursor& pieces) {
         tn::is_letter(speakable_[reading.target_at + length])) {
         return;
     }
-    if (source_.length == length) {
+    if (pieces.is_copied(sentence_at, length)) {
         copied_end_ = reading.target_at + length;
         shift_ = source_.offset - reading.target_at;
         return;

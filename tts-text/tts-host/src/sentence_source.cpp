@@ -1,11 +1,13 @@
 #include "sentence_source.h"
 
+#include <algorithm>
+
 namespace kavi::host {
 
 namespace {
 
 bool is_copy(const SourcePiece& piece) {
-    return piece.length == piece.source.length && !piece.is_abbreviation;
+    return piece.length == piece.source.length && piece.rule == nullptr;
 }
 
 // The source of one byte of a piece.
@@ -20,11 +22,15 @@ TextRange PieceCursor::source_of(std::size_t at, std::size_t length) {
     const TextRange first = source_of_byte(*piece_, at);
     if (length <= 1) return first;
     const std::size_t last_at = at + length - 1;
-    if (last_at < piece_->at + piece_->length && is_copy(*piece_)) return {first.offset, length};
     PieceCursor end(*this);
     end.go_on_to(last_at);
     const TextRange last = source_of_byte(*end.piece_, last_at);
     return {first.offset, last.offset + last.length - first.offset};
+}
+
+bool PieceCursor::is_copied(std::size_t at, std::size_t length) {
+    go_on_to(at);
+    return is_copy(*piece_) && at + length <= piece_->at + piece_->length;
 }
 
 void SentenceSource::find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter) {
@@ -37,6 +43,44 @@ void SentenceSource::find_pieces(const TextWindow& window, const tn::SentenceCut
     sources.copied_up_to(cutter.end());
     const auto closing = static_cast<std::size_t>(cutter.length() - cutter.length_before_closing());
     if (closing > 0) sources.added(closing);
+}
+
+void SentenceSource::find_as_written(const RewrittenText& rewritten) {
+    pieces_.swap(as_read_);
+    pieces_.clear();
+    for (const SourcePiece& piece : as_read_) {
+        const std::size_t end = piece.source.offset + piece.source.length;
+        if (is_copy(piece)) {
+            add_as_written(piece.at, piece.source.offset, end, rewritten);
+        } else {
+            const std::size_t begin = rewritten.begin_of(piece.source.offset);
+            const std::size_t length = rewritten.end_of(end) - begin;
+            pieces_.push_back({piece.at, piece.length, {begin, length}, piece.rule});
+        }
+    }
+}
+
+// A copy of the rewritten text from `begin` to `end`: copies of the text as it was written, and
+// what was written in the place of others.
+void SentenceSource::add_as_written(std::size_t at, std::size_t begin, std::size_t end,
+                                    const RewrittenText& rewritten) {
+    while (begin < end) {
+        const Rewriting* next = rewritten.first_from(begin);
+        const bool is_inside = next != nullptr && next->at <= begin;
+        std::size_t piece_end = end;
+        if (next != nullptr) {
+            piece_end = std::min(end, is_inside ? next->at + next->length : next->at);
+        }
+        const std::size_t length = piece_end - begin;
+        if (is_inside) {
+            pieces_.push_back(
+                {at, length, next->source, next->rule, next->file, next->line_number});
+        } else {
+            pieces_.push_back({at, length, {rewritten.begin_of(begin), length}, nullptr});
+        }
+        at += length;
+        begin = piece_end;
+    }
 }
 
 }  // namespace kavi::host

@@ -9,6 +9,7 @@
 #include "for_host_layer.h"
 #include "text_window.h"
 #include "tts_places.h"
+#include "tts_rewriter.h"
 
 namespace kavi::host {
 
@@ -21,6 +22,9 @@ class PieceCursor {
 
     // The source of `length` bytes at `at`, not before the last ones.
     TextRange source_of(std::size_t at, std::size_t length);
+
+    // Whether these, not before the last ones, are a copy of one stretch of the text.
+    bool is_copied(std::size_t at, std::size_t length);
 
   private:
     void go_on_to(std::size_t at) {
@@ -45,9 +49,16 @@ class SentenceSource : public tn::CutObserver {
     // After it was cut, and before the window moves on.
     void find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter);
 
+    // After that, when what was read was rewritten: makes them pieces of the text as it was
+    // written.
+    void find_as_written(const RewrittenText& rewritten);
+
     const std::vector<SourcePiece>& pieces() const { return pieces_; }
 
   private:
+    void add_as_written(std::size_t at, std::size_t begin, std::size_t end,
+                        const RewrittenText& rewritten);
+
     struct Replacement {
         std::string_view source;  // in the window
         std::size_t at;
@@ -56,6 +67,7 @@ class SentenceSource : public tn::CutObserver {
 
     std::vector<Replacement> replacements_;
     std::vector<SourcePiece> pieces_;
+    std::vector<SourcePiece> as_read_;
 };
 
 }  // namespace kavi::host

@@ -321,14 +321,14 @@ void TextWindow::Sources::copied_up_to(const char* end) {
     const std::size_t prefix_end = window_.begin_ + window_.prefix_;
     if (from_ < prefix_end) {
         const std::size_t length = std::min(index, prefix_end) - from_;
-        add(length, {window_.origin_ + prefix_end + window_.left_out_, 0}, false);
+        add(length, {window_.origin_ + prefix_end + window_.left_out_, 0}, nullptr);
         from_ += length;
     }
     while (is_gap_before(index)) {
         copy_up_to(window_.gaps_[n_gaps_].at - 1 - window_.origin_);
         const std::size_t begin = offset();
         pass(from_ + 1);
-        add(1, {begin, offset() - begin}, false);
+        add(1, {begin, offset() - begin}, nullptr);
     }
     copy_up_to(index);
 }
@@ -336,7 +336,7 @@ void TextWindow::Sources::copied_up_to(const char* end) {
 void TextWindow::Sources::replaced(std::string_view source, std::size_t length) {
     const std::size_t begin = offset();
     pass(from_ + source.size());
-    add(length, {begin, offset() - begin}, length > 0);
+    add(length, {begin, offset() - begin}, length > 0 ? "abbreviation" : nullptr);
 }
 
 bool TextWindow::Sources::is_gap_before(std::size_t index) const {
@@ -346,7 +346,7 @@ bool TextWindow::Sources::is_gap_before(std::size_t index) const {
 // Nothing is left out before that.
 void TextWindow::Sources::copy_up_to(std::size_t index) {
     const std::size_t length = index - from_;
-    if (length > 0) add(length, {offset(), length}, false);
+    if (length > 0) add(length, {offset(), length}, nullptr);
     from_ = index;
 }
 

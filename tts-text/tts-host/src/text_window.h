@@ -96,11 +96,11 @@ class TextWindow {
         void replaced(std::string_view source, std::size_t length);
 
         // It has `length` bytes more, for nothing.
-        void added(std::size_t length) { add(length, {offset(), 0}, false); }
+        void added(std::size_t length) { add(length, {offset(), 0}, nullptr); }
 
       private:
-        void add(std::size_t length, TextRange source, bool is_abbreviation) {
-            pieces_.push_back({at_, length, source, is_abbreviation});
+        void add(std::size_t length, TextRange source, const char* rule) {
+            pieces_.push_back({at_, length, source, rule});
             at_ += length;
         }
         bool is_gap_before(std::size_t index) const;

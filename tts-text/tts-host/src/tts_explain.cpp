@@ -87,11 +87,15 @@ bool goes_on(const SectionDispatcher& step, const ExplainedRun& run) {
            continues_character(run, SectionWindow::source(step.first()));
 }
 
-bool is_abbreviation(const HostSentence& sentence, std::size_t at) {
-    const std::vector<SourcePiece>& pieces = sentence.places.pieces();
-    return std::any_of(pieces.begin(), pieces.end(), [=](const SourcePiece& piece) {
-        return piece.is_abbreviation && piece.at <= at && at < piece.at + piece.length;
-    });
+// The rule that has rewritten what stands at `at` of the sentence; empty for none.
+std::string rewriting_rule(const HostSentence& sentence, std::size_t at) {
+    for (const SourcePiece& piece : sentence.places.pieces()) {
+        if (at < piece.at || at >= piece.at + piece.length || piece.rule == nullptr) continue;
+        if (piece.file == nullptr) return piece.rule;
+        return piece.rule + (" " + std::string(piece.file) + ":") +
+               std::to_string(piece.line_number);
+    }
+    return {};
 }
 
 // Whether a run shares source with the one before it, as the words of an abbreviation do.
@@ -138,8 +142,8 @@ std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view
             before.reading += run.reading;
             continue;
         }
-        if (is_abbreviation(sentence, at)) {
-            run.rule = "abbreviation";
+        if (std::string rule = rewriting_rule(sentence, at); !rule.empty()) {
+            run.rule = std::move(rule);
             run.is_word = false;
             run.sections = {std::string(text.substr(run.source.offset, run.source.length))};
         }

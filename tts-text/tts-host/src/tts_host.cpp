@@ -35,6 +35,7 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
 
     bool read(std::string_view text, const SentenceHandler& on_sentence,
               const DiagnosticHandler& on_diagnostic);
+    void rewrite_by(const TextRewriter* rewriter) { rewriter_ = rewriter; }
 
   private:
     // Sentences that normalise to more are tried again as a shorter piece, so that there is always
@@ -64,6 +65,15 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     void collect_diagnostics(bool done);
     bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
+    // Where in the text as it was written a place of the one that is read is: an end, or a begin.
+    std::size_t written_end(std::size_t at) const {
+        return rewriter_ != nullptr ? rewritten_.end_of(at) : at;
+    }
+    std::size_t written_begin(std::size_t at) const {
+        return rewriter_ != nullptr ? rewritten_.begin_of(at) : at;
+    }
+    Diagnostic as_written(const Diagnostic& diagnostic) const;
+
     // While a sentence is read.
     void on_plain_text(std::string_view source, int target_at) override {
         reading_places_.add_plain_text(source, target_at);
@@ -79,6 +89,8 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
 
     mem_stack_handle arena_;
     void (*destroy_)(mem_stack_handle);
+    const TextRewriter* rewriter_ = nullptr;
+    RewrittenText rewritten_;  // the text that is read, if there is a rewriter
     bool is_reading_ = false;
     host::TextWindow window_;
     host::SentenceSource source_;
@@ -104,11 +116,16 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
     const Session session(*this);
     bool all_read = true;
     std::size_t begin = 0;  // of the next sentence's source
-    window_.begin(text);
+    if (rewriter_ != nullptr) {
+        rewriter_->rewrite(text, rewritten_);
+        window_.begin(rewritten_.text);
+    } else {
+        window_.begin(text);
+    }
     for (bool moved = false; window_.fill(moved);) {
         if (moved) abbreviations_.reset();
         const bool done = read_piece();
-        const std::size_t end = window_.source_offset(rest_);
+        const std::size_t end = written_end(window_.source_offset(rest_));
         collect_diagnostics(done);
         if (!report(end, on_diagnostic)) return false;
         if (!done) {
@@ -184,7 +201,8 @@ void TtsHost::State::release_records() {
 void TtsHost::State::collect_diagnostics(bool done) {
     diagnostics_.clear();
     if (!done) {
-        diagnostics_.push_back({window_.source_offset(window_.text()), Finding::arena_too_small});
+        const std::size_t begin = window_.source_offset(window_.text());
+        diagnostics_.push_back({written_begin(begin), Finding::arena_too_small});
         return;
     }
     for (const Diagnostic& finding : findings_.findings()) {
@@ -201,8 +219,9 @@ bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnos
         return !on_diagnostic || on_diagnostic(diagnostic);
     };
     const auto report_text_before = [&](std::size_t offset) {
-        while (!in_text.empty() && in_text.front().offset < offset) {
-            const Diagnostic first = in_text.front();
+        while (!in_text.empty()) {
+            const Diagnostic first = as_written(in_text.front());
+            if (first.offset >= offset) break;
             in_text.pop_front();
             if (!hand_over(first)) return false;
         }
@@ -214,8 +233,17 @@ bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnos
     return report_text_before(end);
 }
 
+Diagnostic TtsHost::State::as_written(const Diagnostic& diagnostic) const {
+    const std::size_t begin = written_begin(diagnostic.offset);
+    const std::size_t end = written_end(diagnostic.offset + diagnostic.length);
+    return {begin, diagnostic.finding, end - begin};
+}
+
 const std::vector<SourcePiece>& TtsHost::State::pieces() {
-    if (!are_pieces_known_) source_.find_pieces(window_, *cutter_);
+    if (!are_pieces_known_) {
+        source_.find_pieces(window_, *cutter_);
+        if (rewriter_ != nullptr) source_.find_as_written(rewritten_);
+    }
     are_pieces_known_ = true;
     return source_.pieces();
 }
@@ -236,6 +264,10 @@ TtsHost::TtsHost(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
 TtsHost::TtsHost(mem_stack_handle arena) : TtsHost(arena, nullptr) {}
 
 TtsHost::~TtsHost() = default;
+
+void TtsHost::rewrite_by(const TextRewriter* rewriter) {
+    state_->rewrite_by(rewriter);
+}
 
 bool TtsHost::read(std::string_view text, const SentenceHandler& on_sentence,
                    const DiagnosticHandler& on_diagnostic) {

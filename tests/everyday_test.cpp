@@ -1,0 +1,148 @@
+// A user's readings and everyday English, before the engine. What the rules read is in
+// tests/quality.
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "expect_table.h"
+#include "host_reader.h"
+#include "tts_everyday.h"
+
+namespace kavi {
+namespace {
+
+std::string rewritten(const TextRewriter& rewriter, const std::string& text) {
+    RewrittenText result;
+    rewriter.rewrite(text, result);
+    return result.text;
+}
+
+ReadText read_with(const TextRewriter& rewriter, const std::string& text) {
+    TtsHost host;
+    host.rewrite_by(&rewriter);
+    return read_by_layer(host, text);
+}
+
+Everyday all_classes() {
+    Everyday everyday(nullptr);
+    everyday.set_all(true);
+    return everyday;
+}
+
+TEST(Lexicon, RewritesAsInTheTable) {
+    Lexicon lexicon;
+    std::string error;
+    ASSERT_TRUE(lexicon.add("my.txt",
+                            "# readings\n\nkm\tkilometres\r\nkm/h\tkilometres per hour\n№\tnumber\n"
+                            "New York\tbig apple\nNew York City\tthe city\nkavi\tkahvee\tany case\n"
+                            "Mr.\tmister\n:-)\tsmile\n",
+                            error))
+        << error;
+    const Everyday everyday(&lexicon);
+    expect_table("lexicon", [&](const std::string& text) {
+        return TableRow{text, rewritten(everyday, text)};
+    });
+}
+
+TEST(Lexicon, ABadLineIsToldAndNothingAfterItIsRead) {
+    expect_table("bad_lexicons", [](const std::string& lines) {
+        Lexicon lexicon;
+        std::string error;
+        EXPECT_FALSE(lexicon.add("my.txt", lines, error));
+        return TableRow{lines, error};
+    });
+}
+
+TEST(Lexicon, ReadingsStandAtTheirPlacesAcrossSentences) {
+    Lexicon lexicon;
+    std::string error;
+    ASSERT_TRUE(lexicon.add("my.txt", "Mr.\tmister\nkm\tkilometres\n", error));
+    const Everyday everyday(&lexicon);
+    const ReadText read = read_with(everyday, "Mr. X ran 5km. <poem=km>km</poem></prosody> é");
+    EXPECT_EQ(read.fault, "");
+    EXPECT_EQ(read.places, (std::vector<std::string>{"mister=Mr.", "X=X", "ran=ran", "five=5",
+                                                     "kilometres=km", "kilometres=km"}));
+    ASSERT_EQ(read.diagnostics.size(), 2U);
+    EXPECT_EQ(read.diagnostics[0].offset, 33U);
+    EXPECT_EQ(read.diagnostics[1].offset, 44U);
+    EXPECT_EQ(read.diagnostics[1].length, 2U);
+}
+
+TEST(Everyday, WithoutAnyClassEveryByteIsAsWithoutIt) {
+    const Everyday none(nullptr);
+    std::mt19937 random(5);
+    const std::vector<TableRow> pieces = read_table("pieces");
+    for (int round = 0; round < 200; ++round) {
+        std::string text;
+        while (text.size() < 500) text += pieces[random() % pieces.size()][0];
+        const ReadText with = read_with(none, text);
+        const ReadText without = read_by_layer(text);
+        EXPECT_EQ(with.normalized, without.normalized);
+        EXPECT_EQ(with.records, without.records);
+        EXPECT_EQ(with.sources, without.sources);
+        EXPECT_EQ(with.places, without.places);
+        EXPECT_EQ(with.diagnostics.size(), without.diagnostics.size());
+    }
+}
+
+TEST(Everyday, PlacesHoldWhateverIsRewritten) {
+    const Everyday everyday = all_classes();
+    std::mt19937 random(6);
+    std::vector<TableRow> pieces = read_table("pieces");
+    for (const char* piece :
+         {"$1.5 million ", "5 km ", "Mr. ", "won't ", "1990s ", "5:30 p.m. ", "bob@example.com ",
+          "Henry VIII ", "caf\xc3\xa9 ", "left. ", "\xe2\x80\x93", "3/1/2020 ", "(212) 555-0199 ",
+          "\xc2\xbd", "10-20% ", "\xe2"}) {
+        pieces.push_back({piece});
+    }
+    for (int round = 0; round < 500; ++round) {
+        std::string text;
+        while (text.size() < random() % 600) text += pieces[random() % pieces.size()][0];
+        const ReadText read = read_with(everyday, text);
+        EXPECT_EQ(read.fault, "") << text;
+        EXPECT_TRUE(read.all_read) << text;
+    }
+}
+
+TEST(Everyday, PlainProseComesOutUnchanged) {
+    EXPECT_EQ(rewritten(all_classes(), "<poem=5 km>5</poem>"), "<poem=5 km>five</poem>");
+    const std::string prose =
+        "It was a bright cold day, and the clocks were striking; nobody looked up. <poem=a>Were "
+        "they asleep?</poem> No: they waited (or so it seemed)!";
+    RewrittenText result;
+    all_classes().rewrite(prose, result);
+    EXPECT_EQ(result.text, prose);
+    EXPECT_TRUE(result.rewritings.empty());
+}
+
+TEST(Everyday, EachClassIsSwitchedByItself) {
+    const std::pair<EverydayClass, const char*> texts[] = {
+        {EverydayClass::titles, "Mr. X"},      {EverydayClass::contractions, "won't"},
+        {EverydayClass::currencies, "5 EUR"},  {EverydayClass::times, "5:30 pm"},
+        {EverydayClass::roman, "Henry VIII"},  {EverydayClass::letters, "caf\xc3\xa9"},
+        {EverydayClass::shields, "He left."},  {EverydayClass::years, "May 5"},
+        {EverydayClass::addresses, "a@b.com"}, {EverydayClass::units, "5 km"},
+        {EverydayClass::numbers, "7"}};
+    for (const auto& [everyday_class, text] : texts) {
+        Everyday everyday(nullptr);
+        everyday.set(everyday_class, true);
+        EXPECT_NE(rewritten(everyday, text), text);
+        const std::string all = rewritten(all_classes(), text);
+        everyday.set_all(true);
+        everyday.set(everyday_class, false);
+        EXPECT_NE(rewritten(everyday, text), all) << name_of(everyday_class);
+        EXPECT_EQ(everyday_class_of(name_of(everyday_class)), everyday_class);
+    }
+    EXPECT_FALSE(everyday_class_of("none"));
+}
+
+TEST(Everyday, AmericanDatesPutTheMonthFirst) {
+    Everyday everyday = all_classes();
+    EXPECT_EQ(rewritten(everyday, "3/1/2020"), "the third of January twenty twenty");
+    everyday.set_american_dates(true);
+    EXPECT_EQ(rewritten(everyday, "3/1/2020"), "March first twenty twenty");
+}
+
+}  // namespace
+}  // namespace kavi

@@ -1,0 +1,16 @@
+// Texts beside the words that are expected of them.
+#ifndef KAVI_TOOL_CHECK_H
+#define KAVI_TOOL_CHECK_H
+
+#include "options.h"
+
+namespace kavi::tool {
+
+// Reads lines "text<TAB>words", with more tabs before other words that will do; "#" begins a
+// remark. Words are compared without regard to case. Writes where others are spoken, the words one
+// under the other, and how many are as expected. The exit status: 0 when all are.
+int run_check(const Options& options);
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_CHECK_H

@@ -1,0 +1,151 @@
+// Telephone numbers, e-mail and web addresses.
+
+#include <algorithm>
+
+#include "rules.h"
+#include "spoken_numbers.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+// Telephone numbers as people write them: "d" is a digit. The longest first of those that begin
+// alike.
+constexpr std::string_view SHAPES[] = {
+    "+d (ddd) ddd-dddd", "+d-ddd-ddd-dddd",  "+d ddd-ddd-dddd",  "+d ddd ddd dddd",
+    "+dd dddd dddddd",   "+dd dd dddd dddd", "+dd ddd ddd dddd", "(ddd) ddd-dddd",
+    "d-ddd-ddd-dddd",    "ddd-ddd-dddd",     "ddd.ddd.dddd",     "ddd dddd dddd",
+    "ddd-dddd",
+};
+
+constexpr std::string_view DOMAINS[] = {"com", "org",  "net", "edu", "gov", "io", "uk", "de",
+                                        "co",  "info", "ie",  "ca",  "au",  "fr", "eu", "us"};
+
+bool has_shape(const Place& place, std::string_view shape) {
+    for (std::size_t i = 0; i < shape.size(); ++i) {
+        const char c = place.peek(i);
+        if (shape[i] == 'd' ? !is_digit(c) : c != shape[i]) return false;
+    }
+    const char after = place.peek(shape.size());
+    return !is_digit(after) && !is_of_word(after) &&
+           !((after == '-' || after == '.') && is_digit(place.peek(shape.size() + 1)));
+}
+
+void say_group(std::string_view digits, std::string& out) {
+    if (digits == "800" || digits == "900") {
+        say_digits(digits.substr(0, 1), out);
+        return say("hundred", out);
+    }
+    say_digits(digits, out);
+}
+
+// Of a name, so that a text that is nothing else is not looked at from each of its words to its end.
+constexpr std::size_t LONGEST = 254;
+
+bool is_of_address(char c) {
+    return is_letter(c) || is_digit(c) || c == '.' || c == '-' || c == '_' || c == '+' || c == '%';
+}
+
+struct MarkRow {
+    char mark;
+    const char* spoken;
+};
+constexpr MarkRow MARKS[] = {
+    {'.', "dot"},   {'-', "dash"},    {'_', "underscore"}, {'+', "plus"},          {'@', "at"},
+    {'/', "slash"}, {'%', "percent"}, {'~', "tilde"},      {'?', "question mark"}, {'=', "equals"},
+    {'&', "and"},   {'#', "hash"},    {':', "colon"}};
+
+// An address, piece by piece: words as they are, digits one by one, marks by name.
+void say_address(std::string_view address, std::string& out) {
+    while (!address.empty()) {
+        const Place place = {address, 0};
+        std::size_t length = 1;
+        if (is_letter(address[0])) {
+            length = place.letters().size();
+            if (address.substr(0, length) == "www") {
+                say("w w w", out);
+            } else {
+                say(address.substr(0, length), out);
+            }
+        } else if (is_digit(address[0])) {
+            length = place.digits().size();
+            say_digits(address.substr(0, length), out);
+        } else {
+            for (const MarkRow& row : MARKS) {
+                if (row.mark == address[0]) say(row.spoken, out);
+            }
+        }
+        address.remove_prefix(length);
+    }
+}
+
+// Without full stops and the like at its end, which are the sentence's.
+std::string_view trimmed(std::string_view address) {
+    while (!address.empty() && !is_letter(address.back()) && !is_digit(address.back()) &&
+           address.back() != '/') {
+        address.remove_suffix(1);
+    }
+    return address;
+}
+
+bool ends_in_domain(std::string_view host) {
+    const std::size_t dot = host.rfind('.');
+    if (dot == std::string_view::npos || dot == 0) return false;
+    const std::string_view last = host.substr(dot + 1);
+    return std::find(std::begin(DOMAINS), std::end(DOMAINS), last) != std::end(DOMAINS);
+}
+
+}  // namespace
+
+void read_telephone(const Place& place, Found& found) {
+    const char c = place.peek();
+    if (!is_digit(c) && c != '+' && c != '(') return;
+    if (place.before() == '-' || place.before() == '.' || is_digit(place.before())) return;
+    for (const std::string_view shape : SHAPES) {
+        if (!has_shape(place, shape)) continue;
+        if (shape == "ddd dddd dddd" && c != '0') continue;
+        found.length = shape.size();
+        if (c == '+') say("plus", found.words);
+        for (std::size_t at = 0; at < shape.size(); ++at) {
+            if (!is_digit(place.peek(at))) continue;
+            const std::string_view group = place.digits(at);
+            say_group(group, found.words);
+            at += group.size() - 1;
+        }
+        return;
+    }
+}
+
+// Where an address may begin, with what no word of a sentence has in it.
+void read_address(const Place& place, Found& found) {
+    std::size_t scheme = 0;
+    if (place.starts_with("https://")) scheme = 8;
+    if (place.starts_with("http://")) scheme = 7;
+    std::string_view name = place.part(scheme, place.run(is_of_address, scheme, LONGEST));
+    const bool is_mail = scheme == 0 && place.peek(name.size()) == '@';
+    if (is_mail) {
+        const std::string_view host =
+            trimmed(place.part(name.size() + 1, place.run(is_of_address, name.size() + 1, LONGEST)));
+        if (host.find('.') == std::string_view::npos) return;
+        found.length = name.size() + 1 + host.size();
+        return say_address(place.part(0, found.length), found.words);
+    }
+    const std::string_view host = trimmed(name);
+    if (host.find('.') == std::string_view::npos) return;
+    if (scheme == 0 && host.substr(0, 4) != "www." && !ends_in_domain(host)) return;
+    std::size_t length = scheme + host.size();
+    if (place.peek(length) == '/') {
+        const auto is_of_path = [](char c) {
+            return c > ' ' && c < 127 && c != '<' && c != '"' && c != ')';
+        };
+        length += trimmed(place.part(length, place.run(is_of_path, length))).size();
+        if (place.part(0, length).back() == '/') --length;
+        found.length = length + 1;
+        if (place.peek(length) != '/') found.length = length;
+    } else {
+        found.length = length;
+    }
+    say_address(place.part(scheme, length - scheme), found.words);
+}
+
+}  // namespace kavi::everyday

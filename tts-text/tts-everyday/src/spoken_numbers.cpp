@@ -1,0 +1,137 @@
+#include "spoken_numbers.h"
+
+#include <algorithm>
+
+#include "numbers/number_words.h"
+#include "place.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+// Words of the engine's operations have blanks of their own.
+void say_reading(const tn::Reading& reading, std::string& out) {
+    std::string_view rest = reading.text();
+    while (!rest.empty()) {
+        const std::string_view word = rest.substr(0, rest.find(' '));
+        if (!word.empty()) say(word, out);
+        rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+    }
+}
+
+struct OrdinalRow {
+    std::string_view cardinal;
+    std::string_view ordinal;
+};
+
+// The last words of cardinals that do not just get a "th".
+constexpr OrdinalRow ORDINALS[] = {
+    {"one", "first"},    {"two", "second"}, {"three", "third"},    {"five", "fifth"},
+    {"eight", "eighth"}, {"nine", "ninth"}, {"twelve", "twelfth"},
+};
+
+constexpr const char* MONTHS[] = {"January",   "February", "March",    "April",
+                                  "May",       "June",     "July",     "August",
+                                  "September", "October",  "November", "December"};
+
+constexpr std::string_view DIGITS[] = {"zero", "one", "two",   "three", "four",
+                                       "five", "six", "seven", "eight", "nine"};
+
+}  // namespace
+
+void say(std::string_view words, std::string& out) {
+    if (!out.empty() && out.back() != ' ') out += ' ';
+    out += words;
+}
+
+void say_cardinal(std::string_view digits, std::string& out) {
+    constexpr std::size_t LONGEST = 12;
+    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
+    if (digits.empty()) return say("zero", out);
+    if (digits.size() > LONGEST) return say_digits(digits, out);
+    char buffer[WORD_MAX_LEN] = "";
+    tn::Reading reading(buffer);
+    // A group of zeros has no words, not even its scale.
+    while (!digits.empty()) {
+        const std::size_t groups_after = (digits.size() - 1) / tn::GROUP_DIGITS;
+        const std::size_t length = digits.size() - groups_after * tn::GROUP_DIGITS;
+        const std::string_view group = digits.substr(0, length);
+        if (group.find_first_not_of('0') != std::string_view::npos) {
+            tn::append_cardinal(group, reading);
+            if (groups_after > 0) reading.append(tn::scale_word(groups_after));
+        }
+        digits.remove_prefix(length);
+    }
+    say_reading(reading, out);
+}
+
+void say_ordinal(std::string_view digits, std::string& out) {
+    say_cardinal(digits, out);
+    const std::size_t begin = out.rfind(' ') + 1;
+    const std::string last = out.substr(begin);
+    for (const OrdinalRow& row : ORDINALS) {
+        if (last == row.cardinal)
+            return static_cast<void>(out.replace(begin, last.size(), row.ordinal));
+    }
+    if (out.back() == 'y') out.replace(out.size() - 1, 1, "ie");
+    out += "th";
+}
+
+void say_digits(std::string_view digits, std::string& out) {
+    for (const char c : digits) say(DIGITS[c - '0'], out);
+}
+
+void say_year(std::string_view year, std::string& out) {
+    const std::string_view century = year.substr(0, 2);
+    const std::string_view rest = year.substr(2);
+    if (year.substr(1, 2) == "00") return say_cardinal(year, out);
+    say_cardinal(century, out);
+    if (rest == "00") return say("hundred", out);
+    if (rest[0] == '0') say("oh", out);
+    say_cardinal(rest, out);
+}
+
+void say_decimal(std::string_view whole, std::string_view fraction, std::string& out) {
+    say_cardinal(whole, out);
+    if (fraction.empty()) return;
+    say("point", out);
+    say_digits(fraction, out);
+}
+
+Number number_at(std::string_view text) {
+    const Place place = {text, 0};
+    Number number;
+    number.whole = place.digits();
+    number.length = number.whole.size();
+    if (number.length == 0) return number;
+    while (number.whole.size() - (number.has_commas ? 3 : 0) <= 12 && number.length <= 15 &&
+           (number.has_commas || number.length <= 3) && place.peek(number.length) == ',' &&
+           place.digits(number.length + 1).size() == 3) {
+        number.whole += place.digits(number.length + 1);
+        number.length += 4;
+        number.has_commas = true;
+    }
+    if (place.peek(number.length) == '.' && is_digit(place.peek(number.length + 1))) {
+        number.fraction = place.digits(number.length + 1);
+        number.length += 1 + number.fraction.size();
+    }
+    return number;
+}
+
+int month_number(std::string_view name) {
+    constexpr std::size_t SHORTEST = 3;
+    if (name.size() < SHORTEST || !is_upper(name[0])) return 0;
+    for (int i = 0; i < 12; ++i) {
+        if (MONTHS[i][0] != name[0]) continue;
+        const std::string_view month = MONTHS[i];
+        const bool is_short = name.size() == SHORTEST || name == "Sept";
+        if (name == month || (is_short && month.substr(0, name.size()) == name)) return i + 1;
+    }
+    return 0;
+}
+
+const char* month_word(int number) {
+    return MONTHS[number - 1];
+}
+
+}  // namespace kavi::everyday

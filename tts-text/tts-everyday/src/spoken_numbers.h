@@ -1,0 +1,41 @@
+// Numbers as words with single blanks, after what the text holds.
+#ifndef KAVI_EVERYDAY_SPOKEN_NUMBERS_H
+#define KAVI_EVERYDAY_SPOKEN_NUMBERS_H
+
+#include <string>
+#include <string_view>
+
+namespace kavi::everyday {
+
+void say(std::string_view words, std::string& out);
+
+// A number of up to twelve digits, more digit by digit.
+void say_cardinal(std::string_view digits, std::string& out);
+void say_ordinal(std::string_view digits, std::string& out);
+void say_digits(std::string_view digits, std::string& out);
+
+// Of four digits: "nineteen ninety nine", "two thousand five".
+void say_year(std::string_view year, std::string& out);
+
+// "three point one four"; `fraction` may be empty.
+void say_decimal(std::string_view whole, std::string_view fraction, std::string& out);
+
+// A number as it is written: groups of three with commas, and a decimal point.
+struct Number {
+    std::string whole;  // without commas
+    std::string_view fraction;
+    std::size_t length = 0;  // as written; 0 for none
+    bool has_commas = false;
+
+    bool is_one() const { return whole == "1" && fraction.empty(); }
+    void say(std::string& out) const { say_decimal(whole, fraction, out); }
+};
+Number number_at(std::string_view text);
+
+// The number of a month's name or abbreviation, from 1; 0 for none. Its name, from 1.
+int month_number(std::string_view name);
+const char* month_word(int number);
+
+}  // namespace kavi::everyday
+
+#endif  // KAVI_EVERYDAY_SPOKEN_NUMBERS_H

@@ -1,0 +1,109 @@
+// Times of day.
+
+#include "rules.h"
+#include "spoken_numbers.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+// "p.m.", "pm", "PM" so far on, past a blank, with its length; null for none.
+const char* half_of_day(const Place& place, std::size_t ahead, std::size_t& length) {
+    const std::size_t blank = place.peek(ahead) == ' ' ? 1 : 0;
+    const std::size_t at = ahead + blank;
+    const char first = to_lower(place.peek(at));
+    if (first != 'a' && first != 'p') return nullptr;
+    const bool has_stops = place.peek(at + 1) == '.' && to_lower(place.peek(at + 2)) == 'm';
+    const bool has_none = to_lower(place.peek(at + 1)) == 'm' && !is_of_word(place.peek(at + 2));
+    if (!has_stops && !has_none) return nullptr;
+    length = blank + (has_stops ? 3 : 2);
+    if (has_stops && place.peek(at + 3) == '.' && !place.may_end_sentence(at + 4)) ++length;
+    return first == 'a' ? "a m" : "p m";
+}
+
+// The hour, minutes and seconds that are written so far on; the length of all, 0 for none.
+struct Clock {
+    std::string_view hour;
+    std::string_view minutes;
+    std::string_view seconds;
+    std::size_t length = 0;
+};
+
+Clock clock_at(const Place& place, std::size_t ahead) {
+    Clock clock;
+    clock.hour = place.digits(ahead);
+    if (clock.hour.empty() || clock.hour.size() > 2 ||
+        clock.hour > (clock.hour.size() == 2 ? "24" : "9"))
+        return {};
+    std::size_t end = ahead + clock.hour.size();
+    const auto two_digits = [&]() -> std::string_view {
+        if (place.peek(end) != ':') return {};
+        const std::string_view digits = place.digits(end + 1);
+        if (digits.size() != 2 || digits > "59") return {};
+        end += 3;
+        return digits;
+    };
+    clock.minutes = two_digits();
+    if (!clock.minutes.empty()) clock.seconds = two_digits();
+    clock.length = end - ahead;
+    return clock;
+}
+
+void say_clock(const Clock& clock, bool has_half, std::string& out) {
+    if (!clock.seconds.empty()) {
+        say_cardinal(clock.hour, out);
+        say(clock.hour == "1" ? "hour" : "hours", out);
+        say_cardinal(clock.minutes, out);
+        say("minutes", out);
+        say_cardinal(clock.seconds, out);
+        return say("seconds", out);
+    }
+    say_cardinal(clock.hour, out);
+    if (clock.minutes.empty() || (clock.minutes == "00" && has_half)) return;
+    if (clock.minutes == "00")
+        return say(clock.hour.size() == 2 && clock.hour > "12" ? "hundred" : "oclock", out);
+    if (clock.minutes[0] == '0') say("oh", out);
+    say_cardinal(clock.minutes, out);
+}
+
+}  // namespace
+
+void read_time(const Place& place, Found& found) {
+    const Clock first = clock_at(place, 0);
+    if (first.length == 0) return;
+    std::size_t end = first.length;
+    std::size_t half_length = 0;
+    const char* half = half_of_day(place, end, half_length);
+    // "9-5 p.m.", "9:00–17:00"
+    const std::size_t after_half = end + (half != nullptr ? half_length : 0);
+    const std::size_t dash = place.starts_with("\xe2\x80\x93", after_half) ? 3
+                             : place.peek(after_half) == '-'               ? 1
+                                                                           : 0;
+    const Clock last = dash > 0 ? clock_at(place, after_half + dash) : Clock{};
+    if (last.length > 0) {
+        std::size_t last_half_length = 0;
+        const std::size_t last_end = after_half + dash + last.length;
+        const char* last_half = half_of_day(place, last_end, last_half_length);
+        const bool is_time =
+            last_half != nullptr || (!first.minutes.empty() && !last.minutes.empty());
+        if (is_time) {
+            say_clock(first, half != nullptr || last_half != nullptr, found.words);
+            if (half != nullptr) say(half, found.words);
+            say("to", found.words);
+            say_clock(last, last_half != nullptr, found.words);
+            if (last_half != nullptr) say(last_half, found.words);
+            found.length = last_end + (last_half != nullptr ? last_half_length : 0);
+            return;
+        }
+    }
+    if (half == nullptr && first.minutes.empty()) return;
+    if (half == nullptr && is_of_word(place.peek(end))) return;
+    say_clock(first, half != nullptr, found.words);
+    if (half != nullptr) {
+        say(half, found.words);
+        end += half_length;
+    }
+    found.length = end;
+}
+
+}  // namespace kavi::everyday

@@ -39,9 +39,9 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
     for (int i = 1; i < sentence.n_records; ++i) {
         const WordPlace& place = sentence.places.of_record(i);
         if (place.source.offset < offset) return "words out of order";
-        // A tag that is opened again may be no tag to the builder.
-        const bool is_of_tag = sentence.records[i].syllable[0] == '<';
-        if (place.source.length == 0 && !is_of_tag) return "a word from nowhere";
+        // A tag that is opened again may be words to the builder.
+        const bool opens_again = sentence.places.pieces()[0].source.length == 0;
+        if (place.source.length == 0 && !opens_again) return "a word from nowhere";
         if (place.source.offset + place.source.length > end) return "a word of another sentence";
         if (sentence.speakable[place.at] != sentence.records[i].syllable[0]) return "no such word";
         offset = place.source.offset;

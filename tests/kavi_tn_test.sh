@@ -49,6 +49,9 @@ done <<'TABLE'
 --format jsonl --fields ,|--fields: takes names of fields with commas between them, not ","
 TABLE
 expect 'help' 'Usage: kavi-tn [OPTION]... [-t TEXT] [FILE]...' "$("$tool" --help --words | head -n 1)"
+expect 'version' 1 "$("$tool" --version | grep -cE '^kavi-tn [0-9]+\.[0-9]+\.[0-9]+$')"
+expect 'the most threads, and the usual stage' 'a  two' "$("$tool" -j 256 --speakable -t 'a 2')"
+expect 'nothing but the text' 'a' "$(echo b | "$tool" -t a)"
 expect 'the last of repeated options' '{"line":1}' \
     "$("$tool" -j 9 -j 0 --format html --format jsonl --fields plain --fields line -t b -t a)"
 expect 'a line for each text' $'a b, c\n\nd' "$(printf 'a b, c\n\nd' | "$tool" --plain)"
@@ -66,6 +69,10 @@ echo 'a</poem>' >$'new\nline\033[31m'
 expect 'a name with control characters' \
     '"new\nline\x1b[31m":1: byte 1: this closing tag closes nothing; it is left out' \
     "$(said "$tool" $'new\nline\033[31m')"
+echo 'a</poem>' >$'q"\\\377\n'
+expect 'a name that is no UTF-8' '"q\"\\\xff\n":1: byte 1: this closing tag closes nothing; it is left out' \
+    "$(said "$tool" $'q"\\\377\n')"
+expect 'tabs and line ends are text' '' "$(printf 'a\tb\tc\r\n\t\r\n' | said "$tool")"
 gzip -k in && printf '\1\2\3 \4\5\n' >binary
 expect 'a compressed input' \
     'kavi-tn: in.gz: seems to be compressed; read it by: gzip -dc FILE | kavi-tn' "$(said "$tool" in.gz)"
@@ -88,12 +95,13 @@ expect 'an interrupt leaves whole lines' 0 "$(tail -c 1 cut.out | od -An -c | tr
 echo a >out
 for signal in INT TERM; do
     # A shell script has its background commands ignore SIGINT.
-    mkfifo pipe && { env --default-signal=INT "$tool" pipe -o out 2>/dev/null & } &&
+    mkfifo pipe && { env --default-signal=INT "$tool" pipe -o out 2>err & } &&
         exec 3>pipe && echo a >&3
     sleep 0.3 && kill -$signal $! && { wait $!; ended=$?; }
     exec 3>&- && rm pipe
     expect "the exit status of an interrupt by $signal" $((128 + $(kill -l $signal))) "$ended"
     expect "a file that was to be written, after $signal" 'a' "$(cat out)"
+    expect "what is said of it" 'kavi-tn: interrupted after 1 texts; out is as it was' "$(cat err)"
 done
 # The output blocks, and the program ends all the same.
 mkfifo pipe && exec 3<>pipe
@@ -134,6 +142,38 @@ print(told, first, second, os.waitpid(child, 0)[1])
 PYTHON
 )
 expect 'a terminal' 'True True True 0' "$terminal"
+
+# Progress and colours on a terminal that has them.
+terminal=$(python3 - "$tool" <<'PYTHON'
+import os, pty, re, sys
+def told(arguments, **environment):
+    child, terminal = pty.fork()
+    if child == 0:
+        os.environ.pop("NO_COLOR", None)
+        os.environ.update(TERM="xterm", **environment)
+        os.dup2(os.open("/dev/null", os.O_WRONLY), 1)
+        os.execv(sys.argv[1], [sys.argv[1], *arguments])
+    text = b""
+    try:
+        while part := os.read(terminal, 10000):
+            text += part
+    except OSError:
+        pass
+    os.waitpid(child, 0)
+    return text.decode()
+files = ["corpus"] * (12000000 // os.path.getsize("corpus"))
+size = len(files) * os.path.getsize("corpus") / 1e6
+lines = told(files).split("\r")
+shown = [re.fullmatch(r"([\d.]+) of ([\d.]+) MB, ([\d.]+) MB/s, (\d+) s left\x1b\[K", line) for line in lines]
+shown = [found for found in shown if found]
+steps = [float(found[1]) for found in shown]
+print(len(shown) > 0, all(found[2] == f"{size:.1f}" for found in shown), steps == sorted(steps),
+      lines[-1] == "\x1b[K", told(["-t", "a</poem>"])[:5] == "\x1b[33m",
+      told(["-t", "a</poem>"], NO_COLOR="")[:5] == "\x1b[33m",
+      "\x1b" in told(["-t", "a</poem>"], NO_COLOR="1") + told([files[0], "missing"], TERM="dumb"))
+PYTHON
+)
+expect 'progress and colours' 'True True True True True True False' "$terminal"
 limited() { (ulimit -v 600000; "$@"); }
 if [ -z "${KAVI_TEST_TEXTS:-}" ] && limited "$tool" --version >/dev/null 2>&1; then # a sanitizer alone takes more
     expect 'no memory for a line' 'kavi-tn: not enough memory' \

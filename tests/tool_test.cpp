@@ -187,6 +187,12 @@ TEST_F(Files, OutputTakesItsNameWhenAllIsWritten) {
     EXPECT_EQ(full.write("a"), ENOSPC);
 }
 
+TEST(Findings, CharactersAreNamedOnceEach) {
+    const std::string_view text = "a\xc3\xa9\xe2\x82\xac\xc3\xa9";
+    EXPECT_EQ(describe({1, Finding::not_spoken, 7}, text),
+              "\"\xc3\xa9\" U+00E9, \"\xe2\x82\xac\" U+20AC are not spoken");
+}
+
 TEST(Findings, OfAKindAreWrittenAndThenCounted) {
     FindingsReport report;
     EXPECT_EQ(report.summary(), "kavi-tn: no findings\n");

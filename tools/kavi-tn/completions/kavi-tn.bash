@@ -11,11 +11,13 @@ _kavi_tn() {
             [[ $current == *,* ]] && before=${current%,*},
             mapfile -t COMPREPLY < <(compgen -P "$before" -W "input line sentence offset length source
                 normalized speakable plain words findings runs" -- "${current##*,}") && return ;;
+        --without) mapfile -t COMPREPLY < <(compgen -W "titles contractions currencies units years times
+                addresses roman numbers letters shields" -- "$current") && return ;;
         -t | --text | -j | --jobs) return ;;
     esac
     case $current in
         -*) mapfile -t COMPREPLY < <(compgen -W "-t --text -o --output -0 --null -j --jobs --strict
-            --summary --format --fields --sentences --speakable --plain --words --explain -h --help
+            --summary --format --fields --lexicon --everyday --without --american-dates --check --sentences --speakable --plain --words --explain -h --help
             --version" -- "$current") ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     esac

@@ -1,5 +1,5 @@
-// Everyday English and a lexicon, before the engine: with nothing on, every byte is as without; with
-// all on, places hold and whatever was written is covered.
+// Everyday English and a lexicon, before the engine: with nothing on, every byte is as without;
+// with all on, places hold and whatever was written is covered.
 
 #include <cstdint>
 

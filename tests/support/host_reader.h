@@ -26,7 +26,8 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
         at += piece.length;
         // What was rewritten may be the source of several pieces.
         offset = piece.source.offset + (piece.rule == nullptr ? piece.source.length : 0);
-        if (piece.source.offset + piece.source.length > end) return "a piece is not of this sentence";
+        if (piece.source.offset + piece.source.length > end)
+            return "a piece is not of this sentence";
         std::string copy(text.substr(piece.source.offset, piece.source.length));
         std::replace(copy.begin(), copy.end(), '\0', ' ');
         const bool is_copy = piece.rule == nullptr && piece.length > 1;

@@ -39,7 +39,8 @@ void say_group(std::string_view digits, std::string& out) {
     say_digits(digits, out);
 }
 
-// Of a name, so that a text that is nothing else is not looked at from each of its words to its end.
+// Of a name, so that a text that is nothing else is not looked at from each of its words to its
+// end.
 constexpr std::size_t LONGEST = 254;
 
 bool is_of_address(char c) {
@@ -124,8 +125,8 @@ void read_address(const Place& place, Found& found) {
     std::string_view name = place.part(scheme, place.run(is_of_address, scheme, LONGEST));
     const bool is_mail = scheme == 0 && place.peek(name.size()) == '@';
     if (is_mail) {
-        const std::string_view host =
-            trimmed(place.part(name.size() + 1, place.run(is_of_address, name.size() + 1, LONGEST)));
+        const std::string_view host = trimmed(
+            place.part(name.size() + 1, place.run(is_of_address, name.size() + 1, LONGEST)));
         if (host.find('.') == std::string_view::npos) return;
         found.length = name.size() + 1 + host.size();
         return say_address(place.part(0, found.length), found.words);

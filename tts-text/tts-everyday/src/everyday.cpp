@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "markup/markup_tags.h"
+#include "for_everyday.h"
 #include "rules.h"
 #include "tts_everyday.h"
 

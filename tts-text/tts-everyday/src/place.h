@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "common/ascii.h"
+#include "for_everyday.h"
 
 namespace kavi::everyday {
 

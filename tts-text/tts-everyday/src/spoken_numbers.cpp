@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "numbers/number_words.h"
+#include "for_everyday.h"
 #include "place.h"
 
 namespace kavi::everyday {

@@ -1,5 +1,5 @@
-// What the layer before the engine may use of its inside, and nothing else: what a letter is, the words
-// of numbers, and the markup tags that it leaves alone.
+// What the layer before the engine may use of its inside, and nothing else: what a letter is, the
+// words of numbers, and the markup tags that it leaves alone.
 #ifndef KAVI_TN_FOR_EVERYDAY_H
 #define KAVI_TN_FOR_EVERYDAY_H
 

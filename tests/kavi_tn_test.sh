@@ -150,7 +150,7 @@ def told(arguments, **environment):
     child, terminal = pty.fork()
     if child == 0:
         os.environ.pop("NO_COLOR", None)
-        os.environ.update(TERM="xterm", **environment)
+        os.environ.update({"TERM": "xterm", **environment})
         os.dup2(os.open("/dev/null", os.O_WRONLY), 1)
         os.execv(sys.argv[1], [sys.argv[1], *arguments])
     text = b""
@@ -163,17 +163,21 @@ def told(arguments, **environment):
     return text.decode()
 files = ["corpus"] * (12000000 // os.path.getsize("corpus"))
 size = len(files) * os.path.getsize("corpus") / 1e6
-lines = told(files).split("\r")
+text = told([*files, "in"])  # with a message at the end
+lines = text.split("\r")
 shown = [re.fullmatch(r"([\d.]+) of ([\d.]+) MB, ([\d.]+) MB/s, (\d+) s left\x1b\[K", line) for line in lines]
 shown = [found for found in shown if found]
 steps = [float(found[1]) for found in shown]
+seconds_left = [(size - float(found[1])) / float(found[3]) - int(found[4]) for found in shown]
 print(len(shown) > 0, all(found[2] == f"{size:.1f}" for found in shown), steps == sorted(steps),
-      lines[-1] == "\x1b[K", told(["-t", "a</poem>"])[:5] == "\x1b[33m",
+      max(map(abs, seconds_left), default=9) < 1.1, "left\x1b[K\x1b[33m" not in text,
+      "left" not in told([*files, "/dev/null"]), told(["-t", "a"]) == "",
+      told(["-t", "a</poem>"])[:5] == "\x1b[33m",
       told(["-t", "a</poem>"], NO_COLOR="")[:5] == "\x1b[33m",
       "\x1b" in told(["-t", "a</poem>"], NO_COLOR="1") + told([files[0], "missing"], TERM="dumb"))
 PYTHON
 )
-expect 'progress and colours' 'True True True True True True False' "$terminal"
+expect 'progress and colours' 'True True True True True True True True True False' "$terminal"
 limited() { (ulimit -v 600000; "$@"); }
 if [ -z "${KAVI_TEST_TEXTS:-}" ] && limited "$tool" --version >/dev/null 2>&1; then # a sanitizer alone takes more
     expect 'no memory for a line' 'kavi-tn: not enough memory' \

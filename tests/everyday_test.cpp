@@ -8,6 +8,7 @@
 #include "expect_table.h"
 #include "host_reader.h"
 #include "tts_everyday.h"
+#include "tts_explain.h"
 
 namespace kavi {
 namespace {
@@ -67,6 +68,35 @@ TEST(Lexicon, ReadingsStandAtTheirPlacesAcrossSentences) {
     EXPECT_EQ(read.diagnostics[0].offset, 33U);
     EXPECT_EQ(read.diagnostics[1].offset, 44U);
     EXPECT_EQ(read.diagnostics[1].length, 2U);
+}
+
+TEST(Lexicon, IsNamedWithItsLineByAnExplanation) {
+    Lexicon lexicon;
+    std::string error;
+    ASSERT_TRUE(lexicon.add("my.txt", "# a\nMr.\tmister\n", error));
+    Everyday everyday(&lexicon);
+    everyday.set_all(true);
+    TtsHost host;
+    host.rewrite_by(&everyday);
+    std::string rules;
+    host.read(
+        "Mr. 5",
+        [&](const HostSentence& sentence) {
+            for (const ExplainedRun& run : explain(sentence, "Mr. 5")) rules += run.rule + "|";
+            return true;
+        },
+        nullptr);
+    EXPECT_EQ(rules, "lexicon my.txt:2|not spoken|everyday: numbers|");
+}
+
+TEST(Everyday, APlaceInsideWordsIsAllThatTheyWereReadFrom) {
+    RewrittenText text;
+    all_classes().rewrite("a Mr. X", text);
+    EXPECT_EQ(text.text, "a mister X");
+    EXPECT_EQ(text.begin_of(4), 2U);
+    EXPECT_EQ(text.end_of(4), 5U);
+    EXPECT_EQ(text.end_of(2), 2U);
+    EXPECT_EQ(text.end_of(10), 7U);
 }
 
 TEST(Everyday, WithoutAnyClassEveryByteIsAsWithoutIt) {

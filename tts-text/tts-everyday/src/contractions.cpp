@@ -37,12 +37,6 @@ std::size_t apostrophe(const Place& place, std::size_t ahead) {
                                                                                                 : 0;
 }
 
-std::string in_lower_case(std::string_view word) {
-    std::string lower(word);
-    for (char& c : lower) c = to_lower(c);
-    return lower;
-}
-
 // The words as a sentence would begin with them.
 void capitalise(std::string& words) {
     if (is_lower(words[0])) words[0] = static_cast<char>(words[0] - 'a' + 'A');

@@ -103,9 +103,7 @@ void read_currency(const Place& place, Found& found) {
         const std::size_t end = begin + number.length;
         // "$5-10 million": both are of the same.
         const Place after = {place.text, place.at + end};
-        const std::size_t dash = after.starts_with("\xe2\x80\x93") ? 3
-                                 : after.peek() == '-'             ? 1
-                                                                   : 0;
+        const std::size_t dash = after.dash(0);
         const std::size_t second_symbol =
             after.starts_with(row.written, dash) ? row.written.size() : 0;
         const Number second =

@@ -10,14 +10,9 @@ namespace kavi {
 
 namespace {
 
+using everyday::in_lower_case;
 using everyday::is_digit;
 using everyday::is_of_word;
-
-std::string in_lower_case(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) c = everyday::to_lower(c);
-    return lower;
-}
 
 // Of the text in lower case.
 std::size_t hash_of(std::string_view text) {

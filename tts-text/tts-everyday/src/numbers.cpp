@@ -7,11 +7,6 @@ namespace kavi::everyday {
 
 namespace {
 
-std::size_t dash_at(const Place& place, std::size_t ahead) {
-    if (place.starts_with("\xe2\x80\x93", ahead)) return 3;
-    return place.peek(ahead) == '-' ? 1 : 0;
-}
-
 struct WordsRow {
     std::string_view written;
     const char* spoken;
@@ -124,7 +119,7 @@ void read_number(const Place& place, Found& found) {
         number.whole.size() > 1 && number.whole[0] == '0' && number.fraction.empty();
     is_code ? say_digits(number.whole, found.words) : number.say(found.words);
     // "10-20", "3–2"
-    if (const std::size_t dash = dash_at(place, end); dash > 0 && place.before() != '-') {
+    if (const std::size_t dash = place.dash(end); dash > 0 && place.before() != '-') {
         const Number last = number_at(place.rest(end + dash));
         if (last.length > 0) {
             say("to", found.words);

@@ -3,6 +3,7 @@
 #define KAVI_EVERYDAY_PLACE_H
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "for_everyday.h"
@@ -22,6 +23,12 @@ inline bool is_outside_ascii(char c) {
 // What makes a word: letters, of ASCII or not.
 inline bool is_of_word(char c) {
     return is_letter(c) || is_outside_ascii(c);
+}
+
+inline std::string in_lower_case(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower) c = to_lower(c);
+    return lower;
 }
 
 struct Place {
@@ -60,6 +67,12 @@ struct Place {
     }
     std::string_view digits(std::size_t ahead = 0) const {
         return part(ahead, run(is_digit, ahead));
+    }
+
+    // The length of a hyphen or an en dash so far on; 0 for none.
+    std::size_t dash(std::size_t ahead) const {
+        if (starts_with("\xe2\x80\x93", ahead)) return 3;
+        return peek(ahead) == '-' ? 1 : 0;
     }
 
     // The word before, past the blanks between; empty when something else stands there.

@@ -76,9 +76,7 @@ void read_time(const Place& place, Found& found) {
     const char* half = half_of_day(place, end, half_length);
     // "9-5 p.m.", "9:00–17:00"
     const std::size_t after_half = end + (half != nullptr ? half_length : 0);
-    const std::size_t dash = place.starts_with("\xe2\x80\x93", after_half) ? 3
-                             : place.peek(after_half) == '-'               ? 1
-                                                                           : 0;
+    const std::size_t dash = place.dash(after_half);
     const Clock last = dash > 0 ? clock_at(place, after_half + dash) : Clock{};
     if (last.length > 0) {
         std::size_t last_half_length = 0;

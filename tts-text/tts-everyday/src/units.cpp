@@ -91,9 +91,7 @@ void read_unit(const Place& place, Found& found) {
     Number number = number_at(place.rest(0));
     std::size_t end = number.length;
     Number second;  // of a range
-    const std::size_t dash = place.starts_with("\xe2\x80\x93", end) ? 3
-                             : place.peek(end) == '-'               ? 1
-                                                                    : 0;
+    const std::size_t dash = place.dash(end);
     if (dash > 0) second = number_at(place.rest(end + dash));
     if (second.length > 0) end += dash + second.length;
     const std::size_t blank = place.peek(end) == ' ' || place.peek(end) == '-' ? 1 : 0;

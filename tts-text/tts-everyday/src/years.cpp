@@ -13,11 +13,6 @@ constexpr std::string_view BEFORE_YEAR[] = {
     "after",  "After",  "before", "Before", "year",  "circa", "to",  "and",    "during", "spring",
     "summer", "autumn", "fall",   "winter", "early", "late",  "mid", "around", "Around", "about"};
 
-std::size_t dash_at(const Place& place, std::size_t ahead) {
-    if (place.starts_with("\xe2\x80\x93", ahead)) return 3;
-    return place.peek(ahead) == '-' ? 1 : 0;
-}
-
 bool is_year(std::string_view digits) {
     return digits.size() == 4 && (digits[0] == '1' || digits.substr(0, 2) == "20");
 }
@@ -160,7 +155,7 @@ void read_month_first(const Place& place, Found& found) {
     std::size_t end = 0;
     const std::string_view year = year_after(place, digits_end + suffix, end);
     // "May 5-7"
-    const std::size_t dash = year.empty() ? dash_at(place, end) : 0;
+    const std::size_t dash = year.empty() ? place.dash(end) : 0;
     const std::string_view last = dash > 0 ? place.digits(end + dash) : std::string_view();
     if (is_value(last, 1, 31)) {
         say_month_first(month, digits, {}, found.words);
@@ -197,7 +192,7 @@ void read_day_first(const Place& place, Found& found) {
 
 // "2010-2015", "1914–18".
 bool read_range(const Place& place, std::string_view year, Found& found) {
-    const std::size_t dash = dash_at(place, year.size());
+    const std::size_t dash = place.dash(year.size());
     if (dash == 0 || !is_year(year)) return false;
     const std::string_view last = place.digits(year.size() + dash);
     const bool is_short = last.size() == 2 && last > year.substr(2);

@@ -64,8 +64,6 @@ void read_roman(const Place& place, Found& found) {
     if (value == 0 || is_outside_ascii(after) || after == '\'') return;
     const std::string_view before = place.word_before();
     if (is_one_of(before, RULERS)) {
-        // "When George I saw": a verb would follow a pronoun, a numeral ends or goes on with a
-        // name.
         say("the", found.words);
         say_ordinal(std::to_string(value), found.words);
     } else if (is_one_of(before, COUNTED)) {

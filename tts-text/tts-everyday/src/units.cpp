@@ -99,8 +99,7 @@ void read_unit(const Place& place, Found& found) {
         if (!place.starts_with(row.written, end + blank)) continue;
         const std::size_t after = end + blank + row.written.size();
         if (is_letter(place.peek(after)) || is_digit(place.peek(after))) continue;
-        // "5 s" is no unit where an apostrophe or a full stop between letters follows.
-        if (row.written.size() == 1 && blank == 0 && row.written == "s") continue;
+        if (row.written == "s" && blank == 0) continue;  // a plural: "the 5s"
         number.say(found.words);
         if (second.length > 0) {
             say("to", found.words);

@@ -37,6 +37,8 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
     }
     if (at != sentence.normalized.size()) return "the pieces are not the sentence";
     offset = begin;
+    const std::size_t head = sentence.places.of_record(0).source.offset;
+    if (head < begin || head > end) return "the head record is of another sentence";
     for (int i = 1; i < sentence.n_records; ++i) {
         const WordPlace& place = sentence.places.of_record(i);
         if (place.source.offset < offset) return "words out of order";

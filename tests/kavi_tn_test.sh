@@ -46,9 +46,24 @@ done <<'TABLE'
 --plain --format html|--plain goes with --format text alone
 --fields line|--fields goes with --format jsonl alone
 --format jsonl --fields line,x|--fields: takes names of fields with commas between them, not "line,x"
+--without titles|--without goes with --everyday alone
+--american-dates|--american-dates goes with --everyday alone
+--everyday --without x|--without: takes names of classes with commas between them, not "x"
+--check --words|--check goes with files of lines and with --lexicon and --everyday alone
+--check -o out|--check goes with files of lines and with --lexicon and --everyday alone
+--lexicon missing|missing: cannot be read: No such file or directory
 --format jsonl --fields ,|--fields: takes names of fields with commas between them, not ","
 TABLE
 expect 'help' 'Usage: kavi-tn [OPTION]... [-t TEXT] [FILE]...' "$("$tool" --help --words | head -n 1)"
+printf '5\tfive\na 2\ta three\tA  two\n# b\nDr.\tmister\n' >cases
+expect 'a check' 'cases:4: Dr.|  expected: mister|  spoken:   doctor|2 of 3 as expected' \
+    "$("$tool" --check cases | paste -sd'|')"
+expect 'its status' '1 0' "$(status "$tool" --check cases) $(head -n 3 cases | status "$tool" --check)"
+printf 'Dr.\tdragon\nx\t5\n' >lexicon
+expect 'a bad lexicon' 'kavi-tn: lexicon:2: what is spoken must be words of the letters a to z' \
+    "$(said "$tool" --lexicon lexicon)"
+expect 'a lexicon, and everyday English without a class' 'dragon five kilometres caf' "$(sed -i 2d lexicon
+    "$tool" --plain --everyday --without letters --lexicon lexicon -t 'Dr. 5 km café' 2>/dev/null)"
 expect 'version' 1 "$("$tool" --version | grep -cE '^kavi-tn [0-9]+\.[0-9]+\.[0-9]+$')"
 expect 'the most threads, and the usual stage' 'a  two' "$("$tool" -j 256 --speakable -t 'a 2')"
 expect 'nothing but the text' 'a' "$(echo b | "$tool" -t a)"

@@ -34,15 +34,17 @@ How it is written:
   -o, --output FILE    to FILE, which changes only when all is written, and may be an input
 
 How it is read:
-      --lexicon FILE   with FILE's readings: lines WRITTEN, a tab, SPOKEN
-      --everyday       with rules for everyday English: $1.5 million, 5 km, won't, 1990s, ...
-      --without LIST   of these not: titles,contractions,currencies,units,years,times,addresses,
-                       roman,numbers,letters,shields
-      --american-dates 3/1/2020 is March first
-      --check          FILEs hold TEXT, a tab, the words expected; says where others are spoken
   -t, --text TEXT      read TEXT first
   -0, --null           texts end with a NUL byte instead of a line end
   -j, --jobs N         with N threads, 0 for all processors; the output stays the same
+
+With other readings than the engine's:
+  --lexicon FILE       with FILE's readings: lines WRITTEN, a tab, SPOKEN
+  --everyday           with rules for everyday English: $1.5 million, 5 km, won't, 1990s, ...
+  --without LIST       of these not: titles,contractions,currencies,units,years,times,addresses,
+                       roman,numbers,letters,shields
+  --american-dates     3/1/2020 is March first
+  --check              FILEs hold TEXT, a tab, the words expected; says where others are spoken
 
 What is told beside it, on standard error, as NAME:LINE: byte OFFSET: text:
   --strict             exit with 1 when there is any finding
@@ -177,8 +179,10 @@ class Parser {
                 return option->get_name() + " goes with --everyday alone";
             }
         }
-        if (options_.check && (!stages_.empty() || options_.format != FormatName::text)) {
-            return "--check writes neither stages nor formats";
+        const bool writes_sentences = !stages_.empty() || options_.format != FormatName::text ||
+                                      !options_.output.empty() || null_;
+        if (options_.check && writes_sentences) {
+            return "--check goes with files of lines and with --lexicon and --everyday alone";
         }
         options_.has_text = text_->count() > 0;
         if (null_) options_.delimiter = '\0';

@@ -140,13 +140,11 @@ void read_address(const Place& place, Found& found) {
             return c > ' ' && c < 127 && c != '<' && c != '"' && c != ')';
         };
         length += trimmed(place.part(length, place.run(is_of_path, length))).size();
-        if (place.part(0, length).back() == '/') --length;
-        found.length = length + 1;
-        if (place.peek(length) != '/') found.length = length;
-    } else {
-        found.length = length;
     }
-    say_address(place.part(scheme, length - scheme), found.words);
+    found.length = length;
+    // A slash at the end is not said.
+    const std::size_t spoken = place.peek(length - 1) == '/' ? length - 1 : length;
+    say_address(place.part(scheme, spoken - scheme), found.words);
 }
 
 }  // namespace kavi::everyday

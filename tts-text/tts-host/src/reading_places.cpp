@@ -14,45 +14,54 @@ void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
                    step.output_before());
 }
 
-void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
-                                const std::vector<const char*>& word_begins,
-                                const UtteranceSyllable* records, std::vector<WordPlace>& places) {
-    next_ = next_at_ = copied_end_ = 0;
-    PieceCursor cursor(pieces);
-    places.clear();
-    places.push_back({{cursor.source_of(0, 1).offset, 0}, 0});
-    for (const char* begin : word_begins) {
-        const auto at = static_cast<std::size_t>(begin - speakable_);
-        if (at >= next_at_) go_on_to(at, cursor);
-        const auto length = static_cast<std::size_t>((++records)->syl_len - 1);
-        places.push_back({at < copied_end_ ? TextRange{at + shift_, length} : source_, at});
-    }
-}
-
-// Moves on to the reading that the word at `at` belongs to. A piece that begins with a letter is
-// words that are copied, or one that is written out: then it is longer. Where the text has
+// The word at `at` belongs to this reading, which ends at `end`. A piece that begins with a letter
+// is words that are copied, or one that is written out: then it is longer. Where the text has
 // something left out among words, each of them is looked up.
-void ReadingPlaces::go_on_to(std::size_t at, PieceCursor& pieces) {
-    while (next_ < readings_.size() && readings_[next_].target_at <= at) ++next_;
-    next_at_ = next_ < readings_.size() ? readings_[next_].target_at : SZ_TEXT_MAX_LEN;
-    const Reading& reading = readings_[next_ - 1];
+inline ReadingPlaces::Stretch ReadingPlaces::stretch_at(std::size_t at, const Reading& reading,
+                                                        std::size_t end,
+                                                        PieceCursor& pieces) const {
     const std::size_t length = reading.source.size();
     const auto sentence_at = static_cast<std::size_t>(reading.source.data() - sentence_);
-    source_ = pieces.source_of(sentence_at, length);
-    copied_end_ = 0;
     if (!tn::is_letter(reading.source[0]) ||
         tn::is_letter(speakable_[reading.target_at + length])) {
-        return;
+        return {end, 0, 0, pieces.source_of(sentence_at, length)};
     }
     if (pieces.is_copied(sentence_at, length)) {
-        copied_end_ = reading.target_at + length;
-        shift_ = source_.offset - reading.target_at;
-        return;
+        const TextRange source = pieces.source_of(sentence_at, length);
+        return {end, reading.target_at + length, source.offset - reading.target_at, source};
     }
     const std::size_t offset = at - reading.target_at;
     const std::size_t word_length = reading.source.substr(offset).find_first_of(' ');
-    source_ = pieces.source_of(sentence_at + offset, std::min(word_length, length - offset));
-    next_at_ = at + 1;
+    return {at + 1, 0, 0,
+            pieces.source_of(sentence_at + offset, std::min(word_length, length - offset))};
+}
+
+void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
+                                const std::vector<const char*>& word_begins,
+                                const UtteranceSyllable* records, std::vector<WordPlace>& places) {
+    readings_.push_back({{}, SZ_TEXT_MAX_LEN});
+    const Reading* next = readings_.data();
+    PieceCursor cursor(pieces);
+    places.resize(word_begins.size() + 1);
+    WordPlace* place = places.data();
+    *place = {{cursor.source_of(0, 1).offset, 0}, 0};
+    const char* const* word = word_begins.data();
+    const char* const* const end = word + word_begins.size();
+    while (word != end) {
+        const auto begin = static_cast<std::size_t>(*word - speakable_);
+        while (next->target_at <= begin) ++next;
+        const Stretch stretch = stretch_at(begin, next[-1], next->target_at, cursor);
+        for (; word != end; ++word) {
+            const auto at = static_cast<std::size_t>(*word - speakable_);
+            if (at >= stretch.end) break;
+            TextRange source = stretch.source;
+            ++records;
+            if (at < stretch.copied_end) {
+                source = {at + stretch.shift, static_cast<std::size_t>(records->syl_len - 1)};
+            }
+            *++place = {source, at};
+        }
+    }
 }
 
 }  // namespace kavi::host

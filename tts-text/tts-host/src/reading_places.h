@@ -27,9 +27,9 @@ class ReadingPlaces {
     }
     void add_step(const tn::SectionDispatcher& step);
 
-    // Where each of the words comes from that begin there in the speakable text, in order; record 0
-    // is the head record. A word that was copied has its own letters, any other all that was read
-    // with it.
+    // After that, once: where each of the words comes from that begin there in the speakable text,
+    // in order; record 0 is the head record. A word that was copied has its own letters, any other
+    // all that was read with it.
     void find_places(const std::vector<SourcePiece>& pieces,
                      const std::vector<const char*>& word_begins, const UtteranceSyllable* records,
                      std::vector<WordPlace>& places);
@@ -41,19 +41,20 @@ class ReadingPlaces {
         std::size_t target_at;
     };
 
-    void go_on_to(std::size_t at, PieceCursor& pieces);
+    // A stretch of the speakable text whose words have their places in one way.
+    struct Stretch {
+        std::size_t end;
+        std::size_t copied_end;  // up to there it is a copy of one stretch of the text,
+        std::size_t shift;       // so much further on there
+        TextRange source;        // all that it was read from
+    };
+
+    Stretch stretch_at(std::size_t at, const Reading& reading, std::size_t end,
+                       PieceCursor& pieces) const;
 
     const char* sentence_ = nullptr;
     const char* speakable_ = nullptr;
     std::vector<Reading> readings_;
-
-    // ---- of the last reading that was gone on to ----
-
-    std::size_t next_ = 0;        // the reading after it
-    std::size_t next_at_ = 0;     // where that begins in the speakable text
-    std::size_t copied_end_ = 0;  // up to there it is a copy of one stretch of the text,
-    std::size_t shift_ = 0;       // so much further on there
-    TextRange source_ = {};       // all that it was read from
 };
 
 // Stores where each word begins in the speakable text, beside what a WordFiller does.

@@ -6,10 +6,6 @@ namespace kavi::host {
 
 namespace {
 
-bool is_copy(const SourcePiece& piece) {
-    return piece.length == piece.source.length && piece.rule == nullptr;
-}
-
 // The source of one byte of a piece.
 TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
     return is_copy(piece) ? TextRange{piece.source.offset + (at - piece.at), 1} : piece.source;
@@ -17,8 +13,7 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
 
 }  // namespace
 
-TextRange PieceCursor::source_of(std::size_t at, std::size_t length) {
-    go_on_to(at);
+TextRange PieceCursor::source_of_any(std::size_t at, std::size_t length) const {
     const TextRange first = source_of_byte(*piece_, at);
     if (length <= 1) return first;
     const std::size_t last_at = at + length - 1;
@@ -26,11 +21,6 @@ TextRange PieceCursor::source_of(std::size_t at, std::size_t length) {
     end.go_on_to(last_at);
     const TextRange last = source_of_byte(*end.piece_, last_at);
     return {first.offset, last.offset + last.length - first.offset};
-}
-
-bool PieceCursor::is_copied(std::size_t at, std::size_t length) {
-    go_on_to(at);
-    return is_copy(*piece_) && at + length <= piece_->at + piece_->length;
 }
 
 void SentenceSource::find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter) {

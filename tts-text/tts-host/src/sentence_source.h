@@ -13,6 +13,10 @@
 
 namespace kavi::host {
 
+inline bool is_copy(const SourcePiece& piece) {
+    return piece.length == piece.source.length && piece.rule == nullptr;
+}
+
 // Which pieces stand for what, asked for one place after the other.
 class PieceCursor {
   public:
@@ -21,15 +25,22 @@ class PieceCursor {
         : piece_(pieces.data()), end_(piece_ + pieces.size()) {}
 
     // The source of `length` bytes at `at`, not before the last ones.
-    TextRange source_of(std::size_t at, std::size_t length);
+    TextRange source_of(std::size_t at, std::size_t length) {
+        if (is_copied(at, length)) return {piece_->source.offset + (at - piece_->at), length};
+        return source_of_any(at, length);
+    }
 
     // Whether these, not before the last ones, are a copy of one stretch of the text.
-    bool is_copied(std::size_t at, std::size_t length);
+    bool is_copied(std::size_t at, std::size_t length) {
+        go_on_to(at);
+        return is_copy(*piece_) && at + length <= piece_->at + piece_->length;
+    }
 
   private:
     void go_on_to(std::size_t at) {
         while (piece_ + 1 != end_ && piece_[1].at <= at) ++piece_;
     }
+    TextRange source_of_any(std::size_t at, std::size_t length) const;
 
     const SourcePiece* piece_;
     const SourcePiece* end_;

@@ -324,8 +324,8 @@ void TextWindow::Sources::copied_up_to(const char* end) {
         add(length, {window_.origin_ + prefix_end + window_.left_out_, 0}, nullptr);
         from_ += length;
     }
-    while (is_gap_before(index)) {
-        copy_up_to(window_.gaps_[n_gaps_].at - 1 - window_.origin_);
+    while (gap_end_ <= index) {
+        copy_up_to(gap_end_ - 1);
         const std::size_t begin = offset();
         pass(from_ + 1);
         add(1, {begin, offset() - begin}, nullptr);
@@ -339,8 +339,9 @@ void TextWindow::Sources::replaced(std::string_view source, std::size_t length) 
     add(length, {begin, offset() - begin}, length > 0 ? "abbreviation" : nullptr);
 }
 
-bool TextWindow::Sources::is_gap_before(std::size_t index) const {
-    return n_gaps_ < window_.gaps_.size() && window_.gaps_[n_gaps_].at <= window_.origin_ + index;
+void TextWindow::Sources::find_next_gap() {
+    const bool is_there = n_gaps_ < window_.gaps_.size();
+    gap_end_ = is_there ? window_.gaps_[n_gaps_].at - window_.origin_ : CAPACITY + 1;
 }
 
 // Nothing is left out before that.
@@ -352,7 +353,11 @@ void TextWindow::Sources::copy_up_to(std::size_t index) {
 
 // Passes bytes of the window that have been told of, and what is left out among them.
 void TextWindow::Sources::pass(std::size_t index) {
-    for (; is_gap_before(index); ++n_gaps_) left_out_ += window_.gaps_[n_gaps_].length;
+    while (gap_end_ <= index) {
+        left_out_ += window_.gaps_[n_gaps_].length;
+        ++n_gaps_;
+        find_next_gap();
+    }
     from_ = index;
 }
 

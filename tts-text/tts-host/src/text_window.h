@@ -87,7 +87,9 @@ class TextWindow {
     class Sources {
       public:
         Sources(const TextWindow& window, std::vector<SourcePiece>& pieces)
-            : window_(window), pieces_(pieces), from_(window.begin_), left_out_(window.left_out_) {}
+            : window_(window), pieces_(pieces), from_(window.begin_), left_out_(window.left_out_) {
+            find_next_gap();
+        }
 
         // The sentence has a copy of what stands in the window up to there.
         void copied_up_to(const char* end);
@@ -103,7 +105,7 @@ class TextWindow {
             pieces_.push_back({at_, length, source, rule});
             at_ += length;
         }
-        bool is_gap_before(std::size_t index) const;
+        void find_next_gap();
         void copy_up_to(std::size_t index);
         void pass(std::size_t index);
         std::size_t offset() const { return window_.origin_ + from_ + left_out_; }
@@ -114,6 +116,7 @@ class TextWindow {
         std::size_t at_ = 0;      // the next byte of the sentence
         std::size_t left_out_;    // bytes left out before the next
         std::size_t n_gaps_ = 0;  // passed, of those after what has been consumed
+        std::size_t gap_end_;     // of the next one, in the buffer; above its size if there is none
     };
 
     // What was found in what has been fed, in order; the reader takes them off.

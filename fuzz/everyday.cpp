@@ -1,10 +1,45 @@
 // Everyday English and a lexicon, before the engine: with nothing on, every byte is as without;
-// with all on, places hold and whatever was written is covered.
+// with all on, places hold, whatever was written is covered, and the cost of a text grows as its
+// length does.
 
+#include <algorithm>
+#include <chrono>
 #include <cstdint>
 
 #include "host_reader.h"
 #include "tts_everyday.h"
+
+namespace {
+
+// Nanoseconds a byte that the rewriting of this text takes, said over and over up to such a size:
+// of the fastest of some tries, so that what else the machine does counts little.
+double cost_of_byte(const kavi::Everyday& everyday, const std::string& text, std::size_t size) {
+    std::string repeated;
+    while (repeated.size() < size) repeated += text;
+    kavi::RewrittenText rewritten;
+    auto fastest = std::chrono::nanoseconds::max();
+    for (int i = 0; i < 3; ++i) {
+        const auto begin = std::chrono::steady_clock::now();
+        everyday.rewrite(repeated, rewritten);
+        fastest =
+            std::min<std::chrono::nanoseconds>(fastest, std::chrono::steady_clock::now() - begin);
+    }
+    return static_cast<double>(fastest.count()) / static_cast<double>(repeated.size());
+}
+
+// A search without bound would make each byte of a text of sixteen times the length cost up to
+// sixteen times as much.
+bool is_linear(const kavi::Everyday& everyday, const std::string& text) {
+    constexpr std::size_t SHORT = 16384;
+    constexpr double MOST = 4;
+    for (int i = 0; i < 5; ++i) {
+        const double short_cost = cost_of_byte(everyday, text, SHORT);
+        if (cost_of_byte(everyday, text, 16 * SHORT) < MOST * short_cost) return true;
+    }
+    return false;
+}
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace kavi;
@@ -30,5 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     host.rewrite_by(&everyday);
     const ReadText on = read_by_layer(host, text);
     if (!on.all_read || !on.fault.empty()) std::abort();
+    const bool is_timed = data[1] % 16 == 0 && !text.empty();  // it takes ten times the rest
+    if (is_timed && !is_linear(everyday, text)) std::abort();
     return 0;
 }

@@ -37,6 +37,7 @@ constexpr CurrencyRow AFTER[] = {
     {"\xc2\xa3", "pound", "pounds", "penny", "pence"},
     {"\xc2\xa2", "cent", "cents", nullptr, nullptr},  // ¢
     {"\xc2\xa5", "yen", "yen", nullptr, nullptr},
+    {"p", "penny", "pence", nullptr, nullptr},  // directly after the number
 };
 
 struct ScaleRow {
@@ -118,8 +119,14 @@ void read_currency(const Place& place, Found& found) {
             return;
         }
         const char* scale = scale_at(place, end, scale_length);
-        say_amount(number, scale, row, found.words);
         found.length = end + scale_length;
+        if (number.fraction.size() != 2 && place.is_before_noun(found.length)) {
+            number.say(found.words);
+            if (scale != nullptr) say(scale, found.words);
+            say(row.one, found.words);
+        } else {
+            say_amount(number, scale, row, found.words);
+        }
         return;
     }
 }
@@ -132,6 +139,7 @@ void read_amount_after(const Place& place, Found& found) {
     const std::size_t blank = place.peek(end) == ' ' ? 1 : 0;
     for (const CurrencyRow& row : AFTER) {
         if (!place.starts_with(row.written, end + blank)) continue;
+        if (row.written == "p" && (blank > 0 || scale != nullptr)) continue;
         const std::size_t after = end + blank + row.written.size();
         if (is_of_word(place.peek(after)) || is_digit(place.peek(after))) continue;
         say_amount(number, scale, row, found.words);

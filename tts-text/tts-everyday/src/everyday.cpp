@@ -45,6 +45,7 @@ constexpr RuleRow RULES[] = {
     {Begin::word, EverydayClass::roman, everyday::read_roman, "everyday: roman"},
     {Begin::word, EverydayClass::contractions, everyday::read_contraction,
      "everyday: contractions"},
+    {Begin::word, EverydayClass::numbers, everyday::read_code, "everyday: numbers"},
     {Begin::word, EverydayClass::numbers, everyday::read_sign, "everyday: numbers"},
     {Begin::word, EverydayClass::letters, everyday::read_letters, "everyday: letters"},
     {Begin::mark, EverydayClass::addresses, everyday::read_telephone, "everyday: addresses"},

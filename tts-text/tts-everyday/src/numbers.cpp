@@ -47,11 +47,22 @@ const char* fraction_at(const Place& place, std::size_t ahead, std::size_t& leng
     return nullptr;
 }
 
+struct NoFractionRow {
+    std::string_view above;
+    std::string_view below;
+    const char* spoken;
+};
+constexpr NoFractionRow NO_FRACTIONS[] = {
+    {"24", "7", "twenty four seven"},
+    {"9", "11", "nine eleven"},
+};
+
 // "1/2", "3/4", "24/7": up to two digits on both sides.
 bool say_fraction(std::string_view above, std::string_view below, std::string& out) {
     if (above.size() > 2 || below.empty() || below.size() > 3 || below[0] == '0') return false;
-    if (below == "7" && above == "24") {
-        say("twenty four seven", out);
+    for (const auto& known : NO_FRACTIONS) {
+        if (above != known.above || below != known.below) continue;
+        say(known.spoken, out);
         return true;
     }
     if (below == "1") return false;
@@ -76,7 +87,9 @@ bool read_fraction(const Place& place, Found& found) {
     if (const char* words = fraction_at(place, at + (place.peek(at) == ' ' ? 1 : 0), length)) {
         say_cardinal(above, found.words);
         say("and", found.words);
-        say(words, found.words);
+        const std::string_view part = words;
+        say(part.substr(0, 4) == "one " ? "a" : "", found.words);
+        say(part.substr(0, 4) == "one " ? part.substr(4) : part, found.words);
         found.length = at + (place.peek(at) == ' ' ? 1 : 0) + length;
         return true;
     }
@@ -103,7 +116,52 @@ bool read_fraction(const Place& place, Found& found) {
     return true;
 }
 
+// "221B": three digits and more before a letter are said one by one. They are what `found` has.
+bool read_house_number(const Place& place, const Number& number, Found& found) {
+    const std::size_t end = number.length;
+    const bool is_one = number.whole.size() > 2 && number.whole.size() == end &&
+                        is_upper(place.peek(end)) && !is_of_word(place.peek(end + 1)) &&
+                        !is_digit(place.peek(end + 1));
+    if (!is_one) return false;
+    found.words.clear();
+    say_digits(number.whole, found.words);
+    found.length = end;
+    return true;
+}
+
 }  // namespace
+
+// "CO2", "BA249", "H2O", "SW3 4ND": capitals letter by letter; up to two digits as a number, more
+// one by one.
+void read_code(const Place& place, Found& found) {
+    constexpr std::size_t LONGEST = 3;
+    std::size_t end = 0;
+    bool has_digits = false;
+    for (std::size_t n_runs = 0; n_runs < LONGEST; ++n_runs) {
+        const std::size_t n_letters = place.run(is_upper, end);
+        const std::string_view digits = place.digits(end + n_letters);
+        if (n_letters > LONGEST || digits.size() > LONGEST + 1 || (end == 0 && n_letters == 0))
+            return;
+        for (std::size_t i = 0; i < n_letters; ++i) say(place.part(end + i, 1), found.words);
+        end += n_letters + digits.size();
+        if (digits.empty()) break;
+        has_digits = true;
+        digits.size() < LONGEST ? say_cardinal(digits, found.words)
+                                : say_digits(digits, found.words);
+    }
+    if (!has_digits || is_of_word(place.peek(end)) || is_digit(place.peek(end))) return;
+    // The second half of a postcode.
+    const bool has_half = place.peek(end) == ' ' && is_digit(place.peek(end + 1)) &&
+                          place.run(is_upper, end + 2) == 2 && !is_of_word(place.peek(end + 4)) &&
+                          !is_digit(place.peek(end + 4));
+    if (has_half) {
+        say_digits(place.part(end + 1, 1), found.words);
+        say(place.part(end + 2, 1), found.words);
+        say(place.part(end + 3, 1), found.words);
+        end += 4;
+    }
+    found.length = end;
+}
 
 void read_number(const Place& place, Found& found) {
     const Number number = number_at(place.rest(0));
@@ -118,6 +176,7 @@ void read_number(const Place& place, Found& found) {
     const bool is_code =
         number.whole.size() > 1 && number.whole[0] == '0' && number.fraction.empty();
     is_code ? say_digits(number.whole, found.words) : number.say(found.words);
+    if (read_house_number(place, number, found)) return;
     // "10-20", "3–2"
     if (const std::size_t dash = place.dash(end); dash > 0 && place.before() != '-') {
         const Number last = number_at(place.rest(end + dash));
@@ -132,7 +191,12 @@ void read_number(const Place& place, Found& found) {
         say("percent", found.words);
         end += blank + 1;
     }
-    // "3 x 4", "3×4"
+    // "3x", "3 x 4", "3×4"
+    if (place.peek(end) == 'x' && !is_of_word(place.peek(end + 1)) &&
+        !is_digit(place.peek(end + 1))) {
+        say("times", found.words);
+        ++end;
+    }
     const bool is_times = place.starts_with("\xc3\x97", end) ||
                           place.starts_with(" \xc3\x97 ", end) ||
                           (place.starts_with(" x ", end) && is_digit(place.peek(end + 3)));

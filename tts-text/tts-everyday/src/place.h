@@ -84,6 +84,9 @@ struct Place {
         return text.substr(begin, end - begin);
     }
 
+    // Whether what ends so far on is said as one with a word after it: "a $100 bill".
+    bool is_before_noun(std::size_t ahead) const;
+
     // Whether a sentence may end so far on: nothing follows, or a blank and a capital letter.
     bool may_end_sentence(std::size_t ahead) const {
         const std::size_t blanks = run([](char c) { return c == ' '; }, ahead);

@@ -57,8 +57,13 @@ bool is_one_of(std::string_view word, const std::string_view (&words)[N]) {
 }  // namespace
 
 void read_roman(const Place& place, Found& found) {
-    if (value_of(place.peek()) == 0) return;
     const std::string_view numeral = place.letters();
+    if (numeral == "WWI" || numeral == "WWII") {
+        found.words = numeral.size() == 3 ? "World War one" : "World War two";
+        found.length = numeral.size();
+        return;
+    }
+    if (value_of(place.peek()) == 0) return;
     const int value = value_of(numeral);
     const char after = place.peek(numeral.size());
     if (value == 0 || is_outside_ascii(after) || after == '\'') return;

@@ -32,6 +32,7 @@ void read_address(const Place& place, Found& found);
 void read_roman(const Place& place, Found& found);   // roman.cpp
 void read_number(const Place& place, Found& found);  // numbers.cpp
 void read_sign(const Place& place, Found& found);
+void read_code(const Place& place, Found& found);
 void read_letters(const Place& place, Found& found);  // letters.cpp
 void read_typography(const Place& place, Found& found);
 void read_shield(const Place& place, Found& found);  // shields.cpp

@@ -28,8 +28,10 @@ void read_shield(const Place& place, Found& found) {
         const std::string_view abbreviation = written.substr(0, written.find('.'));
         if (!ends_alike(word, abbreviation)) continue;
         // The abbreviation itself is left to the engine, but for words that are spelled alike.
+        const Place word_place = {place.text, begin};
+        const bool is_star = word == "Sun" && word_place.word_before() == "the";
         const bool is_word = word.size() > abbreviation.size() || word == "May" || word == "may" ||
-                             word == "mar" || word == "B";
+                             word == "mar" || word == "B" || is_star;
         if (!is_word) return;
         found.length = 1;
         found.words = " .";

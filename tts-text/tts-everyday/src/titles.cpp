@@ -83,8 +83,9 @@ constexpr TitleRow TITLES[] = {
     {"Fri",    "Friday",         Stop::may_end},
     {"Sat",    "Saturday",       Stop::needed},
     {"Sun",    "Sunday",         Stop::needed},
-    {"tbsp",   "tablespoons",    Stop::never},
-    {"tsp",    "teaspoons",      Stop::never},
+    // After a whole number they are units.
+    {"tbsp",   "tablespoon",     Stop::never},
+    {"tsp",    "teaspoon",       Stop::never},
 };
 
 // Letters with full stops that are not read letter by letter.
@@ -165,6 +166,7 @@ void read_title(const Place& place, Found& found) {
             (after != '.' || !is_before_number(place, word.size() + 1)))
             continue;
         if (after != '.' && row.stop != Stop::never) continue;
+        if (word == "Sun" && place.word_before() == "the") continue;  // no day
         return take(place, word.size(), row.spoken, row.stop == Stop::may_end, found);
     }
 }

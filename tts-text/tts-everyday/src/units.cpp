@@ -33,6 +33,10 @@ constexpr UnitRow UNITS[] = {
     {"cm",    "centimetre",           "centimetres"},
     {"mm",    "millimetre",           "millimetres"},
     {"nm",    "nanometre",            "nanometres"},
+    {"\xc2\xb5m", "micrometre",       "micrometres"},
+    {"\xce\xbcm", "micrometre",       "micrometres"},
+    {"\xc2\xb5g", "microgram",        "micrograms"},
+    {"\xce\xbcg", "microgram",        "micrograms"},
     {"m",     "metre",                "metres"},
     {"kg",    "kilogram",             "kilograms"},
     {"mg",    "milligram",            "milligrams"},
@@ -42,6 +46,7 @@ constexpr UnitRow UNITS[] = {
     {"oz",    "ounce",                "ounces"},
     {"ft",    "foot",                 "feet"},
     {"mi",    "mile",                 "miles"},
+    {"yds",   "yard",                 "yards"},
     {"yd",    "yard",                 "yards"},
     {"ml",    "millilitre",           "millilitres"},
     {"mL",    "millilitre",           "millilitres"},
@@ -77,7 +82,14 @@ constexpr UnitRow UNITS[] = {
     {"ha",    "hectare",              "hectares"},
     {"kcal",  "kilocalorie",          "kilocalories"},
     {"bpm",   "beat per minute",      "beats per minute"},
+    {"ppm",   "part per million",     "parts per million"},
+    {"ppb",   "part per billion",     "parts per billion"},
+    {"pts",   "point",                "points"},
     {"dB",    "decibel",              "decibels"},
+    {"keV",   "kilo electron volt",   "kilo electron volts"},
+    {"MeV",   "mega electron volt",   "mega electron volts"},
+    {"GeV",   "giga electron volt",   "giga electron volts"},
+    {"TeV",   "tera electron volt",   "tera electron volts"},
     {"\xc2\xb0""C", "degree Celsius", "degrees Celsius"},
     {"\xc2\xb0 C", "degree Celsius",  "degrees Celsius"},
     {"\xc2\xb0""F", "degree Fahrenheit", "degrees Fahrenheit"},
@@ -85,10 +97,34 @@ constexpr UnitRow UNITS[] = {
 };
 // clang-format on
 
+// "2h 10m": after hours, these are minutes.
+bool is_after_hours(const Place& place) {
+    return place.at > 2 && place.before() == ' ' && place.text[place.at - 2] == 'h' &&
+           is_digit(place.text[place.at - 3]);
+}
+
+// "5'4\"": feet and inches.
+bool read_height(const Place& place, Found& found) {
+    const std::string_view feet = place.digits();
+    const std::size_t mark = place.starts_with("\xe2\x80\xb2", feet.size()) ? 3 : 1;
+    if (feet.size() != 1 || (mark == 1 && place.peek(1) != '\'')) return false;
+    const std::string_view inches = place.digits(1 + mark);
+    if (inches.empty() || inches.size() > 2) return false;
+    const std::size_t end = 1 + mark + inches.size();
+    const std::size_t end_mark = place.starts_with("\xe2\x80\xb3", end) ? 3 : 1;
+    if (end_mark == 1 && place.peek(end) != '"') return false;
+    say_cardinal(feet, found.words);
+    say("foot", found.words);
+    say_cardinal(inches, found.words);
+    found.length = end + end_mark;
+    return true;
+}
+
 }  // namespace
 
 void read_unit(const Place& place, Found& found) {
-    Number number = number_at(place.rest(0));
+    if (read_height(place, found)) return;
+    const Number number = number_at(place.rest(0));
     std::size_t end = number.length;
     Number second;  // of a range
     const std::size_t dash = place.dash(end);
@@ -99,15 +135,20 @@ void read_unit(const Place& place, Found& found) {
         if (!place.starts_with(row.written, end + blank)) continue;
         const std::size_t after = end + blank + row.written.size();
         if (is_letter(place.peek(after)) || is_digit(place.peek(after))) continue;
-        if (row.written == "s" && blank == 0) continue;  // a plural: "the 5s"
+        const bool may_be_plural = blank == 0 && number.fraction.empty();
+        if (row.written == "s" && may_be_plural) continue;  // "the 5s"
         number.say(found.words);
         if (second.length > 0) {
             say("to", found.words);
             second.say(found.words);
         }
-        const bool is_adjective = place.peek(end) == '-';
-        say((number.is_one() && second.length == 0) || is_adjective ? row.one : row.many,
-            found.words);
+        const bool is_adjective = place.peek(end) == '-' || place.is_before_noun(after);
+        if (row.written == "m" && is_after_hours(place)) {
+            say(number.is_one() ? "minute" : "minutes", found.words);
+        } else {
+            say((number.is_one() && second.length == 0) || is_adjective ? row.one : row.many,
+                found.words);
+        }
         const bool has_stop = place.peek(after) == '.' && !place.may_end_sentence(after + 1);
         found.length = after + (has_stop ? 1 : 0);
         return;

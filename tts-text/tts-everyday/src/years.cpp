@@ -53,6 +53,15 @@ bool read_decade(const Place& place, std::size_t begin, Found& found) {
         say_decade(digits.substr(digits.size() - 2), found.words);
     }
     found.length = end + 1;
+    // "1980s-90s"
+    Found last;
+    const std::size_t dash = place.dash(end + 1);
+    const Place after = {place.text, place.at + end + 1 + dash};
+    if (dash > 0 && is_digit(after.peek()) && digits.size() == 4 && read_decade(after, 0, last)) {
+        say("to", found.words);
+        say(last.words, found.words);
+        found.length += dash + last.length;
+    }
     return true;
 }
 

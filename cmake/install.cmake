@@ -26,6 +26,14 @@ install(FILES
     tts-text/tts-everyday/inc/tts_everyday.h tts-text/tts-everyday/inc/tts_lexicon.h
     ${CMAKE_CURRENT_BINARY_DIR}/include/kavi_version.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavi COMPONENT development)
+if(TARGET kavi_c)
+    set_target_properties(kavi_c PROPERTIES EXPORT_NAME c)
+    target_include_directories(kavi_c INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    install(TARGETS kavi_c EXPORT kaviTargets
+        LIBRARY COMPONENT clibrary NAMELINK_COMPONENT development)
+    install(FILES tts-text/tts-c/inc/kavi.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+endif()
 install(EXPORT kaviTargets NAMESPACE kavi:: DESTINATION ${KAVI_PACKAGE_DIR} COMPONENT development)
 export(EXPORT kaviTargets NAMESPACE kavi:: FILE ${CMAKE_CURRENT_BINARY_DIR}/kaviTargets.cmake)
 configure_package_config_file(cmake/kaviConfig.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/kaviConfig.cmake
@@ -36,19 +44,27 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kaviConfig.cmake
     ${CMAKE_CURRENT_BINARY_DIR}/kaviConfigVersion.cmake
     DESTINATION ${KAVI_PACKAGE_DIR} COMPONENT development)
 
-# pkg-config: installed, where the file finds its prefix from its own place, and uninstalled.
+# pkg-config: installed, where a file finds its prefix from its own place, and uninstalled. kavi is the
+# C++ libraries, kavi-c the one for C.
 file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-set(KAVI_PC_CFLAGS "-I\${pcfiledir}/${up}${CMAKE_INSTALL_INCLUDEDIR}/kavi")
-set(KAVI_PC_LIBDIR "\${pcfiledir}/${up}${CMAKE_INSTALL_LIBDIR}")
-configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/kavi.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kavi.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
-set(KAVI_PC_CFLAGS -I${KAVI_HOST_INC})
-foreach(include ${KAVI_INCLUDES})
-    string(APPEND KAVI_PC_CFLAGS " -I${include}")
-endforeach()
-set(KAVI_PC_LIBDIR ${CMAKE_CURRENT_BINARY_DIR})
-configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/kavi-uninstalled.pc @ONLY)
+function(kavi_pkg_config name libraries installed_include build_includes)
+    set(KAVI_PC_NAME ${name})
+    set(KAVI_PC_LIBS ${libraries})
+    set(KAVI_PC_CFLAGS "-I\${pcfiledir}/${up}${installed_include}")
+    set(KAVI_PC_LIBDIR "\${pcfiledir}/${up}${CMAKE_INSTALL_LIBDIR}")
+    configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+    list(TRANSFORM build_includes PREPEND -I)
+    list(JOIN build_includes " " KAVI_PC_CFLAGS)
+    set(KAVI_PC_LIBDIR ${CMAKE_CURRENT_BINARY_DIR})
+    configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}-uninstalled.pc @ONLY)
+endfunction()
+kavi_pkg_config(kavi "-lkavi_host -lkavi_services" ${CMAKE_INSTALL_INCLUDEDIR}/kavi
+    "${KAVI_HOST_INC};${KAVI_INCLUDES}")
+if(TARGET kavi_c)
+    kavi_pkg_config(kavi-c -lkavi ${CMAKE_INSTALL_INCLUDEDIR} ${KAVI_C_INC})
+endif()
 
 if(KAVI_BUILD_TOOLS)
     # Shared libraries are found from the tool's own place, whatever the prefix.

@@ -1,0 +1,369 @@
+// The functions of kavi.h: what they say is what the host layer says; whatever is wrong is an
+// answer.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "kavi.h"
+#include "tts_explain.h"
+#include "tts_host.h"
+#include "tts_names.h"
+
+namespace {
+
+// How many allocations of this program succeed from now on; negative: all.
+long allocations_left = -1;
+
+}  // namespace
+
+// NOLINTBEGIN: replaces the allocation of the whole program, the library under test included.
+void* operator new(std::size_t size) {
+    if (allocations_left == 0) throw std::bad_alloc();
+    if (allocations_left > 0) --allocations_left;
+    if (void* block = std::malloc(size > 0 ? size : 1)) return block;
+    throw std::bad_alloc();
+}
+void operator delete(void* block) noexcept {
+    std::free(block);
+}
+void operator delete(void* block, std::size_t) noexcept {
+    std::free(block);
+}
+// NOLINTEND
+
+namespace {
+
+constexpr const char* TEXT =
+    "«Dr. Smith» <prosody=rate=\"2\">paid $5.50<pause=200></prosody> on 3/1/2020, </poem>ok? \xff "
+    "It's 10:30!";
+
+struct Reader {
+    Reader() { EXPECT_EQ(kavi_reader_new(0, &reader), KAVI_OK); }
+    ~Reader() { kavi_reader_free(reader); }
+    kavi_reader* reader = nullptr;
+};
+
+std::string listed(kavi_range range) {
+    return std::to_string(range.offset) + "+" + std::to_string(range.length);
+}
+
+std::string listed(const kavi_word& word) {
+    std::string all = std::string(word.text.data, word.text.length) + "@" + listed(word.source) +
+                      " " + kavi_pause_name(word.pause);
+    for (int i = 0; i < word.n_marks; ++i) (all += ' ') += kavi_mark_name(word.marks[i]);
+    if (*word.break_time != '\0') (all += " break ") += word.break_time;
+    for (int i = 0; i < KAVI_ATTRIBUTES; ++i) {
+        if (*word.attributes[i] == '\0') continue;
+        all += std::string(" ") + kavi_attribute_name(static_cast<kavi_attribute>(i)) + "=";
+        all += word.attributes[i];
+    }
+    return all + "\n";
+}
+
+std::string listed(const kavi_sentence& sentence) {
+    std::string all = listed(sentence.source) + " " + sentence.normalized.data + "|" +
+                      sentence.speakable.data + "\n" + listed(*sentence.head);
+    EXPECT_EQ(sentence.normalized.length, std::strlen(sentence.normalized.data));
+    EXPECT_EQ(sentence.speakable.length, std::strlen(sentence.speakable.data));
+    for (std::size_t i = 0; i < sentence.n_words; ++i) all += listed(sentence.words[i]);
+    for (std::size_t i = 0; i < sentence.n_runs; ++i) {
+        const kavi_run& run = sentence.runs[i];
+        all += listed(run.source) + " " + run.rule + ": " + run.reading.data + "\n";
+    }
+    return all;
+}
+
+std::string listed(const kavi_finding& finding) {
+    return std::string(kavi_finding_code(finding.code)) + " " +
+           listed(kavi_range{finding.offset, finding.length}) + " " +
+           std::to_string(finding.sentence) + "\n";
+}
+
+std::string listed(const kavi::HostSentence& sentence, std::string_view text) {
+    std::string all =
+        std::to_string(sentence.source.offset) + "+" + std::to_string(sentence.source.length) +
+        " " + std::string(sentence.normalized) + "|" + std::string(sentence.speakable) + "\n";
+    for (int i = 0; i < sentence.n_records; ++i) {
+        const kavi::UtteranceSyllable& record = sentence.records[i];
+        const kavi::TextRange source = sentence.places.of_record(i).source;
+        all += std::string(record.syllable != nullptr ? record.syllable : "") + "@" +
+               std::to_string(source.offset) + "+" + std::to_string(source.length) + " " +
+               kavi::pause_name(record.pause_type);
+        for (int m = 0; m < record.n_punc; ++m) {
+            (all += ' ') += kavi::punctuation_name(record.punc_arr[m]);
+        }
+        const char* break_time = record.cssml_tag.breaktime;
+        if (*break_time != '\0') (all += " break ") += break_time;
+        for (const auto& [name, value] : kavi::attributes(record.cssml_tag)) {
+            if (*value != '\0') all += std::string(" ") + name + "=" + value;
+        }
+        all += '\n';
+    }
+    for (const kavi::ExplainedRun& run : kavi::explain(sentence, text)) {
+        all += std::to_string(run.source.offset) + "+" + std::to_string(run.source.length) + " " +
+               run.rule + ": " + run.reading + "\n";
+    }
+    return all;
+}
+
+std::string by_host(std::string_view text) {
+    std::string all;
+    std::size_t n = 0;
+    kavi::TtsHost().read(
+        text,
+        [&](const kavi::HostSentence& sentence) {
+            ++n;
+            all += listed(sentence, text);
+            return true;
+        },
+        [&](const kavi::Diagnostic& found) {
+            all += std::string(kavi::code_of(found.finding)) + " " + std::to_string(found.offset) +
+                   "+" + std::to_string(found.length) + " " + std::to_string(n) + "\n";
+            return true;
+        });
+    return all;
+}
+
+struct Listing {
+    std::string all;
+    int left = -1;  // until a handler stops; negative: never
+    bool go_on() { return left < 0 || left-- > 0; }
+};
+
+kavi_handlers listing(Listing& listing) {
+    return {[](void* user, const kavi_sentence* sentence) {
+                auto* to = static_cast<Listing*>(user);
+                to->all += listed(*sentence);
+                return to->go_on() ? 1 : 0;
+            },
+            [](void* user, const kavi_finding* finding) {
+                auto* to = static_cast<Listing*>(user);
+                to->all += listed(*finding);
+                return to->go_on() ? 1 : 0;
+            },
+            &listing};
+}
+
+}  // namespace
+
+TEST(C, SaysWhatTheHostLayerSays) {
+    const Reader r;
+    const std::string text = TEXT;
+    const std::string expected = by_host(text);
+    Listing each;
+    const kavi_handlers handlers = listing(each);
+    EXPECT_EQ(kavi_read_each(r.reader, text.data(), text.size(), KAVI_RUNS, &handlers), KAVI_OK);
+    EXPECT_EQ(each.all, expected);
+
+    kavi_result* result = nullptr;
+    std::string kept;
+    {
+        // A result lives on without its reader and its text.
+        const Reader other;
+        const std::string copy = text;
+        EXPECT_EQ(kavi_read(other.reader, copy.data(), copy.size(), KAVI_RUNS, &result), KAVI_OK);
+    }
+    std::size_t finding = 0;
+    for (std::size_t i = 0; i <= kavi_result_sentences(result); ++i) {
+        for (; finding < kavi_result_findings(result); ++finding) {
+            const kavi_finding* found = kavi_result_finding(result, finding);
+            if (found->sentence != i) break;
+            kept += listed(*found);
+        }
+        if (i < kavi_result_sentences(result)) kept += listed(*kavi_result_sentence(result, i));
+    }
+    EXPECT_EQ(kept, expected);
+    EXPECT_EQ(kavi_result_sentence(result, 1000), nullptr);
+    EXPECT_EQ(kavi_result_finding(result, 1000), nullptr);
+    kavi_result_free(result);
+
+    EXPECT_EQ(kavi_read(r.reader, "a", 1, 0, &result), KAVI_OK);
+    EXPECT_EQ(kavi_result_sentence(result, 0)->n_runs, 0U);
+    kavi_result_free(result);
+}
+
+TEST(C, GivesTheSpokenTextAlone) {
+    const struct {
+        const char* text;
+        std::uint32_t form;
+        const char* spoken;
+        kavi_status status;
+    } cases[] = {
+        {"", KAVI_PLAIN, "", KAVI_OK},
+        {"  ", KAVI_SPEAKABLE, "", KAVI_OK},
+        {"Tom, 5. No", KAVI_PLAIN, "Tom, five. No", KAVI_OK},
+        {"a. 5", KAVI_SPEAKABLE, "a <punc=ju>\n five", KAVI_OK},
+        {"a</poem> b", KAVI_PLAIN, "a b", KAVI_OK},
+    };
+    const Reader r;
+    for (const auto& row : cases) {
+        char* spoken = nullptr;
+        std::size_t length = 0;
+        EXPECT_EQ(
+            kavi_normalize(r.reader, row.text, std::strlen(row.text), row.form, &spoken, &length),
+            row.status)
+            << row.text;
+        EXPECT_STREQ(spoken, row.spoken);
+        EXPECT_EQ(length, std::strlen(row.spoken));
+        kavi_free(spoken);
+    }
+
+    // An arena that holds no word: all is passed over, and said so.
+    kavi_reader* small = nullptr;
+    char* spoken = nullptr;
+    ASSERT_EQ(kavi_reader_new(1, &small), KAVI_OK);
+    EXPECT_EQ(kavi_normalize(small, "a b", 3, KAVI_PLAIN, &spoken, nullptr), KAVI_INCOMPLETE);
+    EXPECT_STREQ(spoken, "");
+    kavi_free(spoken);
+    kavi_reader_free(small);
+}
+
+TEST(C, ReadsByLexiconAndEverydayRules) {
+    const Reader r;
+    const auto spoken = [&](std::string_view text) {
+        char* plain = nullptr;
+        EXPECT_EQ(kavi_normalize(r.reader, text.data(), text.size(), KAVI_PLAIN, &plain, nullptr),
+                  KAVI_OK);
+        const std::string copy = plain;
+        kavi_free(plain);
+        return copy;
+    };
+    EXPECT_EQ(kavi_reader_set_lexicon(r.reader, "mine", "kavi\tkahvee\n", 12), KAVI_OK);
+    EXPECT_EQ(spoken("kavi 5"), "kahvee five");
+    EXPECT_EQ(kavi_reader_set_everyday(r.reader, KAVI_CONTRACTIONS), KAVI_OK);
+    EXPECT_EQ(spoken("kavi won't"), "kahvee will not");
+    EXPECT_EQ(kavi_reader_set_lexicon(r.reader, "mine", "ok\tokay\nbad\n", 12), KAVI_BAD_LEXICON);
+    EXPECT_EQ(std::string(kavi_reader_error(r.reader)).substr(0, 7), "mine:2:");
+    EXPECT_EQ(spoken("kavi"), "kahvee");
+    EXPECT_EQ(kavi_reader_set_lexicon(r.reader, nullptr, nullptr, 0), KAVI_OK);
+    EXPECT_STREQ(kavi_reader_error(r.reader), "");
+    EXPECT_EQ(spoken("kavi won't"), "kavi will not");
+    EXPECT_EQ(kavi_reader_set_everyday(r.reader, KAVI_YEARS | KAVI_AMERICAN_DATES), KAVI_OK);
+    EXPECT_EQ(spoken("3/4/2020"), "March fourth twenty twenty");
+}
+
+TEST(C, StopsWhereAHandlerSaysSo) {
+    const Reader r;
+    const std::string text = TEXT;
+    for (int left = 0; left < 4; ++left) {
+        Listing each;
+        each.left = left;
+        const kavi_handlers handlers = listing(each);
+        EXPECT_EQ(kavi_read_each(r.reader, text.data(), text.size(), 0, &handlers), KAVI_STOPPED);
+    }
+    const kavi_handlers none = {nullptr, nullptr, nullptr};
+    EXPECT_EQ(kavi_read_each(r.reader, "a. b", 4, 0, &none), KAVI_OK);
+    const kavi_handlers throws = {[](void*, const kavi_sentence*) -> int { throw 1; }, nullptr,
+                                  nullptr};
+    EXPECT_EQ(kavi_read_each(r.reader, "a. b", 4, 0, &throws), KAVI_STOPPED);
+}
+
+TEST(C, IsBusyWhileItReads) {
+    const Reader r;
+    std::vector<kavi_status> answers;
+    struct Inside {
+        kavi_reader* reader;
+        std::vector<kavi_status>* answers;
+    } inside = {r.reader, &answers};
+    const kavi_handlers handlers = {
+        [](void* user, const kavi_sentence*) {
+            const auto* in = static_cast<Inside*>(user);
+            kavi_result* result = nullptr;
+            char* spoken = nullptr;
+            const kavi_handlers none = {nullptr, nullptr, nullptr};
+            *in->answers = {kavi_read(in->reader, "a", 1, 0, &result),
+                            kavi_read_each(in->reader, "a", 1, 0, &none),
+                            kavi_normalize(in->reader, "a", 1, KAVI_PLAIN, &spoken, nullptr),
+                            kavi_reader_set_lexicon(in->reader, nullptr, nullptr, 0),
+                            kavi_reader_set_everyday(in->reader, 0)};
+            return 1;
+        },
+        nullptr, &inside};
+    EXPECT_EQ(kavi_read_each(r.reader, "a", 1, 0, &handlers), KAVI_OK);
+    EXPECT_EQ(answers, std::vector<kavi_status>(5, KAVI_BUSY));
+    answers.clear();
+    EXPECT_EQ(kavi_read_each(r.reader, "a", 1, 0, &handlers), KAVI_OK);
+}
+
+TEST(C, RefusesArgumentsWithoutAMeaning) {
+    const Reader r;
+    kavi_result* result = nullptr;
+    char* spoken = nullptr;
+    const kavi_handlers none = {nullptr, nullptr, nullptr};
+    const kavi_status answers[] = {
+        kavi_reader_new(0, nullptr),
+        kavi_read(nullptr, "a", 1, 0, &result),
+        kavi_read(r.reader, nullptr, 1, 0, &result),
+        kavi_read(r.reader, "a", 1, 2, &result),
+        kavi_read(r.reader, "a", 1, 0, nullptr),
+        kavi_read_each(r.reader, "a", 1, 0, nullptr),
+        kavi_read_each(nullptr, "a", 1, 0, &none),
+        kavi_normalize(r.reader, "a", 1, 2, &spoken, nullptr),
+        kavi_normalize(r.reader, "a", 1, KAVI_PLAIN, nullptr, nullptr),
+        kavi_normalize(nullptr, "a", 1, KAVI_PLAIN, &spoken, nullptr),
+        kavi_reader_set_lexicon(nullptr, "", "", 0),
+        kavi_reader_set_lexicon(r.reader, "", nullptr, 1),
+        kavi_reader_set_everyday(nullptr, 0),
+        kavi_reader_set_everyday(r.reader, 1U << 11),
+    };
+    for (const kavi_status answer : answers) EXPECT_EQ(answer, KAVI_BAD_ARGUMENT);
+    EXPECT_EQ(result, nullptr);
+    EXPECT_EQ(spoken, nullptr);
+    EXPECT_EQ(kavi_read(r.reader, nullptr, 0, 0, &result), KAVI_OK);
+    kavi_result_free(result);
+    kavi_result_free(nullptr);
+    kavi_reader_free(nullptr);
+    EXPECT_EQ(kavi_result_sentences(nullptr) + kavi_result_findings(nullptr), 0U);
+    for (const char* name :
+         {kavi_pause_name(99), kavi_mark_name(-1), kavi_finding_code(-1), kavi_finding_message(99),
+          kavi_status_text(static_cast<kavi_status>(7)),
+          kavi_attribute_name(static_cast<kavi_attribute>(7))}) {
+        EXPECT_STREQ(name, "unknown");
+    }
+    EXPECT_STREQ(kavi_status_text(KAVI_BUSY), "the reader is reading");
+    EXPECT_STREQ(kavi_reader_error(nullptr), "");
+    EXPECT_STREQ(kavi_finding_message(0), kavi::describe(kavi::Finding::stray_closing_tag));
+}
+
+// Whichever allocation is refused: an answer, no leak, and a reader that reads afterwards.
+TEST(C, AnswersThatThereIsNoMemory) {
+    const std::string text = TEXT;
+    int refused = 0;
+    for (long n = 0; n < 5000; ++n) {
+        kavi_reader* reader = nullptr;
+        kavi_result* result = nullptr;
+        char* spoken = nullptr;
+        allocations_left = n;
+        const kavi_status made = kavi_reader_new(0, &reader);
+        kavi_status lexicon = KAVI_NO_MEMORY;
+        kavi_status read = KAVI_NO_MEMORY;
+        kavi_status normalized = KAVI_NO_MEMORY;
+        if (made == KAVI_OK) {
+            lexicon = kavi_reader_set_lexicon(reader, "a", "kavi\tkahvee\n", 12);
+            kavi_reader_set_everyday(reader, KAVI_ALL_EVERYDAY);
+            read = kavi_read(reader, text.data(), text.size(), KAVI_RUNS, &result);
+            normalized =
+                kavi_normalize(reader, text.data(), text.size(), KAVI_PLAIN, &spoken, nullptr);
+        }
+        allocations_left = -1;
+        EXPECT_EQ(reader == nullptr, made == KAVI_NO_MEMORY);
+        EXPECT_EQ(result == nullptr, read == KAVI_NO_MEMORY);
+        EXPECT_EQ(spoken == nullptr, normalized == KAVI_NO_MEMORY);
+        kavi_free(spoken);
+        kavi_result_free(result);
+        if (reader != nullptr) {
+            EXPECT_EQ(kavi_read(reader, "a", 1, 0, &result), KAVI_OK);
+            kavi_result_free(result);
+        }
+        kavi_reader_free(reader);
+        const bool is_complete = lexicon == KAVI_OK && read == KAVI_OK && normalized == KAVI_OK;
+        if (is_complete) break;
+        ++refused;
+    }
+    EXPECT_GT(refused, 20);
+    EXPECT_LT(refused, 5000);
+}

@@ -1,0 +1,206 @@
+/* kavi for programs in C, and in every language that can call C: English text in, words out.
+ *
+ *     kavi_reader* reader;
+ *     kavi_result* result;
+ *     if (kavi_reader_new(0, &reader) != KAVI_OK) return 1;
+ *     if (kavi_read(reader, text, length, 0, &result) < KAVI_NO_MEMORY) { ...;
+ * kavi_result_free(result); } kavi_reader_free(reader);
+ *
+ * Texts have any bytes and any length. What is given out is NUL-terminated, with its length beside
+ * it where it may be long. All offsets and lengths are bytes. No function keeps a pointer that it
+ * was given after it has returned. One reader serves one thread at a time; readers share nothing,
+ * and a result can be read by several threads.
+ *
+ * Sizes, fields and values stay as they are as long as the library is libkavi.so.1. New values of
+ * enumerations may come at their ends. */
+#ifndef KAVI_H
+#define KAVI_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#if defined(__GNUC__) && !defined(__EMSCRIPTEN__)
+#define KAVI_API __attribute__((visibility("default")))
+#else
+#define KAVI_API
+#endif
+
+typedef enum kavi_status {
+    KAVI_OK,
+    KAVI_INCOMPLETE, /* read, but for pieces that the capacity does not hold; findings tell where */
+    KAVI_STOPPED,    /* a handler said so */
+    KAVI_NO_MEMORY,  /* the system has none; the reader can be used again */
+    KAVI_BAD_ARGUMENT, /* a null pointer where none may be, or a number without a meaning */
+    KAVI_BAD_LEXICON,  /* kavi_reader_error() tells file, line and fault */
+    KAVI_BUSY,         /* called from a handler of the same reader */
+} kavi_status;
+
+/* What a status means, in a few words; a constant text. */
+KAVI_API const char* kavi_status_text(kavi_status status);
+
+/* ---- what is read ---- */
+
+/* Bytes of the text that was given. */
+typedef struct kavi_range {
+    size_t offset;
+    size_t length;
+} kavi_range;
+
+typedef struct kavi_text {
+    const char* data; /* NUL-terminated */
+    size_t length;    /* without the NUL */
+} kavi_text;
+
+/* What applies to a word. kavi_attribute_name() has their names. */
+typedef enum kavi_attribute {
+    KAVI_EMPHASIS,
+    KAVI_PITCH,
+    KAVI_RATE,
+    KAVI_VOLUME,
+    KAVI_SPECTRUM,
+    KAVI_POEM,
+    KAVI_QUILL_EFFECT,
+} kavi_attribute;
+#define KAVI_ATTRIBUTES 7
+#define KAVI_MARKS_MAX 10
+
+typedef struct kavi_word {
+    kavi_text text;                    /* empty for the head of a sentence */
+    kavi_range source;                 /* the words of one number share it */
+    int32_t pause;                     /* after the word; kavi_pause_name() */
+    int32_t n_marks;                   /* after the word, in order; kavi_mark_name() */
+    uint8_t marks[KAVI_MARKS_MAX + 2]; /* the first n_marks */
+    const char* break_time;            /* after the word, in milliseconds as written; "": none */
+    const char* attributes[KAVI_ATTRIBUTES]; /* by kavi_attribute, as written; "": not set */
+} kavi_word;
+
+/* A stretch that one rule has read. */
+typedef struct kavi_run {
+    kavi_range source;
+    const char* rule;  /* in a few words, such as "date" or "everyday: currencies" */
+    kavi_text reading; /* what was written for it */
+} kavi_run;
+
+typedef struct kavi_sentence {
+    kavi_range source;     /* begins where that of the last sentence ended */
+    kavi_text normalized;  /* abbreviations written out, its end marked */
+    kavi_text speakable;   /* words and punctuation tags */
+    const kavi_word* head; /* what comes before the first word: marks and a break; no text */
+    const kavi_word* words;
+    size_t n_words;
+    const kavi_run* runs; /* where KAVI_RUNS asks for them */
+    size_t n_runs;
+} kavi_sentence;
+
+typedef struct kavi_finding {
+    int32_t code; /* kavi_finding_code(), kavi_finding_message() */
+    size_t offset;
+    size_t length;   /* of what is not spoken; 1 for other findings */
+    size_t sentence; /* its number, from 0; the number of sentences for one after the last */
+} kavi_finding;
+
+/* Names that stay as they are, for people and programs; constant texts. "unknown" for a value that
+ * is none. */
+KAVI_API const char* kavi_pause_name(int32_t pause);
+KAVI_API const char* kavi_mark_name(int32_t mark);
+KAVI_API const char* kavi_attribute_name(kavi_attribute attribute);
+KAVI_API const char* kavi_finding_code(int32_t code);
+KAVI_API const char* kavi_finding_message(int32_t code);
+
+/* ---- readers ---- */
+
+typedef struct kavi_reader kavi_reader;
+
+/* Makes a reader whose arena takes at most `capacity` bytes from the system for records; 0: no
+ * limit.
+ * `*reader` is null unless the answer is KAVI_OK. */
+KAVI_API kavi_status kavi_reader_new(size_t capacity, kavi_reader** reader);
+
+/* Null is passed over. Not from a handler of the reader. */
+KAVI_API void kavi_reader_free(kavi_reader* reader);
+
+/* From now on the reader says what this lexicon has for whole words, in the place of the last one:
+ * lines of what is written, a tab, and the words that are spoken for it, in UTF-8. `name` is told
+ * in errors. No bytes: no lexicon. When a line is wrong, the last lexicon stays. */
+KAVI_API kavi_status kavi_reader_set_lexicon(kavi_reader* reader, const char* name,
+                                             const char* bytes, size_t length);
+
+/* The classes of everyday English that are read by rules before the engine reads: a sum of these.
+ * None at first. */
+enum {
+    KAVI_TITLES = 1 << 0,
+    KAVI_CONTRACTIONS = 1 << 1,
+    KAVI_CURRENCIES = 1 << 2,
+    KAVI_UNITS = 1 << 3,
+    KAVI_YEARS = 1 << 4,
+    KAVI_TIMES = 1 << 5,
+    KAVI_ADDRESSES = 1 << 6,
+    KAVI_ROMAN = 1 << 7,
+    KAVI_NUMBERS = 1 << 8,
+    KAVI_LETTERS = 1 << 9,
+    KAVI_SHIELDS = 1 << 10,
+    KAVI_ALL_EVERYDAY = (1 << 11) - 1,
+    KAVI_AMERICAN_DATES = 1 << 16 /* with KAVI_YEARS: 3/1/2020 is March first */
+};
+KAVI_API kavi_status kavi_reader_set_everyday(kavi_reader* reader, uint32_t classes);
+
+/* What was wrong with the last lexicon, as "NAME:LINE: fault"; "" when nothing was. Lives until the
+ * next call with the reader. */
+KAVI_API const char* kavi_reader_error(const kavi_reader* reader);
+
+/* ---- reading ---- */
+
+enum {
+    KAVI_RUNS = 1 /* sentences tell which rule has read what */
+};
+
+typedef struct kavi_result kavi_result;
+
+/* Reads a text. `wanted` is 0 or KAVI_RUNS. With KAVI_OK and KAVI_INCOMPLETE, `*result` has all of
+ * it and is to be freed; it does not need the text or the reader any more. Otherwise it is null. */
+KAVI_API kavi_status kavi_read(kavi_reader* reader, const char* text, size_t length,
+                               uint32_t wanted, kavi_result** result);
+
+KAVI_API size_t kavi_result_sentences(const kavi_result* result);
+KAVI_API size_t kavi_result_findings(const kavi_result* result);
+
+/* Live as long as the result; null for a number that is too great. */
+KAVI_API const kavi_sentence* kavi_result_sentence(const kavi_result* result, size_t number);
+KAVI_API const kavi_finding* kavi_result_finding(const kavi_result* result, size_t number);
+
+/* Null is passed over. */
+KAVI_API void kavi_result_free(kavi_result* result);
+
+/* Called for each sentence, and for each finding before its sentence; either may be null. What they
+ * are given lives until they return. They answer whether to go on: 0 stops. `user` is passed on. */
+typedef struct kavi_handlers {
+    int (*on_sentence)(void* user, const kavi_sentence* sentence);
+    int (*on_finding)(void* user, const kavi_finding* finding);
+    void* user;
+} kavi_handlers;
+
+/* The same for texts of any length: nothing is kept. */
+KAVI_API kavi_status kavi_read_each(kavi_reader* reader, const char* text, size_t length,
+                                    uint32_t wanted, const kavi_handlers* handlers);
+
+typedef enum kavi_form {
+    KAVI_SPEAKABLE, /* words and punctuation tags, a line for each sentence but the last without its
+                       end */
+    KAVI_PLAIN,     /* words and punctuation, single blanks */
+} kavi_form;
+
+/* Gives what is spoken for a text alone, in a kavi_form, NUL-terminated; to be freed by
+ * kavi_free(). `n_spoken` may be null. Otherwise as kavi_read(). */
+KAVI_API kavi_status kavi_normalize(kavi_reader* reader, const char* text, size_t length,
+                                    uint32_t form, char** spoken, size_t* n_spoken);
+KAVI_API void kavi_free(char* spoken);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* KAVI_H */

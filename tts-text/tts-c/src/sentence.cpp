@@ -1,0 +1,56 @@
+#include "reader.h"
+#include "tts_explain.h"
+#include "tts_names.h"
+
+namespace kavi::c {
+
+namespace {
+
+kavi_range range_of(const TextRange& range) {
+    return {range.offset, range.length};
+}
+
+void fill(kavi_word& word, const UtteranceSyllable& record, const WordPlace& place, Pool& pool) {
+    static_assert(KAVI_MARKS_MAX == sizeof record.punc_arr / sizeof *record.punc_arr);
+    const bool has_word = record.syllable != nullptr;
+    word.text = pool.text(has_word ? record.syllable : "");
+    word.source = range_of(place.source);
+    word.pause = record.pause_type;
+    word.n_marks = record.n_punc;
+    for (int i = 0; i < record.n_punc; ++i) {
+        word.marks[i] = static_cast<std::uint8_t>(record.punc_arr[i]);
+    }
+    word.break_time = pool.value(record.cssml_tag.breaktime);
+    const char** attribute = word.attributes;
+    for (const auto& [name, value] : attributes(record.cssml_tag)) *attribute++ = pool.value(value);
+}
+
+}  // namespace
+
+kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::uint32_t wanted,
+                     Pool& pool) {
+    const auto n_records = static_cast<std::size_t>(sentence.n_records);
+    auto* words = pool.array<kavi_word>(n_records);
+    const std::vector<WordPlace>& places = sentence.places.words();
+    for (std::size_t i = 0; i < n_records; ++i) {
+        fill(words[i], sentence.records[i], places[i], pool);
+    }
+    kavi_sentence copy = {};
+    copy.source = range_of(sentence.source);
+    copy.normalized = pool.text(sentence.normalized);
+    copy.speakable = pool.text(sentence.speakable);
+    copy.head = words;
+    copy.words = words + 1;
+    copy.n_words = n_records - 1;
+    if ((wanted & KAVI_RUNS) == 0) return copy;
+    const std::vector<ExplainedRun> explained = explain(sentence, text);
+    auto* runs = pool.array<kavi_run>(explained.size());
+    copy.runs = runs;
+    copy.n_runs = explained.size();
+    for (const ExplainedRun& run : explained) {
+        *runs++ = {range_of(run.source), pool.text(run.rule).data, pool.text(run.reading)};
+    }
+    return copy;
+}
+
+}  // namespace kavi::c

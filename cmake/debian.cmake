@@ -3,6 +3,9 @@
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL tool library clibrary development)
+if(KAVI_BUILD_PYTHON)
+    list(APPEND CPACK_COMPONENTS_ALL python)
+endif()
 set(CPACK_PACKAGE_CONTACT "The kavi maintainers <maintainers@kavi.invalid>")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://kavi.invalid/")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -26,6 +29,14 @@ set(CPACK_DEBIAN_CLIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libkavi-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-kavi)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+if(KAVI_BUILD_PYTHON)
+    math(EXPR next "${Python3_VERSION_MINOR} + 1")
+    set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+        "python3 (>= 3.${Python3_VERSION_MINOR}), python3 (<< 3.${next})")
+endif()
+
 string(CONCAT about
     "kavi turns English text into the words that a speech engine says:\n"
     "numbers, dates, money, times, telephone numbers, abbreviations,\n"
@@ -33,10 +44,12 @@ string(CONCAT about
 set(CPACK_COMPONENT_TOOL_DESCRIPTION "English text to speakable words, command line\n${about}")
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "English text to speakable words, libraries\n${about}")
 set(CPACK_COMPONENT_CLIBRARY_DESCRIPTION "English text to speakable words, library for C\n${about}")
+set(CPACK_COMPONENT_PYTHON_DESCRIPTION "English text to speakable words, Python module\n${about}")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "English text to speakable words, development files\n${about}")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/cmake/debian/triggers)
 set(CPACK_DEBIAN_CLIBRARY_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/cmake/debian/triggers)
 set(CPACK_COMPONENT_TOOL_DEPENDS library)
+set(CPACK_COMPONENT_PYTHON_DEPENDS library)
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS library clibrary)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_CURRENT_BINARY_DIR})
 
@@ -44,7 +57,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_CURRENT_BINARY_DIR})
 set(documents ${CMAKE_CURRENT_BINARY_DIR}/debian)
 file(MAKE_DIRECTORY ${documents})
 configure_file(cmake/debian/copyright ${documents}/copyright COPYONLY)
-foreach(component TOOL LIBRARY CLIBRARY DEVELOPMENT)
+foreach(component TOOL LIBRARY CLIBRARY DEVELOPMENT PYTHON)
     string(TOLOWER ${component} name)
     set(KAVI_PACKAGE ${CPACK_DEBIAN_${component}_PACKAGE_NAME})
     configure_file(cmake/debian/changelog.in ${documents}/${name}/changelog.Debian @ONLY)

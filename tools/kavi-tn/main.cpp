@@ -1,39 +1,7 @@
 // kavi-tn: text in, speakable sentences out.
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <exception>
-#include <iostream>
-
-#include "check.h"
-#include "command_line.h"
-#include "pipeline.h"
-
-namespace {
-
-// A closed standard descriptor would be given to the next file that is opened, and messages would
-// go into the output. In its place stands one that cannot be used for what it is for, so that this
-// is still a failure.
-void open_standard_descriptors() {
-    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (::fcntl(descriptor, F_GETFD) >= 0) continue;
-        ::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-    }
-}
-
-}  // namespace
+#include "run_tool.h"
 
 int main(int argc, char** argv) {
-    open_standard_descriptors();
-    try {
-        int status = 0;
-        const auto options = kavi::tool::parse_command_line(argc, argv, status);
-        if (!options) return status;
-        return options->check ? kavi::tool::run_check(*options)
-                              : kavi::tool::run_pipeline(*options);
-    } catch (const std::exception& error) {
-        std::cerr << "kavi-tn: " << error.what() << '\n';
-        return 1;
-    }
+    return kavi::tool::run_tool(argc, argv);
 }

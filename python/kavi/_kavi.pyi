@@ -1,0 +1,55 @@
+from typing import List, Tuple
+
+from kavi._types import Finding, Run, Word
+
+version: str
+
+class Sentence:
+    """One sentence. Offsets and lengths are code points of the text."""
+
+    @property
+    def source(self) -> str:
+        """As it was written."""
+    @property
+    def offset(self) -> int: ...
+    @property
+    def length(self) -> int: ...
+    @property
+    def normalized(self) -> str:
+        """With abbreviations written out, and its end marked."""
+    @property
+    def speakable(self) -> str:
+        """Words and punctuation tags."""
+    @property
+    def plain(self) -> str:
+        """Words and punctuation, single blanks."""
+    @property
+    def head(self) -> Word:
+        """What comes before the first word: marks and a break, without a word."""
+    @property
+    def words(self) -> Tuple[Word, ...]: ...
+    @property
+    def runs(self) -> Tuple[Run, ...]:
+        """Which rule has read what; empty unless it was asked for."""
+
+class Result:
+    """What a text was read as."""
+
+    @property
+    def sentences(self) -> Tuple[Sentence, ...]: ...
+    @property
+    def findings(self) -> Tuple[Finding, ...]: ...
+    @property
+    def complete(self) -> bool:
+        """False when the capacity did not hold all of it."""
+
+class Reader:
+    def __init__(self, capacity: int, lexicon_name: str, lexicon: bytes, everyday: int,
+                 american_dates: bool) -> None: ...
+    def normalize(self, text: str) -> str: ...
+    def normalize_batch(self, texts: List[str]) -> List[str]: ...
+    def read(self, text: str, rules: bool) -> Result: ...
+
+def run_tool(arguments: List[str]) -> int: ...
+def names() -> Tuple[List[str], List[str], List[str]]:
+    """Pauses from the least, marks from 0, codes of findings: as the engine orders them."""

@@ -1,0 +1,52 @@
+// The module kavi._kavi.
+
+#include <pybind11/pybind11.h>
+#include <pybind11/stl.h>
+
+#include <string>
+#include <vector>
+
+#include "kavi_version.h"
+#include "reader.h"
+#include "result.h"
+#include "run_tool.h"
+#include "tts_names.h"
+
+namespace py = pybind11;
+
+namespace {
+
+int run_tool(std::vector<std::string> arguments) {
+    std::vector<char*> argv;
+    for (std::string& argument : arguments) argv.push_back(argument.data());
+    argv.push_back(nullptr);
+    const py::gil_scoped_release released;
+    return kavi::tool::run_tool(static_cast<int>(arguments.size()), argv.data());
+}
+
+// Pauses from the least, marks from 0, codes of findings: as the engine orders them.
+py::tuple names() {
+    py::list pauses;
+    py::list marks;
+    py::list findings;
+    for (int i = kavi::PAUSE_SYL_FE; i <= kavi::PAUSE_PLRULE_INTONATION_PHRASE_FORCE_FE; ++i) {
+        pauses.append(kavi::pause_name(static_cast<kavi::PAUSE_type>(i)));
+    }
+    for (int i = kavi::PUNC_NULL_FE; i <= kavi::POIE_FE; ++i) {
+        marks.append(kavi::punctuation_name(static_cast<kavi::PUNC_type>(i)));
+    }
+    for (int i = 0; i <= static_cast<int>(kavi::Finding::arena_too_small); ++i) {
+        findings.append(kavi::code_of(static_cast<kavi::Finding>(i)));
+    }
+    return py::make_tuple(pauses, marks, findings);
+}
+
+}  // namespace
+
+PYBIND11_MODULE(_kavi, module) {
+    module.attr("version") = KAVI_VERSION;
+    module.def("run_tool", run_tool);
+    module.def("names", names);
+    kavi::python::add_results(module);
+    kavi::python::add_reader(module);
+}

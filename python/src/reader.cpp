@@ -1,0 +1,156 @@
+#include "reader.h"
+
+#include <new>
+#include <stdexcept>
+#include <vector>
+
+#include "tts_plain.h"
+
+namespace kavi::python {
+
+namespace py = pybind11;
+
+namespace {
+
+// Shorter texts are read in less time than the interpreter lock takes to change hands.
+constexpr std::size_t LONG = 4096;
+
+// The words are ASCII, but for what an attribute or a lexicon may bring.
+py::str python_text(std::string_view text) {
+    PyObject* object =
+        PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace");
+    if (object == nullptr) throw py::error_already_set();
+    return py::reinterpret_steal<py::str>(object);
+}
+
+[[noreturn]] void fail_for_capacity() {
+    PyErr_SetString(PyExc_MemoryError, "the capacity does not hold what this text is read as");
+    throw py::error_already_set();
+}
+
+}  // namespace
+
+// The reader is this thread's until the end of the call.
+class Reader::Turn {
+  public:
+    explicit Turn(Reader& reader) : is_reading_(reader.is_reading_) {
+        if (is_reading_.exchange(true)) {
+            throw std::runtime_error("another thread reads with this reader");
+        }
+    }
+    ~Turn() { is_reading_ = false; }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+
+  private:
+    std::atomic<bool>& is_reading_;
+};
+
+Reader::Reader(std::size_t capacity, const std::string& lexicon_name, const py::bytes& lexicon,
+               unsigned everyday, bool american_dates)
+    : host_(capacity), everyday_(&lexicon_) {
+    std::string error;
+    if (!lexicon_.add(lexicon_name, std::string(lexicon), error))
+        throw std::invalid_argument(error);
+    everyday_ = Everyday(lexicon_.empty() ? nullptr : &lexicon_);
+    for (int i = 0; i < EVERYDAY_CLASSES; ++i) {
+        everyday_.set(static_cast<EverydayClass>(i),
+                      (everyday >> static_cast<unsigned>(i) & 1U) != 0);
+    }
+    everyday_.set_american_dates(american_dates);
+    if (!lexicon_.empty() || everyday != 0) host_.rewrite_by(&everyday_);
+}
+
+bool Reader::append_plain(std::string_view text, std::string& spoken) {
+    const std::size_t begin = spoken.size();
+    return host_.read(
+        text,
+        [&](const HostSentence& sentence) {
+            const std::string plain = plain_text(sentence.records, sentence.n_records);
+            if (spoken.size() > begin && !plain.empty()) spoken += ' ';
+            spoken += plain;
+            return true;
+        },
+        nullptr);
+}
+
+py::str Reader::normalize(const py::str& text) {
+    const Utf8 utf8(text);
+    std::string spoken;
+    bool is_complete = false;
+    {
+        const Turn turn(*this);
+        if (utf8.bytes().size() < LONG) {
+            is_complete = append_plain(utf8.bytes(), spoken);
+        } else {
+            const py::gil_scoped_release released;
+            is_complete = append_plain(utf8.bytes(), spoken);
+        }
+    }
+    if (!is_complete) fail_for_capacity();
+    return python_text(spoken);
+}
+
+py::list Reader::normalize_batch(const py::list& texts) {
+    std::vector<Utf8> all;
+    all.reserve(texts.size());
+    for (const py::handle text : texts) {
+        if (!PyUnicode_Check(text.ptr())) throw py::type_error("a text is not a str");
+        all.emplace_back(py::reinterpret_borrow<py::str>(text));
+    }
+    std::string spoken;
+    std::vector<std::size_t> ends;
+    ends.reserve(all.size());
+    bool is_complete = true;
+    {
+        const Turn turn(*this);
+        const py::gil_scoped_release released;
+        for (const Utf8& text : all) {
+            is_complete = append_plain(text.bytes(), spoken) && is_complete;
+            ends.push_back(spoken.size());
+        }
+    }
+    if (!is_complete) fail_for_capacity();
+    py::list result(all.size());
+    std::size_t begin = 0;
+    for (std::size_t i = 0; i < ends.size(); ++i) {
+        result[i] = python_text(std::string_view(spoken).substr(begin, ends[i] - begin));
+        begin = ends[i];
+    }
+    return result;
+}
+
+Result Reader::read(const py::str& text, bool rules) {
+    const Utf8 utf8(text);
+    CodePoints of_sentences(utf8.bytes(), utf8.is_ascii());
+    CodePoints of_findings(utf8.bytes(), utf8.is_ascii());
+    Result result;
+    result.text = text;
+    const Turn turn(*this);
+    const py::gil_scoped_release released;
+    result.complete = host_.read(
+        utf8.bytes(),
+        [&](const HostSentence& sentence) {
+            result.sentences.push_back(
+                std::make_shared<Sentence>(sentence, utf8.bytes(), rules, of_sentences));
+            return true;
+        },
+        [&](const Diagnostic& found) {
+            const std::size_t begin = of_findings.at(found.offset);
+            const std::size_t end = of_findings.at(found.offset + found.length);
+            result.findings.push_back(
+                {found.finding, {begin, end - begin}, result.sentences.size()});
+            return true;
+        });
+    return result;
+}
+
+void add_reader(py::module_& module) {
+    py::class_<Reader>(module, "Reader")
+        .def(py::init<std::size_t, const std::string&, const py::bytes&, unsigned, bool>())
+        .def("normalize", &Reader::normalize)
+        .def("normalize_batch", &Reader::normalize_batch)
+        .def("read", &Reader::read);
+}
+
+}  // namespace kavi::python

@@ -1,0 +1,41 @@
+// The reader that Python has: the host layer with its settings.
+#ifndef KAVI_PYTHON_READER_H
+#define KAVI_PYTHON_READER_H
+
+#include <pybind11/pybind11.h>
+
+#include <atomic>
+#include <string>
+
+#include "result.h"
+#include "tts_everyday.h"
+
+namespace kavi::python {
+
+class Reader {
+  public:
+    // Throws std::invalid_argument for a bad line of the lexicon.
+    Reader(std::size_t capacity, const std::string& lexicon_name, const pybind11::bytes& lexicon,
+           unsigned everyday, bool american_dates);
+
+    pybind11::str normalize(const pybind11::str& text);
+    pybind11::list normalize_batch(const pybind11::list& texts);
+    Result read(const pybind11::str& text, bool rules);
+
+  private:
+    class Turn;
+
+    // Appends what is spoken for the text; false when the capacity does not hold it.
+    bool append_plain(std::string_view text, std::string& spoken);
+
+    TtsHost host_;
+    Lexicon lexicon_;
+    Everyday everyday_;
+    std::atomic<bool> is_reading_ = false;
+};
+
+void add_reader(pybind11::module_& module);
+
+}  // namespace kavi::python
+
+#endif  // KAVI_PYTHON_READER_H

@@ -1,0 +1,73 @@
+// What a text was read as, kept in C++ until Python asks for it.
+#ifndef KAVI_PYTHON_RESULT_H
+#define KAVI_PYTHON_RESULT_H
+
+#include <pybind11/pybind11.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "text.h"
+#include "tts_host.h"
+
+namespace kavi::python {
+
+struct Place {
+    std::size_t offset;
+    std::size_t length;
+};
+
+struct Word {
+    std::string text;
+    Place source;
+    int pause;
+    std::vector<int> marks;
+    std::string breaktime;
+    std::vector<std::pair<const char*, std::string>> attributes;
+};
+
+struct Run {
+    Place source;
+    std::string rule;
+    std::string reading;
+};
+
+struct Sentence {
+    // A copy of what is read from `text`, whose offsets these are.
+    Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs,
+             CodePoints& code_points);
+
+    Place source;
+    std::string normalized;
+    std::string speakable;
+    std::string plain;
+    std::vector<Word> words;  // the first is the head
+    std::vector<Run> runs;
+};
+
+struct Finding {
+    kavi::Finding finding;
+    Place source;
+    std::size_t sentence;
+};
+
+struct Result {
+    pybind11::str text;
+    std::vector<std::shared_ptr<Sentence>> sentences;
+    std::vector<Finding> findings;
+    bool complete = true;
+};
+
+// A sentence with the text that it is of.
+struct SentenceOfText {
+    std::shared_ptr<Sentence> sentence;
+    pybind11::str text;
+};
+
+void add_results(pybind11::module_& module);
+
+}  // namespace kavi::python
+
+#endif  // KAVI_PYTHON_RESULT_H

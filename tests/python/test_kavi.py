@@ -1,0 +1,194 @@
+"""The Python package, installed from its wheel: the same answers as the tool, in Python's own terms."""
+
+import doctest
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import threading
+
+import kavi
+import pytest
+from kavi import _kavi
+
+PROJECT = pathlib.Path(os.environ["KAVI_PROJECT"])
+TEXT = "“Dr. Smith” paid <prosody=rate=\"2\">$5.50<breaktime=200></prosody> on 3/1/2020, </poem>ok? ÿ It's 10:30!"
+
+
+def tool(*arguments: str, text: bytes = b"") -> bytes:
+    run = subprocess.run([sys.executable, "-m", "kavi", *arguments], input=text, stdout=subprocess.PIPE, check=True,
+                         stderr=subprocess.DEVNULL)
+    return run.stdout
+
+
+def test_examples_in_documentation() -> None:
+    assert doctest.testmod(kavi) == (0, 2)
+
+
+def test_the_tool_is_the_filter() -> None:
+    golden = PROJECT / "tests/golden"
+    for stage in ("sentences", "plain", "words", "explain"):
+        spoken = tool(f"--{stage}", str(golden / "input.txt"), str(golden / "second <&\">.txt"))
+        assert spoken == (golden / f"{stage}.txt").read_bytes()
+
+
+def test_enumerations_are_the_engine_s() -> None:
+    pauses, marks, findings = _kavi.names()
+    assert [pause.name for pause in kavi.Pause] == [
+        name.upper().replace(", ", " ").replace(" ", "_") for name in pauses]
+    assert [mark.name for mark in kavi.Mark] == [name.upper() for name in marks]
+    assert [code.value for code in kavi.FindingCode] == findings
+
+
+def words_by_tool(line: str) -> list:
+    """Sentences of words as the tool's JSON has them, offsets in code points."""
+    data = line.encode()
+    sentences = []
+    for row in tool("--format", "jsonl", "--fields", "offset,length,speakable,plain,words", "-0", text=data).splitlines():
+        sentence = json.loads(row)
+
+        def points(thing: dict) -> tuple:
+            begin = len(data[:thing["offset"]].decode(errors="ignore"))
+            return begin, len(data[:thing["offset"] + thing["length"]].decode(errors="ignore")) - begin
+
+        words = [(word["word"], *points(word), word["pause"], word.get("marks", []), word.get("breaktime", ""),
+                  {name: word[name] for name in word if name in ("emphasis", "pitch", "rate", "volume", "poem")})
+                 for word in sentence["words"] if word["word"] is not None]
+        sentences.append((*points(sentence), sentence["speakable"], sentence["plain"], words))
+    return sentences
+
+
+def words_by_package(text: str) -> list:
+    pauses, marks, _ = _kavi.names()
+    return [(s.offset, s.length, s.speakable, s.plain,
+             [(w.text, w.offset, w.length, pauses[w.pause + 2], [marks[m] for m in w.marks], w.breaktime,
+               {name: w.attributes[name] for name in w.attributes if name not in ("spectrum", "quill_effect")})
+              for w in s.words]) for s in kavi.read(text).sentences]
+
+
+@pytest.mark.parametrize("text", [TEXT, "", "a", "Zürich, «5.50» – ½ 😀 1999!", "a. " * 50])
+def test_reads_as_the_tool_does(text: str) -> None:
+    assert words_by_package(text) == words_by_tool(text)
+
+
+def test_reads_the_fuzz_seeds_as_the_tool_does() -> None:
+    texts = [path.read_bytes().decode(errors="ignore").replace("\0", "") for path in (PROJECT / "fuzz/seeds").iterdir()]
+    text = " ".join(texts)
+    assert words_by_package(text) == words_by_tool(text)
+
+
+def test_sentences_have_their_source() -> None:
+    result = kavi.read(TEXT)
+    assert "".join(sentence.source for sentence in result.sentences) == TEXT
+    assert result.complete
+    dollars = next(word for word in result.sentences[0].words if word.text == "dollars")
+    assert TEXT[dollars.offset:dollars.offset + dollars.length] == "$5.50"
+    assert dollars.attributes == {"rate": "2"}
+    assert dollars.pause is kavi.Pause.WORD
+    assert result.sentences[0].words[-1].marks == (kavi.Mark.DOU,)
+
+
+def test_findings_tell_where() -> None:
+    findings = kavi.read(TEXT).findings
+    stray = next(finding for finding in findings if finding.code is kavi.FindingCode.STRAY_CLOSING_TAG)
+    assert TEXT[stray.offset:].startswith("</poem>")
+    unspoken = next(finding for finding in findings if TEXT[finding.offset] == "ÿ")
+    assert (unspoken.code, unspoken.length, unspoken.sentence) == (kavi.FindingCode.NOT_SPOKEN, 1, 2)
+    assert "not spoken" in unspoken.message
+
+
+def test_runs_are_told_on_request() -> None:
+    assert kavi.read("5 cats").sentences[0].runs == ()
+    runs = kavi.read("5 cats", rules=True).sentences[0].runs
+    assert (runs[0].offset, runs[0].length, runs[0].reading.strip()) == (0, 1, "five")
+    assert runs[0].rule
+
+
+def test_lone_surrogates_and_nul_lose_no_word() -> None:
+    assert kavi.normalize("a \ud800 5 \0 b") == "a five b"
+    assert [word.offset for word in kavi.read("a \ud800 5 \0 b").sentences[0].words] == [0, 4, 8]
+
+
+def test_what_is_no_str_is_refused() -> None:
+    with pytest.raises(TypeError):
+        kavi.normalize(5)  # type: ignore[arg-type]
+    with pytest.raises(TypeError):
+        list(kavi.normalize_many(["a", 5]))  # type: ignore[list-item]
+    with pytest.raises(ValueError):
+        list(kavi.normalize_many([], jobs=0))
+
+
+def test_capacity(tmp_path: pathlib.Path) -> None:
+    small = kavi.Reader(capacity=1)
+    with pytest.raises(MemoryError):
+        small.normalize("a b")
+    with pytest.raises(MemoryError):
+        list(small.normalize_many(["a"]))
+    assert not small.read("a b").complete
+
+
+def test_lexicon_and_everyday_english(tmp_path: pathlib.Path) -> None:
+    lexicon = tmp_path / "mine.txt"
+    lexicon.write_text("kavi\tkahvee\n")
+    assert kavi.Reader(lexicon=lexicon).normalize("kavi won't") == kavi.normalize("kahvee won't")
+    assert kavi.Reader(lexicon=lexicon, everyday=True).normalize("kavi won't") == "kahvee will not"
+    only = kavi.Reader(everyday=kavi.Everyday.UNITS)
+    assert only.normalize("5 km won't") == kavi.normalize("five kilometres won't")
+    dates = kavi.Reader(everyday=kavi.Everyday.YEARS, american_dates=True)
+    assert dates.normalize("3/4/2020") == "March fourth twenty twenty"
+    lexicon.write_text("ok\tokay\nbad\n")
+    with pytest.raises(ValueError, match=f"^{lexicon}:2:"):
+        kavi.Reader(lexicon=lexicon)
+    with pytest.raises(OSError):
+        kavi.Reader(lexicon=tmp_path / "none")
+
+
+@pytest.mark.parametrize("jobs", [1, 3])
+def test_many_texts_come_in_order(jobs: int) -> None:
+    texts = [f"{n} cats, {n * 7}" for n in range(5000)]
+    assert list(kavi.normalize_many(iter(texts), jobs)) == [kavi.normalize(text) for text in texts]
+
+
+def test_many_texts_are_taken_as_they_are_needed() -> None:
+    taken = 0
+
+    def texts():  # type: ignore[no-untyped-def]
+        nonlocal taken
+        while True:
+            taken += 1
+            yield "a 5"
+
+    many = kavi.normalize_many(texts(), jobs=2)
+    assert [next(many) for _ in range(3)] == ["a five"] * 3
+    assert taken < 10000
+
+
+def test_one_reader_is_for_one_thread() -> None:
+    reader = kavi.Reader()
+    long = "It is 10:30. " * 200000
+    entered, failed = threading.Event(), []
+
+    def work() -> None:
+        entered.set()
+        reader.normalize(long)
+
+    thread = threading.Thread(target=work)
+    thread.start()
+    entered.wait()
+    while thread.is_alive() and not failed:
+        try:
+            reader.normalize("a")
+        except RuntimeError as error:
+            failed.append(str(error))
+    thread.join()
+    assert failed == ["another thread reads with this reader"]
+    assert reader.normalize("a 5") == "a five"
+
+
+def test_lines_of_a_file(tmp_path: pathlib.Path) -> None:
+    path = tmp_path / "lines"
+    path.write_bytes(b"a 5\r\nb \xff 6\n\nc")
+    lines = list(kavi.read_file(path))
+    assert [(line.number, [word.text for s in line.result.sentences for word in s.words]) for line in lines] == [
+        (1, ["a", "five"]), (2, ["b", "six"]), (3, []), (4, ["c"])]

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Builds the wheel in a fresh virtual environment, without the network, and runs pytest and mypy on
+# what it installs there.
+# Usage: python_test.sh PROJECT
+set -euo pipefail
+export KAVI_PROJECT=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+/usr/bin/python3 -m venv --system-site-packages "$work/venv"
+pip() { "$work/venv/bin/python3" -m pip --quiet --disable-pip-version-check --no-cache-dir "$@"; }
+pip wheel --no-build-isolation --no-deps --no-index --wheel-dir "$work" "$1/python"
+pip install --no-deps --no-index "$work"/kavi-*.whl
+cd "$work"
+"$work/venv/bin/python3" -m pytest -q -p no:cacheprovider "$1/tests/python"
+"$work/venv/bin/python3" -m mypy --strict --cache-dir "$work/mypy" -p kavi
+"$work/venv/bin/python3" -m mypy.stubtest kavi._kavi >/dev/null

@@ -192,3 +192,15 @@ def test_lines_of_a_file(tmp_path: pathlib.Path) -> None:
     lines = list(kavi.read_file(path))
     assert [(line.number, [word.text for s in line.result.sentences for word in s.words]) for line in lines] == [
         (1, ["a", "five"]), (2, ["b", "six"]), (3, []), (4, ["c"])]
+
+
+def test_the_page_about_python() -> None:
+    assert doctest.testfile(str(PROJECT / "docs/python.md"), module_relative=False).failed == 0
+
+
+def test_voice_data(tmp_path: pathlib.Path) -> None:
+    (tmp_path / "metadata").write_text("a1|It's 5 km, ok\na2|x ☃ y|z\n")
+    subprocess.run([sys.executable, PROJECT / "examples/voice_data.py", "metadata", "spoken", "report"], cwd=tmp_path,
+                   check=True)
+    assert (tmp_path / "spoken").read_text() == "a1|It's 5 km, ok|It is five kilometres, ok\na2|x ☃ y|z|x y z\n"
+    assert (tmp_path / "report").read_text() == "metadata:2:2: not-spoken: bytes outside ASCII are not spoken\n"

@@ -39,6 +39,18 @@ need_compiler() {
     need g++ g++
 }
 
+# The packages of the npm registry that pages are tested with, in $browser.
+browser=$project/build/browser
+need_browser() {
+    need chromium chromium
+    need node nodejs
+    need npm npm
+}
+install_browser_tests() {
+    [ -d "$browser/node_modules/axe-core" ] ||
+        npm install --silent --no-save --no-audit --no-fund --prefix "$browser" playwright-core@1 axe-core@4
+}
+
 # What the command line is built with.
 need_tool_libraries() {
     need_file /usr/include/CLI/CLI.hpp libcli11-dev

@@ -2,12 +2,25 @@
 
 #include <utf8.h>
 
-#include <iomanip>
 #include <iterator>
 #include <set>
-#include <sstream>
 
 namespace kavi::tool {
+
+namespace {
+
+// As in "é" U+00E9.
+void append_character(char32_t c, std::string& list) {
+    constexpr const char* DIGITS = "0123456789ABCDEF";
+    list += '"';
+    utf8::append(c, std::back_inserter(list));
+    list += "\" U+";
+    for (unsigned bits = c > 0xfffff ? 24 : c > 0xffff ? 20 : 16; bits > 0; bits -= 4) {
+        list += DIGITS[c >> (bits - 4) & 0xfU];
+    }
+}
+
+}  // namespace
 
 std::string describe(const Diagnostic& diagnostic, std::string_view text) {
     if (diagnostic.finding != Finding::not_spoken) return kavi::describe(diagnostic.finding);
@@ -18,14 +31,12 @@ std::string describe(const Diagnostic& diagnostic, std::string_view text) {
     for (const auto* at = bytes.begin(); at != bytes.end();) {
         characters.insert(utf8::next(at, bytes.end()));
     }
-    std::ostringstream list;
+    std::string list;
     for (const char32_t c : characters) {
-        std::string character;
-        utf8::append(c, std::back_inserter(character));
-        list << (c == *characters.begin() ? "" : ", ") << "\"" << character << "\" U+" << std::hex
-             << std::uppercase << std::setw(4) << std::setfill('0') << static_cast<unsigned>(c);
+        if (!list.empty()) list += ", ";
+        append_character(c, list);
     }
-    return list.str() + (characters.size() == 1 ? " is not spoken" : " are not spoken");
+    return list + (characters.size() == 1 ? " is not spoken" : " are not spoken");
 }
 
 std::string FindingsReport::take(const std::vector<FindingMessage>& messages) {

@@ -13,21 +13,10 @@
 #include "tts_names.h"
 #include "tts_plain.h"
 
-void kavi_reader::rewrite() {
-    everyday = kavi::Everyday(lexicon.get());
-    for (int i = 0; i < kavi::EVERYDAY_CLASSES; ++i) {
-        const bool is_on = (classes >> static_cast<unsigned>(i) & 1U) != 0;
-        everyday.set(static_cast<kavi::EverydayClass>(i), is_on);
-    }
-    everyday.set_american_dates((classes & KAVI_AMERICAN_DATES) != 0);
-    const bool is_asked_for = lexicon != nullptr || classes != 0;
-    host.rewrite_by(is_asked_for ? &everyday : nullptr);
-}
-
 namespace {
 
-static_assert(KAVI_ALL_EVERYDAY == (1 << kavi::EVERYDAY_CLASSES) - 1);
-static_assert(KAVI_SHIELDS == 1 << static_cast<int>(kavi::EverydayClass::shields));
+using kavi::c::guarded;
+
 static_assert(static_cast<std::size_t>(KAVI_ATTRIBUTES) ==
               std::tuple_size_v<decltype(kavi::attributes({}))>);
 
@@ -38,18 +27,6 @@ constexpr const char* STATUS_TEXTS[] = {"read",
                                         "bad argument",
                                         "bad lexicon",
                                         "the reader is reading"};
-
-// What the work answers, or no memory. Nothing else is thrown but by a handler, which means stop.
-template <typename Work>
-kavi_status guarded(Work work) {
-    try {
-        return work();
-    } catch (const std::bad_alloc&) {
-        return KAVI_NO_MEMORY;
-    } catch (...) {
-        return KAVI_STOPPED;
-    }
-}
 
 // A reader is busy while this lives.
 class Reading {
@@ -139,34 +116,6 @@ kavi_status kavi_reader_new(size_t capacity, kavi_reader** reader) {
 
 void kavi_reader_free(kavi_reader* reader) {
     delete reader;
-}
-
-kavi_status kavi_reader_set_lexicon(kavi_reader* reader, const char* name, const char* bytes,
-                                    size_t length) {
-    if (reader == nullptr || (bytes == nullptr && length > 0)) return KAVI_BAD_ARGUMENT;
-    if (reader->is_reading) return KAVI_BUSY;
-    return guarded([&] {
-        reader->error.clear();
-        auto lexicon = std::make_unique<kavi::Lexicon>();
-        const std::string_view lines(length > 0 ? bytes : "", length);
-        if (!lexicon->add(name != nullptr ? name : "lexicon", lines, reader->error)) {
-            return KAVI_BAD_LEXICON;
-        }
-        if (lexicon->empty()) lexicon.reset();
-        reader->lexicon.swap(lexicon);
-        reader->rewrite();
-        return KAVI_OK;
-    });
-}
-
-kavi_status kavi_reader_set_everyday(kavi_reader* reader, uint32_t classes) {
-    constexpr std::uint32_t ALL = KAVI_ALL_EVERYDAY | KAVI_AMERICAN_DATES;
-    if (reader == nullptr || (classes & ~ALL) != 0) return KAVI_BAD_ARGUMENT;
-    if (reader->is_reading) return KAVI_BUSY;
-    reader->error.clear();
-    reader->classes = classes;
-    reader->rewrite();
-    return KAVI_OK;
 }
 
 const char* kavi_reader_error(const kavi_reader* reader) {

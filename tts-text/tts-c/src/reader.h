@@ -3,24 +3,29 @@
 #define KAVI_C_READER_H
 
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "kavi.h"
 #include "pool.h"
-#include "tts_everyday.h"
 #include "tts_host.h"
+
+namespace kavi {
+class Everyday;
+class Lexicon;
+}  // namespace kavi
 
 struct kavi_reader {
     explicit kavi_reader(std::size_t capacity) : host(capacity) {}
 
-    // Everyday English by the lexicon and the classes that are asked for now.
-    void rewrite();
-
     kavi::TtsHost host;
-    std::unique_ptr<kavi::Lexicon> lexicon;
-    kavi::Everyday everyday = kavi::Everyday(nullptr);
+
+    // Of readings.cpp: what rewrites texts, of which the reader itself knows nothing.
+    std::shared_ptr<kavi::Lexicon> lexicon;
+    std::shared_ptr<kavi::Everyday> everyday;
     std::uint32_t classes = 0;
+
     std::string error;
     bool is_reading = false;
 };
@@ -32,6 +37,18 @@ struct kavi_result {
 };
 
 namespace kavi::c {
+
+// What the work answers, or no memory. Nothing else is thrown but by a handler, which means stop.
+template <typename Work>
+kavi_status guarded(Work work) {
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        return KAVI_NO_MEMORY;
+    } catch (...) {
+        return KAVI_STOPPED;
+    }
+}
 
 // A sentence of `text` with copies of all it points to.
 kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::uint32_t wanted,

@@ -1,6 +1,7 @@
 #include <utf8.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <functional>
 
 #include "place.h"
@@ -14,15 +15,15 @@ using everyday::in_lower_case;
 using everyday::is_digit;
 using everyday::is_of_word;
 
-// Of the text in lower case.
+// Of the text in lower case; all of its bits count.
 std::size_t hash_of(std::string_view text) {
-    constexpr std::size_t BASIS = 14695981039346656037U;
-    constexpr std::size_t PRIME = 1099511628211U;
-    std::size_t hash = BASIS;
+    constexpr std::uint64_t BASIS = 14695981039346656037U;
+    constexpr std::uint64_t PRIME = 1099511628211U;
+    std::uint64_t hash = BASIS;
     for (const char c : text) {
         hash = (hash ^ static_cast<unsigned char>(everyday::to_lower(c))) * PRIME;
     }
-    return hash ^ (hash >> 32U);
+    return static_cast<std::size_t>(hash ^ (hash >> 32U));
 }
 
 // The word, number or mark that begins at `at`.

@@ -205,10 +205,12 @@ void TtsHost::State::collect_diagnostics(bool done) {
         diagnostics_.push_back({written_begin(begin), Finding::arena_too_small});
         return;
     }
+    // They come nearly in the order of their offsets.
     for (const Diagnostic& finding : findings_.findings()) {
-        diagnostics_.push_back({source_of(finding.offset, 1).offset, finding.finding});
+        const Diagnostic found = {source_of(finding.offset, 1).offset, finding.finding};
+        diagnostics_.insert(
+            std::upper_bound(diagnostics_.begin(), diagnostics_.end(), found, is_before), found);
     }
-    std::stable_sort(diagnostics_.begin(), diagnostics_.end(), is_before);
 }
 
 // Reports these, and what was found in the text before `end`, in the order of their offsets. False

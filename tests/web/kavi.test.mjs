@@ -1,0 +1,108 @@
+// The npm package: what it says is what the native tool says, over all seeds, in JavaScript's own places.
+//
+// KAVI_TN and KAVI_PACKAGE name the tool and the package.
+
+import assert from 'node:assert/strict';
+import {execFileSync} from 'node:child_process';
+import {readdirSync, readFileSync} from 'node:fs';
+import test from 'node:test';
+import {pathToFileURL} from 'node:url';
+
+const {EVERYDAY, load} = await import(pathToFileURL(`${process.env.KAVI_PACKAGE}/kavi.js`));
+const small = await load();
+const large = await load({everyday: true});
+
+// What the tool's JSON has for a text, with places as units of the string.
+function byTool(text, ...options) {
+  const bytes = Buffer.from(text);
+  const out = execFileSync(process.env.KAVI_TN, ['--format', 'jsonl', '--fields',
+    'offset,length,normalized,speakable,words,findings,runs', '-0', ...options],
+  {input: bytes, stdio: ['pipe', 'pipe', 'ignore'], maxBuffer: 1 << 30}).toString();
+  // The units of the characters that begin before that byte.
+  const units = place => bytes.subarray(0, place).reduce(
+    (sum, byte) => sum + ((byte & 0xc0) === 0x80 ? 0 : byte >= 0xf0 ? 2 : 1), 0);
+  const range = at => {
+    const offset = units(at.offset);
+    return {offset, length: units(at.offset + at.length) - offset};
+  };
+  const sentences = out.split('\n').filter(Boolean).map(line => JSON.parse(line));
+  return {
+    sentences: sentences.filter(s => s.words).map(s => ({...range(s), normalized: s.normalized, speakable: s.speakable,
+      words: s.words.filter(w => w.word !== null).map(w => ({...w, ...range(w)})),
+      runs: s.runs.map(r => ({...range(r), rule: r.rule, reading: r.reading}))})),
+    findings: sentences.flatMap(s => s.findings).map(f => ({code: f.code, offset: units(f.offset)})),
+  };
+}
+
+function byPackage(reader, text) {
+  const {sentences, findings} = reader.read(text, {rules: true});
+  return {
+    sentences: sentences.map(({offset, length, normalized, speakable, words, runs}) =>
+      ({offset, length, normalized, speakable, words, runs})),
+    findings: findings.map(({code, offset}) => ({code, offset})),
+  };
+}
+
+const seeds = readdirSync('fuzz/seeds').map(name => readFileSync(`fuzz/seeds/${name}`).toString().replaceAll('\0', ''));
+
+test('reads the seeds as the native tool does', () => {
+  for (const text of [...seeds, seeds.join(' '), 'Zürich «5.50» 😀 1999, ½ km', '']) {
+    assert.deepEqual(byPackage(small, text), byTool(text), text);
+  }
+});
+
+test('reads everyday English as the native tool does', () => {
+  const reader = large.reader({everyday: true});
+  for (const text of [seeds.join(' '), "Tom's 5 km won't cost €20 – at 5 p.m. in the 1990s"]) {
+    assert.deepEqual(byPackage(reader, text), byTool(text, '--everyday'), text);
+  }
+  assert.equal(large.reader({everyday: ['years'], americanDates: true}).normalize('3/4/2020'),
+    'March fourth twenty twenty');
+  assert.equal(EVERYDAY.length, 11);
+});
+
+test('has a lexicon', () => {
+  const reader = large.reader({lexicon: 'kavi\tkahvee'});
+  assert.equal(reader.normalize('kavi won 5'), 'kahvee won five');
+  assert.throws(() => reader.setLexicon('bad'), /^SyntaxError: lexicon:1:/);
+  assert.equal(reader.normalize('kavi'), 'kahvee');
+  reader.setLexicon('');
+  assert.equal(reader.normalize('kavi'), 'kavi');
+});
+
+test('tells sources, heads and marks', () => {
+  const text = '😀 <punc=dou>“Paid” $5.50, <prosody=rate="2">ok<breaktime=200></prosody>? x';
+  const {sentences} = small.read(text);
+  assert.equal(sentences.map(s => s.source).join(''), text);
+  assert.deepEqual(sentences[0].head.marks, ['dou']);
+  const dollars = sentences[0].words.find(w => w.word === 'dollars');
+  assert.equal(text.slice(dollars.offset, dollars.offset + dollars.length), '$5.50');
+  const ok = sentences.flatMap(s => s.words).find(w => w.word === 'ok');
+  assert.deepEqual([ok.rate, ok.breaktime], ['2', '200']);
+});
+
+test('refuses what has no meaning, and says so', () => {
+  assert.throws(() => small.normalize(5), TypeError);
+  assert.throws(() => small.reader({lexicon: 'a\tb'}), /load\({everyday: true}\)/);
+  assert.throws(() => large.reader({everyday: ['all']}), /no class of everyday English: all/);
+  const reader = small.reader();
+  reader.free();
+  assert.throws(() => reader.normalize('a'), /freed/);
+  assert.equal(small.reader({capacity: 1}).read('a b').complete, false);
+});
+
+test('reads a stream by lines', async () => {
+  const pieces = ['a 5\nb', new TextEncoder().encode(' é'), '\n\nc'];
+  const lines = [];
+  for await (const {number, text, result} of small.lines(pieces)) {
+    lines.push([number, text, result.sentences.flatMap(s => s.words.map(w => w.word)).join(' ')]);
+  }
+  assert.deepEqual(lines, [[1, 'a 5', 'a five'], [2, 'b é', 'b'], [3, '', ''], [4, 'c', 'c']]);
+});
+
+test('reads long texts, and many', () => {
+  const long = 'It is 10:30, and it costs $5. '.repeat(40000);
+  const spoken = small.normalize(long);
+  assert.equal(spoken.length, small.normalize('It is 10:30, and it costs $5.').length * 40000 + 39999);
+  for (let i = 0; i < 300; ++i) small.read(long.slice(0, 30000));
+});

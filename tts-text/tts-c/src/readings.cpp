@@ -1,0 +1,56 @@
+// A reader's lexicon and everyday English. Apart, so that a program that asks for neither need not
+// have them.
+
+#include "reader.h"
+#include "tts_everyday.h"
+
+namespace {
+
+static_assert(KAVI_ALL_EVERYDAY == (1 << kavi::EVERYDAY_CLASSES) - 1);
+static_assert(KAVI_SHIELDS == 1 << static_cast<int>(kavi::EverydayClass::shields));
+
+// Everyday English by this lexicon, which may be null, and these classes. Without memory, all
+// stays.
+void rewrite(kavi_reader& reader, std::shared_ptr<kavi::Lexicon> lexicon, std::uint32_t classes) {
+    auto everyday = std::make_shared<kavi::Everyday>(lexicon.get());
+    for (int i = 0; i < kavi::EVERYDAY_CLASSES; ++i) {
+        const bool is_on = (classes >> static_cast<unsigned>(i) & 1U) != 0;
+        everyday->set(static_cast<kavi::EverydayClass>(i), is_on);
+    }
+    everyday->set_american_dates((classes & KAVI_AMERICAN_DATES) != 0);
+    const bool is_asked_for = lexicon != nullptr || classes != 0;
+    reader.host.rewrite_by(is_asked_for ? everyday.get() : nullptr);
+    reader.everyday = std::move(everyday);
+    reader.lexicon = std::move(lexicon);
+    reader.classes = classes;
+}
+
+}  // namespace
+
+kavi_status kavi_reader_set_lexicon(kavi_reader* reader, const char* name, const char* bytes,
+                                    size_t length) {
+    if (reader == nullptr || (bytes == nullptr && length > 0)) return KAVI_BAD_ARGUMENT;
+    if (reader->is_reading) return KAVI_BUSY;
+    return kavi::c::guarded([&] {
+        reader->error.clear();
+        auto lexicon = std::make_shared<kavi::Lexicon>();
+        const std::string_view lines(length > 0 ? bytes : "", length);
+        if (!lexicon->add(name != nullptr ? name : "lexicon", lines, reader->error)) {
+            return KAVI_BAD_LEXICON;
+        }
+        if (lexicon->empty()) lexicon.reset();
+        rewrite(*reader, lexicon, reader->classes);
+        return KAVI_OK;
+    });
+}
+
+kavi_status kavi_reader_set_everyday(kavi_reader* reader, uint32_t classes) {
+    constexpr std::uint32_t ALL = KAVI_ALL_EVERYDAY | KAVI_AMERICAN_DATES;
+    if (reader == nullptr || (classes & ~ALL) != 0) return KAVI_BAD_ARGUMENT;
+    if (reader->is_reading) return KAVI_BUSY;
+    return kavi::c::guarded([&] {
+        reader->error.clear();
+        rewrite(*reader, reader->lexicon, classes);
+        return KAVI_OK;
+    });
+}

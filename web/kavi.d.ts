@@ -1,0 +1,113 @@
+/** English text normalisation for text to speech. All places are UTF-16 units of the string, as in slice(). */
+
+/** The classes of everyday English. */
+export const EVERYDAY: readonly string[];
+
+export interface Word {
+  /** Empty for the head of a sentence. */
+  word: string;
+  /** What it was read from; the words of one number share it. */
+  offset: number;
+  length: number;
+  /** The pause after it, such as "word", "phrase" or "intonation phrase, forced". */
+  pause: string;
+  /** The marks after it, by the engine's names; absent for none. */
+  marks?: string[];
+  /** The break after it, in milliseconds as written; absent for none. */
+  breaktime?: string;
+  emphasis?: string;
+  pitch?: string;
+  rate?: string;
+  volume?: string;
+  spectrum?: string;
+  poem?: string;
+  quill_effect?: string;
+}
+
+/** A stretch that one rule has read. */
+export interface Run {
+  offset: number;
+  length: number;
+  rule: string;
+  reading: string;
+}
+
+export interface Sentence {
+  source: string;
+  offset: number;
+  length: number;
+  /** With abbreviations written out, and its end marked. */
+  normalized: string;
+  /** Words and punctuation tags. */
+  speakable: string;
+  /** What comes before the first word. */
+  head: Word;
+  words: Word[];
+  /** Empty unless asked for. */
+  runs: Run[];
+}
+
+export interface Finding {
+  code: string;
+  message: string;
+  offset: number;
+  length: number;
+  /** Its number, from 0; the number of sentences for a finding after the last. */
+  sentence: number;
+}
+
+export interface Result {
+  sentences: Sentence[];
+  findings: Finding[];
+  /** False when the capacity did not hold all of it. */
+  complete: boolean;
+}
+
+export interface Line {
+  /** From 1. */
+  number: number;
+  text: string;
+  result: Result;
+}
+
+export interface ReadOptions {
+  /** Sentences tell which rule has read what. */
+  rules?: boolean;
+}
+
+export interface ReaderOptions {
+  /** The most bytes that the records of a sentence may take; 0: no limit. */
+  capacity?: number;
+  /** Lines of what is written, a tab, and what is spoken. A bad line is a SyntaxError. */
+  lexicon?: string;
+  /** All classes of everyday English, or those that are named. */
+  everyday?: boolean | string[];
+  /** 3/1/2020 is March first. */
+  americanDates?: boolean;
+}
+
+export interface Reader {
+  /** What is spoken: single blanks, punctuation. */
+  normalize(text: string): string;
+  read(text: string, options?: ReadOptions): Result;
+  /** Reads each line of a text that comes in pieces, strings or UTF-8; nothing but the last line is kept. */
+  lines(chunks: Iterable<string | Uint8Array> | AsyncIterable<string | Uint8Array>, options?: ReadOptions): AsyncGenerator<Line>;
+  /** Another lexicon; when a line is wrong, a SyntaxError, and the last one stays. */
+  setLexicon(lines: string): void;
+  /** Gives its memory back; it is of no use after that. */
+  free(): void;
+}
+
+export interface Kavi {
+  reader(options?: ReaderOptions): Reader;
+  /** Those of a reader without options. */
+  normalize(text: string): string;
+  read(text: string, options?: ReadOptions): Result;
+  lines: Reader['lines'];
+}
+
+/**
+ * Loads the engine: 65 KB; with everyday English and lexicons, 115 KB. `wasm` is the bytes of kavi.wasm or
+ * kavi-everyday.wasm where they do not stand beside this file. Throws what fetch() or the file system throws.
+ */
+export function load(options?: {everyday?: boolean; wasm?: BufferSource | Promise<BufferSource>}): Promise<Kavi>;

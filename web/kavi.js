@@ -1,0 +1,281 @@
+// kavi for browsers and node: the functions of kavi.h in WebAssembly, with JavaScript's own strings
+// and places. kavi.d.ts has the contract of all that is exported.
+
+// The layout of the structures of kavi.h where pointers have four bytes.
+const WORD = {size: 68, text: 0, source: 8, pause: 16, nMarks: 20, marks: 24, breakTime: 36, attributes: 40};
+const SENTENCE = {source: 0, normalized: 8, speakable: 16, head: 24, words: 28, nWords: 32, runs: 36, nRuns: 40};
+const RUN = {size: 20, source: 0, rule: 8, reading: 12};
+const FINDING = {code: 0, offset: 4, length: 8, sentence: 12};
+const ATTRIBUTES = 7;
+const WANTS_RUNS = 1;
+const PLAIN = 1;
+const OK = 0;
+const INCOMPLETE = 1;
+const BAD_LEXICON = 5;
+
+export const EVERYDAY = Object.freeze(['titles', 'contractions', 'currencies', 'units', 'years', 'times', 'addresses',
+  'roman', 'numbers', 'letters', 'shields']);
+const AMERICAN_DATES = 1 << 16;
+
+const encoder = new TextEncoder();
+const decoder = new TextDecoder();
+
+// Places in a string for places in its UTF-8 bytes; cheap for one after the other.
+class Units {
+  constructor(bytes, length) {
+    this.bytes = bytes;
+    this.isAscii = bytes.length === length;
+    this.byte = 0;
+    this.unit = 0;
+  }
+  at(byte) {
+    if (this.isAscii) return byte;
+    if (byte < this.byte) this.byte = this.unit = 0;
+    for (; this.byte < byte; ++this.byte) {
+      const value = this.bytes[this.byte];
+      if ((value & 0xc0) !== 0x80) this.unit += value >= 0xf0 ? 2 : 1;
+    }
+    return this.unit;
+  }
+}
+
+// What is inside of an instance, by address.
+class Memory {
+  constructor(exports) {
+    this.exports = exports;
+    this.names = new Map();
+  }
+  view() {
+    // The buffer is another one after the memory has grown.
+    if (this.current?.buffer !== this.exports.memory.buffer) this.current = new DataView(this.exports.memory.buffer);
+    return this.current;
+  }
+  u32(at) {
+    return this.view().getUint32(at, true);
+  }
+  i32(at) {
+    return this.view().getInt32(at, true);
+  }
+  bytes(at, length) {
+    return new Uint8Array(this.exports.memory.buffer, at, length);
+  }
+  text(at) {
+    return decoder.decode(this.bytes(this.u32(at), this.u32(at + 4)));
+  }
+  // NUL-terminated, at the address that stands there.
+  chars(at) {
+    return this.charsAt(this.u32(at));
+  }
+  charsAt(begin) {
+    const bytes = new Uint8Array(this.exports.memory.buffer);
+    return decoder.decode(bytes.subarray(begin, bytes.indexOf(0, begin)));
+  }
+  // What a function says for a number; asked once.
+  name(of, number) {
+    const key = `${of} ${number}`;
+    if (!this.names.has(key)) this.names.set(key, this.charsAt(this.exports[of](number)));
+    return this.names.get(key);
+  }
+  take(size) {
+    const at = this.exports.malloc(Math.max(size, 1));
+    if (at === 0) throw new RangeError('not enough memory');
+    return at;
+  }
+  put(bytes) {
+    const at = this.take(bytes.length);
+    this.bytes(at, bytes.length).set(bytes);
+    return at;
+  }
+}
+
+class Reader {
+  #memory;
+  #reader;
+  #out; // where functions leave what they give
+
+  constructor(memory, {capacity = 0, lexicon = '', everyday = [], americanDates = false} = {}) {
+    const {exports} = memory;
+    this.#memory = memory;
+    this.#out = memory.take(8);
+    this.#check(exports.kavi_reader_new(capacity, this.#out));
+    this.#reader = memory.u32(this.#out);
+    if (lexicon === '' && (everyday === false || everyday.length === 0)) return;
+    if (exports.kavi_reader_set_lexicon === undefined) {
+      throw new TypeError('a lexicon and everyday English need load({everyday: true})');
+    }
+    this.setLexicon(lexicon);
+    const classes = everyday === true ? EVERYDAY : everyday || [];
+    const bits = classes.reduce((sum, name) => {
+      const place = EVERYDAY.indexOf(name);
+      if (place < 0) throw new TypeError(`no class of everyday English: ${name}`);
+      return sum | 1 << place;
+    }, americanDates ? AMERICAN_DATES : 0);
+    this.#check(exports.kavi_reader_set_everyday(this.#reader, bits));
+  }
+
+  setLexicon(lines) {
+    const {exports} = this.#memory;
+    const bytes = encoder.encode(lines);
+    const at = this.#memory.put(bytes);
+    const name = this.#memory.put(encoder.encode('lexicon\0'));
+    const status = exports.kavi_reader_set_lexicon(this.#reader, name, at, bytes.length);
+    exports.free(at);
+    exports.free(name);
+    if (status === BAD_LEXICON) throw new SyntaxError(this.#memory.charsAt(exports.kavi_reader_error(this.#reader)));
+    this.#check(status);
+  }
+
+  normalize(text) {
+    return this.#withBytes(text, (at, length) => {
+      const {exports} = this.#memory;
+      this.#check(exports.kavi_normalize(this.#reader, at, length, PLAIN, this.#out, this.#out + 4));
+      const spoken = this.#memory.u32(this.#out);
+      const plain = decoder.decode(this.#memory.bytes(spoken, this.#memory.u32(this.#out + 4)));
+      exports.kavi_free(spoken);
+      return plain;
+    });
+  }
+
+  read(text, {rules = false} = {}) {
+    return this.#withBytes(text, (at, length, bytes) => {
+      const {exports} = this.#memory;
+      const status = exports.kavi_read(this.#reader, at, length, rules ? WANTS_RUNS : 0, this.#out);
+      this.#check(status);
+      const result = this.#memory.u32(this.#out);
+      const sentences = [];
+      const findings = [];
+      const units = new Units(bytes, text.length);
+      for (let i = 0; i < exports.kavi_result_sentences(result); ++i) {
+        sentences.push(this.#sentence(exports.kavi_result_sentence(result, i), text, units));
+      }
+      const ofFindings = new Units(bytes, text.length);
+      for (let i = 0; i < exports.kavi_result_findings(result); ++i) {
+        findings.push(this.#finding(exports.kavi_result_finding(result, i), ofFindings));
+      }
+      exports.kavi_result_free(result);
+      return {sentences, findings, complete: status === OK};
+    });
+  }
+
+  async *lines(chunks, options) {
+    const utf8 = new TextDecoder();
+    let rest = '';
+    let number = 0;
+    const line = text => ({number: ++number, text, result: this.read(text, options)});
+    for await (const chunk of chunks) {
+      const pieces = (typeof chunk === 'string' ? chunk : utf8.decode(chunk, {stream: true})).split('\n');
+      pieces[0] = rest + pieces[0];
+      rest = pieces.pop();
+      for (const piece of pieces) yield line(piece);
+    }
+    rest += utf8.decode();
+    if (rest !== '') yield line(rest);
+  }
+
+  // For the playground: what kavi-tn's page has for a line.
+  rows(text, line) {
+    return this.#withBytes(text, (at, length) => {
+      const rows = this.#memory.exports.kavi_rows(this.#reader, at, length, line);
+      if (rows === 0) throw new RangeError('not enough memory');
+      const html = this.#memory.charsAt(rows);
+      this.#memory.exports.free(rows);
+      return html;
+    });
+  }
+
+  free() {
+    this.#memory.exports.kavi_reader_free(this.#reader);
+    this.#memory.exports.free(this.#out);
+    this.#reader = 0;
+  }
+
+  #check(status) {
+    if (status === OK || status === INCOMPLETE) return;
+    const said = this.#memory.charsAt(this.#memory.exports.kavi_status_text(status));
+    throw new RangeError(said);
+  }
+
+  #withBytes(text, work) {
+    if (typeof text !== 'string') throw new TypeError('a text is a string');
+    if (this.#reader === 0) throw new TypeError('the reader is freed');
+    const bytes = encoder.encode(text);
+    const at = this.#memory.put(bytes);
+    try {
+      return work(at, bytes.length, bytes);
+    } finally {
+      this.#memory.exports.free(at);
+    }
+  }
+
+  #range(at, units) {
+    const begin = this.#memory.u32(at);
+    const offset = units.at(begin);
+    return {offset, length: units.at(begin + this.#memory.u32(at + 4)) - offset};
+  }
+
+  #sentence(at, text, units) {
+    const memory = this.#memory;
+    const range = this.#range(at + SENTENCE.source, units);
+    const words = Array.from({length: memory.u32(at + SENTENCE.nWords)},
+      (_, i) => this.#word(memory.u32(at + SENTENCE.words) + i * WORD.size, units));
+    const runs = Array.from({length: memory.u32(at + SENTENCE.nRuns)}, (_, i) => {
+      const run = memory.u32(at + SENTENCE.runs) + i * RUN.size;
+      return {...this.#range(run + RUN.source, units), rule: memory.chars(run + RUN.rule),
+        reading: memory.text(run + RUN.reading)};
+    });
+    return {...range, source: text.slice(range.offset, range.offset + range.length),
+      normalized: memory.text(at + SENTENCE.normalized), speakable: memory.text(at + SENTENCE.speakable),
+      head: this.#word(memory.u32(at + SENTENCE.head), units), words, runs};
+  }
+
+  #word(at, units) {
+    const memory = this.#memory;
+    const word = {word: memory.text(at + WORD.text), ...this.#range(at + WORD.source, units),
+      pause: memory.name('kavi_pause_name', memory.i32(at + WORD.pause))};
+    const nMarks = memory.i32(at + WORD.nMarks);
+    if (nMarks > 0) {
+      word.marks = Array.from(memory.bytes(at + WORD.marks, nMarks), mark => memory.name('kavi_mark_name', mark));
+    }
+    const breakTime = memory.chars(at + WORD.breakTime);
+    if (breakTime !== '') word.breaktime = breakTime;
+    for (let i = 0; i < ATTRIBUTES; ++i) {
+      const value = memory.chars(at + WORD.attributes + 4 * i);
+      if (value !== '') word[memory.name('kavi_attribute_name', i)] = value;
+    }
+    return word;
+  }
+
+  #finding(at, units) {
+    const memory = this.#memory;
+    const code = memory.i32(at + FINDING.code);
+    const begin = memory.u32(at + FINDING.offset);
+    const offset = units.at(begin);
+    return {code: memory.name('kavi_finding_code', code), message: memory.name('kavi_finding_message', code), offset,
+      length: units.at(begin + memory.u32(at + FINDING.length)) - offset,
+      sentence: memory.u32(at + FINDING.sentence)};
+  }
+}
+
+async function bytesOf(file) {
+  const url = new URL(file, import.meta.url);
+  if (url.protocol !== 'file:') return (await fetch(url)).arrayBuffer();
+  const {readFile} = await import('node:fs/promises');
+  return readFile(url);
+}
+
+export async function load({everyday = false, wasm} = {}) {
+  const source = wasm ?? await bytesOf(everyday ? './kavi-everyday.wasm' : './kavi.wasm');
+  const {instance} = await WebAssembly.instantiate(await source, {
+    env: {emscripten_notify_memory_growth() {}},
+    wasi_snapshot_preview1: {proc_exit(status) {
+      throw new RangeError(`kavi ended with ${status}`); // there is no more memory
+    }},
+  });
+  instance.exports._initialize();
+  const memory = new Memory(instance.exports);
+  let usual;
+  const reader = options => new Reader(memory, options);
+  const theUsual = () => usual ??= reader();
+  return {reader, normalize: text => theUsual().normalize(text), read: (text, options) => theUsual().read(text, options),
+    lines: (chunks, options) => theUsual().lines(chunks, options)};
+}

@@ -107,7 +107,7 @@ export interface Kavi {
 }
 
 /**
- * Loads the engine: 65 KB; with everyday English and lexicons, 115 KB. `wasm` is the bytes of kavi.wasm or
+ * Loads the engine: 65 KB; with everyday English and lexicons, 131 KB. `wasm` is the bytes of kavi.wasm or
  * kavi-everyday.wasm where they do not stand beside this file. Throws what fetch() or the file system throws.
  */
 export function load(options?: {everyday?: boolean; wasm?: BufferSource | Promise<BufferSource>}): Promise<Kavi>;

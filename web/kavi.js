@@ -44,6 +44,8 @@ class Memory {
   constructor(exports) {
     this.exports = exports;
     this.names = new Map();
+    this.room = 0;
+    this.size = 0;
   }
   view() {
     // The buffer is another one after the memory has grown.
@@ -81,10 +83,17 @@ class Memory {
     if (at === 0) throw new RangeError('not enough memory');
     return at;
   }
-  put(bytes) {
-    const at = this.take(bytes.length);
-    this.bytes(at, bytes.length).set(bytes);
-    return at;
+  // The UTF-8 of a text in a room that the next one takes again.
+  put(text) {
+    const most = 3 * text.length;
+    if (most > this.size) {
+      this.exports.free(this.room);
+      this.size = 0;
+      this.room = this.take(most);
+      this.size = most;
+    }
+    const {written} = encoder.encodeInto(text, this.bytes(this.room, this.size));
+    return written;
   }
 }
 
@@ -115,46 +124,41 @@ class Reader {
 
   setLexicon(lines) {
     const {exports} = this.#memory;
-    const bytes = encoder.encode(lines);
-    const at = this.#memory.put(bytes);
-    const name = this.#memory.put(encoder.encode('lexicon\0'));
-    const status = exports.kavi_reader_set_lexicon(this.#reader, name, at, bytes.length);
-    exports.free(at);
-    exports.free(name);
+    const length = this.#memory.put(lines);
+    const status = exports.kavi_reader_set_lexicon(this.#reader, 0, this.#memory.room, length);
     if (status === BAD_LEXICON) throw new SyntaxError(this.#memory.charsAt(exports.kavi_reader_error(this.#reader)));
     this.#check(status);
   }
 
   normalize(text) {
-    return this.#withBytes(text, (at, length) => {
-      const {exports} = this.#memory;
-      this.#check(exports.kavi_normalize(this.#reader, at, length, PLAIN, this.#out, this.#out + 4));
-      const spoken = this.#memory.u32(this.#out);
-      const plain = decoder.decode(this.#memory.bytes(spoken, this.#memory.u32(this.#out + 4)));
-      exports.kavi_free(spoken);
-      return plain;
-    });
+    const {exports} = this.#memory;
+    const length = this.#put(text);
+    this.#check(exports.kavi_normalize(this.#reader, this.#memory.room, length, PLAIN, this.#out, this.#out + 4));
+    const spoken = this.#memory.u32(this.#out);
+    const plain = decoder.decode(this.#memory.bytes(spoken, this.#memory.u32(this.#out + 4)));
+    exports.kavi_free(spoken);
+    return plain;
   }
 
   read(text, {rules = false} = {}) {
-    return this.#withBytes(text, (at, length, bytes) => {
-      const {exports} = this.#memory;
-      const status = exports.kavi_read(this.#reader, at, length, rules ? WANTS_RUNS : 0, this.#out);
-      this.#check(status);
-      const result = this.#memory.u32(this.#out);
-      const sentences = [];
-      const findings = [];
-      const units = new Units(bytes, text.length);
-      for (let i = 0; i < exports.kavi_result_sentences(result); ++i) {
-        sentences.push(this.#sentence(exports.kavi_result_sentence(result, i), text, units));
-      }
-      const ofFindings = new Units(bytes, text.length);
-      for (let i = 0; i < exports.kavi_result_findings(result); ++i) {
-        findings.push(this.#finding(exports.kavi_result_finding(result, i), ofFindings));
-      }
-      exports.kavi_result_free(result);
-      return {sentences, findings, complete: status === OK};
-    });
+    const {exports} = this.#memory;
+    const length = this.#put(text);
+    const status = exports.kavi_read(this.#reader, this.#memory.room, length, rules ? WANTS_RUNS : 0, this.#out);
+    this.#check(status);
+    const result = this.#memory.u32(this.#out);
+    const sentences = [];
+    const findings = [];
+    const bytes = this.#memory.bytes(this.#memory.room, length);
+    const units = new Units(bytes, text.length);
+    for (let i = 0; i < exports.kavi_result_sentences(result); ++i) {
+      sentences.push(this.#sentence(exports.kavi_result_sentence(result, i), text, units));
+    }
+    const ofFindings = new Units(bytes, text.length);
+    for (let i = 0; i < exports.kavi_result_findings(result); ++i) {
+      findings.push(this.#finding(exports.kavi_result_finding(result, i), ofFindings));
+    }
+    exports.kavi_result_free(result);
+    return {sentences, findings, complete: status === OK};
   }
 
   async *lines(chunks, options) {
@@ -174,13 +178,12 @@ class Reader {
 
   // For the playground: what kavi-tn's page has for a line.
   rows(text, line) {
-    return this.#withBytes(text, (at, length) => {
-      const rows = this.#memory.exports.kavi_rows(this.#reader, at, length, line);
-      if (rows === 0) throw new RangeError('not enough memory');
-      const html = this.#memory.charsAt(rows);
-      this.#memory.exports.free(rows);
-      return html;
-    });
+    const length = this.#put(text);
+    const rows = this.#memory.exports.kavi_rows(this.#reader, this.#memory.room, length, line);
+    if (rows === 0) throw new RangeError('not enough memory');
+    const html = this.#memory.charsAt(rows);
+    this.#memory.exports.free(rows);
+    return html;
   }
 
   free() {
@@ -195,16 +198,11 @@ class Reader {
     throw new RangeError(said);
   }
 
-  #withBytes(text, work) {
+  // The length of the text in the memory's room.
+  #put(text) {
     if (typeof text !== 'string') throw new TypeError('a text is a string');
     if (this.#reader === 0) throw new TypeError('the reader is freed');
-    const bytes = encoder.encode(text);
-    const at = this.#memory.put(bytes);
-    try {
-      return work(at, bytes.length, bytes);
-    } finally {
-      this.#memory.exports.free(at);
-    }
+    return this.#memory.put(text);
   }
 
   #range(at, units) {

@@ -207,8 +207,7 @@ class HtmlFormat : public Format {
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
         begin_article(place, out);
-        const TextRange source = sentence.source;
-        append_element("p", place.text.substr(source.offset, source.length), out);
+        write_source(place, sentence.source, diagnostics, out);
         SentenceWriter(place, sentence, diagnostics, out).write_row();
         end_article(place, diagnostics, out);
     }
@@ -233,6 +232,30 @@ class HtmlFormat : public Format {
         const std::string name = anchor(place);
         out += "<article id=" + name + "><a href=#" + name + ">line " + std::to_string(place.line) +
                "</a>";
+    }
+
+    // As it was written, with what was found underlined.
+    static void write_source(const Place& place, const TextRange& source,
+                             const std::vector<Diagnostic>& diagnostics, std::string& out) {
+        out += "<p>";
+        const std::size_t end = source.offset + source.length;
+        std::size_t at = source.offset;
+        for (const Diagnostic& found : diagnostics) {
+            if (found.offset < at || found.offset >= end) continue;
+            append_escaped(place.text.substr(at, found.offset - at), out);
+            at = std::min(end, found.offset + length_to_underline(place.text, found));
+            append_element("mark", place.text.substr(found.offset, at - found.offset), out);
+        }
+        append_escaped(place.text.substr(at, end - at), out);
+        out += "</p>";
+    }
+
+    // A tag is underlined up to its ">".
+    static std::size_t length_to_underline(std::string_view text, const Diagnostic& found) {
+        if (text[found.offset] != '<') return found.length;
+        constexpr std::size_t LONGEST = 256;  // so that each of many is not searched for to the end
+        const std::size_t close = text.substr(found.offset, LONGEST).find('>');
+        return close != std::string_view::npos ? close + 1 : 1;
     }
 
     static void end_article(const Place& place, const std::vector<Diagnostic>& diagnostics,

@@ -36,6 +36,7 @@ i + small { color: var(--span); }
 s, code { display: inline-block; font-size: .8rem; margin-right: .4rem; color: var(--soft); overflow-wrap: anywhere; }
 ol { margin: .4rem 0 0; color: var(--alarm); font-size: .9rem; }
 sup a { color: var(--alarm); }
+mark { color: inherit; background: none; text-decoration: underline wavy var(--alarm); }
 #tools { display: flex; flex-wrap: wrap; gap: .5rem 1rem; align-items: center; }
 [hidden] { display: none !important; }
 @media print { #tools, #index { display: none; } article { content-visibility: visible; break-inside: avoid; } }

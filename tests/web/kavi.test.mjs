@@ -18,9 +18,10 @@ function byTool(text, ...options) {
   const out = execFileSync(process.env.KAVI_TN, ['--format', 'jsonl', '--fields',
     'offset,length,normalized,speakable,words,findings,runs', '-0', ...options],
   {input: bytes, stdio: ['pipe', 'pipe', 'ignore'], maxBuffer: 1 << 30}).toString();
-  // The units of the characters that begin before that byte.
-  const units = place => bytes.subarray(0, place).reduce(
-    (sum, byte) => sum + ((byte & 0xc0) === 0x80 ? 0 : byte >= 0xf0 ? 2 : 1), 0);
+  // The units of the characters that begin before each byte.
+  const unitsBefore = [0];
+  for (const byte of bytes) unitsBefore.push(unitsBefore.at(-1) + ((byte & 0xc0) === 0x80 ? 0 : byte >= 0xf0 ? 2 : 1));
+  const units = place => unitsBefore[place];
   const range = at => {
     const offset = units(at.offset);
     return {offset, length: units(at.offset + at.length) - offset};
@@ -105,4 +106,15 @@ test('reads long texts, and many', () => {
   const spoken = small.normalize(long);
   assert.equal(spoken.length, small.normalize('It is 10:30, and it costs $5.').length * 40000 + 39999);
   for (let i = 0; i < 300; ++i) small.read(long.slice(0, 30000));
+});
+
+test('does what the pages show', async () => {
+  for (const page of ['README.md', 'web/README.md']) {
+    const [, program] = /```js\n([^]*?)```/.exec(readFileSync(page).toString());
+    const lines = program.replace(/import .* from 'kavi-tn';/, `const {load} = await import('${pathToFileURL(
+      `${process.env.KAVI_PACKAGE}/kavi.js`)}');`).replaceAll('console.log(', '(');
+    for (const [, call, expected] of lines.matchAll(/^\(?(normalize\(.*?\))\)?; \/\/ '?(.*?)'?$/gm)) {
+      assert.equal(Function('normalize', `return ${call}`)(small.normalize), expected);
+    }
+  }
 });

@@ -37,7 +37,15 @@ while IFS='|' read -r arguments message; do
 done <<'TABLE'
 --bad|no such option: --bad
 --format|--format: takes a value
---format 2|--format: takes text, jsonl or html, not "2"
+--format 2|--format: takes text, jsonl, html or ssml, not "2"
+--marks|--marks goes with --format ssml alone
+--part 0/2 x|--part: takes a part and how many there are, such as 1/4, not "0/2"
+--part 3/2 x|--part: takes a part and how many there are, such as 1/4, not "3/2"
+--part 1/2x x|--part: takes a part and how many there are, such as 1/4, not "1/2x"
+--part 1 x|--part: takes a part and how many there are, such as 1/4, not "1"
+--part 1/2 -t a|--part goes with FILEs and --format text or jsonl alone
+--part 1/2 --format ssml x|--part goes with FILEs and --format text or jsonl alone
+--part 1/2 /dev/null|/dev/null: cannot be read: only a regular file has parts
 -j x|--jobs: takes a number from 0 to 256, not "x"
 -j 257|--jobs: takes a number from 0 to 256, not "257"
 --strict=x|--strict: takes no value
@@ -55,6 +63,21 @@ done <<'TABLE'
 --format jsonl --fields ,|--fields: takes names of fields with commas between them, not ","
 TABLE
 expect 'help' 'Usage: kavi-tn [OPTION]... [-t TEXT] [FILE]...' "$("$tool" --help --words | head -n 1)"
+
+# The parts of files, however many, are the run over all of them; a block is smaller than the second file.
+seq 3000 | sed 's/.*/Line & <\/poem> costs $&, and it is 10:30 in the garden & of the house now./' >long
+printf '\n\n5\n\nno end 7' >short
+parts() { for ((i = 1; i <= $1; ++i)); do "$tool" --part "$i/$1" --format jsonl short long short missing 2>/dev/null; done; }
+whole=$("$tool" --format jsonl short long short missing 2>/dev/null | md5sum)
+for n in 1 2 3 7 40; do expect "$n parts" "$whole" "$(parts $n | md5sum)"; done
+expect 'more parts than bytes' "$("$tool" --plain short)" \
+    "$(for i in {1..30}; do "$tool" --plain --part "$i/30" short; done)"
+expect 'a part of standard input, a file' "$("$tool" --plain long 2>/dev/null | md5sum)" \
+    "$(for i in 1 2; do "$tool" --plain --part "$i/2" <long 2>/dev/null; done | md5sum)"
+expect 'what SSML has no word for, once' 'kavi-tn: SSML has nothing for "poem=a"; it is left out' \
+    "$("$tool" --format ssml -t '<poem=a>b c</poem>. <poem=a>d</poem>' 2>&1 >/dev/null)"
+expect 'marks of SSML' '<s><mark name="0-4"/>paid <mark name="5-2"/>five <mark name="5-2"/>dollars</s>' \
+    "$("$tool" --format ssml --marks -t 'paid $5' | sed -n 3p)"
 printf '5\tfive\na 2\ta three\tA  two\n# b\nDr.\tmister\n' >cases
 expect 'a check' 'cases:4: Dr.|  expected: mister|  spoken:   doctor|2 of 3 as expected' \
     "$("$tool" --check cases | paste -sd'|')"

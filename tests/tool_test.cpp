@@ -99,6 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
                          Stage::speakable,
                          FormatName::jsonl,
                          {Field::line, Field::plain, Field::findings, Field::runs}},
+                    Case{"document.ssml", Stage::speakable, FormatName::ssml},
                     Case{"page.html", Stage::speakable, FormatName::html}),
     [](const auto& test) {
         std::string name = test.param.file;

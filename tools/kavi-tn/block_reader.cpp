@@ -24,7 +24,7 @@ std::size_t count(const std::string& bytes, char c) {
 }  // namespace
 
 BlockReader::BlockReader(const Options& options)
-    : options_(options), text_pending_(options.has_text) {}
+    : options_(options), text_pending_(options.has_text), parts_(options) {}
 
 BlockReader::~BlockReader() {
     close();
@@ -84,10 +84,36 @@ bool BlockReader::read_more(std::string& bytes) {
         n = ::read(file_, &bytes[size], BLOCK_BYTES);
     } while (n < 0 && errno == EINTR);
     bytes.resize(size + static_cast<std::size_t>(n > 0 ? n : 0));
+    if (n > 0 && options_.parts > 1) {
+        const std::size_t kept = end_of_part(&bytes[size], static_cast<std::size_t>(n));
+        at_ += kept;
+        bytes.resize(size + kept);
+        if (at_ >= part_.end && bytes.back() == options_.delimiter) close();
+        return true;
+    }
     if (n > 0) return true;
     if (n < 0) failure_ = std::strerror(errno);
     close();
     return false;
+}
+
+// Which of the `n` bytes of the file at `at_` still are of the part: all, or up to the first
+// delimiter from its last byte on.
+std::size_t BlockReader::end_of_part(const char* bytes, std::size_t n) const {
+    const std::size_t last = part_.end - 1;
+    if (at_ + n <= last) return n;
+    const std::size_t from = last > at_ ? last - at_ : 0;
+    const auto* found =
+        static_cast<const char*>(std::memchr(bytes + from, options_.delimiter, n - from));
+    return found != nullptr ? static_cast<std::size_t>(found + 1 - bytes) : n;
+}
+
+void BlockReader::begin_part() {
+    failure_ = parts_.find(file_, next_file_ - 1, part_);
+    number_ = part_.number;
+    at_ = part_.first_text;
+    is_new_ = at_ == 0;
+    if (!failure_.empty() || part_.first_text >= part_.end) close();
 }
 
 void BlockReader::begin_input(const std::string& name) {
@@ -102,6 +128,7 @@ void BlockReader::open(const std::string& name) {
     begin_input(is_standard_input ? "standard input" : name);
     file_ = is_standard_input ? STDIN_FILENO : ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
     if (file_ < 0) failure_ = std::strerror(errno);
+    if (file_ >= 0 && options_.parts > 1) begin_part();
 }
 
 void BlockReader::close() {

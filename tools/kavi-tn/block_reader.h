@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "file_part.h"
 #include "options.h"
 
 namespace kavi::tool {
@@ -33,6 +34,8 @@ class BlockReader {
   private:
     bool next_of_file(Block& block);
     bool read_more(std::string& bytes);
+    void begin_part();
+    std::size_t end_of_part(const char* bytes, std::size_t n) const;
     void begin_input(const std::string& name);
     void open(const std::string& name);
     void close();
@@ -45,6 +48,9 @@ class BlockReader {
     int file_ = -1;
     bool is_new_ = false;  // nothing of it has been read
     std::string failure_;
+    FileParts parts_;
+    FilePart part_;
+    std::size_t at_ = 0;      // the next byte of the file, where only a part of it is read
     std::size_t number_ = 1;  // of the next text
     std::string carry_;       // what was read after the last delimiter
 };

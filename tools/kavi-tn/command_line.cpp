@@ -28,14 +28,16 @@ What is written of each sentence, a line or a table each:
   --explain            what was written, what is said for it, and the rule
 
 How it is written:
-  --format FORMAT      text (the default), jsonl (an object a sentence) or html (a page)
+  --format FORMAT      text (the default), jsonl (an object a sentence), html (a page) or ssml
   --fields LIST        of jsonl: input,line,sentence,offset,length,source,normalized,speakable,
                        plain,words,findings,runs; without it all but runs
+  --marks              of ssml: before each word a mark named OFFSET-LENGTH, its place in the line
   -o, --output FILE    to FILE, which changes only when all is written, and may be an input
 
 How it is read:
   -t, --text TEXT      read TEXT first
   -0, --null           texts end with a NUL byte instead of a line end
+  --part I/N           of the FILEs together, the I-th of N parts, cut at line ends
   -j, --jobs N         with N threads, 0 for all processors; the output stays the same
 
 With other readings than the engine's:
@@ -69,8 +71,10 @@ struct FormatRow {
     const char* name;
     FormatName format;
 };
-constexpr FormatRow FORMATS[] = {
-    {"text", FormatName::text}, {"jsonl", FormatName::jsonl}, {"html", FormatName::html}};
+constexpr FormatRow FORMATS[] = {{"text", FormatName::text},
+                                 {"jsonl", FormatName::jsonl},
+                                 {"html", FormatName::html},
+                                 {"ssml", FormatName::ssml}};
 
 std::string wrong_value(const std::string& takes, const std::string& value) {
     return "takes " + takes + ", not " + in_quotes(value);
@@ -84,7 +88,7 @@ std::string set_format(const std::string& value, Options& options) {
         options.format = row.format;
         return {};
     }
-    return wrong_value("text, jsonl or html", value);
+    return wrong_value("text, jsonl, html or ssml", value);
 }
 
 std::string set_jobs(const std::string& value, Options& options) {
@@ -96,6 +100,16 @@ std::string set_jobs(const std::string& value, Options& options) {
     }
     options.jobs = jobs != 0 ? jobs : std::max(1U, std::thread::hardware_concurrency());
     return {};
+}
+
+std::string set_part(const std::string& value, Options& options) {
+    const char* end = value.data() + value.size();
+    const auto part = std::from_chars(value.data(), end, options.part);
+    const bool has_slash = part.ec == std::errc() && part.ptr != end && *part.ptr == '/';
+    const auto parts = std::from_chars(has_slash ? part.ptr + 1 : end, end, options.parts);
+    const bool is_part = has_slash && parts.ec == std::errc() && parts.ptr == end &&
+                         options.part > 0 && options.part <= options.parts;
+    return is_part ? "" : wrong_value("a part and how many there are, such as 1/4", value);
 }
 
 std::string set_fields(const std::string& value, Options& options) {
@@ -137,6 +151,8 @@ class Parser {
         add_flag("--summary", options.summary);
         add_value("-j,--jobs", set_jobs);
         add_value("--format", set_format);
+        add_flag("--marks", options.marks);
+        part_ = add_value("--part", set_part);
         fields_ = add_value("--fields", set_fields);
         app_.add_option("--lexicon", options.lexicon)->take_last();
         add_flag("--everyday", options.everyday);
@@ -173,6 +189,14 @@ class Parser {
         }
         if (fields_->count() > 0 && options_.format != FormatName::jsonl) {
             return "--fields goes with --format jsonl alone";
+        }
+        if (options_.marks && options_.format != FormatName::ssml) {
+            return "--marks goes with --format ssml alone";
+        }
+        const bool has_frame =
+            options_.format == FormatName::html || options_.format == FormatName::ssml;
+        if (part_->count() > 0 && (has_frame || text_->count() > 0 || options_.check)) {
+            return "--part goes with FILEs and --format text or jsonl alone";
         }
         for (const CLI::Option* option : {without_, american_dates_}) {
             if (option->count() > 0 && !options_.everyday) {
@@ -229,6 +253,7 @@ class Parser {
     bool null_ = false;
     CLI::Option* text_ = nullptr;
     CLI::Option* fields_ = nullptr;
+    CLI::Option* part_ = nullptr;
     CLI::Option* without_ = nullptr;
     CLI::Option* american_dates_ = nullptr;
     std::vector<std::string> stages_;

@@ -3,6 +3,7 @@
 #define KAVI_TOOL_FORMAT_H
 
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,9 @@ class Format {
     // `diagnostics` are those after that.
     virtual void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
                           std::string& /*out*/) {}
+
+    // What the format has no word for, in the sentences since the last call.
+    virtual std::set<std::string> take_lost() { return {}; }
 };
 
 // One format object serves one thread.
@@ -45,6 +49,7 @@ std::unique_ptr<Format> make_format(const Options& options);
 std::unique_ptr<Format> make_text_format(Stage stage);
 std::unique_ptr<Format> make_json_format(const std::vector<Field>& fields);
 std::unique_ptr<Format> make_html_format();
+std::unique_ptr<Format> make_ssml_format(bool marks);
 
 }  // namespace kavi::tool
 

@@ -10,7 +10,7 @@
 namespace kavi::tool {
 
 enum class Stage { sentences, speakable, plain, words, explain };
-enum class FormatName { text, jsonl, html };
+enum class FormatName { text, jsonl, html, ssml };
 
 // The fields of an object of JSON Lines, in their order.
 enum class Field {
@@ -32,6 +32,7 @@ struct Options {
     Stage stage = Stage::speakable;
     FormatName format = FormatName::text;
     std::vector<Field> fields;       // of JSON Lines; empty: all but the runs
+    bool marks = false;              // of SSML: a mark before each word
     std::vector<std::string> files;  // "-" is standard input
     bool has_text = false;
     std::string text;     // read before the files
@@ -42,6 +43,8 @@ struct Options {
     bool american_dates = false;
     bool check = false;  // the files hold texts and the words that are expected
     char delimiter = '\n';
+    unsigned part = 1;  // of the files, of so many parts, cut at the ends of texts
+    unsigned parts = 1;
     unsigned jobs = 1;
     bool strict = false;   // a finding makes the exit status 1
     bool summary = false;  // says in the end how many findings there were

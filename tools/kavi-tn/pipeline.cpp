@@ -9,6 +9,7 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <set>
 #include <thread>
 #include <vector>
 
@@ -103,12 +104,17 @@ class Run {
         write_messages(messages);
         require_written(output_.write(rendered.output));
         progress_.advance(job.block.bytes.size());
+        lost_.insert(rendered.lost.begin(), rendered.lost.end());
         texts_ += rendered.texts;
         all_read_ = all_read_ && rendered.all_read;
     }
 
     int end() {
         write_messages(findings_.not_written());
+        for (const std::string& name : lost_) {
+            write_messages("kavi-tn: SSML has nothing for " + in_quotes(name) +
+                           "; it is left out\n");
+        }
         if (options_.summary) write_messages(findings_.summary());
         if (!all_read_ && !options_.output.empty()) fail("not all could be read");
         require_written(output_.write(format_->epilogue()));
@@ -149,6 +155,7 @@ class Run {
     Progress progress_;
     FindingsReport findings_;
     std::unique_ptr<Format> format_;
+    std::set<std::string> lost_;  // what the format had no word for
     std::atomic<std::size_t> texts_ = 0;
     bool all_read_ = true;
 };

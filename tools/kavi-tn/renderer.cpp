@@ -22,6 +22,7 @@ Rendered Renderer::render(const Block& block) {
         ++rendered.texts;
         rest.remove_prefix(std::min(text.size() + 1, rest.size()));
     }
+    rendered.lost = format_->take_lost();
     if (!block.failure.empty()) {
         rendered.failure = name + "cannot be read: " + block.failure + "\n";
         rendered.all_read = false;

@@ -3,6 +3,7 @@
 #define KAVI_TOOL_RENDERER_H
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,8 +18,9 @@ struct Rendered {
     std::vector<FindingMessage> findings;
     std::size_t texts = 0;  // read
     bool all_read = true;
-    std::string notice;   // a line about an input that seems to be no text
-    std::string failure;  // a line about it, if the input could not be read
+    std::set<std::string> lost;  // what the format has no word for
+    std::string notice;          // a line about an input that seems to be no text
+    std::string failure;         // a line about it, if the input could not be read
 };
 
 // One renderer serves one thread. The result depends on the block alone.

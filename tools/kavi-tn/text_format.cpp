@@ -184,6 +184,7 @@ std::unique_ptr<Format> make_format(const Options& options) {
     switch (options.format) {
         case FormatName::jsonl: return make_json_format(options.fields);
         case FormatName::html: return make_html_format();
+        case FormatName::ssml: return make_ssml_format(options.marks);
         case FormatName::text: break;
     }
     return make_text_format(options.stage);

@@ -5,7 +5,7 @@ _kavi_tn() {
     [ "$current" = = ] && current=
     [ "$previous" = = ] && previous=${COMP_WORDS[COMP_CWORD - 2]}
     case $previous in
-        --format) mapfile -t COMPREPLY < <(compgen -W "text jsonl html" -- "$current") && return ;;
+        --format) mapfile -t COMPREPLY < <(compgen -W "text jsonl html ssml" -- "$current") && return ;;
         --fields)
             local before=
             [[ $current == *,* ]] && before=${current%,*},
@@ -13,11 +13,11 @@ _kavi_tn() {
                 normalized speakable plain words findings runs" -- "${current##*,}") && return ;;
         --without) mapfile -t COMPREPLY < <(compgen -W "titles contractions currencies units years times
                 addresses roman numbers letters shields" -- "$current") && return ;;
-        -t | --text | -j | --jobs) return ;;
+        -t | --text | -j | --jobs | --part) return ;;
     esac
     case $current in
         -*) mapfile -t COMPREPLY < <(compgen -W "-t --text -o --output -0 --null -j --jobs --strict
-            --summary --format --fields --lexicon --everyday --without --american-dates --check --sentences --speakable --plain --words --explain -h --help
+            --summary --format --fields --marks --part --lexicon --everyday --without --american-dates --check --sentences --speakable --plain --words --explain -h --help
             --version" -- "$current") ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     esac

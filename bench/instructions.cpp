@@ -2,7 +2,7 @@
 //   bench_instructions all TIMES KIND     a corpus through the three calls, so many times
 //   bench_instructions loop TIMES KIND    the same through the loop that they are compared with
 //   bench_instructions build BYTES KIND   one text of the kind straight into the builder
-//   bench_instructions print BYTES        prints so much of the prose corpus
+//   bench_instructions print BYTES [KIND] prints so much of that corpus, of prose without
 
 #include <cstdio>
 #include <cstdlib>
@@ -27,7 +27,7 @@ const Kind& kind_named(const std::string& name) {
 std::size_t run(const std::string& what, std::size_t n, const std::string& kind) {
     if (what == "print") {
         std::size_t bytes = 0;
-        for (const std::string& text : paragraphs(ORDINARY[0], n)) {
+        for (const std::string& text : paragraphs(kind_named(kind), n)) {
             bytes += text.size();
             std::puts(text.c_str());
         }

@@ -33,9 +33,10 @@ int take(short* samples, int n, espeak_EVENT* events) {
     auto* spoken = static_cast<Spoken*>(events->user_data);
     if (samples != nullptr) spoken->samples.insert(spoken->samples.end(), samples, samples + n);
     for (const espeak_EVENT* event = events; event->type != espeakEVENT_LIST_TERMINATED; ++event) {
-        if (event->type != espeakEVENT_WORD) continue;
-        // Places are counted from 1, in the document.
+        // Places are counted from 1, in the document; the voice does not know that of every word.
+        if (event->type != espeakEVENT_WORD || event->text_position < 1) continue;
         const auto begin = static_cast<std::size_t>(event->text_position - 1);
+        if (begin >= spoken->document.size()) continue;
         spoken->words.push_back(
             {event->audio_position,
              spoken->document.substr(begin, static_cast<std::size_t>(event->length))});

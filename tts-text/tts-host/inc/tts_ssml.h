@@ -15,7 +15,7 @@ extern const char* const SSML_END;
 
 // An "s" element, and a line end; nothing for a sentence that has neither words nor a break. Words
 // and marks are as plain_text() writes them. Breaks are "break" elements: with their time, or for a
-// forced pause that no mark stands for, with a strength. Words next to each other with the same
+// forced pause with a strength. Words next to each other with the same
 // attributes share their elements. docs/ssml.md tells which value becomes which. What has no
 // counterpart is left out, and its name and value, as in "poem=a", added to `lost`.
 //

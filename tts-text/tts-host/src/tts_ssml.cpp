@@ -86,32 +86,20 @@ std::string time_of(std::string_view value) {
     return is_time ? std::string(value) + "ms" : "";
 }
 
-// Of a pause that the text asks for; null for any other.
-const char* strength_of(PAUSE_type pause) {
-    switch (pause) {
-        case PAUSE_SYLLABLE_FORCE_FE: return "none";
-        case PAUSE_WORD_FORCE_FE: return "x-weak";
-        case PAUSE_PHRASE_FORCE_FE: return "weak";
-        case PAUSE_INTONATION_PHRASE_FORCE_FE:
-        case PAUSE_PLRULE_INTONATION_PHRASE_FORCE_FE: return "medium";
-        default: return nullptr;
-    }
-}
-
 // A word that an unclosed tag got into has more than letters. What XML does not have, or is outside
 // ASCII, is U+FFFD.
 void append_escaped(std::string_view word, std::string& out) {
+    constexpr std::string_view SPECIAL = "&<>";
+    constexpr const char* ESCAPED[] = {"&amp;", "&lt;", "&gt;"};
     for (const char c : word) {
-        switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            default:
-                if (c >= ' ' && c <= '~') {
-                    out += c;
-                } else {
-                    out += "\xef\xbf\xbd";
-                }
+        const std::size_t special = SPECIAL.find(c);
+        const bool is_printable = static_cast<unsigned char>(c - ' ') <= '~' - ' ';
+        if (special != std::string_view::npos) {
+            out += ESCAPED[special];
+        } else if (is_printable) {
+            out += c;
+        } else {
+            out += "\xef\xbf\xbd";
         }
     }
 }
@@ -191,13 +179,13 @@ class SentenceWriter {
         const char* value = record.cssml_tag.breaktime;
         const std::string time = time_of(value);
         if (*value != '\0' && time.empty()) lost_.insert(std::string("breaktime=") + value);
-        const char* strength = record.n_punc == 0 ? strength_of(record.pause_type) : nullptr;
+        const bool is_forced = record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE;
         if (!time.empty()) {
             out_ += "<break time=\"" + time + "\"/>";
-        } else if (strength != nullptr) {
-            out_ += std::string("<break strength=\"") + strength + "\"/>";
+        } else if (is_forced) {
+            out_ += "<break strength=\"medium\"/>";
         }
-        has_break_ = has_break_ || !time.empty() || strength != nullptr;
+        has_break_ = has_break_ || !time.empty() || is_forced;
     }
 
     const HostSentence& sentence_;

@@ -100,9 +100,7 @@ def test_findings_tell_where() -> None:
 
 def test_runs_are_told_on_request() -> None:
     assert kavi.read("5 cats").sentences[0].runs == ()
-    runs = kavi.read("5 cats", rules=True).sentences[0].runs
-    assert (runs[0].offset, runs[0].length, runs[0].reading.strip()) == (0, 1, "five")
-    assert runs[0].rule
+    assert kavi.read("5 cats", rules=True).sentences[0].runs[0] == (0, 1, "cardinal", " five  ")
 
 
 def test_lone_surrogates_and_nul_lose_no_word() -> None:

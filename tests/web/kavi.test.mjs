@@ -101,11 +101,10 @@ test('reads a stream by lines', async () => {
   assert.deepEqual(lines, [[1, 'a 5', 'a five'], [2, 'b é', 'b'], [3, '', ''], [4, 'c', 'c']]);
 });
 
-test('reads long texts, and many', () => {
+test('reads long texts', () => {
   const long = 'It is 10:30, and it costs $5. '.repeat(40000);
   const spoken = small.normalize(long);
   assert.equal(spoken.length, small.normalize('It is 10:30, and it costs $5.').length * 40000 + 39999);
-  for (let i = 0; i < 300; ++i) small.read(long.slice(0, 30000));
 });
 
 test('does what the pages show', async () => {

@@ -8,6 +8,7 @@ python3 -m kavi.dask [--parts N] [--workers N] [--scheduler ADDRESS] FOLDER FILE
 from __future__ import annotations
 
 import argparse
+import importlib
 import os
 import pathlib
 import subprocess
@@ -17,6 +18,11 @@ from typing import Any, Iterable, List, Optional, Sequence
 import kavi
 
 _RETRIES = 3
+
+
+def _distributed() -> Any:
+    # Imported where it is needed: it takes a second, and has no types.
+    return importlib.import_module("dask.distributed")
 
 
 def normalize_bag(bag: Any, **settings: Any) -> Any:
@@ -60,14 +66,12 @@ def convert(client: Any, files: Sequence[str], folder: str, parts: int,
     Parts that are there already are not read again. A worker that is killed, or a part that fails, is tried again,
     three times. Raises RuntimeError when that does not help.
     """
-    from dask.distributed import as_completed
-
     pathlib.Path(folder).mkdir(parents=True, exist_ok=True)
     files = [os.path.abspath(file) for file in files]
     targets = [os.path.join(os.path.abspath(folder), f"part-{number:05}") for number in range(1, parts + 1)]
     futures = [client.submit(_part, number, parts, files, target, tuple(options), retries=_RETRIES, pure=False)
                for number, target in enumerate(targets, 1)]
-    for done, future in enumerate(as_completed(futures), 1):
+    for done, future in enumerate(_distributed().as_completed(futures), 1):
         future.result()
         if sys.stderr.isatty():
             print(f"\r{done} of {parts} parts", end="" if done < parts else "\n", file=sys.stderr)
@@ -75,8 +79,6 @@ def convert(client: Any, files: Sequence[str], folder: str, parts: int,
 
 
 def main(arguments: Optional[Sequence[str]] = None) -> None:
-    from dask.distributed import Client, LocalCluster
-
     words = list(sys.argv[1:] if arguments is None else arguments)
     options = words[words.index("--") + 1:] if "--" in words else []
     words = words[:words.index("--")] if "--" in words else words
@@ -88,9 +90,10 @@ def main(arguments: Optional[Sequence[str]] = None) -> None:
     parser.add_argument("files", nargs="+")
     wanted = parser.parse_args(words)
     if wanted.scheduler:
-        client = Client(wanted.scheduler)
+        client = _distributed().Client(wanted.scheduler)
     else:
-        client = Client(LocalCluster(n_workers=wanted.workers, threads_per_worker=1, dashboard_address=None))
+        cluster = _distributed().LocalCluster(n_workers=wanted.workers, threads_per_worker=1, dashboard_address=None)
+        client = _distributed().Client(cluster)
     with client:
         convert(client, wanted.files, wanted.folder, wanted.parts, options or ("--format", "jsonl"))
 

@@ -34,7 +34,7 @@ std::string FileParts::measure() {
 
 std::string FileParts::find(int file, std::size_t n, FilePart& part) {
     if (sizes_.empty()) {
-        const std::string wrong = measure();
+        std::string wrong = measure();
         if (!wrong.empty()) return wrong;
     }
     const auto here = sizes_.begin() + static_cast<std::ptrdiff_t>(n);

@@ -110,6 +110,8 @@ expect 'a name that is no UTF-8' '"q\"\\\xff\n":1: byte 1: this closing tag clos
     "$(said "$tool" $'q"\\\377\n')"
 expect 'tabs and line ends are text' '' "$(printf 'a\tb\tc\r\n\t\r\n' | said "$tool")"
 gzip -k in && printf '\1\2\3 \4\5\n' >binary
+expect 'the first part of a compressed input' 'kavi-tn: in.gz: seems to be compressed; read it by: gzip -dc FILE | kavi-tn' \
+    "$(said "$tool" --part 1/2 in.gz)"
 expect 'a compressed input' \
     'kavi-tn: in.gz: seems to be compressed; read it by: gzip -dc FILE | kavi-tn' "$(said "$tool" in.gz)"
 expect 'a binary input' 'kavi-tn: binary: seems to be binary, not text' "$(said "$tool" binary)"

@@ -24,12 +24,9 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
   public:
-    // `destroy` may be null.
     State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
         : arena_(arena), destroy_(destroy) {}
-    ~State() {
-        if (destroy_ != nullptr) destroy_(arena_);
-    }
+    ~State() { destroy_(arena_); }
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
@@ -260,10 +257,14 @@ TextRange SentencePlaces::source_of(std::size_t at, std::size_t length) {
     return host::PieceCursor(pieces()).source_of(at, length);
 }
 
-TtsHost::TtsHost(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
-    : state_(std::make_unique<State>(arena, destroy)) {}
+// The arena is taken over even when there is no memory for the rest.
+TtsHost::TtsHost(mem_stack_handle arena, void (*destroy)(mem_stack_handle)) try
+    : state_(std::make_unique<State>(arena, destroy)) {
+} catch (...) {
+    destroy(arena);
+}
 
-TtsHost::TtsHost(mem_stack_handle arena) : TtsHost(arena, nullptr) {}
+TtsHost::TtsHost(mem_stack_handle arena) : TtsHost(arena, [](mem_stack_handle) {}) {}
 
 TtsHost::~TtsHost() = default;
 

@@ -16,10 +16,11 @@ missing=()
 need() { command -v "$1" >/dev/null || missing+=("$2"); }
 need_file() { compgen -G "$1" >/dev/null || missing+=("$2"); }
 need_python() { /usr/bin/python3 -c "import $1" 2>/dev/null || missing+=("$2"); }
+may_install() { [ "$(id -u)" = 0 ] && command -v apt-get >/dev/null; }
 install_missing() {
     [ ${#missing[@]} -gt 0 ] || return 0
     local command=(apt-get install -q -y --no-install-recommends "${missing[@]}")
-    if [ "$(id -u)" != 0 ] || ! command -v apt-get >/dev/null; then
+    if ! may_install; then
         printf 'Missing packages. Install them and run this again:\n    sudo %s\n' "${command[*]}" >&2
         exit 1
     fi

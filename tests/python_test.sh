@@ -4,6 +4,10 @@
 # Usage: python_test.sh PROJECT
 set -euo pipefail
 export KAVI_PROJECT=$1
+if [ ! -e /usr/include/pybind11/pybind11.h ] || ! /usr/bin/python3 -c 'import setuptools, wheel, pytest, mypy, venv, ensurepip'; then
+    echo 'pybind11, setuptools, wheel, pytest or mypy is not installed: skipped'
+    exit 77
+fi
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 /usr/bin/python3 -m venv --system-site-packages "$work/venv"

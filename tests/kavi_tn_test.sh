@@ -68,9 +68,9 @@ seq 3000 | sed 's/.*/Line & <\/poem> costs $&, and it is 10:30 in the garden & o
 printf '\n\n5\n\nno end 7' >short
 parts() { for ((i = 1; i <= $1; ++i)); do "$tool" --part "$i/$1" --format jsonl short long short missing 2>/dev/null; done; }
 whole=$("$tool" --format jsonl short long short missing 2>/dev/null | md5sum)
-for n in 1 2 3 7 40; do expect "$n parts" "$whole" "$(parts $n | md5sum)"; done
+for n in 2 7; do expect "$n parts" "$whole" "$(parts $n | md5sum)"; done
 expect 'more parts than bytes' "$("$tool" --plain short)" \
-    "$(for i in {1..30}; do "$tool" --plain --part "$i/30" short; done)"
+    "$(for i in {1..15}; do "$tool" --plain --part "$i/15" short; done)"
 expect 'a part of standard input, a file' "$("$tool" --plain long 2>/dev/null | md5sum)" \
     "$(for i in 1 2; do "$tool" --plain --part "$i/2" <long 2>/dev/null; done | md5sum)"
 expect 'what SSML has no word for, once' 'kavi-tn: SSML has nothing for "poem=a"; it is left out' \

@@ -67,14 +67,13 @@ def words_by_package(text: str) -> list:
               for w in s.words]) for s in kavi.read(text).sentences]
 
 
-@pytest.mark.parametrize("text", [TEXT, "", "a", "Zürich, «5.50» – ½ 😀 1999!", "a. " * 50])
+SEEDS = " ".join(path.read_bytes().decode(errors="ignore").replace("\0", "")
+                 for path in (PROJECT / "fuzz/seeds").iterdir())
+
+
+@pytest.mark.parametrize("text", [TEXT, "", "Zürich, «5.50» – ½ 😀 1999!", "a. " * 50, SEEDS],
+                         ids=["markup", "empty", "outside ASCII", "sentences", "fuzz seeds"])
 def test_reads_as_the_tool_does(text: str) -> None:
-    assert words_by_package(text) == words_by_tool(text)
-
-
-def test_reads_the_fuzz_seeds_as_the_tool_does() -> None:
-    texts = [path.read_bytes().decode(errors="ignore").replace("\0", "") for path in (PROJECT / "fuzz/seeds").iterdir()]
-    text = " ".join(texts)
     assert words_by_package(text) == words_by_tool(text)
 
 

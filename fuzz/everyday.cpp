@@ -2,7 +2,6 @@
 // with all on, places hold, whatever was written is covered, and the cost of a text grows as its
 // length does.
 
-#include <algorithm>
 #include <chrono>
 #include <cstdint>
 
@@ -11,24 +10,19 @@
 
 namespace {
 
-// Nanoseconds a byte that the rewriting of this text takes, said over and over up to such a size:
-// of the fastest of some tries, so that what else the machine does counts little.
+// Nanoseconds a byte that the rewriting of this text takes, said over and over up to such a size.
 double cost_of_byte(const kavi::Everyday& everyday, const std::string& text, std::size_t size) {
     std::string repeated;
     while (repeated.size() < size) repeated += text;
     kavi::RewrittenText rewritten;
-    auto fastest = std::chrono::nanoseconds::max();
-    for (int i = 0; i < 3; ++i) {
-        const auto begin = std::chrono::steady_clock::now();
-        everyday.rewrite(repeated, rewritten);
-        fastest =
-            std::min<std::chrono::nanoseconds>(fastest, std::chrono::steady_clock::now() - begin);
-    }
-    return static_cast<double>(fastest.count()) / static_cast<double>(repeated.size());
+    const auto begin = std::chrono::steady_clock::now();
+    everyday.rewrite(repeated, rewritten);
+    const std::chrono::duration<double, std::nano> time = std::chrono::steady_clock::now() - begin;
+    return time.count() / static_cast<double>(repeated.size());
 }
 
 // A search without bound would make each byte of a text of sixteen times the length cost up to
-// sixteen times as much.
+// sixteen times as much. What else the machine does costs some tries, not all.
 bool is_linear(const kavi::Everyday& everyday, const std::string& text) {
     constexpr std::size_t SHORT = 16384;
     constexpr double MOST = 4;

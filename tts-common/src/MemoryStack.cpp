@@ -29,6 +29,7 @@ constexpr std::size_t CLASS_MAX = 32768;
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
 constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
 constexpr std::size_t REQUEST_MAX = std::numeric_limits<std::size_t>::max() / 4;  // of any memory
+constexpr std::size_t NO_LIMIT = std::numeric_limits<std::size_t>::max() - 1;  // below list_end's
 constexpr std::size_t CHUNK_BYTES = std::size_t{64} * 1024;
 
 static_assert(std::size_t{4} << SMALL_SHIFT == SMALL_MAX);
@@ -39,7 +40,8 @@ static_assert(SMALL_STEP % ALIGNMENT == 0, "every class keeps the alignment");
 struct alignas(std::max_align_t) BlockHeader {
     std::size_t cost;          // the bytes of the piece, this header included
     std::uint16_t size_class;  // CLASSES for a large block
-    std::uint16_t is_free;
+    std::uint16_t
+        is_free;  // of regions; of blocks in a free list, only while neighbours are merged
 };
 
 // A released block or a free region; the link stands in the bytes that nobody uses now.
@@ -84,15 +86,17 @@ SizeClass class_of(std::size_t size) {
 
 struct tag_mem_stack_array {
     FreeBlock* free_list[CLASSES + 1];  // the last one is that of large blocks, of any size
-    std::size_t capacity;
-    std::size_t left;        // of the capacity
-    std::size_t least_left;  // at any time
+    std::size_t capacity;               // at most NO_LIMIT
+    std::size_t peak;                   // the most bytes that have been in use
+    std::size_t below_peak;             // so many fewer are in use now
     Chunk* chunks;
     std::size_t taken;  // from the system, for chunks
     char* carve_begin;  // the region at hand
     char* carve_end;
     FreeBlock* regions;  // the others
-    bool may_merge;      // something was released since neighbours were merged
+    FreeBlock list_end;  // of every free list; costs more than any request finds room for
+
+    std::size_t used() const { return peak - below_peak; }
 };
 
 namespace {
@@ -147,14 +151,26 @@ FreeBlock** merge_chunk(Chunk& chunk, FreeBlock** link) {
     return link;
 }
 
+// Whether something was released since neighbours were merged, and is free still.
+bool may_merge(const tag_mem_stack_array& arena) {
+    const auto is_empty = [&](const FreeBlock* list) { return list == &arena.list_end; };
+    return !std::all_of(std::begin(arena.free_list), std::end(arena.free_list), is_empty);
+}
+
+// Makes every free list empty; its blocks are marked as free.
+void empty_free_lists(tag_mem_stack_array& arena) {
+    for (FreeBlock*& list : arena.free_list) {
+        for (; list != &arena.list_end; list = list->next) list->header.is_free = 1;
+    }
+}
+
 void merge_neighbours(tag_mem_stack_array& arena) {
-    std::fill(std::begin(arena.free_list), std::end(arena.free_list), nullptr);
+    empty_free_lists(arena);
     FreeBlock** link = &arena.regions;
     for (Chunk* chunk = arena.chunks; chunk != nullptr; chunk = chunk->next) {
         link = merge_chunk(*chunk, link);
     }
     *link = nullptr;
-    arena.may_merge = false;
 }
 
 // A chunk with room for `cost` bytes, as far as the capacity lets the arena take one.
@@ -182,13 +198,12 @@ bool take_chunk(tag_mem_stack_array& arena, std::size_t cost) {
 bool find_room(tag_mem_stack_array& arena, std::size_t cost) {
     put_region_back(arena);
     if (find_region(arena, cost)) return true;
-    const std::size_t used = arena.capacity - arena.left;
-    if (arena.may_merge && used <= arena.taken / 2) {
+    if (arena.used() <= arena.taken / 2 && may_merge(arena)) {
         merge_neighbours(arena);
         if (find_region(arena, cost)) return true;
     }
     if (take_chunk(arena, cost)) return true;
-    if (!arena.may_merge) return false;
+    if (!may_merge(arena)) return false;
     merge_neighbours(arena);
     return find_region(arena, cost);
 }
@@ -204,12 +219,13 @@ BlockHeader* carve(tag_mem_stack_array& arena, std::size_t cost, std::size_t siz
 // A free block for a request that costs `cost`: of its class, or a large one that is not much
 // larger. Null when there is none.
 BlockHeader* reuse(tag_mem_stack_array& arena, std::size_t size_class, std::size_t cost) {
-    for (FreeBlock** link = &arena.free_list[size_class]; *link != nullptr; link = &(*link)->next) {
+    const std::size_t left = arena.capacity - arena.used();
+    for (FreeBlock** link = &arena.free_list[size_class]; *link != &arena.list_end;
+         link = &(*link)->next) {
         FreeBlock* block = *link;
         const std::size_t has = block->header.cost;
-        if (has < cost || has - cost > cost / 4 || has > arena.left) continue;
+        if (has < cost || has - cost > cost / 4 || has > left) continue;
         unlink_first(link);
-        block->header.is_free = 0;
         return &block->header;
     }
     return nullptr;
@@ -221,8 +237,9 @@ mem_stack_handle mem_stack_create(std::size_t n_capacity) {
     void* memory = std::malloc(sizeof(mem_stack_array));
     if (memory == nullptr) return nullptr;
     auto* arena = new (memory) mem_stack_array{};
-    arena->capacity = n_capacity != 0 ? n_capacity : std::numeric_limits<std::size_t>::max();
-    arena->left = arena->least_left = arena->capacity;
+    arena->capacity = n_capacity != 0 ? std::min(n_capacity, NO_LIMIT) : NO_LIMIT;
+    arena->list_end.header.cost = std::numeric_limits<std::size_t>::max();
+    std::fill(std::begin(arena->free_list), std::end(arena->free_list), &arena->list_end);
     return arena;
 }
 
@@ -237,11 +254,11 @@ void mem_stack_destroy(mem_stack_handle arena) {
 }
 
 std::size_t mem_stack_used(mem_stack_handle arena) {
-    return arena != nullptr ? arena->capacity - arena->left : 0;
+    return arena != nullptr ? arena->used() : 0;
 }
 
 std::size_t mem_stack_peak(mem_stack_handle arena) {
-    return arena != nullptr ? arena->capacity - arena->least_left : 0;
+    return arena != nullptr ? arena->peak : 0;
 }
 
 std::size_t mem_stack_taken(mem_stack_handle arena) {
@@ -250,40 +267,42 @@ std::size_t mem_stack_taken(mem_stack_handle arena) {
 
 namespace {
 
-void* hand_out(tag_mem_stack_array& arena, BlockHeader* block) {
-    arena.left -= block->cost;
-    if (arena.left < arena.least_left) arena.least_left = arena.left;
-    return block + 1;
-}
-
 // Serves every request. Out of line, so that the usual one does not pay for its registers.
 __attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
                                             mem_stack_handle handle) {
-    if (handle == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
+    if (static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
     tag_mem_stack_array& arena = *handle;
-    if (size > std::min(arena.left, REQUEST_MAX)) return nullptr;
+    const std::size_t left = arena.capacity - arena.used();
+    if (size > std::min(left, REQUEST_MAX)) return nullptr;
     const SizeClass wanted = class_of(size);
     const std::size_t cost = wanted.bytes + sizeof(BlockHeader);
-    if (cost > arena.left) return nullptr;
+    if (cost > left) return nullptr;
     BlockHeader* block = reuse(arena, wanted.index, cost);
     if (block == nullptr) block = carve(arena, cost, wanted.index);
-    return block != nullptr ? hand_out(arena, block) : nullptr;
+    if (block == nullptr) return nullptr;
+    const std::size_t used = arena.used() + block->cost;
+    arena.peak = std::max(arena.peak, used);
+    arena.below_peak = arena.peak - used;
+    return block + 1;
 }
 
 }  // namespace
 
-// The usual request is for a small block of a class that has one free.
+// The usual request is for a small block of a class that has one free, when no fewer bytes have
+// been in use before: one comparison tells both, and that the capacity is not reached.
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
+    if (arena == nullptr) return nullptr;
     const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
-    if (arena != nullptr && static_cast<unsigned>(type) < MEM_MAX_CNT && index < SMALL_CLASSES) {
-        FreeBlock* block = arena->free_list[index];
-        if (block != nullptr && block->header.cost <= arena->left) {
-            arena->free_list[index] = block->next;
-            block->header.is_free = 0;
-            return hand_out(*arena, &block->header);
-        }
+    if (index >= SMALL_CLASSES) return request_any(size, type, arena);
+    if (static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
+    FreeBlock* block = arena->free_list[index];
+    std::size_t below_peak = 0;
+    if (__builtin_sub_overflow(arena->below_peak, block->header.cost, &below_peak)) {
+        return request_any(size, type, arena);
     }
-    return request_any(size, type, arena);
+    arena->below_peak = below_peak;
+    arena->free_list[index] = block->next;
+    return &block->header + 1;
 }
 
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,
@@ -291,9 +310,7 @@ int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,
     if (p == nullptr || arena == nullptr) return 0;
     auto* block = reinterpret_cast<FreeBlock*>(static_cast<BlockHeader*>(p) - 1);
     FreeBlock*& free_list = arena->free_list[block->header.size_class];
-    arena->left += block->header.cost;
-    arena->may_merge = true;
-    block->header.is_free = 1;
+    arena->below_peak += block->header.cost;
     block->next = free_list;
     free_list = block;
     return 0;

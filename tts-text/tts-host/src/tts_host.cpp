@@ -167,9 +167,9 @@ bool TtsHost::State::read_sentence(std::size_t cut) {
     text[cut] = '\0';
     source_.begin();
     if (!abbreviations_) abbreviations_.emplace();
-    cutter_.emplace(text, normalized_, *abbreviations_, &source_);
+    cutter_.emplace(std::string_view(text, cut), normalized_, *abbreviations_, &source_);
     const bool well_formed = cutter_->cut();
-    rest_ = cutter_->rest();
+    rest_ = cutter_->rest().data();
     text[cut] = after;
     are_pieces_known_ = are_words_known_ = false;
     findings_.begin(normalized_);

@@ -6,50 +6,66 @@
 #include <cstring>
 #include <string_view>
 
+#include "short_copy.h"
+
 namespace kavi::tn {
 
 class BoundedText {
   public:
     // `text` is a NUL-terminated text in a buffer of `capacity` bytes; one without a terminator
     // there counts as full.
-    BoundedText(char* text, int capacity) : text_(text), capacity_(capacity) {
+    BoundedText(char* text, int capacity) : text_(text), end_(text), limit_(text + capacity) {
         if (*text == '\0') return;  // the usual case
-        const void* end = std::memchr(text, '\0', static_cast<std::size_t>(capacity));
-        length_ =
-            end != nullptr ? static_cast<int>(static_cast<const char*>(end) - text) : capacity;
+        void* end = std::memchr(text, '\0', static_cast<std::size_t>(capacity));
+        end_ = end != nullptr ? static_cast<char*>(end) : limit_;
     }
 
     // Appends all of `words` and answers true, or nothing and answers false.
     bool append(std::string_view words) {
         if (!has_room(words.size())) return false;
-        words.copy(text_ + length_, words.size());
-        length_ += static_cast<int>(words.size());
-        text_[length_] = '\0';
+        put(words);
+        *end_ = '\0';
         return true;
     }
 
-    bool has_room(std::size_t size) const {
-        return size < static_cast<std::size_t>(capacity_ - length_);
+    // Appends the words, and then a blank. False when that has no room, or neither has.
+    bool append_spaced(std::string_view words) {
+        if (!has_room(words.size() + 1)) {
+            append(words);
+            return false;
+        }
+        put(words);
+        end_[0] = ' ';
+        end_[1] = '\0';
+        ++end_;
+        return true;
     }
+
+    bool has_room(std::size_t size) const { return size < static_cast<std::size_t>(limit_ - end_); }
 
     // Removes the last `n` characters, or all when there are fewer.
     void cut(int n) {
-        length_ -= n < length_ ? n : length_;
-        text_[length_] = '\0';
+        end_ -= n < length() ? n : length();
+        *end_ = '\0';
     }
 
     void cut_blanks() {
         while (ends_with(' ')) cut(1);
     }
 
-    bool ends_with(char c) const { return length_ > 0 && text_[length_ - 1] == c; }
-    int length() const { return length_; }
+    bool ends_with(char c) const { return end_ != text_ && end_[-1] == c; }
+    int length() const { return static_cast<int>(end_ - text_); }
     char* text() { return text_; }
 
   private:
+    void put(std::string_view words) {
+        copy_short(end_, words.data(), words.size());
+        end_ += words.size();
+    }
+
     char* text_;
-    int capacity_;
-    int length_ = 0;
+    char* end_;
+    char* limit_;  // after the buffer
 };
 
 }  // namespace kavi::tn

@@ -9,14 +9,15 @@ namespace kavi::tn {
 
 // Clears by pieces that become plain stores: of larger ones, compilers and C libraries make a
 // string instruction, which is slow to start.
-inline void clear(void* memory, std::size_t size) {
+template <std::size_t Size>
+void clear(void* memory) {
     constexpr std::size_t PIECE = 64;
-    auto* bytes = static_cast<char*>(memory);
-    for (; size >= 2 * PIECE; size -= 2 * PIECE, bytes += 2 * PIECE) {
-        std::memset(bytes, 0, PIECE);
-        std::memset(bytes + PIECE, 0, PIECE);
+    if constexpr (Size <= PIECE) {
+        std::memset(memory, 0, Size);
+    } else {
+        std::memset(memory, 0, PIECE);
+        clear<Size - PIECE>(static_cast<char*>(memory) + PIECE);
     }
-    std::memset(bytes, 0, size);
 }
 
 }  // namespace kavi::tn

@@ -8,6 +8,7 @@
 
 #include "limits.h"
 #include "post_pro_tn_eng.h"
+#include "short_copy.h"
 
 namespace kavi::tn {
 
@@ -32,7 +33,7 @@ class Reading {
             append_cut(words);
             return;
         }
-        std::memcpy(text_ + length_, words.data(), words.size());
+        copy_short(text_ + length_, words.data(), words.size());
         length_ += words.size();
         text_[length_] = '\0';
     }

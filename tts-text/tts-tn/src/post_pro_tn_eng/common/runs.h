@@ -3,6 +3,7 @@
 #define KAVI_TN_RUNS_H
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "ascii.h"
@@ -13,8 +14,7 @@ namespace kavi::tn {
 enum Run : unsigned char {
     LETTERS = 1,
     DIGITS = 2,
-    COPIED = 4,   // what needs no decision of the pre-pass
-    OF_WORD = 8,  // what makes words of tagged text
+    COPIED = 4,  // what needs no decision of the pre-pass
 };
 
 constexpr unsigned runs_of(char c) {
@@ -25,7 +25,6 @@ constexpr unsigned runs_of(char c) {
     if (c != ':' && c != '.' && c != '<' && c != '?' && c != ';' && c != '!' && c != ',') {
         runs |= COPIED;
     }
-    if (c != ' ' && c != '<') runs |= OF_WORD;
     return runs;
 }
 
@@ -72,30 +71,64 @@ constexpr Eight no_letters(Eight c) {
     return ~(from_a & ~above_z & ~c) & EACH * 0x80;
 }
 
-// A bit of each below "@", as is all that can end a word of tagged text.
+// The top bit of each that is no small letter and no blank, or a blank after a blank; `blanks` is
+// set for the next eight.
+constexpr Eight no_small_words(Eight c, Eight& blanks) {
+    const Eight from_blank = c ^ EACH * ' ';  // 0 for a blank, capitals for small letters
+    const Eight low = from_blank & EACH * 0x7f;
+    const Eight no_letter = ~(low + EACH * (0x80 - 'A')) | (low + EACH * (0x7f - 'Z')) | from_blank;
+    const Eight no_blank = (low + EACH * 0x7f) | from_blank;
+    const Eight is_blank = ~no_blank & EACH * 0x80;
+    const Eight after_blank = is_blank << 8 | blanks;
+    blanks = is_blank >> 56;
+    return (no_letter & no_blank & EACH * 0x80) | (is_blank & after_blank);
+}
+
+// A bit of each from "!" to "?", as is all that needs a decision of the pre-pass, and of some
+// others.
+constexpr Eight maybe_not_copied(Eight c) {
+    const Eight no_blank = (c & EACH * 0x1f) + EACH * 0x1f;
+    return no_blank & ~c >> 1 & EACH * 0x20;
+}
+
+// A bit of each below "@", as are a blank, a "<" and what stands after a text.
 constexpr Eight below_letters(Eight c) {
     return ~c & EACH * '@';
 }
 
-// The first from `text` on that `ends` marks, unless there is none before the last few ahead of
-// `text_end`: then one of those.
-template <typename Ends>
-const char* skip_eights(const char* text, const char* text_end, Ends ends) {
-    for (; text_end - text >= 8; text += 8) {
-        const Eight marked = ends(eight_of(text));
-        if (marked != 0) return text + static_cast<unsigned>(__builtin_ctzll(marked)) / 8;
-    }
-    return text;
+// Which of the eight the first marked one is.
+inline std::size_t first_of(Eight marked) {
+    return static_cast<unsigned>(__builtin_ctzll(marked)) / 8;
 }
 
 // As skip, for a text that ends at `text_end`. Most words end at a blank.
 inline const char* skip_letters(const char* text, const char* text_end) {
-    const char* end = skip_eights(text, text_end, no_letters);
-    return *end == ' ' ? end : skip(LETTERS, end);
+    for (; text_end - text >= 8; text += 8) {
+        const Eight marked = no_letters(eight_of(text));
+        if (marked != 0) return text + first_of(marked);
+    }
+    return skip(LETTERS, text);
 }
-inline const char* skip_word(const char* text, const char* text_end) {
-    const char* end = skip_eights(text, text_end, below_letters);
-    return *end == ' ' ? end : skip(OF_WORD, end);
+
+// The first from `text` on that is no small letter and no blank after one, or `text_end`.
+inline const char* skip_small_words(const char* text, const char* text_end) {
+    Eight blanks = 0;
+    for (; text_end - text >= 8; text += 8) {
+        const Eight marked = no_small_words(eight_of(text), blanks);
+        if (marked != 0) return text + first_of(marked);
+    }
+    while (text < text_end && (is_lower(*text) || (*text == ' ' && text[-1] != ' '))) ++text;
+    return text;
+}
+
+inline const char* skip_copied(const char* text, const char* text_end) {
+    for (; text_end - text >= 8; text += 8) {
+        for (Eight marked = maybe_not_copied(eight_of(text)); marked != 0; marked &= marked - 1) {
+            const char* at = text + first_of(marked);
+            if (!belongs_to(COPIED, *at)) return at;
+        }
+    }
+    return skip(COPIED, text);
 }
 
 }  // namespace kavi::tn

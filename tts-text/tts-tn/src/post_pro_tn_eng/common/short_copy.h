@@ -7,15 +7,15 @@
 
 namespace kavi::tn {
 
-// Copies `n` characters, at least one. Up to 16 go as two pieces that may overlap, which is less
-// than a call of memcpy: for words.
+// Copies `n` characters. Up to 16 go as two pieces that may overlap, which is less than a call of
+// memcpy: for words.
 inline void copy_short(char* target, const char* source, std::size_t n) {
     const auto copy_ends = [=](std::size_t piece) {
         std::memcpy(target, source, piece);
         std::memcpy(target + n - piece, source + n - piece, piece);
     };
     if (n < 4) {
-        n < 2 ? copy_ends(1) : copy_ends(2);
+        if (n > 0) n < 2 ? copy_ends(1) : copy_ends(2);
     } else if (n < 8) {
         copy_ends(4);
     } else if (n <= 16) {

@@ -13,7 +13,9 @@ namespace kavi::tn {
 class SortedNames {
   public:
     explicit SortedNames(mem_stack_handle arena) : arena_(arena) {}
-    ~SortedNames() { mem_stack_release_buf(begin_, 0, MEM_COMMON, arena_); }
+    ~SortedNames() {
+        if (begin_ != nullptr) mem_stack_release_buf(begin_, 0, MEM_COMMON, arena_);
+    }
     SortedNames(const SortedNames&) = delete;
     SortedNames& operator=(const SortedNames&) = delete;
 

@@ -1,6 +1,7 @@
 #include "number_words.h"
 
 #include <algorithm>
+#include <array>
 
 #include "../common/ascii.h"
 
@@ -32,37 +33,73 @@ std::size_t row_of(char tens, char units) {
     return tens == '1' ? TEN + u : TWENTY + t - 2;
 }
 
-// The tables have the same order, but ordinals no row for 0.
-const char* word_of(char tens, char units, bool ordinal) {
-    if (!is_digit(tens) || !is_digit(units)) return "";
-    const std::size_t row = row_of(tens, units);
-    return ordinal ? s_number_to_turn[row - 1][1] : s_number_to_char[row][1];
+// How long the words of a table are, row by row.
+template <std::size_t Rows, std::size_t Width>
+constexpr auto lengths_of(const char (&table)[Rows][2][Width]) {
+    std::array<unsigned char, Rows> lengths{};
+    for (std::size_t row = 0; row < Rows; ++row) {
+        lengths[row] = static_cast<unsigned char>(std::string_view(table[row][1]).size());
+    }
+    return lengths;
 }
+
+constexpr auto CARDINAL_LENGTHS = lengths_of(s_number_to_char);
+constexpr auto ORDINAL_LENGTHS = lengths_of(s_number_to_turn);
+
+std::string_view cardinal_word(std::size_t row) {
+    return {s_number_to_char[row][1], CARDINAL_LENGTHS[row]};
+}
+
+// The tables have the same order, but ordinals no row for 0.
+std::string_view word_of(char tens, char units, bool ordinal) {
+    if (!is_digit(tens) || !is_digit(units)) return {};
+    const std::size_t row = row_of(tens, units);
+    if (!ordinal) return cardinal_word(row);
+    return {s_number_to_turn[row - 1][1], ORDINAL_LENGTHS[row - 1]};
+}
+
+// The words of one group, which have room here, whatever it is.
+class GroupWords {
+  public:
+    // cppcheck-suppress uninitMemberVar ; the words are those appended
+    GroupWords() {}
+    void append(std::string_view words) {
+        copy_short(words_ + length_, words.data(), words.size());
+        length_ += words.size();
+    }
+    std::string_view text() const { return {words_, length_}; }
+
+  private:
+    std::size_t length_ = 0;
+    char words_[64];  // "seventeen hundred  and seventy seventeenth " is longer than any
+};
 
 // The frame that cardinals and ordinals have in common: hundreds, then " and ", then one word or
 // two, of which the last is an ordinal or not.
 void append_group(std::string_view text, bool ordinal, Reading& reading) {
+    GroupWords words;
     const Digits digits(text);
     const bool has_hundreds = digits.hundreds != '0';
     if (has_hundreds) {
-        reading.append(word_of('0', digits.hundreds, false));
-        reading.append(" hundred ");
+        words.append(word_of('0', digits.hundreds, false));
+        words.append(" hundred ");
     } else {
-        reading.append(" ");
+        words.append(" ");
     }
     const bool has_units = digits.units != '0';
-    if (has_hundreds && (digits.tens != '0' || has_units)) reading.append(" and ");
+    if (has_hundreds && (digits.tens != '0' || has_units)) words.append(" and ");
     if (digits.tens == '0' || digits.tens == '1') {
         if (digits.tens == '1' || has_units) {
-            reading.append(word_of(digits.tens, digits.units, ordinal));
+            words.append(word_of(digits.tens, digits.units, ordinal));
         }
     } else {
         const bool ends_here = ordinal && !has_units;
-        reading.append(word_of(digits.tens, '0', ends_here));
-        if (!ends_here) reading.append(" ");
-        if (has_units) reading.append(word_of('0', digits.units, ordinal));
+        words.append(word_of(digits.tens, '0', ends_here));
+        if (!ends_here) words.append(" ");
+        if (has_units) words.append(word_of('0', digits.units, ordinal));
     }
-    reading.append(" ");
+    words.append(" ");
+    reading.append(words.text());
 }
 
 // The length of the first of the groups, of which only that may be short.
@@ -123,7 +160,7 @@ void append_each_digit(std::string_view digits, Reading& reading) {
     reading.note_digits(digits);
     for (const char c : digits) {
         const std::size_t row = is_digit(c) ? static_cast<std::size_t>(c - '0') : NO_DIGIT;
-        reading.append(s_number_to_char[row][1]);
+        reading.append(cardinal_word(row));
         reading.append(" ");
     }
 }

@@ -4,6 +4,9 @@
 
 #include <string_view>
 
+#include "../common/ascii.h"
+#include "post_pro_tn_eng.h"
+
 namespace kavi::tn {
 
 enum class WordKind {
@@ -15,6 +18,29 @@ enum class WordKind {
 
 // The kind of a section of letters.
 WordKind word_kind(std::string_view word);
+
+inline constexpr char TELEPHONE_LABEL[] = "Tel";
+
+// The letters at this place of "Tel" and the names of months: a bit for each, from the first of
+// their case on.
+constexpr unsigned letters_at(std::size_t place, char first_of_case) {
+    unsigned letters = 1U << (TELEPHONE_LABEL[place] - first_of_case);
+    for (const auto& row : s_string_to_month) {
+        for (const char* name : row) letters |= 1U << (name[place] - first_of_case);
+    }
+    return letters;
+}
+
+inline constexpr unsigned FIRST_LETTERS = letters_at(0, 'A');
+inline constexpr unsigned SECOND_LETTERS = letters_at(1, 'a');
+
+// Whether a section that begins with these, letters or not, is surely a plain word: most of those
+// that are.
+inline bool begins_plain_word(char first, char second) {
+    if (is_lower(first)) return true;
+    return is_upper(first) && is_lower(second) &&
+           (FIRST_LETTERS >> (first - 'A') & SECOND_LETTERS >> (second - 'a') & 1U) == 0;
+}
 
 // Asks the lexicon about a word in capitals, of at most 499. As yet its answer makes no difference.
 void ask_lexicon(std::string_view word);

@@ -20,11 +20,29 @@ constexpr std::size_t offset_of_dot(const char* abbreviation) {
     return offset;
 }
 
+constexpr auto make_dot_offsets() {
+    std::array<unsigned char, ABBREVIATIONNUMBER> offsets{};
+    for (std::size_t row = 0; row < ABBREVIATIONNUMBER; ++row) {
+        offsets[row] = static_cast<unsigned char>(offset_of_dot(s_spec_word_abbrevi[row][0]));
+    }
+    return offsets;
+}
+
+constexpr auto DOT_OFFSETS = make_dot_offsets();
+
+}  // namespace
+
+std::size_t dot_offset(int row) {
+    return DOT_OFFSETS[static_cast<std::size_t>(row)];
+}
+
+namespace {
+
 constexpr auto make_rows_ending_in() {
     std::array<unsigned, 26> rows{};
     for (std::size_t row = 0; row < ABBREVIATIONNUMBER; ++row) {
         const char* abbreviation = s_spec_word_abbrevi[row][0];
-        const char last = to_lower(abbreviation[offset_of_dot(abbreviation) - 1]);
+        const char last = to_lower(abbreviation[DOT_OFFSETS[row] - 1]);
         rows[static_cast<std::size_t>(last - 'a')] |= 1U << row;
     }
     return rows;
@@ -54,21 +72,22 @@ bool has_case_form(const char* text, const char* abbreviation, std::size_t form)
     return true;
 }
 
-}  // namespace
-
-std::size_t dot_offset(int row) {
-    return offset_of_dot(s_spec_word_abbrevi[row][0]);
+// Whether the abbreviation of a row has room before `dot`, and its first letter stands there, in
+// whatever case: most texts that end alike are told from it by that.
+bool begins_alike(int row, const char* stretch, const char* dot) {
+    const auto offset = static_cast<std::ptrdiff_t>(dot_offset(row));
+    return dot - stretch >= offset &&
+           to_lower(dot[-offset]) == to_lower(s_spec_word_abbrevi[row][0][0]);
 }
+
+}  // namespace
 
 // The case form that occurs at the full stop counts only when no form tried before it occurs
 // anywhere in the rest of the text: the first form that occurs is taken, wherever that is.
 bool AbbreviationSearch::is_accepted(int row, const char* stretch, const char* dot) {
     const char* abbreviation = s_spec_word_abbrevi[row][0];
-    const auto offset = static_cast<std::ptrdiff_t>(dot_offset(row));
-    if (dot - stretch < offset) return false;
-    if (to_lower(dot[-offset]) != to_lower(abbreviation[0])) return false;  // most rows end here
     std::size_t form = 0;
-    while (form < CASE_FORMS && !has_case_form(dot - offset, abbreviation, form)) ++form;
+    while (form < CASE_FORMS && !has_case_form(dot - dot_offset(row), abbreviation, form)) ++form;
     if (form == CASE_FORMS) return false;
     while (form-- > 0) {
         char needle[sizeof s_spec_word_abbrevi[0][0]] = {};
@@ -84,9 +103,9 @@ bool AbbreviationSearch::is_accepted(int row, const char* stretch, const char* d
 }
 
 int AbbreviationSearch::find(const char* stretch, const char* dot) {
-    unsigned rows = dot > stretch ? rows_ending_in(dot[-1]) : 0;
-    for (int row = 0; rows != 0; ++row, rows >>= 1) {
-        if ((rows & 1U) != 0 && is_accepted(row, stretch, dot)) return row;
+    for (unsigned rows = dot > stretch ? rows_ending_in(dot[-1]) : 0; rows != 0; rows &= rows - 1) {
+        const int row = __builtin_ctz(rows);
+        if (begins_alike(row, stretch, dot) && is_accepted(row, stretch, dot)) return row;
     }
     return NO_ABBREVIATION;
 }

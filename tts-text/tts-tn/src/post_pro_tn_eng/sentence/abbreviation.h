@@ -29,6 +29,7 @@ class AbbreviationSearch {
     int find(const char* stretch, const char* dot);
 
   private:
+    // Of a row that begins alike.
     bool is_accepted(int row, const char* stretch, const char* dot);
 
     static constexpr std::size_t CASE_FORMS = 4;  // as written, lower case, capitalised, capitals

@@ -31,11 +31,11 @@ bool SentenceCutter::cut() {
     return close_open_spans();
 }
 
-const char* SentenceCutter::rest() const {
+std::string_view SentenceCutter::rest() const {
     const char* rest = next_;
     while (is_blank(*rest) || *rest == '\'' || *rest == '"') ++rest;
     while (*rest == '\r' || *rest == '\n') ++rest;
-    return rest;
+    return {rest, static_cast<std::size_t>(source_end_ - rest)};
 }
 
 // Tells the observer what became of `source`: all that the target has from `target_at` on.
@@ -82,7 +82,7 @@ void SentenceCutter::mark(bool ends_sentence) {
 void SentenceCutter::run() {
     const char* begin = next_;
     const std::ptrdiff_t room = FULL_SENTENCE + 1 - target_.length();
-    const std::ptrdiff_t length = std::min(skip(COPIED, begin) - begin, room);
+    const std::ptrdiff_t length = std::min(skip_copied(begin, source_end_) - begin, room);
     next_ += length;
     target_.append({begin, static_cast<std::size_t>(length)});
     const char before_last = length > 1 ? next_[-2] : previous_;
@@ -197,8 +197,8 @@ int PostProTnEng::eng_text_normalize(char* sz_source_text, char* sz_target_text,
     tn::AbbreviationSearch abbreviations;
     tn::SentenceCutter cutter(sz_source_text, sz_target_text, abbreviations, nullptr);
     if (!cutter.cut()) return 0;
-    const char* rest = cutter.rest();
-    if (*rest == '\0') return 0;
+    const std::string_view rest = cutter.rest();
+    if (rest.empty()) return 0;
     tn::BoundedText next_text(sz_next_text, SZ_TEXT_MAX_LEN);
     const SsmlTagArr& tags = cutter.open_tags();
     for (int i = 0; i < tags.begin_arr_len; ++i) {

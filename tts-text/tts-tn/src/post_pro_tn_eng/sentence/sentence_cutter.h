@@ -27,12 +27,13 @@ class CutObserver {
 // One scan of a source text, from its start to the end of its first sentence.
 class SentenceCutter {
   public:
-    // `source` is NUL-terminated, `target` 4096 bytes that hold an empty text. `abbreviations` may
+    // A NUL follows `source`; `target` are 4096 bytes that hold an empty text. `abbreviations` may
     // have served earlier sentences of the same source; `observer` may be null.
-    SentenceCutter(const char* source, char* target, AbbreviationSearch& abbreviations,
+    SentenceCutter(std::string_view source, char* target, AbbreviationSearch& abbreviations,
                    CutObserver* observer)
-        : next_(source),
-          stretch_(source),
+        : next_(source.data()),
+          source_end_(next_ + source.size()),
+          stretch_(next_),
           target_(target, SZ_TEXT_MAX_LEN),
           abbreviations_(abbreviations),
           observer_(observer) {
@@ -50,7 +51,7 @@ class SentenceCutter {
     int length_before_closing() const { return length_before_closing_; }
 
     // After cut(): where the next sentence begins, once what is silent has been passed over.
-    const char* rest() const;
+    std::string_view rest() const;
 
     // After cut(): how long the sentence is.
     int length() const { return target_.length(); }
@@ -76,7 +77,8 @@ class SentenceCutter {
 
     inline void report(std::string_view source, int target_at);
 
-    const char* next_;     // the read position
+    const char* next_;  // the read position
+    const char* source_end_;
     const char* stretch_;  // where the next abbreviation search begins
     BoundedText target_;
     AbbreviationSearch& abbreviations_;

@@ -42,8 +42,7 @@ void SectionDispatcher::append(std::string_view words) {
 }
 
 void SectionDispatcher::append_spaced(std::string_view words) {
-    append(words);
-    if (outcome_ == Outcome::go_on) append(" ");
+    if (!output_.append_spaced(words)) outcome_ = Outcome::full;
 }
 
 Section* SectionDispatcher::read_as(ReadingRule rule, std::string_view words, Section* last) {
@@ -104,6 +103,7 @@ Section* SectionDispatcher::telephone() {
 
 Section* SectionDispatcher::number() {
     const Section* next = section_->m_pnext;
+    if (next == nullptr || next->sz_char[0] == ' ') return plain_number();
     if (is_mark(next, ',')) {
         return reading_as(ReadingRule::separated_number, str_number(section_, reading_));
     }
@@ -165,7 +165,7 @@ Section* SectionDispatcher::mark() {
     rule_ = row != nullptr ? ReadingRule::mark : ReadingRule::silent;
     if (row == nullptr) return section_;
     const bool before_number = is_number(section_->m_pnext);
-    const char* words = words_of(*row, is_number(section_->m_pprevious), before_number);
+    MarkWords words = words_of(*row, is_number(section_->m_pprevious), before_number);
     if (words == READER) {
         switch (row->mark) {
             case '<': return smaller();
@@ -183,8 +183,7 @@ Section* SectionDispatcher::mark() {
         words = row->otherwise;
         assert(words != READER);
     }
-    append(words);
-    if (row->spaced && outcome_ == Outcome::go_on) append(" ");
+    row->spaced ? append_spaced(text_of(words)) : append(text_of(words));
     return section_;
 }
 

@@ -4,35 +4,73 @@ namespace kavi::tn {
 
 // clang-format off
 constexpr MarkReading MARK_READINGS[25] = {
-    {',', false, "<punc=dou> ",    "<punc=dou> ",    "<punc=dou> "},
-    {'.', false, "<punc=ju> ",     "<punc=ju> ",     "<punc=ju> "},
-    {':', false, "<punc=mao> ",    "<punc=mao> ",    "<punc=mao> "},
-    {';', false, "<punc=fen> ",    "<punc=fen> ",    "<punc=fen> "},
-    {'"', false, "<punc=zuoyin> ", "<punc=zuoyin> ", "<punc=zuoyin> "},
-    {'?', false, "<punc=wen>",     "<punc=wen>",     "<punc=wen>"},
-    {'(', false, READER,           READER,           "<punc=zuokuo>"},
-    {')', false, "<punc=youkuo>",  "<punc=youkuo>",  "<punc=youkuo>"},
-    {'{', false, "<punc=zuokuo>",  "<punc=zuokuo>",  "<punc=zuokuo>"},
-    {'}', false, "<punc=youkuo>",  "<punc=youkuo>",  "<punc=youkuo>"},
-    {'[', false, "<punc=zuokuo>",  "<punc=zuokuo>",  "<punc=zuokuo>"},
-    {']', false, "<punc=youkuo>",  "<punc=youkuo>",  "<punc=youkuo>"},
-    {'+', false, "add ",           READER,           ""},
-    {'-', false, "subtract ",      "minus ",         " "},
-    {'*', false, "multiply ",      "asterisk ",      "asterisk "},
-    {'/', false, "divide ",        " ",              " "},
-    {'%', false, "percent ",       " ",              " "},
-    {'=', false, "equal ",         "equal ",         "equal "},
-    {'~', true,  "arrive ",        "arrive ",        "arrive "},
-    {'>', false, "larger ",        "larger ",        "larger "},
-    {'@', false, "at ",            "at ",            "at "},
-    {'#', false, " ",              " ",              " "},
-    {'$', false, READER,           READER,           " "},
-    {'\'', false, READER,           READER,           READER},
-    {'<', false, READER,           READER,           READER},
+    {',',  false, DOU,      DOU,      DOU},
+    {'.',  false, JU,       JU,       JU},
+    {':',  false, MAO,      MAO,      MAO},
+    {';',  false, FEN,      FEN,      FEN},
+    {'"',  false, ZUOYIN,   ZUOYIN,   ZUOYIN},
+    {'?',  false, WEN,      WEN,      WEN},
+    {'(',  false, READER,   READER,   ZUOKUO},
+    {')',  false, YOUKUO,   YOUKUO,   YOUKUO},
+    {'{',  false, ZUOKUO,   ZUOKUO,   ZUOKUO},
+    {'}',  false, YOUKUO,   YOUKUO,   YOUKUO},
+    {'[',  false, ZUOKUO,   ZUOKUO,   ZUOKUO},
+    {']',  false, YOUKUO,   YOUKUO,   YOUKUO},
+    {'+',  false, ADD,      READER,   SILENT},
+    {'-',  false, SUBTRACT, MINUS,    BLANK},
+    {'*',  false, MULTIPLY, ASTERISK, ASTERISK},
+    {'/',  false, DIVIDE,   BLANK,    BLANK},
+    {'%',  false, PERCENT,  BLANK,    BLANK},
+    {'=',  false, EQUAL,    EQUAL,    EQUAL},
+    {'~',  true,  ARRIVE,   ARRIVE,   ARRIVE},
+    {'>',  false, LARGER,   LARGER,   LARGER},
+    {'@',  false, AT,       AT,       AT},
+    {'#',  false, BLANK,    BLANK,    BLANK},
+    {'$',  false, READER,   READER,   BLANK},
+    {'\'', false, READER,   READER,   READER},
+    {'<',  false, READER,   READER,   READER},
 };
 // clang-format on
 
 namespace {
+
+struct MarkText {
+    char text[15];
+    unsigned char length;
+};
+
+constexpr MarkText text(std::string_view words) {
+    MarkText text{};
+    for (const char c : words) text.text[text.length++] = c;
+    return text;
+}
+
+// In the order of MarkWords, from SILENT on.
+// clang-format off
+constexpr MarkText TEXTS[] = {
+    text(""),               // SILENT
+    text(" "),              // BLANK
+    text("<punc=dou> "),    // DOU
+    text("<punc=ju> "),     // JU
+    text("<punc=mao> "),    // MAO
+    text("<punc=fen> "),    // FEN
+    text("<punc=zuoyin> "), // ZUOYIN
+    text("<punc=wen>"),     // WEN
+    text("<punc=zuokuo>"),  // ZUOKUO
+    text("<punc=youkuo>"),  // YOUKUO
+    text("add "),           // ADD
+    text("subtract "),      // SUBTRACT
+    text("minus "),         // MINUS
+    text("multiply "),      // MULTIPLY
+    text("asterisk "),      // ASTERISK
+    text("divide "),        // DIVIDE
+    text("percent "),       // PERCENT
+    text("equal "),         // EQUAL
+    text("arrive "),        // ARRIVE
+    text("larger "),        // LARGER
+    text("at "),            // AT
+};
+// clang-format on
 
 constexpr auto make_mark_rows() {
     std::array<unsigned char, 256> rows{};
@@ -46,5 +84,10 @@ constexpr auto make_mark_rows() {
 }  // namespace
 
 constexpr std::array<unsigned char, 256> MARK_ROWS = make_mark_rows();
+
+std::string_view text_of(MarkWords words) {
+    const MarkText& text = TEXTS[words - SILENT];
+    return {text.text, text.length};
+}
 
 }  // namespace kavi::tn

@@ -4,20 +4,49 @@
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 namespace kavi::tn {
 
-// A mark's words after a number section, else before one, and otherwise. READER: the dispatcher has
-// to look at more than the section before and after it. A mark that is in no row is silent.
+// What may be written for a mark. READER: the dispatcher has to look at more than the section
+// before and after it.
+enum MarkWords : unsigned char {
+    READER,
+    SILENT,
+    BLANK,
+    DOU,
+    JU,
+    MAO,
+    FEN,
+    ZUOYIN,
+    WEN,
+    ZUOKUO,
+    YOUKUO,
+    ADD,
+    SUBTRACT,
+    MINUS,
+    MULTIPLY,
+    ASTERISK,
+    DIVIDE,
+    PERCENT,
+    EQUAL,
+    ARRIVE,
+    LARGER,
+    AT,
+};
+
+// The text of words that are not READER.
+std::string_view text_of(MarkWords words);
+
+// A mark's words after a number section, else before one, and otherwise. A mark that is in no row
+// is silent.
 struct MarkReading {
     char mark;
     bool spaced;  // a blank of its own follows the words
-    const char* after_number;
-    const char* before_number;
-    const char* otherwise;
+    MarkWords after_number;
+    MarkWords before_number;
+    MarkWords otherwise;
 };
-
-inline constexpr const char* READER = nullptr;
 
 extern const MarkReading MARK_READINGS[25];
 
@@ -31,7 +60,7 @@ inline const MarkReading* find_mark(char mark) {
 }
 
 // The words of a row for what stands before and after the mark, or READER.
-constexpr const char* words_of(const MarkReading& row, bool after_number, bool before_number) {
+constexpr MarkWords words_of(const MarkReading& row, bool after_number, bool before_number) {
     if (after_number) return row.after_number;
     return before_number ? row.before_number : row.otherwise;
 }

@@ -24,16 +24,21 @@ bool number_may_follow(const char* after) {
     return is_digit(after[0]) || (after[0] != '\0' && is_digit(after[1])) || after[0] == '<';
 }
 
-// The end of the words from `text` on that are plain and have one blank between each two: they are
-// spoken as they stand. `text` itself when the first word is none.
+// The end of the words from `text` on that are plain, in small letters but for a first capital, and
+// have one blank between each two: they are spoken as they stand. `text` itself when the first word
+// is none of those.
 const char* end_of_plain_words(const char* text, const char* text_end) {
+    const auto room = static_cast<std::size_t>(text_end - text);
+    const char* const limit = room > WORD_LENGTH_MAX ? text + WORD_LENGTH_MAX : text_end;
     const char* end = text;
-    for (const char* word = text; belongs_to(LETTERS, *word); word = end + 1) {
-        const std::string_view letters = first_word(word, text_end);
-        if (word_kind(letters) != WordKind::plain) return end;
-        end = word + letters.size();
-        if (*end != ' ') return end;
+    do {
+        if (!begins_plain_word(end[0], end[1])) break;
+        end = skip_small_words(end + 1, limit);
+    } while (end[-1] == ' ');
+    if (is_letter(*end)) {
+        while (end != text && is_letter(end[-1])) --end;  // the last word is another
     }
+    while (end != text && end[-1] == ' ') --end;
     return end;
 }
 
@@ -44,7 +49,7 @@ const char* PlainText::read(const char* text, ReadingObserver* observer) {
         while (*text == ' ') ++text;
         if (*text == '\0' || is_digit(*text)) return text;
         const int target_at = output_.length();
-        const char* end = belongs_to(LETTERS, *text) ? words(text) : mark(text);
+        const char* end = is_letter(*text) ? words(text) : mark(text);
         if (end == text || end == nullptr) return end;
         if (observer != nullptr) {
             observer->on_plain_text({text, static_cast<std::size_t>(end - text)}, target_at);
@@ -58,7 +63,7 @@ const char* PlainText::words(const char* text) {
     if (end == text) return other_word(text, first_word(text, text_end_));
     const std::string_view all(text, static_cast<std::size_t>(end - text));
     if (!output_.has_room(all.size() + 1)) return plain_words(text, end);
-    append_spaced(all);
+    output_.append_spaced(all);
     return end;
 }
 
@@ -66,7 +71,7 @@ const char* PlainText::words(const char* text) {
 const char* PlainText::plain_words(const char* text, const char* end) {
     for (;;) {
         const std::string_view word = first_word(text, end);
-        if (!append_spaced(word)) return nullptr;
+        if (!output_.append_spaced(word)) return nullptr;
         text += word.size() + 1;
     }
 }
@@ -79,15 +84,17 @@ const char* PlainText::other_word(const char* text, std::string_view word) {
             return output_.append("telephone ") ? end : nullptr;
         case WordKind::month:
             if (number_may_follow(end)) return text;
-            return append_spaced(month_name(word)) ? end : nullptr;
-        default: ask_lexicon(word); return append_spaced(word) ? end : nullptr;
+            return output_.append_spaced(month_name(word)) ? end : nullptr;
+        case WordKind::capitals: ask_lexicon(word); break;
+        default: break;
     }
+    return output_.append_spaced(word) ? end : nullptr;
 }
 
 const char* PlainText::mark(const char* text) {
     const MarkReading* row = find_mark(*text);
     if (row == nullptr) return text + 1;
-    const char* words = words_of(*row, false, is_digit(text[1]));
+    const MarkWords words = words_of(*row, false, is_digit(text[1]));
     if (words == READER) {
         switch (row->mark) {
             case '<': return smaller(text);
@@ -95,13 +102,14 @@ const char* PlainText::mark(const char* text) {
             default: return text;
         }
     }
-    const bool fits = output_.append(words) && (!row->spaced || output_.append(" "));
+    const bool fits =
+        row->spaced ? output_.append_spaced(text_of(words)) : output_.append(text_of(words));
     return fits ? text + 1 : nullptr;
 }
 
 const char* PlainText::smaller(const char* text) {
     const std::string_view tag = first_section(text, tag_ends_);
-    if (tag.size() > 1) return append_spaced(tag) ? text + tag.size() : nullptr;
+    if (tag.size() > 1) return output_.append_spaced(tag) ? text + tag.size() : nullptr;
     const bool is_spoken = text[1] == '\0' || begins_with(text + 1, "punc");
     const char* words = smaller_words(is_spoken, !is_spoken && window_.greater_follows(text + 1));
     return output_.append(words) ? text + 1 : nullptr;
@@ -111,7 +119,7 @@ const char* PlainText::apostrophe(const char* text) {
     const std::string_view letters = first_word(text + 1, text_end_);
     const char* full = find_contraction(letters);
     if (full == nullptr) return text + 1;
-    return append_spaced(full) ? text + 1 + letters.size() : nullptr;
+    return output_.append_spaced(full) ? text + 1 + letters.size() : nullptr;
 }
 
 }  // namespace kavi::tn

@@ -36,10 +36,6 @@ class PlainText {
     inline const char* smaller(const char* text);
     inline const char* apostrophe(const char* text);
 
-    bool append_spaced(std::string_view words) {
-        return output_.append(words) && output_.append(" ");
-    }
-
     const char* text_end_;
     TagEnds& tag_ends_;
     SectionWindow& window_;

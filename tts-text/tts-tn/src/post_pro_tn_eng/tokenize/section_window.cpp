@@ -7,11 +7,11 @@ namespace kavi::tn {
 
 namespace {
 
-// Whether no reader looks past the section: see readers/readers.h.
-bool stops_readers(std::string_view section, const char* after) {
+// Whether no reader looks past a section of letters: see readers/readers.h.
+bool stops_readers(const char* word, const char* after) {
     const bool glued =
         is_digit(*after) || is_letter(*after) || (*after == '.' && is_digit(after[1]));
-    return is_letter(section[0]) && !glued && word_kind(section) == WordKind::plain;
+    return !glued && word_kind({word, static_cast<std::size_t>(after - word)}) == WordKind::plain;
 }
 
 }  // namespace
@@ -23,11 +23,6 @@ Section* SectionWindow::begin(const char* text) {
     tail_ = nullptr;
     fill(1 + SECTIONS_AHEAD);
     return n_ > 0 ? ring_ : nullptr;
-}
-
-Section* SectionWindow::after(const Section* last) {
-    if (!complete_) fill(index_of(last) + 2 + SECTIONS_AHEAD);
-    return last->m_pnext;
 }
 
 // Which of all sections appended a section of the ring is, from 0.
@@ -49,13 +44,23 @@ void SectionWindow::append() {
     const std::string_view text = first_section(end_, tag_ends_);
     PlacedSection& section = ring_[n_ % CAPACITY];
     if (n_ >= CAPACITY) section.m_pnext->m_pprevious = nullptr;  // the oldest goes
+    ++n_;
+    end_ += text.size();
     set_section(section, text);
     section.begin = text.data();
     section.length = text.size();
     link_section(section, tail_);
-    ++n_;
-    end_ += text.size();
-    complete_ = reach_ == Reach::plain_word && stops_readers(text, end_);
+    if (reach_ == Reach::plain_word) complete_ = stops_at(section);
+}
+
+// A blank before the word where readers stop is as good as the word.
+bool SectionWindow::stops_at(const PlacedSection& section) const {
+    if (section.m_nmark == STRINGSYMBOL) return stops_readers(section.begin, end_);
+    if (section.begin[0] != ' ' || !begins_plain_word(end_[0], end_[1])) return false;
+    const char* word_end = end_ + 1;
+    while (belongs_to(LETTERS, *word_end)) ++word_end;
+    return static_cast<std::size_t>(word_end - end_) <= WORD_LENGTH_MAX &&
+           stops_readers(end_, word_end);
 }
 
 bool SectionWindow::is_amount_before_dollar(const Section* number) {

@@ -16,7 +16,7 @@ class SectionWindow {
   public:
     // Up to where the text is cut.
     enum class Reach {
-        plain_word,  // the first plain word that no reader looks past
+        plain_word,  // the first plain word that no reader looks past, or the blank before it
         text_end,
     };
 
@@ -32,7 +32,10 @@ class SectionWindow {
 
     // The section after `last`, likewise; null after the end. Those before it stay as far as
     // readers look back.
-    Section* after(const Section* last);
+    Section* after(const Section* last) {
+        if (!complete_) fill(index_of(last) + 2 + SECTIONS_AHEAD);
+        return last->m_pnext;
+    }
 
     // Where the text goes on after all sections.
     const char* end() const { return end_; }
@@ -66,10 +69,12 @@ class SectionWindow {
         std::size_t length;
     };
 
-    static constexpr std::size_t CAPACITY = SECTIONS_BEFORE + 1 + SECTIONS_AHEAD;
+    static constexpr std::size_t CAPACITY = 16;  // a power of two: what divides by it is cheap
+    static_assert(CAPACITY >= SECTIONS_BEFORE + 1 + SECTIONS_AHEAD);
 
     inline void append();
-    inline void fill(std::size_t n_wanted);
+    inline bool stops_at(const PlacedSection& section) const;
+    void fill(std::size_t n_wanted);
     std::size_t index_of(const Section* section) const;
 
     Reach reach_;

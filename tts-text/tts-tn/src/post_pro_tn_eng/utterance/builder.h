@@ -29,7 +29,7 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
     auto* array =
         static_cast<UtteranceSyllable*>(mem_stack_request_buf(array_size, MEM_COMMON, arena));
     if (array == nullptr) return -1;
-    for (int i = 0; i < word_num; ++i) clear(array + i, sizeof(UtteranceSyllable));
+    for (int i = 0; i < word_num; ++i) clear<sizeof(UtteranceSyllable)>(array + i);
     p_utt = array;
     n_utt = word_num;
 

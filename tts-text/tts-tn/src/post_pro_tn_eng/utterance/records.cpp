@@ -39,22 +39,22 @@ struct PuncName {
     PUNC_type punc;
 };
 
-// Searched in this order for an equal name.
+// The marks of speakable text first, the usual ones before the others.
 // clang-format off
 constexpr PuncName PUNC_NAMES[] = {
-    {"dun",      true,  PUNC_DUN_FE},
-    {"dou",      true,  PUNC_DOU_FE},
-    {"fen",      true,  PUNC_FEN_FE},
     {"ju",       true,  PUNC_JU_FE},
+    {"dou",      true,  PUNC_DOU_FE},
     {"wen",      true,  PUNC_WEN_FE},
-    {"tan",      true,  PUNC_TAN_FE},
-    {"mao",      true,  PUNC_MAO_FE},
-    {"zuoshu",   false, PUNC_ZUOSHU_FE},
-    {"youshu",   false, PUNC_YOUSHU_FE},
     {"zuoyin",   false, PUNC_ZUOYIN_FE},
-    {"youyin",   false, PUNC_YOUYIN_FE},
     {"zuokuo",   false, PUNC_ZUOKUO_FE},
     {"youkuo",   false, PUNC_YOUKUO_FE},
+    {"mao",      true,  PUNC_MAO_FE},
+    {"fen",      true,  PUNC_FEN_FE},
+    {"tan",      true,  PUNC_TAN_FE},
+    {"dun",      true,  PUNC_DUN_FE},
+    {"zuoshu",   false, PUNC_ZUOSHU_FE},
+    {"youshu",   false, PUNC_YOUSHU_FE},
+    {"youyin",   false, PUNC_YOUYIN_FE},
     {"shenglue", true,  PUNC_SHENGLUE_FE},
     {"pozhe",    false, PUNC_POZHE_FE},
     {"tnbegin",  false, TN_BEGIN_FE},

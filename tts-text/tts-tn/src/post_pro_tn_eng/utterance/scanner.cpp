@@ -40,14 +40,6 @@ void copy_name_and_value(const char* text, char* sz_tag, char* sz_value) {
 
 }  // namespace
 
-std::string_view Scanner::mark_at(const char* at) {
-    constexpr std::string_view PREFIX = "<punc=";
-    if (!begins_with(at, PREFIX)) return {};
-    const std::string_view tag = tag_ends_.tag_at(at);
-    if (tag.empty() || tag.data() + tag.size() > end_) return {};
-    return tag.substr(PREFIX.size(), tag.size() - PREFIX.size() - 1);
-}
-
 bool Scanner::step() {
     met_tag_ = false;
     const bool completed = advance();

@@ -17,6 +17,7 @@ class Scanner {
   public:
     // The text ends at `end`, where a NUL stands. `word` holds WORD_MAX_LEN bytes, `word_length` of
     // them characters of the word at hand. The arena may be null.
+    // cppcheck-suppress uninitMemberVar ; the tag is that of a step that has met one
     Scanner(const char* at, const char* end, char* word, int word_length, mem_stack_handle arena)
         : at_(at), end_(end), word_(word), word_length_(word_length), paired_tags_(arena) {}
     Scanner(const Scanner&) = delete;
@@ -32,9 +33,6 @@ class Scanner {
         at_ = at;
         end_ = end;
     }
-
-    // The name in the "<punc=" tag at `at`, where no word has begun; empty when there is none.
-    std::string_view mark_at(const char* at);
 
     // Reads one character or one tag. True when that completed the word in the buffer.
     bool step();
@@ -67,7 +65,7 @@ class Scanner {
     int word_length_;
     const char* word_begin_ = nullptr;
     bool met_tag_ = false;
-    Tag tag_ = {};                      // the last that was met
+    Tag tag_;                           // the last that was met
     const char* text_ahead_ = nullptr;  // up to here there are more than tags
     TagEnds tag_ends_;
     PairedTags paired_tags_;

@@ -3,12 +3,40 @@
 #ifndef KAVI_TN_TEXT_READER_H
 #define KAVI_TN_TEXT_READER_H
 
+#include <algorithm>
+#include <cstring>
 #include <string_view>
 
 #include "../common/runs.h"
 #include "scanner.h"
 
 namespace kavi::tn {
+
+// The first place from `text` on where a word of tagged text may end: a character below "@", or
+// the text's end.
+inline const char* find_word_end(const char* text, const char* text_end) {
+    for (; text_end - text >= 8; text += 8) {
+        const Eight below = below_letters(eight_of(text));
+        if (below != 0) return text + first_of(below);
+    }
+    while (text != text_end && (*text & '@') != 0) ++text;
+    return text;
+}
+
+// The name in the "<punc=" tag at `text`, where no word has begun; empty when there is none that
+// ends before `end` and may be the name of a mark. The scanner reads such tags too: this is less.
+inline std::string_view mark_at(const char* text, const char* end) {
+    constexpr std::string_view PREFIX = "<punc=";
+    constexpr std::size_t LONGEST = 8;
+    const auto size = static_cast<std::size_t>(end - text);
+    if (size < PREFIX.size() || std::memcmp(text, PREFIX.data(), PREFIX.size()) != 0) return {};
+    const char* name = text + PREFIX.size();
+    const std::size_t limit = std::min(size - PREFIX.size(), LONGEST + 1);
+    std::size_t length = 0;
+    while (length != limit && name[length] != '>') ++length;
+    if (length == limit) return {};
+    return {name, length};
+}
 
 template <typename Visitor>
 bool read_text(Scanner& scanner, Visitor& visitor);
@@ -62,15 +90,25 @@ bool read_by_steps(Scanner& scanner, const char* goal, Visitor& visitor) {
 template <typename Visitor>
 bool read_text(Scanner& scanner, Visitor& visitor) {
     const char* const text_end = scanner.end();
-    for (const char* at = scanner.at(); at != text_end;) {
-        const char* end = skip_word(at, text_end);
+    const char* at = scanner.at();
+    const char* end = at;
+    for (;;) {
+        end = find_word_end(end, text_end);
         const auto length = static_cast<std::size_t>(end - at);
-        if (length > 0 && length < WORD_MAX_LEN && *end == ' ') {
-            if (!visitor.word({at, length}, at)) return false;  // the usual word: nothing is copied
-            at = end + 1;
-        } else if (*at == ' ') {
-            ++at;
-        } else if (const std::string_view name = scanner.mark_at(at); !name.empty()) {
+        if (*end == ' ' && length <= WORD_LENGTH_MAX) {
+            // The usual word: nothing is copied.
+            if (length > 0 && !visitor.word({at, length}, at)) return false;
+            at = end = end + (end[1] == ' ' ? 2 : 1);
+            continue;
+        }
+        if (end == text_end) {
+            if (length == 0) return true;
+            if (length <= WORD_LENGTH_MAX) return visitor.word({at, length}, at);
+        } else if (*end != ' ' && *end != '<') {
+            ++end;  // it is of the word
+            continue;
+        }
+        if (const std::string_view name = mark_at(at, text_end); !name.empty()) {
             visitor.punc(name);
             at = name.data() + name.size() + 1;
         } else {
@@ -78,8 +116,8 @@ bool read_text(Scanner& scanner, Visitor& visitor) {
             if (!read_by_steps(scanner, end, visitor)) return false;
             at = scanner.at();
         }
+        end = at;
     }
-    return true;
 }
 
 // Reads a text from its beginning. False when the visitor did not go on.

@@ -25,11 +25,11 @@ class WordFiller {
   public:
     // `record` is the next to fill, after one at least; its markup is clear. `chain` may be null.
     WordFiller(mem_stack_handle arena, UtteranceSyllable* record, const SpanChain* chain)
-        : arena_(arena), record_(record), outer_(chain) {}
+        : arena_(arena), record_(record), chain_(chain) {}
 
     // A copy inside a span.
     WordFiller(const WordFiller& outside)
-        : arena_(outside.arena_), record_(outside.record_), outer_(outside.chain()) {}
+        : arena_(outside.arena_), record_(outside.record_), chain_(outside.chain_) {}
     WordFiller& operator=(const WordFiller&) = delete;
 
     // Where the next word goes.
@@ -51,17 +51,17 @@ class WordFiller {
             record_->syllable = nullptr;
             return false;
         }
-        if (!word.empty()) copy_short(syllable, word.data(), word.size());
+        copy_short(syllable, word.data(), word.size());
         syllable[word.size()] = '\0';
-        clear(zhuyin, ZHUYIN_MIN);
-        if (is_long) clear(zhuyin + ZHUYIN_MIN, zhuyin_size - ZHUYIN_MIN);
+        clear<ZHUYIN_MIN>(zhuyin);
+        if (is_long) std::memset(zhuyin + ZHUYIN_MIN, 0, zhuyin_size - ZHUYIN_MIN);
         UtteranceSyllable& record = *record_++;
         record.syllable = syllable;
         record.syl_len = static_cast<short>(size);
         record.zhuyin = zhuyin;
         record.zy_len = static_cast<short>(zhuyin_size);
         record.pause_type = record.pausetype_ta = record.pause_type_tn = PAUSE_WORD_FE;
-        if (const SpanChain* spans = chain()) record.cssml_tag = spans->markup();
+        if (chain_ != nullptr) record.cssml_tag = chain_->markup();
         return true;
     }
     void punc(std::string_view name) { add_punc(record_[-1], name); }
@@ -69,21 +69,21 @@ class WordFiller {
 
     // False when the chain has no room for the span.
     bool enter(std::string_view name, std::string_view value) {
-        return own_.emplace().extend(outer_, name, value);
+        const SpanChain* outer = chain_;
+        chain_ = &own_.emplace();
+        return own_->extend(outer, name, value);
     }
     static bool is_too_deep() { return false; }  // the chain bounds the depth
     void leave(const WordFiller& inside) { record_ = inside.record_; }
 
   private:
-    const SpanChain* chain() const { return own_ ? &*own_ : outer_; }
-
     char* request(std::size_t size) {
         return static_cast<char*>(mem_stack_request_buf(size, MEM_COMMON, arena_));
     }
 
     mem_stack_handle arena_;
     UtteranceSyllable* record_;
-    const SpanChain* outer_;        // of the spans that enclose this pass; null for none
+    const SpanChain* chain_;        // of the spans that enclose what is read; null for none
     std::optional<SpanChain> own_;  // with the span that this pass has entered
 };
 

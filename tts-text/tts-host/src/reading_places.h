@@ -57,26 +57,6 @@ class ReadingPlaces {
     std::vector<Reading> readings_;
 };
 
-// Stores where each word begins in the speakable text, beside what a WordFiller does.
-class PlacingFiller : public tn::WordFiller {
-  public:
-    PlacingFiller(mem_stack_handle arena, UtteranceSyllable* record, const tn::SpanChain* chain,
-                  std::vector<const char*>& begins)
-        : WordFiller(arena, record, chain), begins_(begins) {}
-
-    // A copy inside a span.
-    PlacingFiller(const PlacingFiller& outside) = default;
-    PlacingFiller& operator=(const PlacingFiller&) = delete;
-
-    bool word(std::string_view word, const char* begin) {
-        begins_.push_back(begin);
-        return WordFiller::word(word, begin);
-    }
-
-  private:
-    std::vector<const char*>& begins_;
-};
-
 }  // namespace kavi::host
 
 #endif  // KAVI_HOST_READING_PLACES_H

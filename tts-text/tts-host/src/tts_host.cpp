@@ -22,7 +22,7 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 }  // namespace
 
-class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
+class TtsHost::State final : tn::ReadingObserver, tn::WordObserver, SentencePlaces {
   public:
     State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
         : arena_(arena), destroy_(destroy) {}
@@ -79,6 +79,7 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
         reading_places_.add_step(step);
         findings_.add_step(step);
     }
+    void on_word(const char* begin) override { word_begins_.push_back(begin); }
 
     // While it is handed over, and before the window moves on.
     const std::vector<SourcePiece>& pieces() override;
@@ -177,8 +178,7 @@ bool TtsHost::State::read_sentence(std::size_t cut) {
     word_begins_.clear();
     return well_formed && cutter_->length() <= SENTENCE_MAX &&
            tn::tokenize(normalized_, speakable_, this) == 0 &&
-           tn::build_utterance<host::PlacingFiller>(speakable_, arena_, utt_, n_utt_,
-                                                    word_begins_) == 0;
+           tn::build_utterance(speakable_, arena_, utt_, n_utt_, this) == 0;
 }
 
 void TtsHost::State::release_records() {

@@ -8,9 +8,12 @@
 namespace kavi::tn {
 
 // Clears by pieces that become plain stores: of larger ones, compilers and C libraries make a
-// string instruction, which is slow to start.
+// string instruction, which is slow to start. Compiled for size, that it is.
 template <std::size_t Size>
 void clear(void* memory) {
+#ifdef __OPTIMIZE_SIZE__
+    std::memset(memory, 0, Size);
+#else
     constexpr std::size_t PIECE = 64;
     if constexpr (Size <= PIECE) {
         std::memset(memory, 0, Size);
@@ -18,6 +21,7 @@ void clear(void* memory) {
         std::memset(memory, 0, PIECE);
         clear<Size - PIECE>(static_cast<char*>(memory) + PIECE);
     }
+#endif
 }
 
 }  // namespace kavi::tn

@@ -44,12 +44,8 @@ constexpr bool belongs_to(Run run, char c) {
 
 // The first character from `text` on that does not belong to the run.
 constexpr const char* skip(Run run, const char* text) {
-    for (;; text += 4) {
-        if (!belongs_to(run, text[0])) return text;
-        if (!belongs_to(run, text[1])) return text + 1;
-        if (!belongs_to(run, text[2])) return text + 2;
-        if (!belongs_to(run, text[3])) return text + 3;
-    }
+    while (belongs_to(run, *text)) ++text;
+    return text;
 }
 
 // ---- Eight at a time: most words end within the first eight characters, so that a processor
@@ -61,14 +57,6 @@ constexpr Eight EACH = 0x0101010101010101;
 constexpr Eight eight_of(const char* text) {
     const auto at = [=](int i) { return Eight{static_cast<unsigned char>(text[i])} << (8 * i); };
     return at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);  // one load, compiled
-}
-
-// The top bit of each that is no letter.
-constexpr Eight no_letters(Eight c) {
-    const Eight lower = (c | EACH * 0x20) & EACH * 0x7f;
-    const Eight from_a = lower + EACH * (0x80 - 'a');
-    const Eight above_z = lower + EACH * (0x7f - 'z');
-    return ~(from_a & ~above_z & ~c) & EACH * 0x80;
 }
 
 // The top bit of each that is no small letter and no blank, or a blank after a blank; `blanks` is
@@ -99,15 +87,6 @@ constexpr Eight below_letters(Eight c) {
 // Which of the eight the first marked one is.
 inline std::size_t first_of(Eight marked) {
     return static_cast<unsigned>(__builtin_ctzll(marked)) / 8;
-}
-
-// As skip, for a text that ends at `text_end`. Most words end at a blank.
-inline const char* skip_letters(const char* text, const char* text_end) {
-    for (; text_end - text >= 8; text += 8) {
-        const Eight marked = no_letters(eight_of(text));
-        if (marked != 0) return text + first_of(marked);
-    }
-    return skip(LETTERS, text);
 }
 
 // The first from `text` on that is no small letter and no blank after one, or `text_end`.

@@ -73,17 +73,17 @@ constexpr MarkText TEXTS[] = {
 // clang-format on
 
 constexpr auto make_mark_rows() {
-    std::array<unsigned char, 256> rows{};
+    std::array<unsigned char, '~' - '!' + 1> rows{};
     unsigned char number = 0;
     for (const MarkReading& row : MARK_READINGS) {
-        rows[static_cast<unsigned char>(row.mark)] = ++number;
+        rows[static_cast<std::size_t>(row.mark - '!')] = ++number;
     }
     return rows;
 }
 
 }  // namespace
 
-constexpr std::array<unsigned char, 256> MARK_ROWS = make_mark_rows();
+constexpr std::array<unsigned char, '~' - '!' + 1> MARK_ROWS = make_mark_rows();
 
 std::string_view text_of(MarkWords words) {
     const MarkText& text = TEXTS[words - SILENT];

@@ -50,12 +50,13 @@ struct MarkReading {
 
 extern const MarkReading MARK_READINGS[25];
 
-// For each character the number of its row, from 1; 0 for none.
-extern const std::array<unsigned char, 256> MARK_ROWS;
+// For each character from "!" to "~" the number of its row, from 1; 0 for none.
+extern const std::array<unsigned char, '~' - '!' + 1> MARK_ROWS;
 
 // The row of a mark, or null.
 inline const MarkReading* find_mark(char mark) {
-    const unsigned number = MARK_ROWS[static_cast<unsigned char>(mark)];
+    const unsigned place = static_cast<unsigned char>(mark) - unsigned{'!'};
+    const unsigned number = place < MARK_ROWS.size() ? MARK_ROWS[place] : 0;
     return number != 0 ? &MARK_READINGS[number - 1] : nullptr;
 }
 

@@ -13,9 +13,10 @@ namespace kavi::tn {
 
 namespace {
 
-std::string_view first_word(const char* text, const char* text_end) {
-    const auto length = static_cast<std::size_t>(skip_letters(text, text_end) - text);
-    return {text, std::min(length, WORD_LENGTH_MAX)};
+std::string_view first_word(const char* text) {
+    std::size_t length = 0;
+    while (length < WORD_LENGTH_MAX && belongs_to(LETTERS, text[length])) ++length;
+    return {text, length};
 }
 
 // Whether a number may stand so near after a word that it is read with regard to it: there is at
@@ -60,17 +61,17 @@ const char* PlainText::read(const char* text, ReadingObserver* observer) {
 
 const char* PlainText::words(const char* text) {
     const char* end = end_of_plain_words(text, text_end_);
-    if (end == text) return other_word(text, first_word(text, text_end_));
+    if (end == text) return other_word(text, first_word(text));
     const std::string_view all(text, static_cast<std::size_t>(end - text));
-    if (!output_.has_room(all.size() + 1)) return plain_words(text, end);
+    if (!output_.has_room(all.size() + 1)) return plain_words(text);
     output_.append_spaced(all);
     return end;
 }
 
 // Word by word, as far as there is room: not to the end.
-const char* PlainText::plain_words(const char* text, const char* end) {
+const char* PlainText::plain_words(const char* text) {
     for (;;) {
-        const std::string_view word = first_word(text, end);
+        const std::string_view word = first_word(text);
         if (!output_.append_spaced(word)) return nullptr;
         text += word.size() + 1;
     }
@@ -116,7 +117,7 @@ const char* PlainText::smaller(const char* text) {
 }
 
 const char* PlainText::apostrophe(const char* text) {
-    const std::string_view letters = first_word(text + 1, text_end_);
+    const std::string_view letters = first_word(text + 1);
     const char* full = find_contraction(letters);
     if (full == nullptr) return text + 1;
     return output_.append_spaced(full) ? text + 1 + letters.size() : nullptr;

@@ -86,7 +86,7 @@ void force_pause(UtteranceSyllable& record, PAUSE_type pause) {
 }  // namespace
 
 bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf) {
-    if (!tn::WordFiller(_mem_handle, utt + n, nullptr).store(sz_char_buf)) return false;
+    if (!tn::WordFiller(_mem_handle, utt + n).store(sz_char_buf)) return false;
     utt[n].cssml_tag = {};
     return true;
 }
@@ -104,6 +104,19 @@ void tn::add_punc(UtteranceSyllable& record, std::string_view name) {
         break;
     }
     ++record.n_punc;
+}
+
+bool tn::WordFiller::take_tag(const TextEvent& event) {
+    const std::string_view text = event.text();
+    switch (event.kind) {
+        case TextEventKind::punc: add_punc(record_[-1], text); return true;
+        case TextEventKind::breaktime: set_breaktime(record_[-1], text); return true;
+        case TextEventKind::span_end: spans_.leave(); return true;
+        default: {
+            const std::size_t name = std::min(text.find('='), text.size());
+            return spans_.enter(text.substr(0, name), text.substr(std::min(name + 1, text.size())));
+        }
+    }
 }
 
 bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, char* punc_str) {

@@ -1,42 +1,41 @@
 #include "span_chain.h"
 
-#include <cstring>
-
-#include "TtsString.h"
+#include <cassert>
 
 namespace kavi::tn {
 
-namespace {
-
-template <int Size>
-bool join(char (&list)[Size], std::string_view field) {
-    return safe_strncat(list, field.data(), static_cast<int>(field.size()), Size) == 0;
-}
-
-}  // namespace
-
-bool SpanChain::assign(const char* names, const char* values) {
-    names_[0] = values_[0] = '\0';
-    if (!join(names_, names) || !join(values_, values)) return false;
-    work_out_markup();
+bool SpanChain::List::join(std::string_view field, bool after_others) {
+    if (field.size() + (after_others ? 1 : 0) > sizeof text - length) return false;
+    if (after_others) text[length++] = '\t';
+    length += field.copy(text + length, field.size());
     return true;
 }
 
-bool SpanChain::extend(const SpanChain* outer, std::string_view name, std::string_view value) {
-    names_[0] = values_[0] = '\0';
-    if (outer != nullptr) {
-        std::memcpy(names_, outer->names_, SIZE);
-        std::memcpy(values_, outer->values_, SIZE);
-        if (!join(names_, "\t") || !join(values_, "\t")) return false;
+bool SpanChain::enter(std::string_view name, std::string_view value) {
+    assert(n_levels_ < LEVELS_MAX);
+    levels_[n_levels_] = {static_cast<unsigned char>(names_.length),
+                          static_cast<unsigned char>(values_.length)};
+    const bool inside = is_open();
+    if (!names_.join(name, inside) || !values_.join(value, inside)) return false;
+    ++n_levels_;
+    is_markup_known_ = false;
+    return true;
+}
+
+void SpanChain::leave() {
+    --n_levels_;
+    names_.length = levels_[n_levels_].names;
+    values_.length = levels_[n_levels_].values;
+    is_markup_known_ = false;
+}
+
+const CssmlTag& SpanChain::markup() {
+    if (!is_markup_known_) {
+        markup_ = {};
+        static_cast<void>(set_attributes(markup_, names_.view(), values_.view()));
+        is_markup_known_ = true;
     }
-    if (!join(names_, name) || !join(values_, value)) return false;
-    work_out_markup();
-    return true;
-}
-
-void SpanChain::work_out_markup() {
-    markup_ = {};
-    static_cast<void>(set_attributes(markup_, names_, values_));
+    return markup_;
 }
 
 }  // namespace kavi::tn

@@ -2,6 +2,7 @@
 #ifndef KAVI_TN_SPAN_CHAIN_H
 #define KAVI_TN_SPAN_CHAIN_H
 
+#include <cstddef>
 #include <string_view>
 
 #include "../common/limits.h"
@@ -13,24 +14,45 @@ namespace kavi::tn {
 // characters.
 class SpanChain {
   public:
-    // A chain as a host gives it. False when one of the lists is too long.
-    bool assign(const char* names, const char* values);
+    // cppcheck-suppress uninitMemberVar ; the lists are as long as they say
+    SpanChain() {}
 
-    // The chain `outer`, or none when that is null, with one more span inside. False when it has
-    // no room.
-    bool extend(const SpanChain* outer, std::string_view name, std::string_view value);
+    // Adds a span inside the others, or a chain of such as a host gives it. False when there is no
+    // room for it; the chain is then of no use any more.
+    bool enter(std::string_view name, std::string_view value);
+
+    // Removes the innermost.
+    void leave();
+
+    bool is_open() const { return n_levels_ > 0; }
 
     // What all words inside have: what cannot be applied to one is left out of all.
-    const CssmlTag& markup() const { return markup_; }
+    const CssmlTag& markup();
 
   private:
-    static constexpr int SIZE = static_cast<int>(SPAN_CHAIN_MAX) + 1;
+    struct List {
+        std::size_t length = 0;
+        char text[SPAN_CHAIN_MAX];
 
-    void work_out_markup();
+        bool join(std::string_view field, bool after_others);
+        std::string_view view() const { return {text, length}; }
+    };
 
-    char names_[SIZE] = {};
-    char values_[SIZE] = {};
-    CssmlTag markup_ = {};
+    // The lengths of the lists without a span.
+    struct Level {
+        unsigned char names;
+        unsigned char values;
+    };
+
+    // The shortest name of a span, "poem", and a tab.
+    static constexpr int LEVELS_MAX = (static_cast<int>(SPAN_CHAIN_MAX) + 1) / 5 + 1;
+
+    List names_;
+    List values_;
+    int n_levels_ = 0;
+    Level levels_[LEVELS_MAX];
+    bool is_markup_known_ = false;
+    CssmlTag markup_;
 };
 
 // Sets the attributes that a chain gives. False at the first pair that cannot be applied, those

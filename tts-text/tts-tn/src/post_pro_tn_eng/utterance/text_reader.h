@@ -1,133 +1,114 @@
-// The one loop that reads tagged text, for counting its words and for storing them alike, so that
-// the two cannot disagree.
+// Tagged text as a list of what stands in it: words, marks, break times and spans.
 #ifndef KAVI_TN_TEXT_READER_H
 #define KAVI_TN_TEXT_READER_H
 
 #include <algorithm>
-#include <cstring>
+#include <cstdint>
 #include <string_view>
 
-#include "../common/runs.h"
 #include "scanner.h"
 
 namespace kavi::tn {
 
-// The first place from `text` on where a word of tagged text may end: a character below "@", or
-// the text's end.
-inline const char* find_word_end(const char* text, const char* text_end) {
-    for (; text_end - text >= 8; text += 8) {
-        const Eight below = below_letters(eight_of(text));
-        if (below != 0) return text + first_of(below);
+enum class TextEventKind : std::uint8_t { word, punc, breaktime, span_begin, span_end };
+
+// A piece of the text and what it is: a word; the name of a mark; a break time's value; the inside
+// of the tag that opens a span, name, "=" and value. A longer piece than any that counts is cut.
+struct TextEvent {
+    const char* begin;
+    std::uint16_t length;
+    TextEventKind kind;
+
+    std::string_view text() const { return {begin, length}; }
+};
+
+// So many events that one list holds what a sentence has; a longer text comes in several.
+class TextEvents {
+  public:
+    // cppcheck-suppress uninitMemberVar ; of the events, those added are set
+    TextEvents() {}
+
+    void clear() {
+        end_ = events_;
+        full_at_ = events_ + CAPACITY;
+        n_words_ = 0;
+        put_together_ = nullptr;
     }
-    while (text != text_end && (*text & '@') != 0) ++text;
-    return text;
-}
+    bool is_full() const { return end_ >= full_at_; }
 
-// The name in the "<punc=" tag at `text`, where no word has begun; empty when there is none that
-// ends before `end` and may be the name of a mark. The scanner reads such tags too: this is less.
-inline std::string_view mark_at(const char* text, const char* end) {
-    constexpr std::string_view PREFIX = "<punc=";
-    constexpr std::size_t LONGEST = 8;
-    const auto size = static_cast<std::size_t>(end - text);
-    if (size < PREFIX.size() || std::memcmp(text, PREFIX.data(), PREFIX.size()) != 0) return {};
-    const char* name = text + PREFIX.size();
-    const std::size_t limit = std::min(size - PREFIX.size(), LONGEST + 1);
-    std::size_t length = 0;
-    while (length != limit && name[length] != '>') ++length;
-    if (length == limit) return {};
-    return {name, length};
-}
-
-template <typename Visitor>
-bool read_text(Scanner& scanner, Visitor& visitor);
-
-// Hands what the last tag tells to the visitor; a span is read to its end as a text by itself.
-// False when the visitor said so.
-template <typename Visitor>
-bool visit_tag(const Tag& tag, Scanner& scanner, Visitor& visitor) {
-    switch (tag.use) {
-        case TagUse::punc: visitor.punc(tag.value); return true;
-        case TagUse::breaktime: visitor.breaktime(tag.value); return true;
-        case TagUse::span: {
-            const char* const end = scanner.end();
-            const char* const after = tag.after;  // the scanner reads its next tag into this one
-            const char* const content = tag.content.data();
-            Visitor inside(visitor);
-            if (!inside.enter(tag.name, tag.value)) return false;
-            scanner.go_on_at(content, content + tag.content.size());
-            const bool read = inside.is_too_deep() || read_text(scanner, inside);
-            visitor.leave(inside);
-            scanner.clear_word();  // one that a tag at the end of the span has left incomplete
-            scanner.go_on_at(after, end);
-            return read;
-        }
-        default: return true;
+    // The list has room while it is not full; reading a tag may add two.
+    void add(TextEventKind kind, std::string_view text) {
+        const std::size_t length = std::min<std::size_t>(text.size(), UINT16_MAX);
+        *end_++ = {text.data(), static_cast<std::uint16_t>(length), kind};
+        if (kind == TextEventKind::word) ++n_words_;
     }
-}
 
-// Reads what is no usual word, step by step: at least up to `goal`, and on to where no word has
-// begun.
-template <typename Visitor>
-bool read_by_steps(Scanner& scanner, const char* goal, Visitor& visitor) {
-    do {
-        bool go_on = true;
-        if (scanner.step()) {
-            go_on = visitor.word(scanner.word(), scanner.word_begin());
-            scanner.clear_word();
-        } else if (const Tag* tag = scanner.tag()) {
-            go_on = visit_tag(*tag, scanner, visitor);
-        }
-        if (!go_on) return false;
-    } while (!scanner.at_end() && (scanner.has_word() || scanner.at() < goal));
-    return true;
-}
-
-// Reads the scanner's text to its end and hands what it meets to the visitor: punc(name),
-// breaktime(value), word(word, where it begins in the text), which answers whether to go on, and
-// spans: a copy of the visitor
-// has enter(name, value) called, which answers too, and reads the span, unless it is_too_deep();
-// then the visitor itself has leave(copy) called. False when one did not go on.
-template <typename Visitor>
-bool read_text(Scanner& scanner, Visitor& visitor) {
-    const char* const text_end = scanner.end();
-    const char* at = scanner.at();
-    const char* end = at;
-    for (;;) {
-        end = find_word_end(end, text_end);
-        const auto length = static_cast<std::size_t>(end - at);
-        if (*end == ' ' && length <= WORD_LENGTH_MAX) {
-            // The usual word: nothing is copied.
-            if (length > 0 && !visitor.word({at, length}, at)) return false;
-            at = end = end + (end[1] == ' ' ? 2 : 1);
-            continue;
-        }
-        if (end == text_end) {
-            if (length == 0) return true;
-            if (length <= WORD_LENGTH_MAX) return visitor.word({at, length}, at);
-        } else if (*end != ' ' && *end != '<') {
-            ++end;  // it is of the word
-            continue;
-        }
-        if (const std::string_view name = mark_at(at, text_end); !name.empty()) {
-            visitor.punc(name);
-            at = name.data() + name.size() + 1;
-        } else {
-            scanner.go_on_at(at);
-            if (!read_by_steps(scanner, end, visitor)) return false;
-            at = scanner.at();
-        }
-        end = at;
+    // Adds a word that stands in pieces, from `begin` on, as the last of this list: its characters
+    // are the reader's until it reads on.
+    void add_put_together(std::string_view word, const char* begin) {
+        add(TextEventKind::word, word);
+        full_at_ = end_;
+        put_together_ = begin;
     }
-}
 
-// Reads a text from its beginning. False when the visitor did not go on.
-template <typename Visitor>
-bool read_text(std::string_view text, mem_stack_handle arena, Visitor& visitor) {
-    char word[WORD_MAX_LEN];
-    Scanner scanner(text.data(), text.data() + text.size(), word, 0, arena);
-    scanner.clear_word();
-    return read_text(scanner, visitor);
-}
+    int n_words() const { return n_words_; }
+    const TextEvent* begin() const { return events_; }
+    const TextEvent* end() const { return end_; }
+
+    // Where in the text a word begins.
+    const char* begin_of(const TextEvent& word) const {
+        return put_together_ != nullptr && &word + 1 == end_ ? put_together_ : word.begin;
+    }
+
+  private:
+    static constexpr std::size_t CAPACITY = 1024;
+
+    TextEvent* end_ = events_;
+    TextEvent* full_at_ = events_ + CAPACITY;
+    int n_words_ = 0;
+    const char* put_together_ = nullptr;  // where the last word begins, if it was
+    TextEvent events_[CAPACITY + 1];
+};
+
+// Reads one text.
+class TextReader {
+  public:
+    // A NUL follows the text. The arena may be null.
+    // cppcheck-suppress uninitMemberVar ; of the spans, those entered are set
+    TextReader(std::string_view text, mem_stack_handle arena)
+        : scanner_(text.data(), text.data() + text.size(), word_, 0, arena) {
+        scanner_.clear_word();
+    }
+    TextReader(const TextReader&) = delete;
+    TextReader& operator=(const TextReader&) = delete;
+
+    // Lists what comes next: all of it, or as much as the list holds.
+    void read(TextEvents& events);
+
+    bool at_end() const { return scanner_.at_end() && n_spans_ == 0; }
+
+  private:
+    void read_usual(TextEvents& events);
+    void read_step(TextEvents& events);
+    void read_tag(const Tag& tag, TextEvents& events);
+    void leave_span(TextEvents& events);
+
+    struct Span {
+        const char* after;  // where the text goes on
+        const char* outer_end;
+    };
+
+    // Spans nested deeper are not read: their words are never stored, since a chain of so many
+    // names is longer than any that can be.
+    static constexpr int SPANS_NESTED_MAX = 64;
+
+    char word_[WORD_MAX_LEN];
+    Scanner scanner_;
+    bool is_word_listed_ = false;       // the scanner's word, put together, is in the last list
+    const char* usual_from_ = nullptr;  // up to there, the text is read step by step
+    int n_spans_ = 0;
+    Span spans_[SPANS_NESTED_MAX];  // the open ones
+};
 
 }  // namespace kavi::tn
 

@@ -1,14 +1,15 @@
-// The filling pass over a text.
+// Filling records.
 #ifndef KAVI_TN_WORD_FILLER_H
 #define KAVI_TN_WORD_FILLER_H
 
-#include <optional>
+#include <cstring>
 #include <string_view>
 
 #include "../common/clear.h"
 #include "../common/short_copy.h"
 #include "MemoryStack.h"
 #include "span_chain.h"
+#include "text_reader.h"
 
 namespace kavi::tn {
 
@@ -19,23 +20,30 @@ void add_punc(UtteranceSyllable& record, std::string_view name);
 // The first 19 characters of the value, in the place of what was there.
 void set_breaktime(UtteranceSyllable& record, std::string_view value);
 
-// Stores the words that it is shown, with their marks and the attributes of the spans that enclose
-// them, in one record after the other. False: stop.
+// Stores words, with their marks and the attributes of the spans that enclose them, in one record
+// after the other.
 class WordFiller {
   public:
-    // `record` is the next to fill, after one at least; its markup is clear. `chain` may be null.
-    WordFiller(mem_stack_handle arena, UtteranceSyllable* record, const SpanChain* chain)
-        : arena_(arena), record_(record), chain_(chain) {}
-
-    // A copy inside a span.
-    WordFiller(const WordFiller& outside)
-        : arena_(outside.arena_), record_(outside.record_), chain_(outside.chain_) {}
+    // `record` is the next to fill, after one at least; its markup is clear.
+    WordFiller(mem_stack_handle arena, UtteranceSyllable* record)
+        : arena_(arena), record_(record) {}
+    WordFiller(const WordFiller&) = delete;
     WordFiller& operator=(const WordFiller&) = delete;
 
     // Where the next word goes.
     UtteranceSyllable* record() const { return record_; }
 
-    bool word(std::string_view word, const char* /*begin*/) { return store(word); }
+    // Stores what stands in the text. False: a word's storage could not be had, or the chain of
+    // spans has no room; the rest is not to be stored.
+    bool take(const TextEvent& event) {
+        if (event.kind == TextEventKind::word) return store(event.text());
+        return take_tag(event);
+    }
+
+    // Encloses what comes next by a span, or a chain of them. False when there is no room.
+    bool enter_span(std::string_view name, std::string_view value) {
+        return spans_.enter(name, value);
+    }
 
     // At the default pause. False when the arena refused the word's storage: nothing is kept.
     bool store(std::string_view word) {
@@ -61,30 +69,20 @@ class WordFiller {
         record.zhuyin = zhuyin;
         record.zy_len = static_cast<short>(zhuyin_size);
         record.pause_type = record.pausetype_ta = record.pause_type_tn = PAUSE_WORD_FE;
-        if (chain_ != nullptr) record.cssml_tag = chain_->markup();
+        if (spans_.is_open()) record.cssml_tag = spans_.markup();
         return true;
     }
-    void punc(std::string_view name) { add_punc(record_[-1], name); }
-    void breaktime(std::string_view value) { set_breaktime(record_[-1], value); }
-
-    // False when the chain has no room for the span.
-    bool enter(std::string_view name, std::string_view value) {
-        const SpanChain* outer = chain_;
-        chain_ = &own_.emplace();
-        return own_->extend(outer, name, value);
-    }
-    static bool is_too_deep() { return false; }  // the chain bounds the depth
-    void leave(const WordFiller& inside) { record_ = inside.record_; }
 
   private:
+    bool take_tag(const TextEvent& event);
+
     char* request(std::size_t size) {
         return static_cast<char*>(mem_stack_request_buf(size, MEM_COMMON, arena_));
     }
 
     mem_stack_handle arena_;
     UtteranceSyllable* record_;
-    const SpanChain* chain_;        // of the spans that enclose what is read; null for none
-    std::optional<SpanChain> own_;  // with the span that this pass has entered
+    SpanChain spans_;
 };
 
 }  // namespace kavi::tn

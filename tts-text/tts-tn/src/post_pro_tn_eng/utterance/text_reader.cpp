@@ -1,0 +1,133 @@
+#include "text_reader.h"
+
+#include <cstring>
+
+#include "../common/runs.h"
+
+namespace kavi::tn {
+
+namespace {
+
+// The first place from `text` on where a word of tagged text may end: a character below "@", or
+// the text's end.
+const char* find_word_end(const char* text, const char* text_end) {
+    for (; text_end - text >= 8; text += 8) {
+        const Eight below = ~eight_of(text) & EACH * '@';
+        if (below != 0) return text + first_of(below);
+    }
+    while (text != text_end && (*text & '@') != 0) ++text;
+    return text;
+}
+
+// The name in the "<punc=" tag at `text`, where no word has begun; empty when there is none that
+// ends before `end` and may be the name of a mark. The scanner reads such tags too: this is less.
+std::string_view mark_at(const char* text, const char* end) {
+    constexpr std::string_view PREFIX = "<punc=";
+    constexpr std::size_t LONGEST = 8;
+    const auto size = static_cast<std::size_t>(end - text);
+    if (size < PREFIX.size() || std::memcmp(text, PREFIX.data(), PREFIX.size()) != 0) return {};
+    const char* name = text + PREFIX.size();
+    const std::size_t limit = std::min(size - PREFIX.size(), LONGEST + 1);
+    std::size_t length = 0;
+    while (length != limit && name[length] != '>') ++length;
+    if (length == limit) return {};
+    return {name, length};
+}
+
+}  // namespace
+
+void TextReader::read(TextEvents& events) {
+    events.clear();
+    if (is_word_listed_) scanner_.clear_word();
+    is_word_listed_ = false;
+    while (!events.is_full()) {
+        if (scanner_.at_end()) {
+            if (n_spans_ == 0) return;
+            leave_span(events);
+        } else if (scanner_.at() < usual_from_ || scanner_.has_word()) {
+            read_step(events);
+        } else {
+            read_usual(events);
+        }
+    }
+}
+
+// Words between blanks, and marks.
+void TextReader::read_usual(TextEvents& events) {
+    const char* const text_end = scanner_.end();
+    const char* at = scanner_.at();
+    const char* end = at;
+    while (!events.is_full()) {
+        end = find_word_end(end, text_end);
+        const auto length = static_cast<std::size_t>(end - at);
+        if (*end == ' ' && length <= WORD_LENGTH_MAX) {
+            if (length > 0) events.add(TextEventKind::word, {at, length});
+            at = end = end + (end[1] == ' ' ? 2 : 1);
+            continue;
+        }
+        if (end == text_end && length <= WORD_LENGTH_MAX) {
+            if (length > 0) events.add(TextEventKind::word, {at, length});
+            at = end;
+            break;
+        }
+        if (end != text_end && *end != ' ' && *end != '<') {
+            ++end;  // it is of the word
+            continue;
+        }
+        const std::string_view name = mark_at(at, text_end);
+        if (name.empty()) {
+            usual_from_ = std::max(end, at + 1);
+            break;
+        }
+        events.add(TextEventKind::punc, name);
+        at = end = name.data() + name.size() + 1;
+    }
+    scanner_.go_on_at(at);
+}
+
+// One character or one tag of what is not usual.
+void TextReader::read_step(TextEvents& events) {
+    if (!scanner_.step()) {
+        if (const Tag* tag = scanner_.tag()) read_tag(*tag, events);
+        return;
+    }
+    const std::string_view word = scanner_.word();
+    const char* begin = scanner_.word_begin();
+    if (std::memcmp(begin, word.data(), word.size()) != 0) {
+        events.add_put_together(word, begin);
+        is_word_listed_ = true;
+        return;
+    }
+    events.add(TextEventKind::word, {begin, word.size()});
+    scanner_.clear_word();
+}
+
+void TextReader::read_tag(const Tag& tag, TextEvents& events) {
+    switch (tag.use) {
+        case TagUse::punc: events.add(TextEventKind::punc, tag.value); break;
+        case TagUse::breaktime: events.add(TextEventKind::breaktime, tag.value); break;
+        case TagUse::span: {
+            const char* inside_end = tag.value.data() + tag.value.size();
+            const auto length = static_cast<std::size_t>(inside_end - tag.name.data());
+            events.add(TextEventKind::span_begin, {tag.name.data(), length});
+            if (n_spans_ == SPANS_NESTED_MAX) {
+                events.add(TextEventKind::span_end, {});
+                break;
+            }
+            spans_[n_spans_++] = {tag.after, scanner_.end()};
+            scanner_.go_on_at(tag.content.data(), tag.content.data() + tag.content.size());
+            break;
+        }
+        case TagUse::none: break;
+    }
+}
+
+// A word that a tag at the end of the span has left incomplete is dropped.
+void TextReader::leave_span(TextEvents& events) {
+    const Span& span = spans_[--n_spans_];
+    events.add(TextEventKind::span_end, {});
+    scanner_.clear_word();
+    scanner_.go_on_at(span.after, span.outer_end);
+}
+
+}  // namespace kavi::tn

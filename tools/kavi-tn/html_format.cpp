@@ -6,44 +6,65 @@
 // a rule or the attributes that begin, <s> what is not spoken, <code> markup.
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "findings_report.h"
 #include "format.h"
 #include "html_page.h"
 #include "names.h"
+#include "text_buffer.h"
 #include "tts_explain.h"
 
 namespace kavi::tool {
 
 namespace {
 
-void append_escaped(std::string_view text, std::string& out) {
+constexpr auto make_plain() {
+    std::array<bool, 256> plain{};
+    for (unsigned c = ' '; c <= '~'; ++c) plain[c] = c != '&' && c != '<' && c != '>' && c != '"';
+    return plain;
+}
+
+// The characters that stand in a page as they are, but for those outside ASCII, which may be none.
+constexpr std::array<bool, 256> PLAIN = make_plain();
+
+bool is_plain(std::string_view text) {
+    bool plain = true;  // not left early: most texts are plain
+    for (const char c : text) plain &= PLAIN[static_cast<unsigned char>(c)];
+    return plain;
+}
+
+void append_escaped(std::string_view text, TextBuffer& out) {
+    if (is_plain(text)) {
+        out << text;
+        return;
+    }
     constexpr const char* DIGITS = "0123456789abcdef";
     for (const char c : valid_utf8(text)) {
         const auto byte = static_cast<unsigned char>(c);
         switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
+            case '&': out << "&amp;"; break;
+            case '<': out << "&lt;"; break;
+            case '>': out << "&gt;"; break;
+            case '"': out << "&quot;"; break;
             case '\t':
             case '\n':
-            case '\r': out += ' '; break;
+            case '\r': out << ' '; break;
             default:
                 if (byte < ' ' || byte == 0x7f) {
-                    out.append("\\x").append(1, DIGITS[byte / 16]).append(1, DIGITS[byte % 16]);
+                    out << "\\x" << DIGITS[byte / 16] << DIGITS[byte % 16];
                 } else {
-                    out += c;
+                    out << c;
                 }
         }
     }
 }
 
-void append_element(const char* name, std::string_view text, std::string& out) {
-    out.append("<").append(name) += '>';
+void append_element(std::string_view name, std::string_view text, TextBuffer& out) {
+    out << '<' << name << '>';
     append_escaped(text, out);
-    out.append("</").append(name) += '>';
+    out << "</" << name << '>';
 }
 
 // How a pause is shown; empty for one that every word has.
@@ -74,7 +95,7 @@ std::string_view mark_in(std::string_view reading) {
 class SentenceWriter {
   public:
     SentenceWriter(const Place& place, const HostSentence& sentence,
-                   const std::vector<Diagnostic>& diagnostics, std::string& out)
+                   const std::vector<Diagnostic>& diagnostics, TextBuffer& out)
         : place_(place),
           sentence_(sentence),
           diagnostics_(diagnostics),
@@ -82,7 +103,7 @@ class SentenceWriter {
           at_(sentence.source.offset) {}
 
     void write_row() {
-        out_ += "<div>";
+        out_ << "<div>";
         write_head(sentence_.records[0]);
         for (const ExplainedRun& run : explain(sentence_, place_.text)) {
             write_left_out(run.source.offset);
@@ -92,7 +113,7 @@ class SentenceWriter {
         }
         write_left_out(sentence_.source.offset + sentence_.source.length);
         write_numbers_of_findings(place_.text.size());
-        out_ += "</div>";
+        out_ << "</div>";
     }
 
   private:
@@ -102,9 +123,10 @@ class SentenceWriter {
 
     // What stands before the first word.
     void write_head(const UtteranceSyllable& head) {
-        std::string before;
-        write_after_word(head, before);
-        if (!before.empty()) out_ += "<u><i>" + before + "</i></u>";
+        if (*head.cssml_tag.breaktime == '\0' && *strokes(head.pause_type) == '\0') return;
+        out_ << "<u><i>";
+        write_after_word(head);
+        out_ << "</i></u>";
     }
 
     // What the sentence was cut without.
@@ -115,7 +137,11 @@ class SentenceWriter {
     }
 
     void write_silent(std::string_view text) {
-        is_blank(text) ? static_cast<void>(out_ += ' ') : append_element("s", text, out_);
+        if (is_blank(text)) {
+            out_ << ' ';
+        } else {
+            append_element("s", text, out_);
+        }
     }
 
     void write_run(const ExplainedRun& run) {
@@ -126,11 +152,11 @@ class SentenceWriter {
             begin_piece(text);
             for (; next_ < end; ++next_) write_word(sentence_.records[next_]);
             if (!run.is_word) append_element("small", run.rule, out_);
-            out_ += "</u>";
+            out_ << "</u>";
         } else if (!mark.empty()) {
             begin_piece(text);
             append_element("b", glyph(mark), out_);
-            out_ += "</u>";
+            out_ << "</u>";
         } else if (!text.empty() && text[0] == '<' && !is_blank(run.reading)) {
             append_element("code", text, out_);
         } else {
@@ -139,9 +165,9 @@ class SentenceWriter {
     }
 
     void begin_piece(std::string_view text) {
-        out_ += "<u>";
+        out_ << "<u>";
         append_escaped(text, out_);
-        out_ += "<br>";
+        out_ << "<br>";
     }
 
     // The number of the first word that stands there in the speakable text, or after that.
@@ -161,41 +187,42 @@ class SentenceWriter {
     }
 
     void write_word(const UtteranceSyllable& record) {
-        std::string attributes;
-        append_attributes(record.cssml_tag, attributes);
-        out_ += attributes.empty() ? "<i>" : "<i class=m>";
+        attributes_before_.swap(attributes_);
+        attributes_.clear();
+        append_attributes(record.cssml_tag, attributes_);
+        out_ << (attributes_.empty() ? "<i>" : "<i class=m>");
         append_escaped(record.syllable, out_);
-        write_after_word(record, out_);
-        out_ += "</i>";
-        if (attributes != attributes_ && !attributes.empty()) {
-            append_element("small", attributes, out_);
+        write_after_word(record);
+        out_ << "</i>";
+        if (!attributes_.empty() && attributes_ != attributes_before_) {
+            append_element("small", attributes_, out_);
         }
-        attributes_ = attributes;
     }
 
-    static void write_after_word(const UtteranceSyllable& record, std::string& out) {
+    void write_after_word(const UtteranceSyllable& record) {
         const char* breaktime = record.cssml_tag.breaktime;
-        if (*breaktime != '\0') append_element("b", std::string("break ") + breaktime, out);
+        if (*breaktime != '\0') append_element("b", std::string("break ") + breaktime, out_);
         const char* pause = strokes(record.pause_type);
-        if (*pause != '\0') append_element("b", pause, out);
+        if (*pause != '\0') append_element("b", pause, out_);
     }
 
     // Numbers that lead to the findings before `end`.
     void write_numbers_of_findings(std::size_t end) {
         for (; n_findings_ < diagnostics_.size() && diagnostics_[n_findings_].offset < end;) {
-            const std::string number = std::to_string(++n_findings_);
-            out_.append("<sup><a href=#").append(anchor(place_)).append("-").append(number);
-            out_.append(">").append(number).append("</a></sup>");
+            ++n_findings_;
+            out_ << "<sup><a href=#" << anchor(place_) << '-' << n_findings_ << '>' << n_findings_
+                 << "</a></sup>";
         }
     }
 
     const Place& place_;
     const HostSentence& sentence_;
     const std::vector<Diagnostic>& diagnostics_;
-    std::string& out_;
+    TextBuffer& out_;
     std::size_t at_;          // the next byte of the text
     int next_ = 1;            // the next record
     std::string attributes_;  // of the last word
+    std::string attributes_before_;
     std::size_t n_findings_ = 0;
 };
 
@@ -206,48 +233,54 @@ class HtmlFormat : public Format {
 
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
-        begin_article(place, out);
-        write_source(place, sentence.source, diagnostics, out);
-        SentenceWriter(place, sentence, diagnostics, out).write_row();
-        end_article(place, diagnostics, out);
+        text_.clear();
+        begin_article(place);
+        write_source(place, sentence.source, diagnostics);
+        SentenceWriter(place, sentence, diagnostics, text_).write_row();
+        end_article(place, diagnostics);
+        out += text_.text();
     }
 
     void end_text(const Place& place, const std::vector<Diagnostic>& diagnostics,
                   std::string& out) override {
         Place after = place;
         ++after.sentence;
-        if (diagnostics.empty()) return begin_input(after, out);
-        begin_article(after, out);
-        end_article(after, diagnostics, out);
+        text_.clear();
+        if (diagnostics.empty()) {
+            begin_input(after);
+        } else {
+            begin_article(after);
+            end_article(after, diagnostics);
+        }
+        out += text_.text();
     }
 
   private:
     // The name of an input, before its first sentence or in the place of that.
-    static void begin_input(const Place& place, std::string& out) {
-        if (place.line == 1 && place.sentence == 1) append_element("h2", place.input, out);
+    void begin_input(const Place& place) {
+        if (place.line == 1 && place.sentence == 1) append_element("h2", place.input, text_);
     }
 
-    static void begin_article(const Place& place, std::string& out) {
-        begin_input(place, out);
+    void begin_article(const Place& place) {
+        begin_input(place);
         const std::string name = anchor(place);
-        out += "<article id=" + name + "><a href=#" + name + ">line " + std::to_string(place.line) +
-               "</a>";
+        text_ << "<article id=" << name << "><a href=#" << name << ">line " << place.line << "</a>";
     }
 
     // As it was written, with what was found underlined.
-    static void write_source(const Place& place, const TextRange& source,
-                             const std::vector<Diagnostic>& diagnostics, std::string& out) {
-        out += "<p>";
+    void write_source(const Place& place, const TextRange& source,
+                      const std::vector<Diagnostic>& diagnostics) {
+        text_ << "<p>";
         const std::size_t end = source.offset + source.length;
         std::size_t at = source.offset;
         for (const Diagnostic& found : diagnostics) {
             if (found.offset < at || found.offset >= end) continue;
-            append_escaped(place.text.substr(at, found.offset - at), out);
+            append_escaped(place.text.substr(at, found.offset - at), text_);
             at = std::min(end, found.offset + length_to_underline(place.text, found));
-            append_element("mark", place.text.substr(found.offset, at - found.offset), out);
+            append_element("mark", place.text.substr(found.offset, at - found.offset), text_);
         }
-        append_escaped(place.text.substr(at, end - at), out);
-        out += "</p>";
+        append_escaped(place.text.substr(at, end - at), text_);
+        text_ << "</p>";
     }
 
     // A tag is underlined up to its ">".
@@ -258,17 +291,18 @@ class HtmlFormat : public Format {
         return close != std::string_view::npos ? close + 1 : 1;
     }
 
-    static void end_article(const Place& place, const std::vector<Diagnostic>& diagnostics,
-                            std::string& out) {
-        if (!diagnostics.empty()) out += "<ol>";
+    void end_article(const Place& place, const std::vector<Diagnostic>& diagnostics) {
+        if (!diagnostics.empty()) text_ << "<ol>";
         std::size_t number = 0;
         for (const Diagnostic& d : diagnostics) {
-            out += "<li id=" + anchor(place) + "-" + std::to_string(++number) + ">byte " +
-                   std::to_string(d.offset) + ": ";
-            append_escaped(describe(d, place.text), out);
+            ++number;
+            text_ << "<li id=" << anchor(place) << '-' << number << ">byte " << d.offset << ": ";
+            append_escaped(describe(d, place.text), text_);
         }
-        out += diagnostics.empty() ? "</article>\n" : "</ol></article>\n";
+        text_ << (diagnostics.empty() ? "</article>\n" : "</ol></article>\n");
     }
+
+    TextBuffer text_;  // of one sentence
 };
 
 }  // namespace

@@ -4,10 +4,12 @@
 #include <rapidjson/writer.h>
 
 #include <algorithm>
+#include <array>
 
 #include "findings_report.h"
 #include "format.h"
 #include "names.h"
+#include "text_buffer.h"
 #include "tts_explain.h"
 #include "tts_plain.h"
 
@@ -15,43 +17,71 @@ namespace kavi::tool {
 
 namespace {
 
-// One object after the other. Text that is not UTF-8 has U+FFFD in the place of what is not.
+constexpr auto make_plain() {
+    std::array<bool, 256> plain{};
+    for (unsigned c = ' '; c <= '~'; ++c) plain[c] = c != '"' && c != '\\';
+    return plain;
+}
+
+// The characters that stand in JSON as they are, but for those outside ASCII, which may be none.
+constexpr std::array<bool, 256> PLAIN = make_plain();
+
+bool is_plain(std::string_view text) {
+    bool plain = true;  // not left early: most texts are plain
+    for (const char c : text) plain &= PLAIN[static_cast<unsigned char>(c)];
+    return plain;
+}
+
+// One object after the other. Text that is not UTF-8 has U+FFFD in
+// the place of what is not.
 class JsonLine {
   public:
-    JsonLine() : writer_(buffer_) {}
-
     void begin() {
-        buffer_.Clear();
-        writer_.Reset(buffer_);
-        writer_.StartObject();
+        line_.clear();
+        open('{');
     }
     void end(std::string& out) {
-        writer_.EndObject();
-        out.append(buffer_.GetString(), buffer_.GetSize()) += '\n';
+        close('}');
+        line_ << '\n';
+        out += line_.text();
     }
 
     void key(std::string_view name) {
-        writer_.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
+        separate();
+        quote(name);
+        line_ << ':';
+        is_first_ = true;  // what follows is its value
     }
     void text(std::string_view value) {
-        const bool is_ascii = std::none_of(
-            value.begin(), value.end(), [](char c) { return static_cast<unsigned char>(c) > 127; });
-        is_ascii ? put(value) : put(valid_utf8(value));
+        separate();
+        is_plain(value) ? quote(value) : escape(value);
     }
-    void number(std::size_t value) { writer_.Uint64(value); }
-    void null() { writer_.Null(); }
+    void name(std::string_view plain) {
+        separate();
+        quote(plain);
+    }
+    void number(std::size_t value) {
+        separate();
+        line_ << value;
+    }
+    void null() {
+        separate();
+        line_ << "null";
+    }
 
     template <typename Write>
     void object(Write write) {
-        writer_.StartObject();
+        separate();
+        open('{');
         write();
-        writer_.EndObject();
+        close('}');
     }
     template <typename Write>
     void array(Write write) {
-        writer_.StartArray();
+        separate();
+        open('[');
         write();
-        writer_.EndArray();
+        close(']');
     }
 
     void field(std::string_view name, std::string_view value) {
@@ -68,13 +98,30 @@ class JsonLine {
     }
 
   private:
-    void put(std::string_view value) {
-        // cppcheck-suppress danglingTemporaryLifetime ; the writer copies
-        writer_.String(value.data(), static_cast<rapidjson::SizeType>(value.size()));
+    void separate() {
+        if (!is_first_) line_ << ',';
+        is_first_ = false;
+    }
+    void open(char bracket) {
+        line_ << bracket;
+        is_first_ = true;
+    }
+    void close(char bracket) {
+        line_ << bracket;
+        is_first_ = false;
     }
 
-    rapidjson::StringBuffer buffer_;
-    rapidjson::Writer<rapidjson::StringBuffer> writer_;
+    void quote(std::string_view plain) { line_ << '"' << plain << '"'; }
+    void escape(std::string_view text) {
+        const std::string valid = valid_utf8(text);
+        rapidjson::StringBuffer buffer;
+        rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
+        writer.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
+        line_ << std::string_view(buffer.GetString(), buffer.GetSize());
+    }
+
+    TextBuffer line_;
+    bool is_first_ = true;  // in its object or array, or after its key
 };
 
 class JsonFormat : public Format {
@@ -148,17 +195,19 @@ class JsonFormat : public Format {
             line_.key("word");
             record.syllable != nullptr ? line_.text(record.syllable) : line_.null();
             line_.range(place.source);
-            line_.field("pause", pause_name(record.pause_type));
+            line_.key("pause");
+            line_.name(pause_name(record.pause_type));
             if (record.n_punc > 0) {
                 line_.key("marks");
                 line_.array([&] {
                     for (int i = 0; i < record.n_punc; ++i) {
-                        line_.text(punctuation_name(record.punc_arr[i]));
+                        line_.name(punctuation_name(record.punc_arr[i]));
                     }
                 });
             }
             const char* breaktime = record.cssml_tag.breaktime;
             if (*breaktime != '\0') line_.field("breaktime", breaktime);
+            if (!has_attributes(record.cssml_tag)) return;
             for (const auto& [name, value] : attributes(record.cssml_tag)) {
                 if (*value != '\0') line_.field(name, value);
             }

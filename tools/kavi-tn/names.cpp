@@ -57,6 +57,7 @@ void append_punctuation(const UtteranceSyllable& record, std::string& out) {
 }
 
 void append_attributes(const CssmlTag& tag, std::string& out) {
+    if (!has_attributes(tag)) return;
     const char* blank = "";
     for (const auto& [name, value] : attributes(tag)) {
         if (*value == '\0') continue;

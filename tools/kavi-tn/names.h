@@ -18,6 +18,12 @@ std::optional<Field> field_of(std::string_view name);
 
 // Appends the punctuation names of a record, or its attributes that are set, separated by blanks.
 void append_punctuation(const UtteranceSyllable& record, std::string& out);
+// Whether a word has attributes: most have none.
+inline bool has_attributes(const CssmlTag& tag) {
+    return (tag.emphasis[0] | tag.pro_pitch[0] | tag.pro_rate[0] | tag.pro_volume[0] |
+            tag.pro_spectrum[0] | tag.poem[0] | tag.quill_effect[0]) != 0;
+}
+
 void append_attributes(const CssmlTag& tag, std::string& out);
 
 // Whether there is something to tell about the head record.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -18,9 +20,9 @@ namespace {
 std::size_t width_of(std::string_view field) {
     constexpr unsigned CONTINUATION = 0x80;
     constexpr unsigned CONTINUATION_MASK = 0xC0;
-    std::size_t width = 0;
+    std::size_t width = field.size();
     for (const char c : field) {
-        if ((static_cast<unsigned char>(c) & CONTINUATION_MASK) != CONTINUATION) ++width;
+        width -= (static_cast<unsigned char>(c) & CONTINUATION_MASK) == CONTINUATION ? 1 : 0;
     }
     return width;
 }
@@ -32,8 +34,9 @@ class Table {
   public:
     void clear() {
         text_.clear();
-        ends_.clear();
+        fields_.clear();
         widths_ = {};
+        begin_ = column_ = 0;
     }
 
     // The text to append the next field to.
@@ -41,38 +44,58 @@ class Table {
 
     // Ends the field, and after the last of a row the row.
     void end_field() {
-        std::size_t& width = widths_[ends_.size() % Columns];
-        width = std::max(width, width_of(last()));
-        ends_.push_back(text_.size());
+        const std::size_t end = text_.size();
+        const std::size_t width = width_of({text_.data() + begin_, end - begin_});
+        widths_[column_] = std::max(widths_[column_], width);
+        column_ = column_ + 1 < Columns ? column_ + 1 : 0;
+        fields_.push_back({end, width});
+        begin_ = end;
     }
     void add(std::string_view field) {
         text_ += field;
         end_field();
     }
 
-    // All rows, and an empty line.
+    // All rows, and an empty line. They are written over blanks.
     void append_to(std::string& out) const {
-        std::size_t begin = 0;
-        std::size_t blanks = 0;
-        for (std::size_t i = 0; i < ends_.size(); ++i) {
-            const std::size_t column = i % Columns;
-            const std::string_view field(text_.data() + begin, ends_[i] - begin);
-            if (column == 0) blanks = 0;
-            if (!field.empty()) out.append(blanks, ' ').append(field);
-            blanks = (field.empty() ? blanks : 0) + widths_[column] + 2 - width_of(field);
-            if (column == Columns - 1) out += '\n';
-            begin = ends_[i];
+        const std::size_t row = std::accumulate(widths_.begin(), widths_.end(), 2 * Columns);
+        const std::size_t begin = out.size();
+        out.resize(begin + text_.size() + fields_.size() / Columns * row + 1, ' ');
+        char* end = out.data() + begin;
+        const char* field = text_.data();
+        for (auto at = fields_.begin(); at != fields_.end(); at += Columns) {
+            end = write_row(&*at, field, end);
         }
-        out += '\n';
+        *end++ = '\n';
+        out.resize(static_cast<std::size_t>(end - out.data()));
     }
 
   private:
-    std::string_view last() const {
-        return std::string_view(text_).substr(ends_.empty() ? 0 : ends_.back());
+    struct Field {
+        std::size_t end;  // in the text
+        std::size_t width;
+    };
+
+    // Writes a row from `target` on, whose fields begin at `field`; where the next goes.
+    char* write_row(const Field* fields, const char*& field, char* target) const {
+        char* end = target;  // after the last that is not empty
+        for (std::size_t column = 0; column < Columns; ++column) {
+            const auto size = static_cast<std::size_t>(text_.data() + fields[column].end - field);
+            if (size > 0) {
+                std::memcpy(target, field, size);
+                end = target + size;
+            }
+            target += size + widths_[column] - fields[column].width + 2;
+            field += size;
+        }
+        *end++ = '\n';
+        return end;
     }
 
     std::string text_;
-    std::vector<std::size_t> ends_;
+    std::vector<Field> fields_;
+    std::size_t begin_ = 0;   // of the next field
+    std::size_t column_ = 0;  // where it goes
     std::array<std::size_t, Columns> widths_ = {};
 };
 

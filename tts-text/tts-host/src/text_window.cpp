@@ -134,7 +134,7 @@ std::size_t TextWindow::find_from_here(char c, std::size_t& memo) const {
 bool TextWindow::feed() {
     switch (text_[next_]) {
         case '<': return feed_tag();
-        case '\0': return copy(rest().substr(0, 1));
+        case '\0': return copy_without_nuls(rest().substr(0, 1));
         default: return feed_run();
     }
 }
@@ -178,7 +178,7 @@ bool TextWindow::feed_tag() {
 }
 
 bool TextWindow::feed_kept(std::string_view tag) {
-    if (tag.size() <= tn::WORD_LENGTH_MAX) return copy(tag);
+    if (tag.size() <= tn::WORD_LENGTH_MAX) return copy_without_nuls(tag);
     return feed_as_text(Finding::tag_too_long, tag.find('<', 1) == std::string_view::npos);
 }
 
@@ -194,7 +194,7 @@ bool TextWindow::feed_as_text(Finding finding, bool keep) {
 bool TextWindow::feed_removed(std::string_view tag) {
     const bool joins = ends_in_tag_beginning();
     const bool too_long = tag.size() > REMOVED_TAG_MAX && text_.size() >= SZ_TEXT_MAX_LEN;
-    if (!joins && !too_long) return copy(tag);
+    if (!joins && !too_long) return copy_without_nuls(tag);
     if (joins) report(Finding::tag_inside_tag);
     return leave_out(tag.size());
 }
@@ -220,7 +220,7 @@ bool TextWindow::feed_opening(std::string_view tag, const tn::MarkupTag* row) {
                : spans_.has_room() ? Finding::too_much_open_markup
                                    : Finding::too_many_open_tags);
         leave_out(tag.size());
-    } else if (!copy(tag)) {
+    } else if (!copy_without_nuls(tag)) {
         return false;
     }
     spans_.open(tag, row, left_out);
@@ -232,23 +232,29 @@ bool TextWindow::feed_closing(std::string_view tag, const tn::MarkupTag* opening
         report(spans_.any() ? Finding::mismatched_closing_tag : Finding::stray_closing_tag);
         return leave_out(tag.size());
     }
-    const bool fed = spans_.innermost_is_left_out() ? leave_out(tag.size()) : copy(tag);
+    const bool fed =
+        spans_.innermost_is_left_out() ? leave_out(tag.size()) : copy_without_nuls(tag);
     if (fed) spans_.close_innermost();
     return fed;
 }
 
-// A NUL would end the engine's text; a blank keeps the words around it apart.
 bool TextWindow::copy(std::string_view piece) {
     if (piece.size() > room()) return false;
-    char* copied = buffer_ + end_;
-    std::memcpy(copied, piece.data(), piece.size());
-    for (std::size_t nul = piece.find('\0'); nul != std::string_view::npos;
-         nul = piece.find('\0', nul + 1)) {
-        findings_.push_back({next_ + nul, Finding::nul_byte});
-        copied[nul] = ' ';
-    }
+    std::memcpy(buffer_ + end_, piece.data(), piece.size());
     end_ += piece.size();
     next_ += piece.size();
+    return true;
+}
+
+// A NUL would end the engine's text; a blank keeps the words around it apart.
+bool TextWindow::copy_without_nuls(std::string_view piece) {
+    const std::size_t begin = next_;
+    if (!copy(piece)) return false;
+    for (std::size_t nul = piece.find('\0'); nul != std::string_view::npos;
+         nul = piece.find('\0', nul + 1)) {
+        findings_.push_back({begin + nul, Finding::nul_byte});
+        buffer_[end_ - piece.size() + nul] = ' ';
+    }
     return true;
 }
 

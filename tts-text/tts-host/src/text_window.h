@@ -145,6 +145,7 @@ class TextWindow {
     bool feed_opening(std::string_view tag, const tn::MarkupTag* row);
     bool feed_closing(std::string_view tag, const tn::MarkupTag* opening);
     bool copy(std::string_view piece);
+    bool copy_without_nuls(std::string_view piece);
     bool leave_out(std::size_t length);
 
     bool ends_in_tag_beginning() const;

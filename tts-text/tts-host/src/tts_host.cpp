@@ -22,7 +22,7 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 }  // namespace
 
-class TtsHost::State final : tn::ReadingObserver, tn::WordObserver, SentencePlaces {
+class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
   public:
     State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
         : arena_(arena), destroy_(destroy) {}
@@ -79,11 +79,11 @@ class TtsHost::State final : tn::ReadingObserver, tn::WordObserver, SentencePlac
         reading_places_.add_step(step);
         findings_.add_step(step);
     }
-    void on_word(const char* begin) override { word_begins_.push_back(begin); }
 
     // While it is handed over, and before the window moves on.
     const std::vector<SourcePiece>& pieces() override;
     const std::vector<WordPlace>& words() override;
+    void find_word_begins();
 
     mem_stack_handle arena_;
     void (*destroy_)(mem_stack_handle);
@@ -98,6 +98,7 @@ class TtsHost::State final : tn::ReadingObserver, tn::WordObserver, SentencePlac
     const char* rest_ = nullptr;                           // in the window, after that
     std::vector<Diagnostic> diagnostics_;                  // of that
     host::ReadingPlaces reading_places_;
+    tn::TextEvents events_;                 // in the speakable text
     std::vector<const char*> word_begins_;  // in the speakable text
     std::vector<WordPlace> places_;
     bool are_pieces_known_ = false;
@@ -175,21 +176,21 @@ bool TtsHost::State::read_sentence(std::size_t cut) {
     are_pieces_known_ = are_words_known_ = false;
     findings_.begin(normalized_);
     reading_places_.begin(normalized_, speakable_);
-    word_begins_.clear();
     return well_formed && cutter_->length() <= SENTENCE_MAX &&
            tn::tokenize(normalized_, speakable_, this) == 0 &&
-           tn::build_utterance(speakable_, arena_, utt_, n_utt_, this) == 0;
+           tn::build_utterance(speakable_, arena_, utt_, n_utt_, events_) == 0;
 }
 
 void TtsHost::State::release_records() {
-    const auto release = [this](void* block, std::size_t size) {
-        mem_stack_release_buf(block, size, MEM_COMMON, arena_);
+    const auto release = [arena = arena_](void* block) {
+        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
     };
-    for (int i = 0; i < n_utt_; ++i) {
-        release(utt_[i].syllable, static_cast<std::size_t>(utt_[i].syl_len));
-        release(utt_[i].zhuyin, static_cast<std::size_t>(utt_[i].zy_len));
+    const UtteranceSyllable* const end = utt_ + n_utt_;
+    for (const UtteranceSyllable* record = utt_; record != end; ++record) {
+        release(record->syllable);
+        release(record->zhuyin);
     }
-    release(utt_, static_cast<std::size_t>(n_utt_) * sizeof(UtteranceSyllable));
+    release(utt_);
     utt_ = nullptr;
     n_utt_ = 0;
 }
@@ -214,6 +215,7 @@ void TtsHost::State::collect_diagnostics(bool done) {
 // when the handler said so.
 bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnostic) {
     std::deque<Diagnostic>& in_text = window_.findings();
+    if (diagnostics_.empty() && in_text.empty()) return true;  // as for most sentences
     const auto hand_over = [&](const Diagnostic& diagnostic) {
         return !on_diagnostic || on_diagnostic(diagnostic);
     };
@@ -248,9 +250,27 @@ const std::vector<SourcePiece>& TtsHost::State::pieces() {
 }
 
 const std::vector<WordPlace>& TtsHost::State::words() {
-    if (!are_words_known_) reading_places_.find_places(pieces(), word_begins_, utt_, places_);
+    if (!are_words_known_) {
+        find_word_begins();
+        reading_places_.find_places(pieces(), word_begins_, utt_, places_);
+    }
     are_words_known_ = true;
     return places_;
+}
+
+// The builder has left a list of the words; of a text with more than it holds they are read again.
+void TtsHost::State::find_word_begins() {
+    word_begins_.clear();
+    const auto add_listed = [this] {
+        for (const tn::TextEvent& event : events_) {
+            if (event.kind != tn::TextEventKind::word) continue;
+            word_begins_.push_back(events_.begin_of(event));
+        }
+    };
+    if (events_.n_words() == n_utt_ - 1) return add_listed();
+    for (tn::TextReader reader(speakable_, arena_); !reader.at_end(); add_listed()) {
+        reader.read(events_);
+    }
 }
 
 TextRange SentencePlaces::source_of(std::size_t at, std::size_t length) {

@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "../common/clear.h"
-#include "text_reader.h"
 #include "word_filler.h"
 
 namespace kavi {
@@ -28,14 +27,10 @@ int count_words(TextReader& reader, TextEvents& events) {
 
 // Stores the words of `events` and of all that comes after them. False when the filler did not take
 // something.
-bool store_words(TextReader& reader, TextEvents& events, WordFiller& filler,
-                 WordObserver* observer) {
+bool store_words(TextReader& reader, TextEvents& events, WordFiller& filler) {
     for (;;) {
         for (const TextEvent& event : events) {
             if (!filler.take(event)) return false;
-            if (observer != nullptr && event.kind == TextEventKind::word) {
-                observer->on_word(events.begin_of(event));
-            }
         }
         if (reader.at_end()) return true;
         reader.read(events);
@@ -45,10 +40,9 @@ bool store_words(TextReader& reader, TextEvents& events, WordFiller& filler,
 }  // namespace
 
 int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyllable*& p_utt,
-                    int& n_utt, WordObserver* observer) {
+                    int& n_utt, TextEvents& events) {
     p_utt = nullptr;
     n_utt = 0;
-    TextEvents events;
     std::optional<TextReader> reader(std::in_place, text, arena);
     reader->read(events);
     const bool is_whole = reader->at_end();
@@ -67,7 +61,7 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
     n_utt = word_num;
 
     WordFiller filler(arena, array + 1);
-    if (!store_words(*reader, events, filler, observer)) return -1;
+    if (!store_words(*reader, events, filler)) return -1;
     assert(filler.record() == array + word_num);
     return 0;
 }
@@ -87,14 +81,16 @@ bool PostProTnEng::insert_ssml_info(int& n, UtteranceSyllable* utt, const char* 
     if (!filler.enter_span(tag_type, value_str)) return false;
     tn::TextReader reader(buffer_target, _mem_handle);
     tn::TextEvents events;
-    const bool stored = tn::store_words(reader, events, filler, nullptr);
+    reader.read(events);
+    const bool stored = tn::store_words(reader, events, filler);
     n = static_cast<int>(filler.record() - utt);
     return stored;
 }
 
 int PostProTnEng::eng_text_to_utterance_syllable(char* sz_source_text, UtteranceSyllable*& p_utt,
                                                  int& n_utt) {
-    return tn::build_utterance(sz_source_text, _mem_handle, p_utt, n_utt, nullptr);
+    tn::TextEvents events;
+    return tn::build_utterance(sz_source_text, _mem_handle, p_utt, n_utt, events);
 }
 
 }  // namespace kavi

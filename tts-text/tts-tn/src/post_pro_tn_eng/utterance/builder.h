@@ -5,23 +5,14 @@
 #include <string_view>
 
 #include "post_pro_tn_eng.h"
+#include "text_reader.h"
 
 namespace kavi::tn {
 
-// Looks on while words are stored.
-class WordObserver {
-  public:
-    // A word that begins there in the text has its record.
-    virtual void on_word(const char* begin) = 0;
-
-  protected:
-    ~WordObserver() = default;
-};
-
-// What PostProTnEng::eng_text_to_utterance_syllable does; `observer` may be null. A NUL follows
-// the text.
+// What PostProTnEng::eng_text_to_utterance_syllable does. A NUL follows the text. `events` is room
+// for lists of what stands in it; the last one is left, with all of it when that has room.
 int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyllable*& p_utt,
-                    int& n_utt, WordObserver* observer);
+                    int& n_utt, TextEvents& events);
 
 }  // namespace kavi::tn
 

@@ -32,6 +32,14 @@ class Calls {
         }
     }
 
+    // Cuts the first sentence off a text of any length; what is left of it is of no use.
+    int first_sentence(char* text) {
+        sentence_[0] = '\0';
+        buffers_[1][0] = '\0';
+        engine_.eng_text_normalize(text, sentence_, buffers_[1]);
+        return sentence_[0];
+    }
+
     // The result stands until the next call.
     char* tokenize(char* sentence) {
         speakable_[0] = '\0';

@@ -20,7 +20,22 @@ constexpr MarkupTag MARKUP_TAGS[13] = {
 };
 // clang-format on
 
+namespace {
+
+constexpr unsigned make_initials() {
+    unsigned initials = 0;
+    for (const MarkupTag& tag : MARKUP_TAGS) {
+        if (is_lower(tag.prefix[1])) initials |= 1U << (tag.prefix[1] - 'a');
+    }
+    return initials;
+}
+
+}  // namespace
+
+constexpr unsigned MARKUP_INITIALS = make_initials();
+
 bool begins_sentence_tag(const char* text) {
+    if (!may_begin_tag(text)) return false;
     for (const MarkupTag& tag : MARKUP_TAGS) {
         if (tag.kind != TagKind::removed && begins_with(text, tag.prefix)) return true;
     }

@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "../common/ascii.h"
+
 namespace kavi::tn {
 
 enum class TagKind {
@@ -33,9 +35,22 @@ inline bool begins_with(std::string_view text, std::string_view prefix) {
     return text.substr(0, prefix.size()) == prefix;
 }
 
+// Letters that come after the "<" of any of them: a bit for each, from "a" on.
+extern const unsigned MARKUP_INITIALS;
+
+// Whether a text may begin with one of the tags: no other "<" need be compared with all of them.
+inline bool may_begin_tag(const char* text) {
+    return text[0] == '<' && (text[1] == '/' || (is_lower(text[1]) &&
+                                                 (MARKUP_INITIALS >> (text[1] - 'a') & 1U) != 0));
+}
+inline bool may_begin_tag(std::string_view text) {
+    return text.size() > 1 && may_begin_tag(text.data());
+}
+
 // The row of the tag that `text` begins with, or null.
 template <typename Text>
 const MarkupTag* find_markup_tag(Text text) {
+    if (!may_begin_tag(text)) return nullptr;
     for (const MarkupTag& tag : MARKUP_TAGS) {
         if (begins_with(text, tag.prefix)) return &tag;
     }

@@ -76,6 +76,8 @@ const std::string_view* SortedNames::find(std::string_view name, const char* pla
 
 const char* PairedTags::find_closing(const char* content, const char* end, std::string_view name) {
     constexpr int FAILURES_MAX = 8;
+    const char* any_closing = any_closing_.find(content, "</");
+    if (any_closing == nullptr || any_closing >= end) return nullptr;
     if (failures_ == FAILURES_MAX) {
         ++failures_;  // once, even if the arena refuses
         sort_tags(content);
@@ -87,8 +89,6 @@ const char* PairedTags::find_closing(const char* content, const char* end, std::
 }
 
 const char* PairedTags::search(const char* content, const char* end, std::string_view name) {
-    const char* any_closing = any_closing_.find(content, "</");
-    if (any_closing == nullptr || any_closing >= end) return nullptr;
     std::size_t to_pass = 0;
     bool closed = false;
     for (const char* at = content; at < end; ++at) {

@@ -4,6 +4,8 @@
 #include <cassert>
 #include <cstring>
 
+#include "../common/ascii.h"
+
 namespace kavi::tn {
 
 namespace {
@@ -32,8 +34,18 @@ constexpr TagName TAG_NAMES[] = {
 };
 // clang-format on
 
+// A bit for each letter that a name begins with, from the alphabet's first on.
+constexpr unsigned make_initials() {
+    unsigned initials = 0;
+    for (const TagName& tag : TAG_NAMES) initials |= 1U << (tag.prefix[0] - 'a');
+    return initials;
+}
+
+constexpr unsigned INITIALS = make_initials();
+
 // The row that the name begins with, and how much of the name that is; null when there is none.
 const TagName* find_name(const char* name, std::size_t& length) {
+    if (!is_lower(*name) || (INITIALS >> (*name - 'a') & 1U) == 0) return nullptr;
     for (const TagName& tag : TAG_NAMES) {
         length = 0;
         while (tag.prefix[length] != '\0' && name[length] == tag.prefix[length]) ++length;
@@ -43,6 +55,11 @@ const TagName* find_name(const char* name, std::size_t& length) {
 }
 
 }  // namespace
+
+bool begins_tag_name(const char* name) {
+    std::size_t length = 0;
+    return find_name(name, length) != nullptr;
+}
 
 bool read_opening(const char* name, const char* end, TagEnds& tag_ends, Tag& tag) {
     std::size_t prefix_length = 0;

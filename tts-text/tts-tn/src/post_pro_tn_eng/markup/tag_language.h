@@ -30,6 +30,9 @@ struct Tag {
     const char* after;         // where the text goes on
 };
 
+// Whether the name of a tag of the language begins at `name`.
+bool begins_tag_name(const char* name);
+
 // Reads the tag whose name begins at `name`, as far as its ">". False when it is none of the
 // language or has no ">" before `end`.
 bool read_opening(const char* name, const char* end, TagEnds& tag_ends, Tag& tag);

@@ -211,7 +211,7 @@ Section* SectionDispatcher::smaller() {
     }
     const Section* next = section_->m_pnext;
     const bool is_spoken = next == nullptr || begins_with(next->sz_char, "punc");
-    append(smaller_words(is_spoken, !is_spoken && greater_follows(next)));
+    append(text_of(smaller_words(is_spoken, !is_spoken && greater_follows(next))));
     return section_;
 }
 

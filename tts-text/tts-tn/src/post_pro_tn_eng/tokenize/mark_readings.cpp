@@ -69,6 +69,7 @@ constexpr MarkText TEXTS[] = {
     text("arrive "),        // ARRIVE
     text("larger "),        // LARGER
     text("at "),            // AT
+    text("smaller "),       // SMALLER
 };
 // clang-format on
 

@@ -33,6 +33,7 @@ enum MarkWords : unsigned char {
     ARRIVE,
     LARGER,
     AT,
+    SMALLER,
 };
 
 // The text of words that are not READER.
@@ -68,9 +69,9 @@ constexpr MarkWords words_of(const MarkReading& row, bool after_number, bool bef
 
 // What is written for a "<" that begins no tag: as the last section or before "punc" it is spoken,
 // before a ">" somewhere it is a blank, and silent otherwise.
-constexpr const char* smaller_words(bool is_spoken, bool greater_follows) {
-    if (is_spoken) return "smaller ";
-    return greater_follows ? " " : "";
+constexpr MarkWords smaller_words(bool is_spoken, bool greater_follows) {
+    if (is_spoken) return SMALLER;
+    return greater_follows ? BLANK : SILENT;
 }
 
 }  // namespace kavi::tn

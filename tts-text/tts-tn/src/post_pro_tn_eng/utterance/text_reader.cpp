@@ -36,10 +36,18 @@ std::string_view mark_at(const char* text, const char* end) {
 
 }  // namespace
 
+void TextEvents::add_put_together(std::string_view word, const char* begin) {
+    std::memcpy(characters_end_, &begin, sizeof begin);
+    char* characters = characters_end_ + sizeof begin;
+    std::memcpy(characters, word.data(), word.size());
+    add(TextEventKind::word, {characters, word.size()});
+    characters_end_ = characters + word.size();
+    const char* const characters_limit = characters_ + CHARACTERS - sizeof begin - WORD_LENGTH_MAX;
+    if (characters_end_ > characters_limit) full_at_ = end_;  // no room for any other
+}
+
 void TextReader::read(TextEvents& events) {
     events.clear();
-    if (is_word_listed_) scanner_.clear_word();
-    is_word_listed_ = false;
     while (!events.is_full()) {
         if (scanner_.at_end()) {
             if (n_spans_ == 0) return;
@@ -65,22 +73,26 @@ void TextReader::read_usual(TextEvents& events) {
             at = end = end + (end[1] == ' ' ? 2 : 1);
             continue;
         }
-        if (end == text_end && length <= WORD_LENGTH_MAX) {
+        if (length > WORD_LENGTH_MAX) {
+            events.add(TextEventKind::word, {at, WORD_LENGTH_MAX});
+            at += WORD_LENGTH_MAX;
+            continue;
+        }
+        if (end == text_end) {
             if (length > 0) events.add(TextEventKind::word, {at, length});
             at = end;
             break;
         }
-        if (end != text_end && *end != ' ' && *end != '<') {
-            ++end;  // it is of the word
+        if (const std::string_view name = mark_at(at, text_end); !name.empty()) {
+            events.add(TextEventKind::punc, name);
+            at = end = name.data() + name.size() + 1;
             continue;
         }
-        const std::string_view name = mark_at(at, text_end);
-        if (name.empty()) {
+        if (*end == '<' && begins_tag_name(end + (end[1] == '/' ? 2 : 1))) {
             usual_from_ = std::max(end, at + 1);
             break;
         }
-        events.add(TextEventKind::punc, name);
-        at = end = name.data() + name.size() + 1;
+        ++end;  // it is of the word
     }
     scanner_.go_on_at(at);
 }
@@ -93,12 +105,11 @@ void TextReader::read_step(TextEvents& events) {
     }
     const std::string_view word = scanner_.word();
     const char* begin = scanner_.word_begin();
-    if (std::memcmp(begin, word.data(), word.size()) != 0) {
+    if (std::memcmp(begin, word.data(), word.size()) == 0) {
+        events.add(TextEventKind::word, {begin, word.size()});
+    } else {
         events.add_put_together(word, begin);
-        is_word_listed_ = true;
-        return;
     }
-    events.add(TextEventKind::word, {begin, word.size()});
     scanner_.clear_word();
 }
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
+#include <functional>
 #include <string_view>
 
 #include "scanner.h"
@@ -22,17 +24,18 @@ struct TextEvent {
     std::string_view text() const { return {begin, length}; }
 };
 
-// So many events that one list holds what a sentence has; a longer text comes in several.
+// So many events that one list holds what a sentence has, of two bytes each; a longer text comes in
+// several.
 class TextEvents {
   public:
     // cppcheck-suppress uninitMemberVar ; of the events, those added are set
-    TextEvents() {}
+    TextEvents() { clear(); }
 
     void clear() {
         end_ = events_;
         full_at_ = events_ + CAPACITY;
         n_words_ = 0;
-        put_together_ = nullptr;
+        characters_end_ = characters_;
     }
     bool is_full() const { return end_ >= full_at_; }
 
@@ -43,13 +46,8 @@ class TextEvents {
         if (kind == TextEventKind::word) ++n_words_;
     }
 
-    // Adds a word that stands in pieces, from `begin` on, as the last of this list: its characters
-    // are the reader's until it reads on.
-    void add_put_together(std::string_view word, const char* begin) {
-        add(TextEventKind::word, word);
-        full_at_ = end_;
-        put_together_ = begin;
-    }
+    // Adds a word that stands in pieces, from `begin` on: its characters are kept here.
+    void add_put_together(std::string_view word, const char* begin);
 
     int n_words() const { return n_words_; }
     const TextEvent* begin() const { return events_; }
@@ -57,17 +55,23 @@ class TextEvents {
 
     // Where in the text a word begins.
     const char* begin_of(const TextEvent& word) const {
-        return put_together_ != nullptr && &word + 1 == end_ ? put_together_ : word.begin;
+        const char* begin = word.begin;
+        const std::less<const char*> is_before;
+        if (is_before(begin, characters_) || !is_before(begin, characters_end_)) return begin;
+        std::memcpy(&begin, begin - sizeof begin, sizeof begin);
+        return begin;
     }
 
   private:
-    static constexpr std::size_t CAPACITY = 1024;
+    static constexpr std::size_t CAPACITY = SZ_TEXT_MAX_LEN / 2;
+    static constexpr std::size_t CHARACTERS = 2048;
 
-    TextEvent* end_ = events_;
-    TextEvent* full_at_ = events_ + CAPACITY;
-    int n_words_ = 0;
-    const char* put_together_ = nullptr;  // where the last word begins, if it was
+    TextEvent* end_;
+    TextEvent* full_at_;
+    int n_words_;
+    char* characters_end_;
     TextEvent events_[CAPACITY + 1];
+    char characters_[CHARACTERS];  // of words put together, each after the place where it begins
 };
 
 // Reads one text.
@@ -104,7 +108,6 @@ class TextReader {
 
     char word_[WORD_MAX_LEN];
     Scanner scanner_;
-    bool is_word_listed_ = false;       // the scanner's word, put together, is in the last list
     const char* usual_from_ = nullptr;  // up to there, the text is read step by step
     int n_spans_ = 0;
     Span spans_[SPANS_NESTED_MAX];  // the open ones

@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <string_view>
 
 #include "first_look.h"
 
@@ -64,10 +65,11 @@ bool BlockReader::next_of_file(Block& block) {
          searched = block.bytes.size()) {
         if (is_new_) block.notice = first_look(block.bytes, options_);
         is_new_ = false;
-        const std::size_t last = block.bytes.rfind(options_.delimiter);
-        if (last != std::string::npos && last >= searched) {
-            carry_.assign(block.bytes, last + 1);
-            block.bytes.resize(last + 1);
+        const std::string_view read = std::string_view(block.bytes).substr(searched);
+        const std::size_t last = read.rfind(options_.delimiter);
+        if (last != std::string_view::npos) {
+            carry_ = read.substr(last + 1);
+            block.bytes.resize(searched + last + 1);
             break;
         }
     }

@@ -1,18 +1,57 @@
 // What scripts/bench counts the instructions of. It says how many bytes it has read. Usage:
 //   bench_instructions all TIMES KIND     a corpus through the three calls, so many times
 //   bench_instructions loop TIMES KIND    the same through the loop that they are compared with
+//   bench_instructions host TIMES KIND    the same through the host layer
+//   bench_instructions long TIMES KIND    the same as one text
+//   bench_instructions arena TIMES        requests and releases of small blocks; how many of each
 //   bench_instructions build BYTES KIND   one text of the kind straight into the builder
 //   bench_instructions print BYTES [KIND] prints so much of that corpus, of prose without
 
 #include <cstdio>
 #include <cstdlib>
+#include <numeric>
 
 #include "calls.h"
 #include "corpus.h"
 #include "peers.h"
+#include "tts_host.h"
 
 namespace kavi::bench {
+
+// What is compared with the host layer: the calls, with giving the records back.
+__attribute__((noinline)) int read_bare(Calls& calls, const std::string& text) {
+    return calls.all(text);
+}
+
 namespace {
+
+int read_by_host(const std::string& text) {
+    static TtsHost host;
+    int records = 0;
+    host.read(
+        text,
+        [&](const HostSentence& sentence) {
+            records += sentence.n_records;
+            return true;
+        },
+        nullptr);
+    return records;
+}
+
+// In the usual state: as much has been in use before, and came back.
+std::size_t use_arena(std::size_t times) {
+    constexpr std::size_t BLOCKS = 100;
+    mem_stack_handle arena = mem_stack_create(0);
+    std::vector<void*> blocks(BLOCKS);
+    for (std::size_t time = 0; time <= times; ++time) {
+        for (std::size_t i = 0; i < BLOCKS; ++i) {
+            blocks[i] = mem_stack_request_buf(1 + i, MEM_COMMON, arena);
+        }
+        for (void* block : blocks) mem_stack_release_buf(block, 0, MEM_COMMON, arena);
+    }
+    mem_stack_destroy(arena);
+    return (times + 1) * BLOCKS;
+}
 
 const Kind& kind_named(const std::string& name) {
     for (const auto* kinds : {&ORDINARY, &WORST}) {
@@ -33,18 +72,22 @@ std::size_t run(const std::string& what, std::size_t n, const std::string& kind)
         }
         return bytes;
     }
+    if (what == "arena") return use_arena(n);
     Calls calls;
     if (what == "build") {
         std::string text = kind_named(kind).sentence(n, 1);
         return calls.build(text.data()) > 0 ? text.size() : 0;
     }
-    const auto texts = paragraphs(kind_named(kind), 20000);
+    auto texts = paragraphs(kind_named(kind), 20000);
+    if (what == "long") texts = {std::accumulate(texts.begin(), texts.end(), std::string())};
+    const auto read = [&](const std::string& text) {
+        if (what == "loop") return count_words(text) > 0;
+        if (what == "host" || what == "long") return read_by_host(text) > 0;
+        return read_bare(calls, text) > 0;
+    };
     std::size_t bytes = 0;
     for (std::size_t time = 0; time < n; ++time) {
-        for (const std::string& text : texts) {
-            const bool has_words = what == "loop" ? count_words(text) > 0 : calls.all(text) > 0;
-            if (has_words) bytes += text.size();
-        }
+        for (const std::string& text : texts) bytes += read(text) ? text.size() : 0;
     }
     return bytes;
 }

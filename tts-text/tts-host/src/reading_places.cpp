@@ -14,53 +14,48 @@ void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
                    step.output_before());
 }
 
-// The word at `at` belongs to this reading, which ends at `end`. A piece that begins with a letter
-// is words that are copied, or one that is written out: then it is longer. Where the text has
-// something left out among words, each of them is looked up.
-inline ReadingPlaces::Stretch ReadingPlaces::stretch_at(std::size_t at, const Reading& reading,
-                                                        std::size_t end,
-                                                        PieceCursor& pieces) const {
+// cppcheck-suppress uninitMemberVar ; of the stretch, its end is enough
+ReadingPlaces::Finder::Finder(ReadingPlaces& readings, const std::vector<SourcePiece>& pieces,
+                              int n_records, std::vector<WordPlace>& places)
+    : sentence_(readings.sentence_), speakable_(readings.speakable_), pieces_(pieces) {
+    readings.readings_.push_back({{}, SZ_TEXT_MAX_LEN});
+    next_ = readings.readings_.data();
+    places.resize(static_cast<std::size_t>(n_records));
+    place_ = places.data();
+    *place_ = {{pieces_.source_of(0, 1).offset, 0}, 0};
+}
+
+// The word at `at` belongs to the last reading that begins there or before. A piece that begins
+// with a letter is words that are copied, or one that is written out: then it is longer. Where the
+// text has something left out among words, each of them is looked up.
+ReadingPlaces::Finder::Stretch ReadingPlaces::Finder::stretch_at(std::size_t at) {
+    while (next_->target_at <= at) ++next_;
+    const Reading& reading = next_[-1];
     const std::size_t length = reading.source.size();
     const auto sentence_at = static_cast<std::size_t>(reading.source.data() - sentence_);
     if (!tn::is_letter(reading.source[0]) ||
         tn::is_letter(speakable_[reading.target_at + length])) {
-        return {end, 0, 0, pieces.source_of(sentence_at, length)};
+        return {next_->target_at, 0, 0, pieces_.source_of(sentence_at, length)};
     }
-    if (pieces.is_copied(sentence_at, length)) {
-        const TextRange source = pieces.source_of(sentence_at, length);
-        return {end, reading.target_at + length, source.offset - reading.target_at, source};
+    if (pieces_.is_copied(sentence_at, length)) {
+        const TextRange source = pieces_.source_of(sentence_at, length);
+        return {next_->target_at, reading.target_at + length, source.offset - reading.target_at,
+                source};
     }
     const std::size_t offset = at - reading.target_at;
     const std::size_t word_length = reading.source.substr(offset).find_first_of(' ');
     return {at + 1, 0, 0,
-            pieces.source_of(sentence_at + offset, std::min(word_length, length - offset))};
+            pieces_.source_of(sentence_at + offset, std::min(word_length, length - offset))};
 }
 
-void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
-                                const std::vector<const char*>& word_begins,
-                                const UtteranceSyllable* records, std::vector<WordPlace>& places) {
-    readings_.push_back({{}, SZ_TEXT_MAX_LEN});
-    const Reading* next = readings_.data();
-    PieceCursor cursor(pieces);
-    places.resize(word_begins.size() + 1);
-    WordPlace* place = places.data();
-    *place = {{cursor.source_of(0, 1).offset, 0}, 0};
-    const char* const* word = word_begins.data();
-    const char* const* const end = word + word_begins.size();
-    while (word != end) {
-        const auto begin = static_cast<std::size_t>(*word - speakable_);
-        while (next->target_at <= begin) ++next;
-        const Stretch stretch = stretch_at(begin, next[-1], next->target_at, cursor);
-        for (; word != end; ++word) {
-            const auto at = static_cast<std::size_t>(*word - speakable_);
-            if (at >= stretch.end) break;
-            TextRange source = stretch.source;
-            ++records;
-            if (at < stretch.copied_end) {
-                source = {at + stretch.shift, static_cast<std::size_t>(records->syl_len - 1)};
-            }
-            *++place = {source, at};
-        }
+void ReadingPlaces::Finder::add_words(const tn::TextEvents& events) {
+    for (const tn::TextEvent& event : events) {
+        if (event.kind != tn::TextEventKind::word) continue;
+        const auto at = static_cast<std::size_t>(events.begin_of(event) - speakable_);
+        if (at >= stretch_.end) stretch_ = stretch_at(at);
+        const bool is_copied = at < stretch_.copied_end;
+        *++place_ = {is_copied ? TextRange{at + stretch_.shift, event.length} : stretch_.source,
+                     at};
     }
 }
 

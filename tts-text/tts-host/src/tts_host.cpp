@@ -83,7 +83,6 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     // While it is handed over, and before the window moves on.
     const std::vector<SourcePiece>& pieces() override;
     const std::vector<WordPlace>& words() override;
-    void find_word_begins();
 
     mem_stack_handle arena_;
     void (*destroy_)(mem_stack_handle);
@@ -98,8 +97,7 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     const char* rest_ = nullptr;                           // in the window, after that
     std::vector<Diagnostic> diagnostics_;                  // of that
     host::ReadingPlaces reading_places_;
-    tn::TextEvents events_;                 // in the speakable text
-    std::vector<const char*> word_begins_;  // in the speakable text
+    tn::TextEvents events_;  // in the speakable text
     std::vector<WordPlace> places_;
     bool are_pieces_known_ = false;
     bool are_words_known_ = false;
@@ -249,28 +247,20 @@ const std::vector<SourcePiece>& TtsHost::State::pieces() {
     return source_.pieces();
 }
 
-const std::vector<WordPlace>& TtsHost::State::words() {
-    if (!are_words_known_) {
-        find_word_begins();
-        reading_places_.find_places(pieces(), word_begins_, utt_, places_);
-    }
-    are_words_known_ = true;
-    return places_;
-}
-
 // The builder has left a list of the words; of a text with more than it holds they are read again.
-void TtsHost::State::find_word_begins() {
-    word_begins_.clear();
-    const auto add_listed = [this] {
-        for (const tn::TextEvent& event : events_) {
-            if (event.kind != tn::TextEventKind::word) continue;
-            word_begins_.push_back(events_.begin_of(event));
-        }
-    };
-    if (events_.n_words() == n_utt_ - 1) return add_listed();
-    for (tn::TextReader reader(speakable_, arena_); !reader.at_end(); add_listed()) {
-        reader.read(events_);
+const std::vector<WordPlace>& TtsHost::State::words() {
+    if (are_words_known_) return places_;
+    are_words_known_ = true;
+    host::ReadingPlaces::Finder finder(reading_places_, pieces(), n_utt_, places_);
+    if (events_.n_words() == n_utt_ - 1) {
+        finder.add_words(events_);
+        return places_;
     }
+    for (tn::TextReader reader(speakable_, arena_); !reader.at_end();) {
+        reader.read(events_);
+        finder.add_words(events_);
+    }
+    return places_;
 }
 
 TextRange SentencePlaces::source_of(std::size_t at, std::size_t length) {

@@ -9,7 +9,6 @@
 #include "calls.h"
 #include "corpus.h"
 #include "peers.h"
-#include "tts_host.h"
 
 namespace kavi::bench {
 namespace {
@@ -123,19 +122,7 @@ void add_host(const Kind& kind) {
     for (const std::size_t length : {1000U, 10000U, 100000U, 1000000U, 10000000U}) {
         std::vector<std::string> texts;
         for (std::size_t at = 0; at < ALL; at += length) texts.push_back(whole.substr(at, length));
-        add(std::string(kind.name) + "/host/" + std::to_string(length), texts,
-            [](const std::string& text) {
-                static TtsHost host;
-                int records = 0;
-                host.read(
-                    text,
-                    [&](const HostSentence& sentence) {
-                        records += sentence.n_records;
-                        return true;
-                    },
-                    nullptr);
-                return records;
-            });
+        add(std::string(kind.name) + "/host/" + std::to_string(length), texts, read_by_host);
     }
 }
 

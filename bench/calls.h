@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "post_pro_tn_eng.h"
+#include "tts_host.h"
 
 namespace kavi::bench {
 
@@ -73,6 +74,20 @@ class Calls {
     char sentence_[SZ_TEXT_MAX_LEN] = {};
     char speakable_[SZ_TEXT_MAX_LEN] = {};
 };
+
+// Reads a text by the host layer; how many records it has.
+inline int read_by_host(const std::string& text) {
+    static TtsHost host;
+    int records = 0;
+    host.read(
+        text,
+        [&](const HostSentence& sentence) {
+            records += sentence.n_records;
+            return true;
+        },
+        nullptr);
+    return records;
+}
 
 }  // namespace kavi::bench
 

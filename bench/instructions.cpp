@@ -14,7 +14,6 @@
 #include "calls.h"
 #include "corpus.h"
 #include "peers.h"
-#include "tts_host.h"
 
 namespace kavi::bench {
 
@@ -24,19 +23,6 @@ __attribute__((noinline)) int read_bare(Calls& calls, const std::string& text) {
 }
 
 namespace {
-
-int read_by_host(const std::string& text) {
-    static TtsHost host;
-    int records = 0;
-    host.read(
-        text,
-        [&](const HostSentence& sentence) {
-            records += sentence.n_records;
-            return true;
-        },
-        nullptr);
-    return records;
-}
 
 // In the usual state: as much has been in use before, and came back.
 std::size_t use_arena(std::size_t times) {

@@ -6,7 +6,6 @@
 // a rule or the attributes that begin, <s> what is not spoken, <code> markup.
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 #include "findings_report.h"
@@ -20,23 +19,10 @@ namespace kavi::tool {
 
 namespace {
 
-constexpr auto make_plain() {
-    std::array<bool, 256> plain{};
-    for (unsigned c = ' '; c <= '~'; ++c) plain[c] = c != '&' && c != '<' && c != '>' && c != '"';
-    return plain;
-}
-
-// The characters that stand in a page as they are, but for those outside ASCII, which may be none.
-constexpr std::array<bool, 256> PLAIN = make_plain();
-
-bool is_plain(std::string_view text) {
-    bool plain = true;  // not left early: most texts are plain
-    for (const char c : text) plain &= PLAIN[static_cast<unsigned char>(c)];
-    return plain;
-}
+constexpr PlainCharacters PLAIN("&<>\"");
 
 void append_escaped(std::string_view text, TextBuffer& out) {
-    if (is_plain(text)) {
+    if (PLAIN.are_all(text)) {
         out << text;
         return;
     }

@@ -4,7 +4,6 @@
 #include <rapidjson/writer.h>
 
 #include <algorithm>
-#include <array>
 
 #include "findings_report.h"
 #include "format.h"
@@ -17,20 +16,7 @@ namespace kavi::tool {
 
 namespace {
 
-constexpr auto make_plain() {
-    std::array<bool, 256> plain{};
-    for (unsigned c = ' '; c <= '~'; ++c) plain[c] = c != '"' && c != '\\';
-    return plain;
-}
-
-// The characters that stand in JSON as they are, but for those outside ASCII, which may be none.
-constexpr std::array<bool, 256> PLAIN = make_plain();
-
-bool is_plain(std::string_view text) {
-    bool plain = true;  // not left early: most texts are plain
-    for (const char c : text) plain &= PLAIN[static_cast<unsigned char>(c)];
-    return plain;
-}
+constexpr PlainCharacters PLAIN("\"\\");
 
 // One object after the other. Text that is not UTF-8 has U+FFFD in
 // the place of what is not.
@@ -54,7 +40,7 @@ class JsonLine {
     }
     void text(std::string_view value) {
         separate();
-        is_plain(value) ? quote(value) : escape(value);
+        PLAIN.are_all(value) ? quote(value) : escape(value);
     }
     void name(std::string_view plain) {
         separate();

@@ -2,6 +2,7 @@
 #ifndef KAVI_TOOL_TEXT_BUFFER_H
 #define KAVI_TOOL_TEXT_BUFFER_H
 
+#include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstring>
@@ -10,6 +11,27 @@
 #include <string_view>
 
 namespace kavi::tool {
+
+// The characters that stand in a format as they are: ASCII, but for control characters and
+// `special` ones.
+class PlainCharacters {
+  public:
+    constexpr explicit PlainCharacters(std::string_view special) {
+        for (char c = ' '; c <= '~'; ++c) {
+            is_plain_[static_cast<unsigned char>(c)] = special.find(c) == std::string_view::npos;
+        }
+    }
+
+    // Whether a text is nothing else. It is not left early: most texts are plain.
+    bool are_all(std::string_view text) const {
+        bool plain = true;
+        for (const char c : text) plain &= is_plain_[static_cast<unsigned char>(c)];
+        return plain;
+    }
+
+  private:
+    std::array<bool, 256> is_plain_{};
+};
 
 // A piece costs a comparison and a copy, while std::string makes a call of it.
 class TextBuffer {

@@ -37,12 +37,12 @@ std::string_view mark_at(const char* text, const char* end) {
 }  // namespace
 
 void TextEvents::add_put_together(std::string_view word, const char* begin) {
-    std::memcpy(characters_end_, &begin, sizeof begin);
-    char* characters = characters_end_ + sizeof begin;
+    std::memcpy(characters_end_, &begin, PLACE);
+    char* characters = characters_end_ + PLACE;
     std::memcpy(characters, word.data(), word.size());
     add(TextEventKind::word, {characters, word.size()});
     characters_end_ = characters + word.size();
-    const char* const characters_limit = characters_ + CHARACTERS - sizeof begin - WORD_LENGTH_MAX;
+    const char* const characters_limit = characters_ + CHARACTERS - PLACE - WORD_LENGTH_MAX;
     if (characters_end_ > characters_limit) full_at_ = end_;  // no room for any other
 }
 

@@ -58,13 +58,14 @@ class TextEvents {
         const char* begin = word.begin;
         const std::less<const char*> is_before;
         if (is_before(begin, characters_) || !is_before(begin, characters_end_)) return begin;
-        std::memcpy(&begin, begin - sizeof begin, sizeof begin);
+        std::memcpy(&begin, begin - PLACE, PLACE);
         return begin;
     }
 
   private:
     static constexpr std::size_t CAPACITY = SZ_TEXT_MAX_LEN / 2;
     static constexpr std::size_t CHARACTERS = 2048;
+    static constexpr std::size_t PLACE = sizeof(const char*);
 
     TextEvent* end_;
     TextEvent* full_at_;

@@ -177,7 +177,7 @@ class SentenceWriter {
         attributes_.clear();
         append_attributes(record.cssml_tag, attributes_);
         out_ << (attributes_.empty() ? "<i>" : "<i class=m>");
-        append_escaped(record.syllable, out_);
+        append_escaped(word_of(record), out_);
         write_after_word(record);
         out_ << "</i>";
         if (!attributes_.empty() && attributes_ != attributes_before_) {

@@ -179,7 +179,7 @@ class JsonFormat : public Format {
     void write_word(const UtteranceSyllable& record, const WordPlace& place) {
         line_.object([&] {
             line_.key("word");
-            record.syllable != nullptr ? line_.text(record.syllable) : line_.null();
+            record.syllable != nullptr ? line_.text(word_of(record)) : line_.null();
             line_.range(place.source);
             line_.key("pause");
             line_.name(pause_name(record.pause_type));

@@ -26,6 +26,11 @@ inline bool has_attributes(const CssmlTag& tag) {
 
 void append_attributes(const CssmlTag& tag, std::string& out);
 
+// The word of a record that is not the head record.
+inline std::string_view word_of(const UtteranceSyllable& record) {
+    return {record.syllable, static_cast<std::size_t>(record.syl_len - 1)};
+}
+
 // Whether there is something to tell about the head record.
 inline bool has_marks(const UtteranceSyllable& record) {
     return record.n_punc > 0 || record.cssml_tag.breaktime[0] != '\0';

@@ -149,7 +149,7 @@ class WordFormat : public Format {
             const UtteranceSyllable& record = sentence.records[i];
             if (i == 0 && !has_marks(record)) continue;
             const TextRange source = sentence.places.of_record(i).source;
-            table_.add(i == 0 ? "(head)" : record.syllable);
+            table_.add(i == 0 ? "(head)" : word_of(record));
             table_.add(place.text.substr(source.offset, source.length));
             table_.add(pause_name(record.pause_type));
             append_punctuation(record, table_.field());

@@ -44,13 +44,17 @@ struct alignas(std::max_align_t) BlockHeader {
         is_free;  // of regions; of blocks in a free list, only while neighbours are merged
 };
 
-// A released block or a free region; the link stands in the bytes that nobody uses now.
+// Stands in the bytes of a released block or a free region, which nobody uses now.
 struct FreeBlock {
-    BlockHeader header;
     FreeBlock* next;
+
+    BlockHeader& header() { return reinterpret_cast<BlockHeader*>(this)[-1]; }
 };
 
-static_assert(sizeof(FreeBlock) <= sizeof(BlockHeader) + SMALL_STEP, "the link fits every class");
+static_assert(sizeof(FreeBlock) <= SMALL_STEP, "the link fits every class");
+
+// What a piece has, to be a region.
+constexpr std::size_t REGION_MIN = sizeof(BlockHeader) + sizeof(FreeBlock);
 
 struct alignas(std::max_align_t) Chunk {
     Chunk* next;
@@ -94,10 +98,16 @@ struct tag_mem_stack_array {
     char* carve_begin;  // the region at hand
     char* carve_end;
     FreeBlock* regions;  // the others
-    FreeBlock list_end;  // of every free list; costs more than any request finds room for
+
+    // Ends every free list: a block that costs more than any request finds room for.
+    BlockHeader list_end_header;
+    FreeBlock list_end;
 
     std::size_t used() const { return peak - below_peak; }
 };
+
+static_assert(offsetof(tag_mem_stack_array, list_end) ==
+              offsetof(tag_mem_stack_array, list_end_header) + sizeof(BlockHeader));
 
 namespace {
 
@@ -110,11 +120,7 @@ void put_region_back(tag_mem_stack_array& arena) {
     const auto bytes = static_cast<std::size_t>(arena.carve_end - arena.carve_begin);
     if (bytes > 0) {
         auto* header = new (arena.carve_begin) BlockHeader{bytes, 0, 1};
-        if (bytes >= sizeof(FreeBlock)) {
-            auto* region = reinterpret_cast<FreeBlock*>(header);
-            region->next = arena.regions;
-            arena.regions = region;
-        }
+        if (bytes >= REGION_MIN) arena.regions = new (header + 1) FreeBlock{arena.regions};
     }
     arena.carve_begin = arena.carve_end;
 }
@@ -123,10 +129,11 @@ void put_region_back(tag_mem_stack_array& arena) {
 bool find_region(tag_mem_stack_array& arena, std::size_t cost) {
     for (FreeBlock** link = &arena.regions; *link != nullptr; link = &(*link)->next) {
         FreeBlock* region = *link;
-        if (region->header.cost < cost) continue;
+        const std::size_t has = region->header().cost;
+        if (has < cost) continue;
         unlink_first(link);
-        arena.carve_begin = reinterpret_cast<char*>(region);
-        arena.carve_end = arena.carve_begin + region->header.cost;
+        arena.carve_begin = reinterpret_cast<char*>(&region->header());
+        arena.carve_end = arena.carve_begin + has;
         return true;
     }
     return false;
@@ -143,8 +150,8 @@ FreeBlock** merge_chunk(Chunk& chunk, FreeBlock** link) {
             piece->cost += cost;
             at += cost;
         }
-        if (piece->cost < sizeof(FreeBlock)) continue;
-        auto* region = reinterpret_cast<FreeBlock*>(piece);
+        if (piece->cost < REGION_MIN) continue;
+        auto* region = new (piece + 1) FreeBlock;
         *link = region;
         link = &region->next;
     }
@@ -160,7 +167,7 @@ bool may_merge(const tag_mem_stack_array& arena) {
 // Makes every free list empty; its blocks are marked as free.
 void empty_free_lists(tag_mem_stack_array& arena) {
     for (FreeBlock*& list : arena.free_list) {
-        for (; list != &arena.list_end; list = list->next) list->header.is_free = 1;
+        for (; list != &arena.list_end; list = list->next) list->header().is_free = 1;
     }
 }
 
@@ -223,10 +230,10 @@ BlockHeader* reuse(tag_mem_stack_array& arena, std::size_t size_class, std::size
     for (FreeBlock** link = &arena.free_list[size_class]; *link != &arena.list_end;
          link = &(*link)->next) {
         FreeBlock* block = *link;
-        const std::size_t has = block->header.cost;
+        const std::size_t has = block->header().cost;
         if (has < cost || has - cost > cost / 4 || has > left) continue;
         unlink_first(link);
-        return &block->header;
+        return &block->header();
     }
     return nullptr;
 }
@@ -238,7 +245,7 @@ mem_stack_handle mem_stack_create(std::size_t n_capacity) {
     if (memory == nullptr) return nullptr;
     auto* arena = new (memory) mem_stack_array{};
     arena->capacity = n_capacity != 0 ? std::min(n_capacity, NO_LIMIT) : NO_LIMIT;
-    arena->list_end.header.cost = std::numeric_limits<std::size_t>::max();
+    arena->list_end_header.cost = std::numeric_limits<std::size_t>::max();
     std::fill(std::begin(arena->free_list), std::end(arena->free_list), &arena->list_end);
     return arena;
 }
@@ -297,22 +304,21 @@ void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handl
     if (static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
     FreeBlock* block = arena->free_list[index];
     std::size_t below_peak = 0;
-    if (__builtin_sub_overflow(arena->below_peak, block->header.cost, &below_peak)) {
+    if (__builtin_sub_overflow(arena->below_peak, block->header().cost, &below_peak)) {
         return request_any(size, type, arena);
     }
     arena->below_peak = below_peak;
     arena->free_list[index] = block->next;
-    return &block->header + 1;
+    return block;
 }
 
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,
                           mem_stack_handle arena) {
     if (p == nullptr || arena == nullptr) return 0;
-    auto* block = reinterpret_cast<FreeBlock*>(static_cast<BlockHeader*>(p) - 1);
-    FreeBlock*& free_list = arena->free_list[block->header.size_class];
-    arena->below_peak += block->header.cost;
-    block->next = free_list;
-    free_list = block;
+    const BlockHeader& header = static_cast<BlockHeader*>(p)[-1];
+    FreeBlock*& free_list = arena->free_list[header.size_class];
+    arena->below_peak += header.cost;
+    free_list = new (p) FreeBlock{free_list};
     return 0;
 }
 

@@ -27,8 +27,11 @@ class ReadingPlaces {
     }
     void add_step(const tn::SectionDispatcher& step);
 
-    // After that, once: finds where each word comes from.
-    class Finder;
+    // After that, once: where each of the words comes from that the builder has listed, all of them
+    // views of the speakable text; record 0 is the head record. A word that was copied has its own
+    // letters, any other all that was read with it.
+    void find_places(const std::vector<SourcePiece>& pieces, const tn::TextEvents& events,
+                     std::vector<WordPlace>& places);
 
   private:
     // A piece of the sentence, and where in the speakable text its reading begins.
@@ -37,38 +40,20 @@ class ReadingPlaces {
         std::size_t target_at;
     };
 
-    const char* sentence_ = nullptr;
-    const char* speakable_ = nullptr;
-    std::vector<Reading> readings_;
-};
-
-class ReadingPlaces::Finder {
-  public:
-    // `places` receives the place of each of `n_records` records, that of the head record at once.
-    Finder(ReadingPlaces& readings, const std::vector<SourcePiece>& pieces, int n_records,
-           std::vector<WordPlace>& places);
-
-    // Adds the words of a list, which comes after the others in the speakable text. A word that was
-    // copied has its own letters, any other all that was read with it.
-    void add_words(const tn::TextEvents& events);
-
-  private:
     // A stretch of the speakable text whose words have their places in one way.
     struct Stretch {
-        std::size_t end = 0;
+        std::size_t end;
         std::size_t copied_end;  // up to there it is a copy of one stretch of the text,
         std::size_t shift;       // so much further on there
         TextRange source;        // all that it was read from
     };
 
-    Stretch stretch_at(std::size_t at);
+    Stretch stretch_at(std::size_t at, const Reading& reading, std::size_t end,
+                       PieceCursor& pieces) const;
 
-    const char* sentence_;
-    const char* speakable_;
-    const Reading* next_;
-    PieceCursor pieces_;
-    Stretch stretch_;
-    WordPlace* place_;
+    const char* sentence_ = nullptr;
+    const char* speakable_ = nullptr;
+    std::vector<Reading> readings_;
 };
 
 }  // namespace kavi::host

@@ -247,19 +247,9 @@ const std::vector<SourcePiece>& TtsHost::State::pieces() {
     return source_.pieces();
 }
 
-// The builder has left a list of the words; of a text with more than it holds they are read again.
 const std::vector<WordPlace>& TtsHost::State::words() {
-    if (are_words_known_) return places_;
+    if (!are_words_known_) reading_places_.find_places(pieces(), events_, places_);
     are_words_known_ = true;
-    host::ReadingPlaces::Finder finder(reading_places_, pieces(), n_utt_, places_);
-    if (events_.n_words() == n_utt_ - 1) {
-        finder.add_words(events_);
-        return places_;
-    }
-    for (tn::TextReader reader(speakable_, arena_); !reader.at_end();) {
-        reader.read(events_);
-        finder.add_words(events_);
-    }
     return places_;
 }
 

@@ -36,14 +36,12 @@ std::string_view mark_at(const char* text, const char* end) {
 
 }  // namespace
 
-void TextEvents::add_put_together(std::string_view word, const char* begin) {
-    std::memcpy(characters_end_, &begin, PLACE);
-    char* characters = characters_end_ + PLACE;
-    std::memcpy(characters, word.data(), word.size());
-    add(TextEventKind::word, {characters, word.size()});
-    characters_end_ = characters + word.size();
-    const char* const characters_limit = characters_ + CHARACTERS - PLACE - WORD_LENGTH_MAX;
-    if (characters_end_ > characters_limit) full_at_ = end_;  // no room for any other
+void TextEvents::add_put_together(std::string_view word) {
+    std::memcpy(characters_end_, word.data(), word.size());
+    add(TextEventKind::word, {characters_end_, word.size()});
+    characters_end_ += word.size();
+    const char* const limit = characters_ + CHARACTERS - WORD_LENGTH_MAX;
+    if (characters_end_ > limit) full_at_ = end_;  // no room for any other
 }
 
 void TextReader::read(TextEvents& events) {
@@ -108,7 +106,7 @@ void TextReader::read_step(TextEvents& events) {
     if (std::memcmp(begin, word.data(), word.size()) == 0) {
         events.add(TextEventKind::word, {begin, word.size()});
     } else {
-        events.add_put_together(word, begin);
+        events.add_put_together(word);
     }
     scanner_.clear_word();
 }

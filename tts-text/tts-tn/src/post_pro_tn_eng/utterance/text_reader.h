@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
-#include <functional>
 #include <string_view>
 
 #include "scanner.h"
@@ -46,33 +44,23 @@ class TextEvents {
         if (kind == TextEventKind::word) ++n_words_;
     }
 
-    // Adds a word that stands in pieces, from `begin` on: its characters are kept here.
-    void add_put_together(std::string_view word, const char* begin);
+    // Adds a word that stands in pieces: its characters are kept here.
+    void add_put_together(std::string_view word);
 
     int n_words() const { return n_words_; }
     const TextEvent* begin() const { return events_; }
     const TextEvent* end() const { return end_; }
 
-    // Where in the text a word begins.
-    const char* begin_of(const TextEvent& word) const {
-        const char* begin = word.begin;
-        const std::less<const char*> is_before;
-        if (is_before(begin, characters_) || !is_before(begin, characters_end_)) return begin;
-        std::memcpy(&begin, begin - PLACE, PLACE);
-        return begin;
-    }
-
   private:
     static constexpr std::size_t CAPACITY = SZ_TEXT_MAX_LEN / 2;
     static constexpr std::size_t CHARACTERS = 2048;
-    static constexpr std::size_t PLACE = sizeof(const char*);
 
     TextEvent* end_;
     TextEvent* full_at_;
     int n_words_;
     char* characters_end_;
     TextEvent events_[CAPACITY + 1];
-    char characters_[CHARACTERS];  // of words put together, each after the place where it begins
+    char characters_[CHARACTERS];  // of words put together
 };
 
 // Reads one text.

@@ -48,6 +48,7 @@ TEST(Arena, AFreeBlockServesItsOwnSizeAndPool) {
     mem_stack_release_buf(small, 0, MEM_COMMON, arena);
     mem_stack_release_buf(larger, 0, MEM_COMMON, arena);
     EXPECT_EQ(mem_stack_request_buf(16, MEM_MAX_CNT, arena), nullptr);
+    EXPECT_EQ(mem_stack_request_buf(2000, MEM_MAX_CNT, arena), nullptr);
     EXPECT_EQ(mem_stack_request_buf(16, MEM_COMMON, arena), small);
     EXPECT_EQ(mem_stack_used(arena), cost);
     mem_stack_destroy(arena);

@@ -168,7 +168,8 @@ TEST_F(Readers, LongReadingsAreCutAfterAWholeWord) {
 
 // Patterns that begin in one piece of a sentence and may reach into the next, and all between.
 TEST_F(Readers, ByPiecesASentenceIsReadAsByAllItsSections) {
-    std::vector<std::string> sentences;
+    const std::string long_word(600, 'x');
+    std::vector<std::string> sentences = {"5 " + long_word, "5-" + long_word};
     for (const char* table : SENTENCE_TABLES) {
         for (const TableRow& row : read_table(table)) sentences.push_back(row[0]);
     }

@@ -4,8 +4,16 @@
 
 #include <cstddef>
 #include <cstring>
+#include <utility>
 
 namespace kavi::tn {
+
+constexpr std::size_t CLEARED_PIECE = 64;
+
+template <std::size_t... Numbers>
+void clear_pieces(char* bytes, std::index_sequence<Numbers...> /*all*/) {
+    (std::memset(bytes + Numbers * CLEARED_PIECE, 0, CLEARED_PIECE), ...);
+}
 
 // Clears by pieces that become plain stores: of larger ones, compilers and C libraries make a
 // string instruction, which is slow to start. Compiled for size, that it is.
@@ -14,13 +22,9 @@ void clear(void* memory) {
 #ifdef __OPTIMIZE_SIZE__
     std::memset(memory, 0, Size);
 #else
-    constexpr std::size_t PIECE = 64;
-    if constexpr (Size <= PIECE) {
-        std::memset(memory, 0, Size);
-    } else {
-        std::memset(memory, 0, PIECE);
-        clear<Size - PIECE>(static_cast<char*>(memory) + PIECE);
-    }
+    auto* bytes = static_cast<char*>(memory);
+    clear_pieces(bytes, std::make_index_sequence<Size / CLEARED_PIECE>());
+    std::memset(bytes + Size / CLEARED_PIECE * CLEARED_PIECE, 0, Size % CLEARED_PIECE);
 #endif
 }
 

@@ -127,7 +127,7 @@ void TextReader::read_tag(const Tag& tag, TextEvents& events) {
             scanner_.go_on_at(tag.content.data(), tag.content.data() + tag.content.size());
             break;
         }
-        case TagUse::none: break;
+        default: break;
     }
 }
 

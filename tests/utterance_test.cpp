@@ -157,12 +157,16 @@ TEST_F(Utterance, IsCutIntoTheSameWordsByStepsHoweverTagsAreClosed) {
 TEST_F(Utterance, StepsAndCountsByThemselves) {
     std::string many;  // more than one list holds
     while (many.size() < 10000) many += "a ";
+    std::string nested;  // as deep as spans are read
+    while (nested.size() < 64 * 7) nested += "<poem=>";
     for (const auto& [text, words] :
          std::vector<std::pair<std::string, int>>{{"a <emphasis=x>b c</emphasis> d", 4},
                                                   {"a<orgLen=1>b c", 2},
                                                   {"a <punc=dou> b", 2},
                                                   {std::string(1200, 'x'), 3},
                                                   {many, 5000},
+                                                  {nested + "a", 1},
+                                                  {nested + "<poem=>a</poem> b", 1},
                                                   {"", 0}}) {
         int n = 10;
         std::string span = text;

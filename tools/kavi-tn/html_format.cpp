@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "findings_report.h"
 #include "format.h"
@@ -173,15 +174,16 @@ class SentenceWriter {
     }
 
     void write_word(const UtteranceSyllable& record) {
-        attributes_before_.swap(attributes_);
+        std::swap(attributes_, attributes_before_);
         attributes_.clear();
         append_attributes(record.cssml_tag, attributes_);
-        out_ << (attributes_.empty() ? "<i>" : "<i class=m>");
+        const std::string_view attributes = attributes_.text();
+        out_ << (attributes.empty() ? "<i>" : "<i class=m>");
         append_escaped(word_of(record), out_);
         write_after_word(record);
         out_ << "</i>";
-        if (!attributes_.empty() && attributes_ != attributes_before_) {
-            append_element("small", attributes_, out_);
+        if (!attributes.empty() && attributes != attributes_before_.text()) {
+            append_element("small", attributes, out_);
         }
     }
 
@@ -205,10 +207,10 @@ class SentenceWriter {
     const HostSentence& sentence_;
     const std::vector<Diagnostic>& diagnostics_;
     TextBuffer& out_;
-    std::size_t at_;          // the next byte of the text
-    int next_ = 1;            // the next record
-    std::string attributes_;  // of the last word
-    std::string attributes_before_;
+    std::size_t at_;         // the next byte of the text
+    int next_ = 1;           // the next record
+    TextBuffer attributes_;  // of the last word
+    TextBuffer attributes_before_;
     std::size_t n_findings_ = 0;
 };
 

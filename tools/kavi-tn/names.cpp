@@ -49,19 +49,19 @@ std::optional<Field> field_of(std::string_view name) {
     return {};
 }
 
-void append_punctuation(const UtteranceSyllable& record, std::string& out) {
+void append_punctuation(const UtteranceSyllable& record, TextBuffer& out) {
     for (int i = 0; i < record.n_punc; ++i) {
-        if (i > 0) out += ' ';
-        out += punctuation_name(record.punc_arr[i]);
+        if (i > 0) out << ' ';
+        out << punctuation_name(record.punc_arr[i]);
     }
 }
 
-void append_attributes(const CssmlTag& tag, std::string& out) {
+void append_attributes(const CssmlTag& tag, TextBuffer& out) {
     if (!has_attributes(tag)) return;
     const char* blank = "";
     for (const auto& [name, value] : attributes(tag)) {
         if (*value == '\0') continue;
-        out.append(blank).append(name).append("=").append(value);
+        out << blank << name << '=' << value;
         blank = " ";
     }
 }

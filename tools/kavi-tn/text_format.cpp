@@ -9,6 +9,7 @@
 
 #include "format.h"
 #include "names.h"
+#include "text_buffer.h"
 #include "tts_explain.h"
 #include "tts_plain.h"
 
@@ -40,19 +41,19 @@ class Table {
     }
 
     // The text to append the next field to.
-    std::string& field() { return text_; }
+    TextBuffer& field() { return text_; }
 
     // Ends the field, and after the last of a row the row.
     void end_field() {
-        const std::size_t end = text_.size();
-        const std::size_t width = width_of({text_.data() + begin_, end - begin_});
+        const std::size_t end = text_.text().size();
+        const std::size_t width = width_of(text_.text().substr(begin_));
         widths_[column_] = std::max(widths_[column_], width);
         column_ = column_ + 1 < Columns ? column_ + 1 : 0;
         fields_.push_back({end, width});
         begin_ = end;
     }
     void add(std::string_view field) {
-        text_ += field;
+        text_ << field;
         end_field();
     }
 
@@ -60,9 +61,9 @@ class Table {
     void append_to(std::string& out) const {
         const std::size_t row = std::accumulate(widths_.begin(), widths_.end(), 2 * Columns);
         const std::size_t begin = out.size();
-        out.resize(begin + text_.size() + fields_.size() / Columns * row + 1, ' ');
+        out.resize(begin + text_.text().size() + fields_.size() / Columns * row + 1, ' ');
         char* end = out.data() + begin;
-        const char* field = text_.data();
+        const char* field = text_.text().data();
         for (auto at = fields_.begin(); at != fields_.end(); at += Columns) {
             end = write_row(&*at, field, end);
         }
@@ -80,7 +81,8 @@ class Table {
     char* write_row(const Field* fields, const char*& field, char* target) const {
         char* end = target;  // after the last that is not empty
         for (std::size_t column = 0; column < Columns; ++column) {
-            const auto size = static_cast<std::size_t>(text_.data() + fields[column].end - field);
+            const auto size =
+                static_cast<std::size_t>(text_.text().data() + fields[column].end - field);
             if (size > 0) {
                 std::memcpy(target, field, size);
                 end = target + size;
@@ -92,7 +94,7 @@ class Table {
         return end;
     }
 
-    std::string text_;
+    TextBuffer text_;
     std::vector<Field> fields_;
     std::size_t begin_ = 0;   // of the next field
     std::size_t column_ = 0;  // where it goes
@@ -174,9 +176,9 @@ class ExplainFormat : public Format {
         table_.clear();
         for (const ExplainedRun& run : explain(sentence, place.text)) {
             if (run.sections.size() == 1 && run.sections[0] == " ") continue;
-            table_.field() += "  ";
+            table_.field() << "  ";
             for (const std::string& section : run.sections) {
-                table_.field().append("[").append(section) += ']';
+                table_.field() << '[' << section << ']';
             }
             table_.end_field();
             table_.add(run.rule);

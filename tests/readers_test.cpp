@@ -166,6 +166,15 @@ TEST_F(Readers, LongReadingsAreCutAfterAWholeWord) {
     }
 }
 
+// Words are looked at by eight characters.
+TEST_F(Readers, TwoBlanksBetweenWordsAreOneWhereverTheyStand) {
+    for (std::size_t n = 1; n < 20; ++n) {
+        const std::string word(n, 'a');
+        EXPECT_EQ(tokenize(word + "  b c"), word + " b c");
+        EXPECT_EQ(tokenize(word + "  b c d e f g h"), word + " b c d e f g h");
+    }
+}
+
 // Patterns that begin in one piece of a sentence and may reach into the next, and all between.
 TEST_F(Readers, ByPiecesASentenceIsReadAsByAllItsSections) {
     const std::string long_word(600, 'x');

@@ -21,8 +21,7 @@ bool is_in_capitals(std::string_view word) {
 }  // namespace
 
 WordKind word_kind(std::string_view word) {
-    const char second = word.size() > 1 ? word[1] : '\0';
-    if (!word.empty() && begins_plain_word(word[0], second)) return WordKind::plain;
+    if (!word.empty() && begins_plain_word(word.data())) return WordKind::plain;
     if (is_in_capitals(word)) return WordKind::capitals;
     if (word == TELEPHONE_LABEL) return WordKind::telephone_label;
     return month_name(word) != nullptr ? WordKind::month : WordKind::plain;

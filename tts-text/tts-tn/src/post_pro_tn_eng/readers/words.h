@@ -16,7 +16,7 @@ enum class WordKind {
     capitals,         // spoken as it stands, too, but the lexicon is asked
 };
 
-// The kind of a section of letters.
+// The kind of a section of letters, which something else or a NUL follows.
 WordKind word_kind(std::string_view word);
 
 inline constexpr char TELEPHONE_LABEL[] = "Tel";
@@ -34,12 +34,12 @@ constexpr unsigned letters_at(std::size_t place, char first_of_case) {
 inline constexpr unsigned FIRST_LETTERS = letters_at(0, 'A');
 inline constexpr unsigned SECOND_LETTERS = letters_at(1, 'a');
 
-// Whether a section that begins with these, letters or not, is surely a plain word: most of those
-// that are.
-inline bool begins_plain_word(char first, char second) {
-    if (is_lower(first)) return true;
-    return is_upper(first) && is_lower(second) &&
-           (FIRST_LETTERS >> (first - 'A') & SECOND_LETTERS >> (second - 'a') & 1U) == 0;
+// Whether what begins at `text`, a NUL-terminated one, is surely a plain word: most of those that
+// are.
+inline bool begins_plain_word(const char* text) {
+    if (is_lower(text[0])) return true;
+    return is_upper(text[0]) && is_lower(text[1]) &&
+           (FIRST_LETTERS >> (text[0] - 'A') & SECOND_LETTERS >> (text[1] - 'a') & 1U) == 0;
 }
 
 // Asks the lexicon about a word in capitals, of at most 499. As yet its answer makes no difference.

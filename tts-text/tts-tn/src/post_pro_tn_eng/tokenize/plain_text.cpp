@@ -33,7 +33,7 @@ const char* end_of_plain_words(const char* text, const char* text_end) {
     const char* const limit = room > WORD_LENGTH_MAX ? text + WORD_LENGTH_MAX : text_end;
     const char* end = text;
     do {
-        if (!begins_plain_word(end[0], end[1])) break;
+        if (!begins_plain_word(end)) break;
         end = skip_small_words(end + 1, limit);
     } while (end[-1] == ' ');
     if (is_letter(*end)) {

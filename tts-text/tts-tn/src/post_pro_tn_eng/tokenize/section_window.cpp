@@ -56,7 +56,7 @@ void SectionWindow::append() {
 // A blank before the word where readers stop is as good as the word.
 bool SectionWindow::stops_at(const PlacedSection& section) const {
     if (section.m_nmark == STRINGSYMBOL) return stops_readers(section.begin, end_);
-    if (section.begin[0] != ' ' || !begins_plain_word(end_[0], end_[1])) return false;
+    if (section.begin[0] != ' ' || !begins_plain_word(end_)) return false;
     const char* word_end = end_ + 1;
     while (belongs_to(LETTERS, *word_end)) ++word_end;
     return static_cast<std::size_t>(word_end - end_) <= WORD_LENGTH_MAX &&

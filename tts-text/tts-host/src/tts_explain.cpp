@@ -113,9 +113,7 @@ std::vector<ExplainedRun> explain(std::string_view normalized) {
     tn::TagEnds tag_ends;
     SectionWindow window(SectionWindow::Reach::text_end, tag_ends);
     SectionDispatcher dispatcher(sentence.c_str(), window, output);
-    constexpr std::size_t BYTES_OF_RUN = 2;  // few have less: a word and a blank are two runs
     std::vector<ExplainedRun> runs;
-    runs.reserve(sentence.size() / BYTES_OF_RUN + 1);
     while (dispatcher.next()) {
         const auto reading_at = static_cast<std::size_t>(dispatcher.output_before());
         if (runs.empty() || !goes_on(dispatcher, runs.back())) {
@@ -134,13 +132,12 @@ std::vector<ExplainedRun> explain(std::string_view normalized) {
 }
 
 std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view text) {
-    std::vector<ExplainedRun> runs = explain(sentence.normalized);
-    auto kept_end = runs.begin();
-    for (ExplainedRun& run : runs) {
+    std::vector<ExplainedRun> runs;
+    for (ExplainedRun& run : explain(sentence.normalized)) {
         const std::size_t at = run.source.offset;
         run.source = sentence.places.source_of(at, run.source.length);
-        if (kept_end != runs.begin() && overlaps(run.source, kept_end[-1])) {
-            ExplainedRun& before = kept_end[-1];
+        if (!runs.empty() && overlaps(run.source, runs.back())) {
+            ExplainedRun& before = runs.back();
             const std::size_t end = run.source.offset + run.source.length;
             before.source.length = std::max(before.source.length, end - before.source.offset);
             before.reading += run.reading;
@@ -151,10 +148,8 @@ std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view
             run.is_word = false;
             run.sections = {std::string(text.substr(run.source.offset, run.source.length))};
         }
-        if (&*kept_end != &run) *kept_end = std::move(run);
-        ++kept_end;
+        runs.push_back(std::move(run));
     }
-    runs.erase(kept_end, runs.end());
     return runs;
 }
 

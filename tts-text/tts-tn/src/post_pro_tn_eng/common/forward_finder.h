@@ -22,8 +22,14 @@ class ForwardFinder {
 
   private:
     static const char* search(const char* from, char needle) { return std::strchr(from, needle); }
+    // The needles are a few characters long, of which the first is rare.
     static const char* search(const char* from, const char* needle) {
-        return std::strstr(from, needle);
+        for (; (from = std::strchr(from, *needle)) != nullptr; ++from) {
+            std::size_t n = 1;
+            while (needle[n] != '\0' && from[n] == needle[n]) ++n;
+            if (needle[n] == '\0') break;
+        }
+        return from;
     }
 
     const char* found_ = nullptr;

@@ -1,7 +1,5 @@
 #include "plain_text.h"
 
-#include <algorithm>
-
 #include "../common/runs.h"
 #include "../markup/markup_tags.h"
 #include "../readers/months.h"

@@ -85,6 +85,10 @@ void add_ordinary(const Kind& kind) {
     add(name + "/build", prepared.speakable,
         [](std::string& speakable) { return calls().build(speakable.data()); });
     add(name + "/all", prepared.raw, read_all);
+    add(name + "/host", prepared.raw,
+        [](const std::string& text) { return read_by_host(text, false); });
+    add(name + "/places", prepared.raw,
+        [](const std::string& text) { return read_by_host(text, true); });
     if (flite_words("word") > 0) add(name + "/flite", prepared.raw, flite_words);
     if (espeak_phonemes("word") > 0) add(name + "/espeak-ng", prepared.raw, espeak_phonemes);
 }
@@ -122,7 +126,8 @@ void add_host(const Kind& kind) {
     for (const std::size_t length : {1000U, 10000U, 100000U, 1000000U, 10000000U}) {
         std::vector<std::string> texts;
         for (std::size_t at = 0; at < ALL; at += length) texts.push_back(whole.substr(at, length));
-        add(std::string(kind.name) + "/host/" + std::to_string(length), texts, read_by_host);
+        add(std::string(kind.name) + "/host/" + std::to_string(length), texts,
+            [](const std::string& text) { return read_by_host(text, false); });
     }
 }
 

@@ -75,14 +75,17 @@ class Calls {
     char speakable_[SZ_TEXT_MAX_LEN] = {};
 };
 
-// Reads a text by the host layer; how many records it has.
-inline int read_by_host(const std::string& text) {
+// Reads a text by the host layer, and asks for the places of all words or not; how many records it
+// has.
+inline int read_by_host(const std::string& text, bool asks_for_places) {
     static TtsHost host;
     int records = 0;
     host.read(
         text,
         [&](const HostSentence& sentence) {
-            records += sentence.n_records;
+            if (!asks_for_places || sentence.places.words() != nullptr) {
+                records += sentence.n_records;
+            }
             return true;
         },
         nullptr);

@@ -2,7 +2,8 @@
 //   bench_instructions all TIMES KIND     a corpus through the three calls, so many times
 //   bench_instructions loop TIMES KIND    the same through the loop that they are compared with
 //   bench_instructions host TIMES KIND    the same through the host layer
-//   bench_instructions long TIMES KIND    the same as one text
+//   bench_instructions places TIMES KIND  the same, with the places of all words
+//   bench_instructions long TIMES KIND    the same without them as one text
 //   bench_instructions arena TIMES        requests and releases of small blocks; how many of each
 //   bench_instructions build BYTES KIND   one text of the kind straight into the builder
 //   bench_instructions print BYTES [KIND] prints so much of that corpus, of prose without
@@ -68,7 +69,8 @@ std::size_t run(const std::string& what, std::size_t n, const std::string& kind)
     if (what == "long") texts = {std::accumulate(texts.begin(), texts.end(), std::string())};
     const auto read = [&](const std::string& text) {
         if (what == "loop") return count_words(text) > 0;
-        if (what == "host" || what == "long") return read_by_host(text) > 0;
+        if (what == "places") return read_by_host(text, true) > 0;
+        if (what == "host" || what == "long") return read_by_host(text, false) > 0;
         return read_bare(calls, text) > 0;
     };
     std::size_t bytes = 0;

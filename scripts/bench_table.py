@@ -61,6 +61,11 @@ for what in ("request", "release"):
 for what, text in (("host", "paragraphs"), ("long", "one text")):
     ratio = instructions[f"news/{what}"] / instructions["news/bare"]
     goal(f"the host layer on news, {text}, times the bare calls in instructions (at most 1.2)", ratio, ratio <= 1.2)
+for corpus in ("news", "licences"):
+    share = 1 - instructions[f"{corpus}/host"] / instructions[f"{corpus}/places"]
+    goal(f"the places of all words on {corpus}, of the host layer's instructions (at most 0.1)", share, share <= 0.1)
+    share = 1 - rate[f"{corpus}/places"] / rate[f"{corpus}/host"]
+    print(f"        in time: {share:.2f}")
 engine = 20e6 / rate["news/all"]
 for what, most in (("text", 1.4), ("words", 3), ("jsonl", 4), ("html", 5)):
     goal(f"kavi-tn on news, {what}, times the calls (at most {most})", formats[what] / engine, formats[what] <= most * engine)

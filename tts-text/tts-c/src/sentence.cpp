@@ -31,7 +31,7 @@ kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::u
                      Pool& pool) {
     const auto n_records = static_cast<std::size_t>(sentence.n_records);
     auto* words = pool.array<kavi_word>(n_records);
-    const std::vector<WordPlace>& places = sentence.places.words();
+    const WordPlace* places = sentence.places.words();
     for (std::size_t i = 0; i < n_records; ++i) {
         fill(words[i], sentence.records[i], places[i], pool);
     }

@@ -38,9 +38,9 @@ class SentencePlaces {
     // In order; together they are the normalised sentence.
     virtual const std::vector<SourcePiece>& pieces() = 0;
 
-    // Of each record; the head record has an empty source.
-    virtual const std::vector<WordPlace>& words() = 0;
-    const WordPlace& of_record(int n) { return words()[static_cast<std::size_t>(n)]; }
+    // Of each record, as many as there are; the head record has an empty source.
+    virtual const WordPlace* words() = 0;
+    const WordPlace& of_record(int n) { return words()[n]; }
 
     // The source of `length` bytes at `at` of the normalised sentence: all of what was rewritten
     // for any byte of it. Empty for what has none.

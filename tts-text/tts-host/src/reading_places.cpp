@@ -14,50 +14,60 @@ void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
                    step.output_before());
 }
 
-// The word at `at` belongs to this reading, which ends at `end`. A piece that begins with a letter
-// is words that are copied, or one that is written out: then it is longer. Where the text has
-// something left out among words, each of them is looked up.
-inline ReadingPlaces::Stretch ReadingPlaces::stretch_at(std::size_t at, const Reading& reading,
-                                                        std::size_t end,
-                                                        PieceCursor& pieces) const {
-    const std::size_t length = reading.source.size();
-    const auto sentence_at = static_cast<std::size_t>(reading.source.data() - sentence_);
-    if (!tn::is_letter(reading.source[0]) ||
-        tn::is_letter(speakable_[reading.target_at + length])) {
-        return {end, 0, 0, pieces.source_of(sentence_at, length)};
-    }
-    if (pieces.is_copied(sentence_at, length)) {
-        const TextRange source = pieces.source_of(sentence_at, length);
-        return {end, reading.target_at + length, source.offset - reading.target_at, source};
-    }
-    const std::size_t offset = at - reading.target_at;
-    const std::size_t word_length = reading.source.substr(offset).find_first_of(' ');
-    return {at + 1, 0, 0,
-            pieces.source_of(sentence_at + offset, std::min(word_length, length - offset))};
+// The source of the word at `offset` of copied words that the text has something left out among.
+TextRange ReadingPlaces::source_of_word(const Reading& reading, std::size_t offset,
+                                        PieceCursor pieces) const {
+    const std::string_view rest(sentence_ + reading.at + offset, reading.length - offset);
+    return pieces.source_of(reading.at + offset, std::min(rest.find(' '), rest.size()));
 }
 
+// All that changes from word to word stands in variables here, so that it can stay in registers.
 void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
-                                const tn::TextEvents& events, std::vector<WordPlace>& places) {
-    readings_.push_back({{}, SZ_TEXT_MAX_LEN});
-    const Reading* next = readings_.data();
+                                const tn::TextEvents& events, WordPlace* place) {
+    readings_.push_back({0, 0, SZ_TEXT_MAX_LEN});
     PieceCursor cursor(pieces);
-    places.resize(static_cast<std::size_t>(events.n_words()) + 1);
-    WordPlace* place = places.data();
-    *place = {{cursor.source_of(0, 1).offset, 0}, 0};
-    Stretch stretch = {};
-    for (const tn::TextEvent& event : events) {
-        if (event.kind != tn::TextEventKind::word) continue;
-        const auto at = static_cast<std::size_t>(event.begin - speakable_);
-        if (at >= stretch.end) {
-            while (next->target_at <= at) ++next;
-            stretch = stretch_at(at, next[-1], next->target_at, cursor);
-        }
-        ++place;
-        place->at = at;
-        if (at < stretch.copied_end) {
-            place->source = {at + stretch.shift, event.length};
+    *place++ = {{cursor.source_of(0, 1).offset, 0}, 0};
+
+    const char* const sentence = sentence_;
+    const char* const speakable = speakable_;
+    const Reading* reading = readings_.data();
+    const tn::TextEvent* event = events.begin();
+    std::size_t at = 0;  // the word's
+    const auto find_word = [&, end = events.end()] {
+        while (event != end && event->kind != tn::TextEventKind::word) ++event;
+        if (event == end) return false;
+        at = static_cast<std::size_t>(event->begin - speakable);
+        return true;
+    };
+    const auto next_word = [&] {
+        ++event;
+        return find_word();
+    };
+    bool any = find_word();
+    while (any) {
+        while (reading[1].target_at <= at) ++reading;
+        // A piece that begins with a letter is words that are copied, or one that is written out:
+        // then it is longer.
+        const std::size_t copied_end = reading->target_at + reading->length;
+        if (at < copied_end && tn::is_letter(sentence[reading->at]) &&
+            !tn::is_letter(speakable[copied_end])) {
+            if (cursor.is_copied(reading->at, reading->length)) {
+                const std::size_t shift = cursor.copied_from(reading->at) - reading->target_at;
+                do {
+                    *place++ = {{at + shift, event->length}, at};
+                    any = next_word();
+                } while (any && at < copied_end);
+            } else {
+                *place++ = {source_of_word(*reading, at - reading->target_at, cursor), at};
+                any = next_word();
+            }
         } else {
-            place->source = stretch.source;
+            const TextRange source = cursor.source_of(reading->at, reading->length);
+            const std::size_t end = reading[1].target_at;
+            do {
+                *place++ = {source, at};
+                any = next_word();
+            } while (any && at < end);
         }
     }
 }

@@ -13,18 +13,30 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
 
 }  // namespace
 
-TextRange PieceCursor::source_of_any(std::size_t at, std::size_t length) const {
-    const TextRange first = source_of_byte(*piece_, at);
-    if (length <= 1) return first;
-    const std::size_t last_at = at + length - 1;
-    PieceCursor end(*this);
-    end.go_on_to(last_at);
-    const TextRange last = source_of_byte(*end.piece_, last_at);
-    return {first.offset, last.offset + last.length - first.offset};
+// The first of the bytes is in `piece`. No cursor is changed, so that it can stay in registers.
+TextRange PieceCursor::source_of_any(const SourcePiece* piece, const SourcePiece* last,
+                                     std::size_t at, std::size_t length) {
+    const TextRange begin = source_of_byte(*piece, at);
+    if (length <= 1) return begin;
+    const std::size_t end_at = at + length - 1;
+    while (piece != last && piece[1].at <= end_at) ++piece;
+    const TextRange end = source_of_byte(*piece, end_at);
+    return {begin.offset, end.offset + end.length - begin.offset};
 }
 
 void SentenceSource::find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter) {
     pieces_.clear();
+    std::size_t from = 0;
+    if (replacements_.empty() && window.is_copied_up_to(cutter.end(), from) &&
+        cutter.length() == cutter.length_before_closing()) {  // as most sentences
+        const auto length = static_cast<std::size_t>(cutter.length());
+        pieces_.push_back({0, length, {from, length}, nullptr});
+    } else {
+        find_several(window, cutter);
+    }
+}
+
+void SentenceSource::find_several(const TextWindow& window, const tn::SentenceCutter& cutter) {
     TextWindow::Sources sources(window, pieces_);
     for (const Replacement& r : replacements_) {
         sources.copied_up_to(r.source.data());

@@ -22,28 +22,32 @@ class PieceCursor {
   public:
     // Of the pieces of a sentence that is not empty.
     explicit PieceCursor(const std::vector<SourcePiece>& pieces)
-        : piece_(pieces.data()), end_(piece_ + pieces.size()) {}
+        : piece_(pieces.data()), last_(&pieces.back()) {}
 
-    // The source of `length` bytes at `at`, not before the last ones.
-    TextRange source_of(std::size_t at, std::size_t length) {
-        if (is_copied(at, length)) return {piece_->source.offset + (at - piece_->at), length};
-        return source_of_any(at, length);
-    }
-
-    // Whether these, not before the last ones, are a copy of one stretch of the text.
+    // Whether `length` bytes at `at`, not before the last ones, are a copy of one stretch of the
+    // text.
     bool is_copied(std::size_t at, std::size_t length) {
-        go_on_to(at);
+        while (piece_ != last_ && piece_[1].at <= at) ++piece_;
         return is_copy(*piece_) && at + length <= piece_->at + piece_->length;
     }
 
-  private:
-    void go_on_to(std::size_t at) {
-        while (piece_ + 1 != end_ && piece_[1].at <= at) ++piece_;
+    // Where the byte at `at` of that copy comes from.
+    std::size_t copied_from(std::size_t at) const {
+        return piece_->source.offset - piece_->at + at;
     }
-    TextRange source_of_any(std::size_t at, std::size_t length) const;
+
+    // The source of `length` bytes at `at`, not before the last ones.
+    TextRange source_of(std::size_t at, std::size_t length) {
+        if (is_copied(at, length)) return {copied_from(at), length};
+        return source_of_any(piece_, last_, at, length);
+    }
+
+  private:
+    static TextRange source_of_any(const SourcePiece* piece, const SourcePiece* last,
+                                   std::size_t at, std::size_t length);
 
     const SourcePiece* piece_;
-    const SourcePiece* end_;
+    const SourcePiece* last_;
 };
 
 // Looks on while a sentence is cut, and tells then what its pieces stand for.
@@ -67,6 +71,7 @@ class SentenceSource : public tn::CutObserver {
     const std::vector<SourcePiece>& pieces() const { return pieces_; }
 
   private:
+    void find_several(const TextWindow& window, const tn::SentenceCutter& cutter);
     void add_as_written(std::size_t at, std::size_t begin, std::size_t end,
                         const RewrittenText& rewritten);
 

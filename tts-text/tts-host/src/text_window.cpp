@@ -322,21 +322,20 @@ std::size_t TextWindow::source_offset(const char* at) const {
     return offset;
 }
 
-void TextWindow::Sources::copied_up_to(const char* end) {
-    const auto index = static_cast<std::size_t>(end - window_.buffer_);
+// The opening tags that were written again.
+void TextWindow::Sources::pass_prefix(std::size_t index) {
     const std::size_t prefix_end = window_.begin_ + window_.prefix_;
-    if (from_ < prefix_end) {
-        const std::size_t length = std::min(index, prefix_end) - from_;
-        add(length, {window_.origin_ + prefix_end + window_.left_out_, 0}, nullptr);
-        from_ += length;
-    }
-    while (gap_end_ <= index) {
-        copy_up_to(gap_end_ - 1);
-        const std::size_t begin = offset();
-        pass(from_ + 1);
-        add(1, {begin, offset() - begin}, nullptr);
-    }
-    copy_up_to(index);
+    const std::size_t length = std::min(index, prefix_end) - from_;
+    add(length, {window_.origin_ + prefix_end + window_.left_out_, 0}, nullptr);
+    from_ += length;
+}
+
+// What was left out, a blank stands for it.
+void TextWindow::Sources::pass_gap() {
+    copy_up_to(next_gap_->at - window_.origin_ - 1);
+    const std::size_t begin = offset();
+    pass(from_ + 1);
+    add(1, {begin, offset() - begin}, nullptr);
 }
 
 void TextWindow::Sources::replaced(std::string_view source, std::size_t length) {
@@ -345,25 +344,9 @@ void TextWindow::Sources::replaced(std::string_view source, std::size_t length) 
     add(length, {begin, offset() - begin}, length > 0 ? "abbreviation" : nullptr);
 }
 
-void TextWindow::Sources::find_next_gap() {
-    const bool is_there = n_gaps_ < window_.gaps_.size();
-    gap_end_ = is_there ? window_.gaps_[n_gaps_].at - window_.origin_ : CAPACITY + 1;
-}
-
-// Nothing is left out before that.
-void TextWindow::Sources::copy_up_to(std::size_t index) {
-    const std::size_t length = index - from_;
-    if (length > 0) add(length, {offset(), length}, nullptr);
-    from_ = index;
-}
-
 // Passes bytes of the window that have been told of, and what is left out among them.
 void TextWindow::Sources::pass(std::size_t index) {
-    while (gap_end_ <= index) {
-        left_out_ += window_.gaps_[n_gaps_].length;
-        ++n_gaps_;
-        find_next_gap();
-    }
+    for (; is_gap_up_to(index); ++next_gap_) left_out_ += next_gap_->length;
     from_ = index;
 }
 

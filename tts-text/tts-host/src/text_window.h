@@ -82,42 +82,13 @@ class TextWindow {
     // consumed.
     std::size_t source_offset(const char* at) const;
 
-    // Lists what the bytes of a sentence stand for, from `text()` on: in order, and before the
-    // window moves on.
-    class Sources {
-      public:
-        Sources(const TextWindow& window, std::vector<SourcePiece>& pieces)
-            : window_(window), pieces_(pieces), from_(window.begin_), left_out_(window.left_out_) {
-            find_next_gap();
-        }
+    class Sources;
 
-        // The sentence has a copy of what stands in the window up to there.
-        void copied_up_to(const char* end);
-
-        // It has `length` other bytes for this piece of the window.
-        void replaced(std::string_view source, std::size_t length);
-
-        // It has `length` bytes more, for nothing.
-        void added(std::size_t length) { add(length, {offset(), 0}, nullptr); }
-
-      private:
-        void add(std::size_t length, TextRange source, const char* rule) {
-            pieces_.push_back({at_, length, source, rule});
-            at_ += length;
-        }
-        void find_next_gap();
-        void copy_up_to(std::size_t index);
-        void pass(std::size_t index);
-        std::size_t offset() const { return window_.origin_ + from_ + left_out_; }
-
-        const TextWindow& window_;
-        std::vector<SourcePiece>& pieces_;
-        std::size_t from_;        // the next byte of the buffer
-        std::size_t at_ = 0;      // the next byte of the sentence
-        std::size_t left_out_;    // bytes left out before the next
-        std::size_t n_gaps_ = 0;  // passed, of those after what has been consumed
-        std::size_t gap_end_;     // of the next one, in the buffer; above its size if there is none
-    };
+    // Whether all from `text()` up to there stands in the text like that; then `from` is where.
+    bool is_copied_up_to(const char* end, std::size_t& from) const {
+        from = origin_ + begin_ + left_out_;
+        return prefix_ == 0 && (gaps_.empty() || gaps_.front().at > position(end));
+    }
 
     // What was found in what has been fed, in order; the reader takes them off.
     std::deque<Diagnostic>& findings() { return findings_; }
@@ -131,6 +102,9 @@ class TextWindow {
     static constexpr std::size_t CAPACITY = std::size_t{4} * SZ_TEXT_MAX_LEN;
 
     std::string_view rest() const { return text_.substr(next_); }
+    std::size_t position(const char* at) const {
+        return origin_ + static_cast<std::size_t>(at - buffer_);
+    }
     std::size_t room() const { return CAPACITY - end_; }
     std::size_t find_from_here(char c, std::size_t& memo) const;
 
@@ -172,6 +146,58 @@ class TextWindow {
     std::size_t next_nul_ = 0;
 
     std::size_t not_spoken_end_ = 0;  // of the last stretch that was reported, in the text
+};
+
+// Lists what the bytes of a sentence stand for, from `text()` on: in order, and before the
+// window moves on.
+class TextWindow::Sources {
+  public:
+    Sources(const TextWindow& window, std::vector<SourcePiece>& pieces)
+        : window_(window),
+          pieces_(pieces),
+          from_(window.begin_),
+          left_out_(window.left_out_),
+          next_gap_(window.gaps_.begin()) {}
+
+    // The sentence has a copy of what stands in the window up to there.
+    void copied_up_to(const char* end) {
+        const auto index = static_cast<std::size_t>(end - window_.buffer_);
+        if (from_ < window_.begin_ + window_.prefix_) pass_prefix(index);
+        while (is_gap_up_to(index)) pass_gap();
+        copy_up_to(index);
+    }
+
+    // It has `length` other bytes for this piece of the window.
+    void replaced(std::string_view source, std::size_t length);
+
+    // It has `length` bytes more, for nothing.
+    void added(std::size_t length) { add(length, {offset(), 0}, nullptr); }
+
+  private:
+    void add(std::size_t length, TextRange source, const char* rule) {
+        pieces_.push_back({at_, length, source, rule});
+        at_ += length;
+    }
+    bool is_gap_up_to(std::size_t index) const {
+        return next_gap_ != window_.gaps_.end() && next_gap_->at <= window_.origin_ + index;
+    }
+    // Nothing is left out before that.
+    void copy_up_to(std::size_t index) {
+        const std::size_t length = index - from_;
+        if (length > 0) add(length, {offset(), length}, nullptr);
+        from_ = index;
+    }
+    void pass_prefix(std::size_t index);
+    void pass_gap();
+    void pass(std::size_t index);
+    std::size_t offset() const { return window_.origin_ + from_ + left_out_; }
+
+    const TextWindow& window_;
+    std::vector<SourcePiece>& pieces_;
+    std::size_t from_;      // the next byte of the buffer
+    std::size_t at_ = 0;    // the next byte of the sentence
+    std::size_t left_out_;  // bytes left out before the next
+    std::deque<Gap>::const_iterator next_gap_;
 };
 
 }  // namespace kavi::host

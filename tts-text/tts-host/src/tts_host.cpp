@@ -82,7 +82,7 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
 
     // While it is handed over, and before the window moves on.
     const std::vector<SourcePiece>& pieces() override;
-    const std::vector<WordPlace>& words() override;
+    const WordPlace* words() override;
 
     mem_stack_handle arena_;
     void (*destroy_)(mem_stack_handle);
@@ -97,8 +97,8 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     const char* rest_ = nullptr;                           // in the window, after that
     std::vector<Diagnostic> diagnostics_;                  // of that
     host::ReadingPlaces reading_places_;
-    tn::TextEvents events_;  // in the speakable text
-    std::vector<WordPlace> places_;
+    tn::TextEvents events_;                            // in the speakable text
+    WordPlace places_[tn::TextEvents::WORDS_MAX + 1];  // of its records
     bool are_pieces_known_ = false;
     bool are_words_known_ = false;
     char normalized_[SZ_TEXT_MAX_LEN] = {};
@@ -242,14 +242,16 @@ const std::vector<SourcePiece>& TtsHost::State::pieces() {
     if (!are_pieces_known_) {
         source_.find_pieces(window_, *cutter_);
         if (rewriter_ != nullptr) source_.find_as_written(rewritten_);
+        are_pieces_known_ = true;
     }
-    are_pieces_known_ = true;
     return source_.pieces();
 }
 
-const std::vector<WordPlace>& TtsHost::State::words() {
-    if (!are_words_known_) reading_places_.find_places(pieces(), events_, places_);
-    are_words_known_ = true;
+const WordPlace* TtsHost::State::words() {
+    if (!are_words_known_) {
+        reading_places_.find_places(pieces(), events_, places_);
+        are_words_known_ = true;
+    }
     return places_;
 }
 

@@ -26,12 +26,14 @@ struct TextEvent {
 // several.
 class TextEvents {
   public:
+    static constexpr std::size_t WORDS_MAX = SZ_TEXT_MAX_LEN / 2 + 1;
+
     // cppcheck-suppress uninitMemberVar ; of the events, those added are set
     TextEvents() { clear(); }
 
     void clear() {
         end_ = events_;
-        full_at_ = events_ + CAPACITY;
+        full_at_ = events_ + WORDS_MAX - 1;
         n_words_ = 0;
         characters_end_ = characters_;
     }
@@ -52,14 +54,13 @@ class TextEvents {
     const TextEvent* end() const { return end_; }
 
   private:
-    static constexpr std::size_t CAPACITY = SZ_TEXT_MAX_LEN / 2;
     static constexpr std::size_t CHARACTERS = 2048;
 
     TextEvent* end_;
     TextEvent* full_at_;
     int n_words_;
     char* characters_end_;
-    TextEvent events_[CAPACITY + 1];
+    TextEvent events_[WORDS_MAX];
     char characters_[CHARACTERS];  // of words put together
 };
 

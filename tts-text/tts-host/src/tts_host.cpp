@@ -24,6 +24,7 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
   public:
+    // cppcheck-suppress uninitMemberVar ; of the places, those of a sentence's words are set
     State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
         : arena_(arena), destroy_(destroy) {}
     ~State() { destroy_(arena_); }

@@ -9,6 +9,8 @@
 #include "calls.h"
 #include "corpus.h"
 #include "peers.h"
+#include "tts_everyday.h"
+#include "tts_lexicon.h"
 
 namespace kavi::bench {
 namespace {
@@ -131,6 +133,46 @@ void add_host(const Kind& kind) {
     }
 }
 
+// So many readings of a user's own: names that no text has, and for every hundredth two words of
+// which the first is in every text.
+std::string lexicon_lines(int n) {
+    std::string lines;
+    for (int i = 0; i < n; ++i) {
+        std::string name(5, 'a');
+        for (int rest = i, at = 0; at < 5; ++at, rest /= 26)
+            name[at] += static_cast<char>(rest % 26);
+        lines += (i % 100 == 0 ? "the " : "") + name + "\tthe name " + name +
+                 (i % 2 == 0 ? "\tany case\n" : "\n");
+    }
+    return lines;
+}
+
+// What comes before the calls when a user asks for it.
+void add_rewriting(const Kind& kind) {
+    const std::string name = kind.name;
+    const auto texts = paragraphs(kind, CORPUS_BYTES);
+    static Everyday everyday(nullptr);
+    everyday.set_all(true);
+    static Lexicon lexicon;
+    static Everyday by_lexicon(&lexicon);
+    static RewrittenText rewritten;
+    add(name + "/everyday", texts, [](const std::string& text) {
+        everyday.rewrite(text, rewritten);
+        return rewritten.text.size();
+    });
+    const std::string lines = lexicon_lines(100000);
+    std::string error;
+    lexicon.add("lexicon", lines, error);
+    add(name + "/lexicon", texts, [](const std::string& text) {
+        by_lexicon.rewrite(text, rewritten);
+        return rewritten.text.size();
+    });
+    add(name + "/load", {lines}, [](const std::string& text) {
+        std::string fault;
+        return Lexicon().add("lexicon", text, fault);
+    });
+}
+
 // Memory that goes back to the system comes from it cleared, page by page; that is not what is to
 // be measured.
 void keep_memory() {
@@ -149,6 +191,7 @@ int main(int argc, char** argv) {
     for (const Kind& kind : ORDINARY) add_lengths(kind);
     for (const Kind& kind : WORST) add_lengths(kind);
     add_host(ORDINARY[0]);
+    add_rewriting(ORDINARY.back());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }

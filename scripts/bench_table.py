@@ -8,9 +8,11 @@ import sys
 built = pathlib.Path(sys.argv[1])
 rate = {}  # bytes in a second
 word_ns = {}
+seconds_of = {}
 for run in json.loads((built / "times.json").read_text())["benchmarks"]:
     rate[run["name"]] = run["bytes_per_second"]
     word_ns[run["name"]] = run["cpu_time"] / max(run["words"], 1)
+    seconds_of[run["name"]] = run["cpu_time"] / 1e9
 instructions = {}  # for a byte
 for line in (built / "instructions.txt").read_text().splitlines():
     what, count, all_bytes = line.split()
@@ -66,6 +68,11 @@ for corpus in ("news", "licences"):
     goal(f"the places of all words on {corpus}, of the host layer's instructions (at most 0.1)", share, share <= 0.1)
     share = 1 - rate[f"{corpus}/places"] / rate[f"{corpus}/host"]
     print(f"        in time: {share:.2f}")
+ratio = rate["news/all"] / rate["news/everyday"]
+goal("the everyday rules on news, times the calls (at most 2)", ratio, ratio <= 2)
+goal("a lexicon of 100,000 lines on news, nanoseconds a byte (at most 10)", 1e9 / rate["news/lexicon"],
+     rate["news/lexicon"] >= 1e8)
+goal("loading it, seconds (at most 0.2)", seconds_of["news/load"], seconds_of["news/load"] <= 0.2)
 engine = 20e6 / rate["news/all"]
 for what, most in (("text", 1.4), ("words", 3), ("jsonl", 4), ("html", 5)):
     goal(f"kavi-tn on news, {what}, times the calls (at most {most})", formats[what] / engine, formats[what] <= most * engine)

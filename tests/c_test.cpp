@@ -103,10 +103,10 @@ std::string listed(const kavi::HostSentence& sentence, std::string_view text) {
         }
         all += '\n';
     }
-    for (const kavi::ExplainedRun& run : kavi::explain(sentence, text)) {
+    kavi::explain(sentence, text, [&](const kavi::ExplainedRun& run) {
         all += std::to_string(run.source.offset) + "+" + std::to_string(run.source.length) + " " +
-               run.rule + ": " + run.reading + "\n";
-    }
+               std::string(run.rule) + ": " + std::string(run.reading) + "\n";
+    });
     return all;
 }
 

@@ -82,7 +82,8 @@ TEST(Lexicon, IsNamedWithItsLineByAnExplanation) {
     host.read(
         "Mr. 5",
         [&](const HostSentence& sentence) {
-            for (const ExplainedRun& run : explain(sentence, "Mr. 5")) rules += run.rule + "|";
+            explain(sentence, "Mr. 5",
+                    [&](const ExplainedRun& run) { rules.append(run.rule) += '|'; });
             return true;
         },
         nullptr);

@@ -4,19 +4,21 @@
 namespace kavi {
 namespace {
 
-std::string to_text(const std::vector<ExplainedRun>& runs) {
-    std::string text;
-    for (const ExplainedRun& run : runs) {
-        text += (text.empty() ? "" : " ") + std::to_string(run.source.offset);
-        for (const std::string& section : run.sections) text += "[" + section + "]";
-        text += run.reading + "(" + run.rule + ")";
-    }
-    return text;
+// Puts the runs that it is called with together to `text`.
+auto append_to(std::string& text) {
+    return [&text, any = false](const ExplainedRun& run) mutable {
+        text += (any ? " " : "") + std::to_string(run.source.offset);
+        any = true;
+        for (const std::string_view section : run.sections) ((text += '[') += section) += ']';
+        ((((text += run.reading) += '(') += run.rule) += ')');
+    };
 }
 
 TEST(Explain, RunsAsInTheTable) {
     expect_table("explanations", [](const std::string& sentence) {
-        return TableRow{sentence, to_text(explain(sentence))};
+        std::string runs;
+        explain(sentence, append_to(runs));
+        return TableRow{sentence, runs};
     });
 }
 
@@ -24,11 +26,11 @@ TEST(Explain, RunsTileTheSentenceAsItStands) {
     for (const char* table : {"explanations", "marks", "money", "clock_times", "tags", "dates"}) {
         for (const TableRow& row : read_table(table)) {
             std::string sections;
-            for (const ExplainedRun& run : explain(row[0])) {
+            explain(row[0], [&](const ExplainedRun& run) {
                 EXPECT_EQ(run.source.offset, sections.size()) << row[0];
-                for (const std::string& section : run.sections) sections += section;
+                for (const std::string_view section : run.sections) sections += section;
                 EXPECT_EQ(run.source.offset + run.source.length, sections.size()) << row[0];
-            }
+            });
             EXPECT_EQ(sections, row[0]);
         }
     }
@@ -40,7 +42,8 @@ TEST(Explain, RunsStandInTheTextAsInTheTable) {
         TtsHost().read(
             text,
             [&](const HostSentence& sentence) {
-                runs += to_text(explain(sentence, text)) + "|";
+                explain(sentence, text, append_to(runs));
+                runs += '|';
                 return true;
             },
             nullptr);
@@ -49,10 +52,17 @@ TEST(Explain, RunsStandInTheTextAsInTheTable) {
 }
 
 TEST(Explain, StopsWhereTheOutputIsFull) {
-    EXPECT_TRUE(explain("").empty());
-    const std::vector<ExplainedRun> runs = explain(std::string(1000, '?'));
-    EXPECT_EQ(runs.size(), 410U);  // ten characters each
-    EXPECT_EQ(runs.back().rule, "output full");
+    std::string last;
+    int n = 0;
+    const auto take = [&](const ExplainedRun& run) {
+        last = run.rule;
+        ++n;
+    };
+    explain("", take);
+    EXPECT_EQ(n, 0);
+    explain(std::string(1000, '?'), take);
+    EXPECT_EQ(n, 410);  // ten characters each
+    EXPECT_EQ(last, "output full");
 }
 
 }  // namespace

@@ -115,9 +115,10 @@ Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wan
         words.push_back(word_of(sentence.records[i], sentence.places.of_record(i), code_points));
     }
     if (!wants_runs) return;
-    for (const ExplainedRun& run : explain(sentence, text)) {
-        runs.push_back({place_of(run.source, code_points), run.rule, run.reading});
-    }
+    explain(sentence, text, [&](const ExplainedRun& run) {
+        runs.push_back(
+            {place_of(run.source, code_points), std::string(run.rule), std::string(run.reading)});
+    });
 }
 
 void add_results(py::module_& module) {

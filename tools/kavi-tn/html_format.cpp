@@ -92,12 +92,12 @@ class SentenceWriter {
     void write_row() {
         out_ << "<div>";
         write_head(sentence_.records[0]);
-        for (const ExplainedRun& run : explain(sentence_, place_.text)) {
+        explain(sentence_, place_.text, [&](const ExplainedRun& run) {
             write_left_out(run.source.offset);
             write_run(run);
             at_ = std::max(at_, run.source.offset + run.source.length);
             write_numbers_of_findings(at_);
-        }
+        });
         write_left_out(sentence_.source.offset + sentence_.source.length);
         write_numbers_of_findings(place_.text.size());
         out_ << "</div>";

@@ -214,17 +214,17 @@ class JsonFormat : public Format {
 
     void write_runs(const Place& place, const HostSentence& sentence) {
         line_.array([&] {
-            for (const ExplainedRun& run : explain(sentence, place.text)) {
+            explain(sentence, place.text, [&](const ExplainedRun& run) {
                 line_.object([&] {
                     line_.range(run.source);
                     line_.field("rule", run.rule);
                     line_.key("sections");
                     line_.array([&] {
-                        for (const std::string& section : run.sections) line_.text(section);
+                        for (const std::string_view section : run.sections) line_.text(section);
                     });
                     line_.field("reading", run.reading);
                 });
-            }
+            });
         });
     }
 

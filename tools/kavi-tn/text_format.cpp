@@ -174,17 +174,16 @@ class ExplainFormat : public Format {
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
         table_.clear();
-        for (const ExplainedRun& run : explain(sentence, place.text)) {
-            if (run.sections.size() == 1 && run.sections[0] == " ") continue;
+        explain(sentence, place.text, [&](const ExplainedRun& run) {
+            if (run.sections.size() == 1 && run.sections[0] == " ") return;
             table_.field() << "  ";
-            for (const std::string& section : run.sections) {
+            for (const std::string_view section : run.sections) {
                 table_.field() << '[' << section << ']';
             }
             table_.end_field();
             table_.add(run.rule);
-            const std::string_view reading = run.reading;
-            table_.add(reading.substr(0, reading.find_last_not_of(' ') + 1));
-        }
+            table_.add(run.reading.substr(0, run.reading.find_last_not_of(' ') + 1));
+        });
         table_.append_to(out);
     }
 

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <vector>
+
 #include "reader.h"
 #include "tts_explain.h"
 #include "tts_names.h"
@@ -43,13 +46,14 @@ kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::u
     copy.words = words + 1;
     copy.n_words = n_records - 1;
     if ((wanted & KAVI_RUNS) == 0) return copy;
-    const std::vector<ExplainedRun> explained = explain(sentence, text);
-    auto* runs = pool.array<kavi_run>(explained.size());
-    copy.runs = runs;
-    copy.n_runs = explained.size();
-    for (const ExplainedRun& run : explained) {
-        *runs++ = {range_of(run.source), pool.text(run.rule).data, pool.text(run.reading)};
-    }
+    std::vector<kavi_run> runs;
+    explain(sentence, text, [&](const ExplainedRun& run) {
+        runs.push_back({range_of(run.source), pool.text(run.rule).data, pool.text(run.reading)});
+    });
+    auto* kept = pool.array<kavi_run>(runs.size());
+    std::copy(runs.begin(), runs.end(), kept);
+    copy.runs = kept;
+    copy.n_runs = runs.size();
     return copy;
 }
 

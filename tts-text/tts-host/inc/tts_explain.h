@@ -3,7 +3,7 @@
 #define KAVI_TTS_EXPLAIN_H
 
 #include <cstddef>
-#include <string>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -12,26 +12,27 @@
 
 namespace kavi {
 
-// A run of sections that were read together.
+// A run of sections that were read together. It lives as long as the call that tells of it.
 struct ExplainedRun {
-    TextRange source;                   // its bytes
-    std::vector<std::string> sections;  // these, as they were cut; a character is not broken
-    std::string reading;                // what was written for them; empty for nothing
-    std::size_t reading_at;             // of that in the speakable text
-    std::string rule;                   // the rule that chose it, in the field's words
-    bool is_word;                       // read by the rule that copies a word
+    TextRange source;                        // its bytes
+    std::vector<std::string_view> sections;  // these, as they were cut; a character is not broken
+    std::string_view reading;                // what was written for them; empty for nothing
+    std::size_t reading_at;                  // of that in the speakable text
+    std::string_view rule;                   // the rule that chose it, in the field's words
+    bool is_word;                            // read by the rule that copies a word
 };
+using RunHandler = std::function<void(const ExplainedRun&)>;
 
-// The runs of one sentence as eng_text_normalize wrote it (at most 4095 bytes), in order: together
-// they are the sentence as it stands, or as much of it as fits the engine's output. Their sources
-// are places in `normalized`.
-std::vector<ExplainedRun> explain(std::string_view normalized);
+// Calls `on_run` with the runs of one sentence as eng_text_normalize wrote it (at most 4095 bytes),
+// in order: together they are the sentence as it stands, or as much of it as fits the engine's
+// output. Their sources are places in `normalized`.
+void explain(std::string_view normalized, const RunHandler& on_run);
 
 // The same with places in `text`, which the sentence was read from. An abbreviation is one run, by
 // the rule "abbreviation", with what was written in the text for its section; so is what a rewriter
 // has rewritten, by its rule, with the file and line that say so. A tag that closes or
 // opens a span where the text was cut has an empty source; what was left out is in none.
-std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view text);
+void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run);
 
 }  // namespace kavi
 

@@ -17,7 +17,7 @@ namespace kavi {
 
 struct HostSentence {
     TextRange source;                  // begins where that of the last sentence ended
-    std::string_view normalized;       // what eng_text_normalize made of it
+    std::string_view normalized;       // what eng_text_normalize made of it; NUL-terminated
     std::string_view speakable;        // what eng_text_tokenize made of that; NUL-terminated
     const UtteranceSyllable* records;  // what eng_text_to_utterance_syllable made of that
     int n_records;

@@ -1,6 +1,7 @@
 #include "tts_explain.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "for_host_layer.h"
 
@@ -52,10 +53,15 @@ constexpr bool are_in_order() {
 }
 static_assert(are_in_order());
 
-const char* name_of(const SectionDispatcher& step, std::string_view written) {
+const char* name_of(const SectionDispatcher& step, bool is_written) {
     if (step.outcome() == Outcome::full) return "output full";
-    const bool incomplete = step.outcome() == Outcome::ended && written.empty();
+    const bool incomplete = step.outcome() == Outcome::ended && !is_written;
     return incomplete ? "incomplete, not read" : RULE_NAMES[static_cast<int>(step.rule())].name;
+}
+
+// Two views of one text, the second directly after the first.
+std::string_view joined(std::string_view first, std::string_view second) {
+    return {first.data(), first.size() + second.size()};
 }
 
 // Whether the run is bytes outside ASCII and `section` goes on with a character of theirs.
@@ -72,9 +78,9 @@ void add_sections(const SectionDispatcher& step, ExplainedRun& run) {
         const std::string_view section = SectionWindow::source(s);
         run.source.length += section.size();
         if (!run.sections.empty() && continues_character(run, section)) {
-            run.sections.back() += section;
+            run.sections.back() = joined(run.sections.back(), section);
         } else {
-            run.sections.emplace_back(section);
+            run.sections.push_back(section);
         }
         if (s == step.last()) break;
     }
@@ -87,70 +93,102 @@ bool goes_on(const SectionDispatcher& step, const ExplainedRun& run) {
            continues_character(run, SectionWindow::source(step.first()));
 }
 
-// The rule that has rewritten what stands at `at` of the sentence; empty for none.
-std::string rewriting_rule(const HostSentence& sentence, std::size_t at) {
-    for (const SourcePiece& piece : sentence.places.pieces()) {
-        if (at < piece.at || at >= piece.at + piece.length || piece.rule == nullptr) continue;
-        if (piece.file == nullptr) return piece.rule;
-        return piece.rule + (" " + std::string(piece.file) + ":") +
-               std::to_string(piece.line_number);
-    }
-    return {};
-}
-
-// Whether a run shares source with the one before it, as the words of an abbreviation do.
-bool overlaps(const TextRange& source, const ExplainedRun& before) {
-    return source.length > 0 && source.offset < before.source.offset + before.source.length;
-}
-
-}  // namespace
-
-std::vector<ExplainedRun> explain(std::string_view normalized) {
-    const std::string sentence(normalized);  // a NUL follows it
-    char speakable[SZ_TEXT_MAX_LEN];
+// Calls `on_run` with each run of a sentence, which reads to `speakable`, SZ_TEXT_MAX_LEN bytes. It
+// may take what the run holds, and that is good as long as these two are.
+template <typename OnRun>
+void walk(const char* sentence, char* speakable, OnRun on_run) {
     speakable[0] = '\0';
     tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
     tn::TagEnds tag_ends;
     SectionWindow window(SectionWindow::Reach::text_end, tag_ends);
-    SectionDispatcher dispatcher(sentence.c_str(), window, output);
-    std::vector<ExplainedRun> runs;
+    SectionDispatcher dispatcher(sentence, window, output);
+    ExplainedRun run = {};
     while (dispatcher.next()) {
-        const auto reading_at = static_cast<std::size_t>(dispatcher.output_before());
-        if (runs.empty() || !goes_on(dispatcher, runs.back())) {
+        if (run.sections.empty() || !goes_on(dispatcher, run)) {
+            if (!run.sections.empty()) on_run(run);
             const char* begin = SectionWindow::source(dispatcher.first()).data();
-            runs.push_back({{static_cast<std::size_t>(begin - sentence.c_str()), 0},
-                            {},
-                            {},
-                            reading_at,
-                            name_of(dispatcher, speakable + reading_at),
-                            dispatcher.rule() == ReadingRule::word});
+            run.source = {static_cast<std::size_t>(begin - sentence), 0};
+            run.sections.clear();
+            run.reading_at = static_cast<std::size_t>(dispatcher.output_before());
+            run.rule = name_of(dispatcher, output.length() > dispatcher.output_before());
+            run.is_word = dispatcher.rule() == ReadingRule::word;
         }
-        add_sections(dispatcher, runs.back());
-        runs.back().reading += speakable + reading_at;
+        add_sections(dispatcher, run);
+        const auto length = static_cast<std::size_t>(output.length());
+        run.reading = {speakable + run.reading_at, length - run.reading_at};
     }
-    return runs;
+    if (!run.sections.empty()) on_run(run);
 }
 
-std::vector<ExplainedRun> explain(const HostSentence& sentence, std::string_view text) {
-    std::vector<ExplainedRun> runs;
-    for (ExplainedRun& run : explain(sentence.normalized)) {
+// The runs of a sentence as runs of the text that it was read from.
+class RunsOfText {
+  public:
+    RunsOfText(const HostSentence& sentence, std::string_view text, const RunHandler& on_run)
+        : sentence_(sentence),
+          text_(text),
+          on_run_(on_run),
+          piece_(sentence.places.pieces().data()),
+          last_piece_(&sentence.places.pieces().back()) {}
+
+    // The next run of the sentence; takes what it holds.
+    void add(ExplainedRun& run) {
         const std::size_t at = run.source.offset;
-        run.source = sentence.places.source_of(at, run.source.length);
-        if (!runs.empty() && overlaps(run.source, runs.back())) {
-            ExplainedRun& before = runs.back();
+        run.source = sentence_.places.source_of(at, run.source.length);
+        if (any_ && run.source.length > 0 &&
+            run.source.offset < run_.source.offset + run_.source.length) {
+            // They share source, as the words of an abbreviation do.
             const std::size_t end = run.source.offset + run.source.length;
-            before.source.length = std::max(before.source.length, end - before.source.offset);
-            before.reading += run.reading;
-            continue;
+            run_.source.length = std::max(run_.source.length, end - run_.source.offset);
+            run_.reading = joined(run_.reading, run.reading);
+            return;
         }
-        if (std::string rule = rewriting_rule(sentence, at); !rule.empty()) {
-            run.rule = std::move(rule);
-            run.is_word = false;
-            run.sections = {std::string(text.substr(run.source.offset, run.source.length))};
-        }
-        runs.push_back(std::move(run));
+        end();
+        std::swap(run_, run);
+        any_ = true;
+        rewrite(at);
     }
-    return runs;
+
+    void end() {
+        if (any_) on_run_(run_);
+    }
+
+  private:
+    // What stands at `at` of the sentence may have been rewritten by a rule.
+    void rewrite(std::size_t at) {
+        while (piece_ != last_piece_ && piece_->at + piece_->length <= at) ++piece_;
+        if (at < piece_->at || piece_->rule == nullptr) return;
+        run_.rule = piece_->rule;
+        if (piece_->file != nullptr) {
+            rule_ = piece_->rule + (" " + std::string(piece_->file) + ":") +
+                    std::to_string(piece_->line_number);
+            run_.rule = rule_;
+        }
+        run_.is_word = false;
+        run_.sections.assign(1, text_.substr(run_.source.offset, run_.source.length));
+    }
+
+    const HostSentence& sentence_;
+    std::string_view text_;
+    const RunHandler& on_run_;
+    const SourcePiece* piece_;
+    const SourcePiece* last_piece_;
+    ExplainedRun run_ = {};  // the last one, which the next may go on
+    bool any_ = false;
+    std::string rule_;  // of that, with the line that says so
+};
+
+}  // namespace
+
+void explain(std::string_view normalized, const RunHandler& on_run) {
+    char speakable[SZ_TEXT_MAX_LEN];
+    walk(std::string(normalized).c_str(), speakable, on_run);
+}
+
+void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run) {
+    char speakable[SZ_TEXT_MAX_LEN];
+    RunsOfText runs(sentence, text, on_run);
+    walk(sentence.normalized.data(), speakable, [&](ExplainedRun& run) { runs.add(run); });
+    runs.end();
 }
 
 }  // namespace kavi

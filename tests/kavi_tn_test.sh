@@ -73,6 +73,22 @@ expect 'more parts than bytes' "$("$tool" --plain short)" \
     "$(for i in {1..15}; do "$tool" --plain --part "$i/15" short; done)"
 expect 'a part of standard input, a file' "$("$tool" --plain long 2>/dev/null | md5sum)" \
     "$(for i in 1 2; do "$tool" --plain --part "$i/2" <long 2>/dev/null; done | md5sum)"
+# A line of more than a megabyte, with others around it, is read like short ones.
+seq 60000 | sed 's/.*/It is the & of May now./' >sentences
+{ cat short && echo && tr '\n' ' ' <sentences && printf '</poem>\nlast\n' && cat short; } >longer
+{ cat short && echo && cat sentences && echo 'last' && cat short; } >shorter
+expect 'a long line' "$("$tool" shorter | md5sum)" "$("$tool" longer 2>/dev/null | md5sum)"
+expect 'a finding at the end of it' "longer:6: byte $(wc -c <sentences): " \
+    "$(said "$tool" longer | grep -o '^.*: byte [0-9]*: ')"
+expect 'lines after it' '6 7 10 12' \
+    "$("$tool" --format jsonl --fields line longer 2>/dev/null | grep -o '[0-9]*' | sort -nu | tail -n 4 | xargs)"
+for n in 2 7; do
+    expect "$n parts with it" "$("$tool" longer 2>/dev/null | md5sum)" \
+        "$(for ((i = 1; i <= n; ++i)); do "$tool" --part "$i/$n" longer 2>/dev/null; done | md5sum)"
+done
+expect 'no room for it' 'kavi-tn: longer: cannot be read: a long text needs a temporary file: File too large' \
+    "$(trap '' XFSZ; ulimit -f 900; said "$tool" longer)"
+
 expect 'what SSML has no word for, once' 'kavi-tn: SSML has nothing for "poem=a"; it is left out' \
     "$("$tool" --format ssml -t '<poem=a>b c</poem>. <poem=a>d</poem>' 2>&1 >/dev/null)"
 expect 'marks of SSML' '<s><mark name="0-1"/>a</s>' "$("$tool" --format ssml --marks -t a | sed -n 3p)"
@@ -222,7 +238,9 @@ expect 'progress and colours' 'True True True True True True True True True Fals
 limited() { (ulimit -v 600000; "$@"); }
 if [ -z "${KAVI_TEST_TEXTS:-}" ] && limited "$tool" --version >/dev/null 2>&1; then # a sanitizer alone takes more
     expect 'no memory for a line' 'kavi-tn: not enough memory' \
-        "$(head -c 100000000 /dev/zero | tr '\0' 'a' | (ulimit -v 200000; said "$tool" -j 2))"
+        "$(head -c 100000000 /dev/zero | tr '\0' 'a' | (ulimit -d 60000; said "$tool" -j 2 --everyday))"
+    expect 'a long line in bounded memory' "$(yes 'It is 5 now.' | head -n 4000000 | "$tool" | md5sum)" \
+        "$(yes 'It is 5 now.' | head -n 4000000 | tr '\n' ' ' | (ulimit -d 60000; "$tool") | md5sum)"
     expect 'no memory for threads' 'kavi-tn: cannot start a thread: Resource temporarily unavailable' \
         "$(ulimit -v 200000; said "$tool" -j 256 corpus)"
     expect 'bounded memory' 4285715 \

@@ -49,10 +49,11 @@ std::string render(const Options& options, std::string& messages) {
     Renderer renderer(options, nullptr);
     std::string output;
     for (Block block; reader.next(block);) {
-        const Rendered rendered = renderer.render(block);
-        EXPECT_TRUE(rendered.all_read);
-        output += rendered.output;
-        for (const FindingMessage& finding : rendered.findings) messages += finding.text;
+        renderer.render(block, [&](const Rendered& piece) {
+            EXPECT_TRUE(piece.all_read);
+            output += piece.output;
+            for (const FindingMessage& finding : piece.findings) messages += finding.text;
+        });
     }
     return output;
 }
@@ -214,12 +215,13 @@ TEST_F(Files, WhatCannotBeReadIsSaidAndTheRestIsRead) {
     Renderer renderer(options, nullptr);
     Block block;
     ASSERT_TRUE(reader.next(block));
-    const Rendered failed = renderer.render(block);
-    EXPECT_FALSE(failed.all_read);
-    EXPECT_EQ(failed.failure,
-              "kavi-tn: " + folder_.string() + ": cannot be read: Is a directory\n");
+    renderer.render(block, [&](const Rendered& failed) {
+        EXPECT_FALSE(failed.all_read);
+        EXPECT_EQ(failed.failure,
+                  "kavi-tn: " + folder_.string() + ": cannot be read: Is a directory\n");
+    });
     ASSERT_TRUE(reader.next(block));
-    EXPECT_EQ(renderer.render(block).output, "a\n");
+    renderer.render(block, [&](const Rendered& read) { EXPECT_EQ(read.output, "a\n"); });
 }
 
 }  // namespace

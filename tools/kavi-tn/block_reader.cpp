@@ -14,6 +14,7 @@ namespace kavi::tool {
 namespace {
 
 constexpr std::size_t BLOCK_BYTES = std::size_t{256} * 1024;
+constexpr std::size_t LONG_TEXT = std::size_t{1024} * 1024;  // not held in memory, from there on
 
 // As std::count, but at the speed of a search, since one is far from the next.
 std::size_t count(const std::string& bytes, char c) {
@@ -41,9 +42,10 @@ bool BlockReader::next(Block& block) {
         block.bytes = options_.text;
         return true;
     }
-    while (file_ >= 0 || next_file_ < options_.files.size()) {
-        if (file_ < 0) open(options_.files[next_file_++]);
-        if (file_ >= 0 && next_of_file(block)) return true;
+    const auto is_more_of_file = [this] { return file_ >= 0 || !carry_.empty(); };
+    while (is_more_of_file() || next_file_ < options_.files.size()) {
+        if (!is_more_of_file()) open(options_.files[next_file_++]);
+        if (is_more_of_file() && next_of_file(block)) return true;
         if (failure_.empty()) continue;
         block.input = name_;
         block.number = input_number_;
@@ -61,24 +63,53 @@ bool BlockReader::next_of_file(Block& block) {
     block.first = number_;
     block.bytes.swap(carry_);
     carry_.clear();
-    for (std::size_t searched = block.bytes.size(); read_more(block.bytes);
-         searched = block.bytes.size()) {
+    for (std::size_t searched = 0; !cut_after_last_text(block.bytes, searched);) {
+        searched = block.bytes.size();
+        if (searched >= LONG_TEXT) return read_long_text(block);
+        if (!read_more(block.bytes)) break;
         if (is_new_) block.notice = first_look(block.bytes, options_);
         is_new_ = false;
-        const std::string_view read = std::string_view(block.bytes).substr(searched);
-        const std::size_t last = read.rfind(options_.delimiter);
-        if (last != std::string_view::npos) {
-            carry_ = read.substr(last + 1);
-            block.bytes.resize(searched + last + 1);
-            break;
-        }
     }
     number_ += count(block.bytes, options_.delimiter);
     return !block.bytes.empty();
 }
 
+// Leaves what is after the last delimiter for the next block. False when there is none from
+// `searched` on.
+bool BlockReader::cut_after_last_text(std::string& bytes, std::size_t searched) {
+    const std::size_t last = std::string_view(bytes).substr(searched).rfind(options_.delimiter);
+    if (last == std::string_view::npos) return false;
+    const std::size_t end = searched + last + 1;
+    carry_.assign(bytes, end, bytes.size() - end);
+    bytes.resize(end);
+    return true;
+}
+
+// The block holds the beginning of one text: makes it all of that. False when it cannot be kept.
+bool BlockReader::read_long_text(Block& block) {
+    block.long_text = std::make_unique<LongText>();
+    int error = block.long_text->append(block.bytes);
+    block.bytes.clear();
+    std::size_t end = std::string::npos;
+    for (std::string more; error == 0 && end == std::string::npos && read_more(more);
+         more.clear()) {
+        end = more.find(options_.delimiter);
+        error = block.long_text->append(std::string_view(more).substr(0, end));
+        if (end != std::string::npos) carry_ = more.substr(end + 1);
+    }
+    if (error == 0) error = block.long_text->finish();
+    if (end != std::string::npos) ++number_;
+    if (error == 0) return true;
+    block.long_text.reset();
+    failure_ = std::string("a long text needs a temporary file: ") + std::strerror(error);
+    carry_.clear();
+    close();
+    return false;
+}
+
 // Appends what there is, at least one byte. False at the end of the file, which is closed then.
 bool BlockReader::read_more(std::string& bytes) {
+    if (file_ < 0) return false;
     const std::size_t size = bytes.size();
     bytes.resize(size + BLOCK_BYTES);
     ssize_t n = 0;

@@ -2,9 +2,11 @@
 #ifndef KAVI_TOOL_BLOCK_READER_H
 #define KAVI_TOOL_BLOCK_READER_H
 
+#include <memory>
 #include <string>
 
 #include "file_part.h"
+#include "long_text.h"
 #include "options.h"
 
 namespace kavi::tool {
@@ -14,13 +16,14 @@ struct Block {
     std::size_t number = 0;  // of the input, from 1
     std::size_t first = 1;   // number of the first text in its input
     std::string bytes;       // whole texts, each but perhaps the last with its delimiter
-    std::string notice;      // of an input that is no text as it seems
-    std::string failure;     // why the input could not be read, or read on
+    std::unique_ptr<LongText> long_text;  // one text, without its delimiter, in the place of these
+    std::string notice;                   // of an input that is no text as it seems
+    std::string failure;                  // why the input could not be read, or read on
 };
 
 // Reads all inputs in order. What has come of an input is handed out as soon as it holds a whole
 // text, so that a terminal and a pipe are answered at once. A text longer than a block makes a
-// larger block.
+// larger block, and from some length on one that is not held in memory.
 class BlockReader {
   public:
     explicit BlockReader(const Options& options);
@@ -33,6 +36,8 @@ class BlockReader {
 
   private:
     bool next_of_file(Block& block);
+    bool cut_after_last_text(std::string& bytes, std::size_t searched);
+    bool read_long_text(Block& block);
     bool read_more(std::string& bytes);
     void begin_part();
     std::size_t end_of_part(const char* bytes, std::size_t n) const;

@@ -7,6 +7,7 @@
 #include <deque>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -17,8 +18,8 @@ namespace kavi::tool {
 // A block on its way: read, rendered by whichever thread is free, written in its turn.
 struct Job {
     Block block;
-    Rendered rendered;
-    bool is_rendered = false;
+    std::optional<Rendered> piece;  // the next to be written
+    bool is_rendered = false;       // no other comes after that
 };
 
 // The reader waits when there are `size` jobs.
@@ -52,6 +53,13 @@ class JobWindow {
         to_render_.pop_front();
         return job;
     }
+    // The piece that is rendered next; waits until the one before has been taken.
+    void add_piece(Job& job, Rendered piece) {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [&job] { return !job.piece.has_value(); });
+        job.piece = std::move(piece);
+        changed_.notify_all();
+    }
     void rendered(Job& job) {
         const std::lock_guard lock(mutex_);
         job.is_rendered = true;
@@ -68,22 +76,18 @@ class JobWindow {
 
     // ---- the writer ----
 
-    // The oldest job once it is rendered; null at the end, after a failure, or when `is_over` says
+    // The next piece of the oldest job; none at the end, after a failure, or when `is_over` says
     // so, which is asked now and then while the reader waits for input.
     template <typename IsOver>
-    std::unique_ptr<Job> next(IsOver is_over) {
+    std::optional<Rendered> next(IsOver is_over) {
         constexpr std::chrono::milliseconds A_WHILE(50);
         std::unique_lock lock(mutex_);
-        for (;;) {
-            if (is_over() || !failure_.empty()) return nullptr;
-            if (!in_order_.empty() && in_order_.front()->is_rendered) break;
-            if (in_order_.empty() && ended_) return nullptr;
+        while (!is_over() && failure_.empty()) {
+            if (std::optional<Rendered> piece = take_piece(); piece.has_value()) return piece;
+            if (in_order_.empty() && ended_) break;
             changed_.wait_for(lock, A_WHILE);
         }
-        std::unique_ptr<Job> job = std::move(in_order_.front());
-        in_order_.pop_front();
-        changed_.notify_all();
-        return job;
+        return std::nullopt;
     }
 
     std::string failure() {
@@ -92,6 +96,19 @@ class JobWindow {
     }
 
   private:
+    // That of the oldest job, if it is there; jobs that have no more are over.
+    std::optional<Rendered> take_piece() {
+        while (!in_order_.empty()) {
+            Job& oldest = *in_order_.front();
+            const bool is_over = oldest.is_rendered;
+            std::optional<Rendered> piece = std::exchange(oldest.piece, std::nullopt);
+            if (is_over) in_order_.pop_front();
+            if (is_over || piece.has_value()) changed_.notify_all();
+            if (!is_over || piece.has_value()) return piece;
+        }
+        return std::nullopt;
+    }
+
     std::size_t size_;
     std::mutex mutex_;
     std::condition_variable changed_;

@@ -9,8 +9,10 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <optional>
 #include <set>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "findings_report.h"
@@ -47,7 +49,9 @@ class Run {
         } catch (const std::exception& error) {
             fail(std::string("cannot start a thread: ") + error.what());
         }
-        while (const std::unique_ptr<Job> job = window_.next(interrupting_signal)) write(*job);
+        while (const std::optional<Rendered> piece = window_.next(interrupting_signal)) {
+            write(*piece);
+        }
         progress_.clear();
         if (interrupting_signal() != 0) leave_interrupted();
         if (const std::string failure = window_.failure(); !failure.empty()) fail(failure);
@@ -89,21 +93,22 @@ class Run {
             start([this] {
                 Renderer renderer(options_, readings_.everyday());
                 while (Job* job = window_.take()) {
-                    job->rendered = renderer.render(job->block);
+                    renderer.render(job->block, [&](Rendered piece) {
+                        window_.add_piece(*job, std::move(piece));
+                    });
                     window_.rendered(*job);
                 }
             });
         }
     }
 
-    void write(const Job& job) {
-        const Rendered& rendered = job.rendered;
+    void write(const Rendered& rendered) {
         const std::string messages =
             rendered.notice + findings_.take(rendered.findings) + rendered.failure;
         if (!messages.empty()) progress_.clear();
         write_messages(messages);
         require_written(output_.write(rendered.output));
-        progress_.advance(job.block.bytes.size());
+        progress_.advance(rendered.bytes);
         lost_.insert(rendered.lost.begin(), rendered.lost.end());
         texts_ += rendered.texts;
         all_read_ = all_read_ && rendered.all_read;

@@ -1,6 +1,6 @@
 #include "renderer.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "names.h"
 
@@ -11,46 +11,71 @@ Renderer::Renderer(const Options& options, const Everyday* everyday)
     host_.rewrite_by(everyday);
 }
 
-Rendered Renderer::render(const Block& block) {
-    Rendered rendered;
+void Renderer::render(const Block& block, const Take& take) {
+    piece_ = {};
+    taken_ = 0;
     const std::string name = "kavi-tn: " + shown(block.input) + ": ";
-    if (!block.notice.empty()) rendered.notice = name + block.notice + "\n";
-    std::string_view rest = block.bytes;
-    for (std::size_t line = block.first; !rest.empty(); ++line) {
-        const std::string_view text = rest.substr(0, rest.find(delimiter_));
-        render_text({block.input, block.number, line, 0, text}, rendered);
-        ++rendered.texts;
-        rest.remove_prefix(std::min(text.size() + 1, rest.size()));
+    if (!block.notice.empty()) piece_.notice = name + block.notice + "\n";
+    Place place = {block.input, block.number, block.first, 0, {}};
+    std::size_t size = block.bytes.size();
+    if (block.long_text != nullptr) {
+        place.text = block.long_text->text();
+        size = place.text.size();
+        render_text(place, [&](std::size_t begin, std::size_t end) {
+            block.long_text->forget(begin);
+            hand_over_if_large(end, take);
+        });
     }
-    rendered.lost = format_->take_lost();
+    for (std::size_t at = 0; at < block.bytes.size(); ++place.line) {
+        const std::string_view rest = std::string_view(block.bytes).substr(at);
+        place.text = rest.substr(0, rest.find(delimiter_));
+        render_text(place,
+                    [&](std::size_t, std::size_t end) { hand_over_if_large(at + end, take); });
+        at += place.text.size() + 1;
+    }
+    piece_.lost = format_->take_lost();
     if (!block.failure.empty()) {
-        rendered.failure = name + "cannot be read: " + block.failure + "\n";
-        rendered.all_read = false;
+        piece_.failure = name + "cannot be read: " + block.failure + "\n";
+        piece_.all_read = false;
     }
-    return rendered;
+    piece_.bytes = size - taken_;
+    take(std::move(piece_));
 }
 
-void Renderer::render_text(const Place& text, Rendered& rendered) {
-    Place place = text;
+// After each sentence calls `after` with where in the text it begins and ends.
+template <typename After>
+void Renderer::render_text(Place place, After after) {
     diagnostics_.clear();
     const bool all_read = host_.read(
-        text.text,
+        place.text,
         [&](const HostSentence& sentence) {
             ++place.sentence;
-            format_->write(place, sentence, diagnostics_, rendered.output);
+            format_->write(place, sentence, diagnostics_, piece_.output);
             diagnostics_.clear();
+            after(sentence.source.offset, sentence.source.offset + sentence.source.length);
             return true;
         },
         [&](const Diagnostic& diagnostic) {
             diagnostics_.push_back(diagnostic);
-            rendered.findings.push_back(
-                {diagnostic.finding, shown(text.input) + ":" + std::to_string(text.line) +
+            piece_.findings.push_back(
+                {diagnostic.finding, shown(place.input) + ":" + std::to_string(place.line) +
                                          ": byte " + std::to_string(diagnostic.offset) + ": " +
-                                         describe(diagnostic, text.text) + "\n"});
+                                         describe(diagnostic, place.text) + "\n"});
             return true;
         });
-    format_->end_text(place, diagnostics_, rendered.output);
-    rendered.all_read = rendered.all_read && all_read;
+    format_->end_text(place, diagnostics_, piece_.output);
+    piece_.all_read = piece_.all_read && all_read;
+    ++piece_.texts;
+}
+
+// Hands over what there is, which stands for the block up to `end`.
+void Renderer::hand_over_if_large(std::size_t end, const Take& take) {
+    constexpr std::size_t OUTPUT_BYTES = std::size_t{4} << 20U;
+    constexpr std::size_t FINDINGS = 10000;
+    if (piece_.output.size() < OUTPUT_BYTES && piece_.findings.size() < FINDINGS) return;
+    piece_.bytes = end - taken_;
+    taken_ = end;
+    take(std::exchange(piece_, {}));
 }
 
 }  // namespace kavi::tool

@@ -2,6 +2,7 @@
 #ifndef KAVI_TOOL_RENDERER_H
 #define KAVI_TOOL_RENDERER_H
 
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -13,9 +14,11 @@
 
 namespace kavi::tool {
 
+// What comes of a block, or of a piece of it.
 struct Rendered {
     std::string output;  // whole lines
     std::vector<FindingMessage> findings;
+    std::size_t bytes = 0;  // of the block, that it stands for
     std::size_t texts = 0;  // read
     bool all_read = true;
     std::set<std::string> lost;  // what the format has no word for
@@ -26,15 +29,22 @@ struct Rendered {
 // One renderer serves one thread. The result depends on the block alone.
 class Renderer {
   public:
+    using Take = std::function<void(Rendered)>;
+
     // `everyday` rewrites the texts; null: they are read as they are. It stays the caller's.
     Renderer(const Options& options, const Everyday* everyday);
 
-    Rendered render(const Block& block);
+    // Calls `take` with the pieces of the result in order, one for a block of ordinary size.
+    void render(const Block& block, const Take& take);
 
   private:
-    void render_text(const Place& text, Rendered& rendered);
+    template <typename After>
+    void render_text(Place place, After after);
+    void hand_over_if_large(std::size_t end, const Take& take);
 
     char delimiter_;
+    Rendered piece_;         // the one at hand
+    std::size_t taken_ = 0;  // bytes of the block that the pieces before it stand for
     TtsHost host_;
     std::unique_ptr<Format> format_;
     std::vector<Diagnostic> diagnostics_;  // of the sentence to come

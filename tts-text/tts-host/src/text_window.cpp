@@ -125,9 +125,13 @@ bool TextWindow::fill(bool& moved) {
     return length() > prefix_;
 }
 
-// The next `c` from next_ on, or the end of the text; `memo` is where the last search ended.
-std::size_t TextWindow::find_from_here(char c, std::size_t& memo) const {
-    if (memo < next_ || memo == 0) memo = std::min(text_.find(c, next_), text_.size());
+// The next `c` from next_ on, or how far there is none: so many bytes, or to the end of the text.
+// `memo` is where the last search ended.
+std::size_t TextWindow::find_from_here(char c, std::size_t most, std::size_t& memo) const {
+    if (memo <= next_) {
+        const std::string_view here = rest().substr(0, most);
+        memo = next_ + std::min(here.find(c), here.size());
+    }
     return memo;
 }
 
@@ -140,8 +144,8 @@ bool TextWindow::feed() {
 }
 
 bool TextWindow::feed_run() {
-    const std::size_t end =
-        std::min(find_from_here('<', next_tag_), find_from_here('\0', next_nul_));
+    const std::size_t end = std::min(find_from_here('<', CAPACITY, next_tag_),
+                                     find_from_here('\0', CAPACITY, next_nul_));
     const std::string_view run = text_.substr(next_, std::min(end - next_, room()));
     report_not_spoken(run);
     return copy(run);
@@ -166,7 +170,7 @@ bool TextWindow::feed_tag() {
     const std::string_view here = rest();
     const tn::MarkupTag* row = tn::find_markup_tag(here);
     if (row == nullptr) return copy(here.substr(0, 1));
-    const std::size_t end = find_from_here('>', next_tag_end_);
+    const std::size_t end = find_from_here('>', std::string_view::npos, next_tag_end_);
     if (end == text_.size()) return feed_as_text(Finding::tag_never_closed, true);
     const std::string_view tag = here.substr(0, end + 1 - next_);
     switch (row->kind) {

@@ -106,7 +106,7 @@ class TextWindow {
         return origin_ + static_cast<std::size_t>(at - buffer_);
     }
     std::size_t room() const { return CAPACITY - end_; }
-    std::size_t find_from_here(char c, std::size_t& memo) const;
+    std::size_t find_from_here(char c, std::size_t most, std::size_t& memo) const;
 
     // ---- each takes one piece of the text, or answers false when it needs more room ----
     bool feed();

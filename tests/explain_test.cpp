@@ -51,6 +51,20 @@ TEST(Explain, RunsStandInTheTextAsInTheTable) {
     });
 }
 
+TEST(Explain, TellsWordsThatAreCopied) {
+    std::string words;
+    TtsHost().read(
+        "Dr. Zed has 5",
+        [&](const HostSentence& sentence) {
+            explain(sentence, "Dr. Zed has 5", [&](const ExplainedRun& run) {
+                if (run.is_word) (words += run.reading) += '|';
+            });
+            return true;
+        },
+        nullptr);
+    EXPECT_EQ(words, "Zed |has |");
+}
+
 TEST(Explain, StopsWhereTheOutputIsFull) {
     std::string last;
     int n = 0;

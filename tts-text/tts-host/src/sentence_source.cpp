@@ -17,7 +17,7 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
 TextRange PieceCursor::source_of_any(const SourcePiece* piece, const SourcePiece* last,
                                      std::size_t at, std::size_t length) {
     const TextRange begin = source_of_byte(*piece, at);
-    if (length <= 1) return begin;
+    if (length == 0) return begin;
     const std::size_t end_at = at + length - 1;
     while (piece != last && piece[1].at <= end_at) ++piece;
     const TextRange end = source_of_byte(*piece, end_at);
@@ -26,11 +26,11 @@ TextRange PieceCursor::source_of_any(const SourcePiece* piece, const SourcePiece
 
 void SentenceSource::find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter) {
     pieces_.clear();
-    std::size_t from = 0;
-    if (replacements_.empty() && window.is_copied_up_to(cutter.end(), from) &&
+    const std::optional<std::size_t> from = window.copied_from(cutter.end());
+    if (from.has_value() && replacements_.empty() &&
         cutter.length() == cutter.length_before_closing()) {  // as most sentences
         const auto length = static_cast<std::size_t>(cutter.length());
-        pieces_.push_back({0, length, {from, length}, nullptr});
+        pieces_.push_back({0, length, {*from, length}, nullptr});
     } else {
         find_several(window, cutter);
     }

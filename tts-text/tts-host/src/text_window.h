@@ -3,6 +3,7 @@
 #define KAVI_HOST_TEXT_WINDOW_H
 
 #include <deque>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -84,10 +85,10 @@ class TextWindow {
 
     class Sources;
 
-    // Whether all from `text()` up to there stands in the text like that; then `from` is where.
-    bool is_copied_up_to(const char* end, std::size_t& from) const {
-        from = origin_ + begin_ + left_out_;
-        return prefix_ == 0 && (gaps_.empty() || gaps_.front().at > position(end));
+    // Where in the text all from `text()` up to there stands as it is here; nothing if it does not.
+    std::optional<std::size_t> copied_from(const char* end) const {
+        if (prefix_ != 0 || (!gaps_.empty() && gaps_.front().at <= position(end))) return {};
+        return origin_ + begin_ + left_out_;
     }
 
     // What was found in what has been fed, in order; the reader takes them off.

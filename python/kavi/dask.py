@@ -69,10 +69,20 @@ def convert(client: Any, files: Sequence[str], folder: str, parts: int,
     pathlib.Path(folder).mkdir(parents=True, exist_ok=True)
     files = [os.path.abspath(file) for file in files]
     targets = [os.path.join(os.path.abspath(folder), f"part-{number:05}") for number in range(1, parts + 1)]
-    futures = [client.submit(_part, number, parts, files, target, tuple(options), retries=_RETRIES, pure=False)
-               for number, target in enumerate(targets, 1)]
-    for done, future in enumerate(_distributed().as_completed(futures), 1):
+    waiting = [(number, parts, files, target, tuple(options)) for number, target in enumerate(targets, 1)]
+    waiting.reverse()
+    running = _distributed().as_completed()
+
+    # As many at a time as there are processors: what is submitted is given to a worker at once, and stays with it
+    # when another has nothing to do.
+    def submit() -> None:
+        while waiting and running.count() < max(1, sum(client.nthreads().values())):
+            running.add(client.submit(_part, *waiting.pop(), retries=_RETRIES, pure=False))
+
+    submit()
+    for done, future in enumerate(running, 1):
         future.result()
+        submit()
         if sys.stderr.isatty():
             print(f"\r{done} of {parts} parts", end="" if done < parts else "\n", file=sys.stderr)
     return targets
@@ -92,6 +102,8 @@ def main(arguments: Optional[Sequence[str]] = None) -> None:
     if wanted.scheduler:
         client = _distributed().Client(wanted.scheduler)
     else:
+        # A worker's profile of its own threads takes a twentieth of a processor.
+        importlib.import_module("dask.config").set({"distributed.worker.profile.enabled": False})
         cluster = _distributed().LocalCluster(n_workers=wanted.workers, threads_per_worker=1, dashboard_address=None)
         client = _distributed().Client(cluster)
     with client:

@@ -78,6 +78,7 @@ for what, most in (("text", 1.4), ("words", 3), ("jsonl", 4), ("html", 5)):
     goal(f"kavi-tn on news, {what}, times the calls (at most {most})", formats[what] / engine, formats[what] <= most * engine)
 goal("kavi-tn on news in one line, times the same in lines (at most 1.2)", formats["line"] / formats["text"],
      formats["line"] <= 1.2 * formats["text"])
+goal("kavi-tn on one line of 200 MB, MB of memory (at most 64)", formats["memory"], formats["memory"] <= 64)
 for (kind, what), cost in lengths.items():
     short, most = {"length": (256, 1.3), "builder": (100000, 1.2), "host": (10000, 1.2)}[what]
     long = max(cost)

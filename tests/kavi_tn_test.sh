@@ -87,7 +87,9 @@ for n in 2 7; do
         "$(for ((i = 1; i <= n; ++i)); do "$tool" --part "$i/$n" longer 2>/dev/null; done | md5sum)"
 done
 expect 'no room for it' 'kavi-tn: longer: cannot be read: a long text needs a temporary file: File too large' \
-    "$(trap '' XFSZ; ulimit -f 900; said "$tool" longer)"
+    "$(trap '' XFSZ; ulimit -f 1300; said "$tool" longer)"
+expect 'no temporary file' "$("$tool" shorter | md5sum)" \
+    "$(trap '' XFSZ; ulimit -f 0; "$tool" longer 2>/dev/null | md5sum)"
 
 expect 'what SSML has no word for, once' 'kavi-tn: SSML has nothing for "poem=a"; it is left out' \
     "$("$tool" --format ssml -t '<poem=a>b c</poem>. <poem=a>d</poem>' 2>&1 >/dev/null)"

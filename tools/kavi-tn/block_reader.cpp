@@ -65,7 +65,7 @@ bool BlockReader::next_of_file(Block& block) {
     carry_.clear();
     for (std::size_t searched = 0; !cut_after_last_text(block.bytes, searched);) {
         searched = block.bytes.size();
-        if (searched >= LONG_TEXT) return read_long_text(block);
+        if (searched >= LONG_TEXT && begin_long_text(block)) return read_long_text(block);
         if (!read_more(block.bytes)) break;
         if (is_new_) block.notice = first_look(block.bytes, options_);
         is_new_ = false;
@@ -85,11 +85,23 @@ bool BlockReader::cut_after_last_text(std::string& bytes, std::size_t searched) 
     return true;
 }
 
-// The block holds the beginning of one text: makes it all of that. False when it cannot be kept.
-bool BlockReader::read_long_text(Block& block) {
+// The block holds the beginning of one text: makes a long text of it. False where there are no
+// temporary files: then it is held in memory.
+bool BlockReader::begin_long_text(Block& block) {
+    if (!has_temporary_files_) return false;
     block.long_text = std::make_unique<LongText>();
-    int error = block.long_text->append(block.bytes);
-    block.bytes.clear();
+    has_temporary_files_ = block.long_text->append(block.bytes) == 0;
+    if (has_temporary_files_) {
+        std::string().swap(block.bytes);
+    } else {
+        block.long_text.reset();
+    }
+    return has_temporary_files_;
+}
+
+// Reads the rest of a long text. False when there is no room for it.
+bool BlockReader::read_long_text(Block& block) {
+    int error = 0;
     std::size_t end = std::string::npos;
     for (std::string more; error == 0 && end == std::string::npos && read_more(more);
          more.clear()) {

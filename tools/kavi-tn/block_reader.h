@@ -37,6 +37,7 @@ class BlockReader {
   private:
     bool next_of_file(Block& block);
     bool cut_after_last_text(std::string& bytes, std::size_t searched);
+    bool begin_long_text(Block& block);
     bool read_long_text(Block& block);
     bool read_more(std::string& bytes);
     void begin_part();
@@ -55,9 +56,10 @@ class BlockReader {
     std::string failure_;
     FileParts parts_;
     FilePart part_;
-    std::size_t at_ = 0;      // the next byte of the file, where only a part of it is read
-    std::size_t number_ = 1;  // of the next text
-    std::string carry_;       // what was read after the last delimiter
+    std::size_t at_ = 0;               // the next byte of the file, where only a part of it is read
+    std::size_t number_ = 1;           // of the next text
+    std::string carry_;                // what was read after the last delimiter
+    bool has_temporary_files_ = true;  // as far as is known
 };
 
 }  // namespace kavi::tool

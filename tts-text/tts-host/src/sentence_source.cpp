@@ -17,7 +17,7 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
 TextRange PieceCursor::source_of_any(const SourcePiece* piece, const SourcePiece* last,
                                      std::size_t at, std::size_t length) {
     const TextRange begin = source_of_byte(*piece, at);
-    if (length == 0) return begin;
+    if (length <= 1) return begin;
     const std::size_t end_at = at + length - 1;
     while (piece != last && piece[1].at <= end_at) ++piece;
     const TextRange end = source_of_byte(*piece, end_at);

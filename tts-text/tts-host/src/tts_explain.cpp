@@ -156,7 +156,7 @@ class RunsOfText {
     // What stands at `at` of the sentence may have been rewritten by a rule.
     void rewrite(std::size_t at) {
         while (piece_ != last_piece_ && piece_->at + piece_->length <= at) ++piece_;
-        if (at < piece_->at || piece_->rule == nullptr) return;
+        if (piece_->rule == nullptr) return;
         run_.rule = piece_->rule;
         if (piece_->file != nullptr) {
             rule_ = piece_->rule + (" " + std::string(piece_->file) + ":") +

@@ -91,6 +91,21 @@ expect 'no room for it' 'kavi-tn: longer: cannot be read: a long text needs a te
 expect 'no temporary file' "$("$tool" shorter | md5sum)" \
     "$(trap '' XFSZ; ulimit -f 0; "$tool" longer 2>/dev/null | md5sum)"
 
+# A terminal that is gone after some text.
+expect 'a failure after some text' 'a  five|kavi-tn: standard input: cannot be read: Input/output error|1' "$(
+    python3 - "$tool" <<'PYTHON'
+import os, pty, subprocess, sys, tty
+ours, theirs = pty.openpty()
+tty.setraw(theirs)
+tool = subprocess.Popen([sys.argv[1]], stdin=theirs, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+os.close(theirs)
+os.write(ours, b"a 5\n")
+said = tool.stdout.readline()
+os.close(ours)
+print(said.strip(), tool.communicate()[1].strip().split("\n")[-1], tool.returncode, sep="|")
+PYTHON
+)"
+
 expect 'what SSML has no word for, once' 'kavi-tn: SSML has nothing for "poem=a"; it is left out' \
     "$("$tool" --format ssml -t '<poem=a>b c</poem>. <poem=a>d</poem>' 2>&1 >/dev/null)"
 expect 'marks of SSML' '<s><mark name="0-1"/>a</s>' "$("$tool" --format ssml --marks -t a | sed -n 3p)"

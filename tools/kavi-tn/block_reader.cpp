@@ -43,16 +43,15 @@ bool BlockReader::next(Block& block) {
         return true;
     }
     const auto is_more_of_file = [this] { return file_ >= 0 || !carry_.empty(); };
-    while (is_more_of_file() || next_file_ < options_.files.size()) {
+    while (failure_.empty() && (is_more_of_file() || next_file_ < options_.files.size())) {
         if (!is_more_of_file()) open(options_.files[next_file_++]);
         if (is_more_of_file() && next_of_file(block)) return true;
-        if (failure_.empty()) continue;
-        block.input = name_;
-        block.number = input_number_;
-        block.failure.swap(failure_);
-        return true;
     }
-    return false;
+    if (failure_.empty()) return false;
+    block.input = name_;
+    block.number = input_number_;
+    block.failure.swap(failure_);
+    return true;
 }
 
 // The next block of the open file, up to its last delimiter; what is after that begins the block

@@ -29,9 +29,9 @@ int LongText::finish() {
 // By so much at a time that it costs nothing, and whole pages.
 void LongText::forget(std::size_t size) {
     constexpr std::size_t STEP = std::size_t{1} << 20U;
-    if (size - forgotten_ < STEP) return;
-    static_cast<void>(::madvise(text_ + forgotten_, STEP, MADV_DONTNEED));
-    forgotten_ += STEP;
+    for (; size - forgotten_ >= STEP; forgotten_ += STEP) {
+        static_cast<void>(::madvise(text_ + forgotten_, STEP, MADV_DONTNEED));
+    }
 }
 
 }  // namespace kavi::tool

@@ -91,17 +91,19 @@ expect 'no room for it' 'kavi-tn: longer: cannot be read: a long text needs a te
 expect 'no temporary file' "$("$tool" shorter | md5sum)" \
     "$(trap '' XFSZ; ulimit -f 0; "$tool" longer 2>/dev/null | md5sum)"
 
-# A terminal that is gone after some text.
-expect 'a failure after some text' 'a  five|kavi-tn: standard input: cannot be read: Input/output error|1' "$(
+# A connection that is reset after some text.
+expect 'a failure after some text' 'a  five|kavi-tn: standard input: cannot be read: Connection reset by peer|1' "$(
     python3 - "$tool" <<'PYTHON'
-import os, pty, subprocess, sys, tty
-ours, theirs = pty.openpty()
-tty.setraw(theirs)
+import socket, struct, subprocess, sys
+with socket.create_server(("127.0.0.1", 0)) as server:
+    theirs = socket.create_connection(server.getsockname())
+    ours = server.accept()[0]
 tool = subprocess.Popen([sys.argv[1]], stdin=theirs, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-os.close(theirs)
-os.write(ours, b"a 5\n")
+theirs.close()
+ours.sendall(b"a 5\n")
 said = tool.stdout.readline()
-os.close(ours)
+ours.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))  # A close without a farewell.
+ours.close()
 print(said.strip(), tool.communicate()[1].strip().split("\n")[-1], tool.returncode, sep="|")
 PYTHON
 )"

@@ -1,7 +1,5 @@
 #include "reading_findings.h"
 
-#include <cstring>
-
 namespace kavi::host {
 
 namespace {
@@ -14,29 +12,26 @@ bool is_telephone_number(tn::ReadingRule rule) {
 }  // namespace
 
 void ReadingFindings::add_step(const tn::SectionDispatcher& step) {
-    const Section* longest = step.first();  // number, of which the first
+    const tn::Token* longest = step.first();  // number, of which the first
     std::size_t longest_length = 0;
-    for (const Section* s = step.first(); s != nullptr; s = s->m_pnext) {
-        if (tn::is_digit(s->sz_char[0])) {
-            const std::size_t length = std::strlen(s->sz_char);
-            if (step.reading().digits_read(s->sz_char) < length) {
-                report(s, Finding::digits_not_read);
+    for (const tn::Token* token = step.first(); token != step.end(); ++token) {
+        if (tn::is_number(token)) {
+            if (step.reading().digits_read(token->text()) < token->length) {
+                report(token, Finding::digits_not_read);
             }
-            if (length > longest_length) {
-                longest = s;
-                longest_length = length;
+            if (token->length > longest_length) {
+                longest = token;
+                longest_length = token->length;
             }
-        } else if (is_telephone_number(step.rule()) && tn::begins_sentence_tag(s->sz_char)) {
-            report(s, Finding::tag_in_telephone_number);
+        } else if (is_telephone_number(step.rule()) && tn::is_tag(token)) {
+            report(token, Finding::tag_in_telephone_number);
         }
-        if (s == step.last()) break;
     }
     if (step.reading().is_cut()) report(longest, Finding::reading_cut);
 }
 
-void ReadingFindings::report(const Section* section, Finding finding) {
-    const char* at = tn::SectionWindow::source(section).data();
-    findings_.push_back({static_cast<std::size_t>(at - sentence_), finding});
+void ReadingFindings::report(const tn::Token* token, Finding finding) {
+    findings_.push_back({static_cast<std::size_t>(token->begin - sentence_), finding});
 }
 
 }  // namespace kavi::host

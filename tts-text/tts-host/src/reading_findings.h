@@ -24,7 +24,7 @@ class ReadingFindings {
     const std::vector<Diagnostic>& findings() const { return findings_; }
 
   private:
-    void report(const Section* section, Finding finding);
+    void report(const tn::Token* token, Finding finding);
 
     const char* sentence_ = nullptr;
     std::vector<Diagnostic> findings_;

@@ -5,12 +5,9 @@
 namespace kavi::host {
 
 void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
-    const Section* last = step.first();
-    while (last != step.last() && last->m_pnext != nullptr) last = last->m_pnext;
-    const bool is_contraction = tn::SectionWindow::is_rewritten(step.first());
-    const char* begin = tn::SectionWindow::source(step.first()).data() - (is_contraction ? 1 : 0);
-    const std::string_view end = tn::SectionWindow::source(last);
-    add_plain_text({begin, static_cast<std::size_t>(end.data() + end.size() - begin)},
+    const char* begin = step.first()->begin;
+    const std::string_view last = step.end()[-1].text();
+    add_plain_text({begin, static_cast<std::size_t>(last.data() + last.size() - begin)},
                    step.output_before());
 }
 

@@ -12,7 +12,7 @@ namespace {
 using tn::Outcome;
 using tn::ReadingRule;
 using tn::SectionDispatcher;
-using tn::SectionWindow;
+using tn::TextTokens;
 
 struct RuleName {
     ReadingRule rule;
@@ -74,23 +74,15 @@ bool continues_character(const ExplainedRun& run, std::string_view section) {
 
 // Adds the sections of a step to a run.
 void add_sections(const SectionDispatcher& step, ExplainedRun& run) {
-    for (const Section* s = step.first(); s != nullptr; s = s->m_pnext) {
-        const std::string_view section = SectionWindow::source(s);
+    for (const tn::Token* token = step.first(); token != step.end(); ++token) {
+        const std::string_view section = token->text();
         run.source.length += section.size();
         if (!run.sections.empty() && continues_character(run, section)) {
             run.sections.back() = joined(run.sections.back(), section);
         } else {
             run.sections.push_back(section);
         }
-        if (s == step.last()) break;
     }
-}
-
-// Whether a step belongs to the run before it: it is the letters that an apostrophe rewrites, or a
-// byte of the same character.
-bool goes_on(const SectionDispatcher& step, const ExplainedRun& run) {
-    return SectionWindow::is_rewritten(step.first()) ||
-           continues_character(run, SectionWindow::source(step.first()));
 }
 
 // Calls `on_run` with each run of a sentence, which reads to `speakable`, SZ_TEXT_MAX_LEN bytes. It
@@ -100,13 +92,14 @@ void walk(const char* sentence, char* speakable, OnRun on_run) {
     speakable[0] = '\0';
     tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
     tn::TagEnds tag_ends;
-    SectionWindow window(SectionWindow::Reach::text_end, tag_ends);
-    SectionDispatcher dispatcher(sentence, window, output);
+    TextTokens tokens(TextTokens::Reach::text_end, tag_ends);
+    SectionDispatcher dispatcher(tokens, output);
+    dispatcher.go_on_at(tokens.begin(sentence));
     ExplainedRun run = {};
     while (dispatcher.next()) {
-        if (run.sections.empty() || !goes_on(dispatcher, run)) {
+        if (run.sections.empty() || !continues_character(run, dispatcher.first()->text())) {
             if (!run.sections.empty()) on_run(run);
-            const char* begin = SectionWindow::source(dispatcher.first()).data();
+            const char* begin = dispatcher.first()->begin;
             run.source = {static_cast<std::size_t>(begin - sentence), 0};
             run.sections.clear();
             run.reading_at = static_cast<std::size_t>(dispatcher.output_before());

@@ -4,8 +4,8 @@
 #include "post_pro_tn_eng.h"
 #include "readers/months.h"
 #include "readers/readers.h"
-#include "readers/sections.h"
 #include "readers/words.h"
+#include "tokenize/queue_tokens.h"
 #include "tokenize/tokenize.h"
 
 namespace kavi {
@@ -14,9 +14,14 @@ using namespace tn;
 
 namespace {
 
-Section* append_from(Section* (*read)(Section*, Reading&), Section* section, char* target) {
+int decide(bool (*test)(const Token*), Section* section) {
+    return test(QueueTokens(section).begin()) ? 1 : 0;
+}
+
+Section* append_from(Reader* read, Section* section, char* target) {
+    const QueueTokens tokens(section);
     Reading reading(target);
-    return read(section, reading);
+    return read(tokens.begin(), reading)->section;
 }
 
 char* append_from(void (*read)(std::string_view, Reading&), char* source, char* target) {
@@ -30,15 +35,17 @@ char* replace_by(std::string_view words, char* target) {
     return target;
 }
 
-// Reads what a mark may begin straight to the output. False when that is full; otherwise `last` is
-// what was consumed, the mark itself when nothing was.
-bool append_mark(bool (*read)(Section*, Reading&, BoundedText&, Section*&), Section* mark,
-                 char* target, Section*& last) {
+// Reads what a mark may begin straight to the output; the mark moves to the last section consumed.
+// False when the output is full.
+bool append_mark(bool (*read)(const Token*, Reading&, BoundedText&, const Token*&), Section*& mark,
+                 char* target) {
+    const QueueTokens tokens(mark);
     char scratch[WORD_MAX_LEN];
     Reading reading(emptied(scratch));
     BoundedText output(target, SZ_TEXT_MAX_LEN);
-    const bool fits = read(mark, reading, output, last);
-    if (!fits || last == nullptr) last = mark;
+    const Token* last = tokens.begin();
+    const bool fits = read(tokens.begin(), reading, output, last);
+    mark = last->section;
     return fits;
 }
 
@@ -61,7 +68,7 @@ void PostProTnEng::re_regular(char* sz_source_text) {
 // ---- readers ----
 
 int PostProTnEng::phone_number_decide(Section* p_section) {
-    return tn::phone_number_decide(p_section) ? 1 : 0;
+    return decide(tn::phone_number_decide, p_section);
 }
 
 Section* PostProTnEng::phone_number_read(Section* p_section, char* sz_target_text) {
@@ -78,7 +85,7 @@ char* PostProTnEng::month_read(char* sz_source_text, char* sz_target_text) {
 }
 
 int PostProTnEng::data_decide(Section* p_section) {
-    return tn::data_decide(p_section) ? 1 : 0;
+    return decide(tn::data_decide, p_section);
 }
 
 Section* PostProTnEng::data_number(Section* p_section, char* sz_target_text) {
@@ -90,7 +97,7 @@ char* PostProTnEng::year_read(char* sz_source_text, char* sz_target_text) {
 }
 
 int PostProTnEng::fraction_decide(Section* pSection) {
-    return tn::fraction_decide(pSection) ? 1 : 0;
+    return decide(tn::fraction_decide, pSection);
 }
 
 Section* PostProTnEng::fraction_number(Section* pSection, char* sz_target_text) {
@@ -98,7 +105,7 @@ Section* PostProTnEng::fraction_number(Section* pSection, char* sz_target_text) 
 }
 
 int PostProTnEng::decimal_decide(Section* pSection) {
-    return tn::decimal_decide(pSection) ? 1 : 0;
+    return decide(tn::decimal_decide, pSection);
 }
 
 Section* PostProTnEng::decimal_number(Section* psection, char* sz_target_text) {
@@ -106,9 +113,8 @@ Section* PostProTnEng::decimal_number(Section* psection, char* sz_target_text) {
 }
 
 int PostProTnEng::currency_decide(Section* pSection) {
-    const Section* end = pSection;
-    while (end != nullptr && belongs_to_amount(end)) end = end->m_pnext;
-    return is_dollar(end) ? 1 : 0;
+    QueueTokens tokens(pSection);
+    return tokens.is_amount_before_dollar(tokens.begin()) ? 1 : 0;
 }
 
 Section* PostProTnEng::currrency_read(Section* pSection, char* sz_target_text) {
@@ -116,12 +122,15 @@ Section* PostProTnEng::currrency_read(Section* pSection, char* sz_target_text) {
 }
 
 int PostProTnEng::time_decide(Section* pSection) {
-    return tn::time_decide(pSection);
+    return tn::time_decide(QueueTokens(pSection).begin());
 }
 
 Section* PostProTnEng::time_number(Section* psection, char* sz_target_text) {
+    const auto form = static_cast<TimeForm>(psection->m_nmark);
+    if (form != SHORT_TIME && form != LONG_TIME) return nullptr;
+    const QueueTokens tokens(psection);
     Reading reading(sz_target_text);
-    return tn::time_number(psection, static_cast<TimeForm>(psection->m_nmark), reading);
+    return tn::time_number(tokens.begin(), form, reading)->section;
 }
 
 Section* PostProTnEng::str_number(Section* p_section, char* sz_target_text) {
@@ -141,20 +150,22 @@ int PostProTnEng::process_upper_case(Section* m_ptemp_section, char* sz_target) 
 }
 
 bool PostProTnEng::process_bracket(Section*& p_temp_section, char* sz_target) {
-    if (!is_number(p_temp_section->m_pnext)) return append_words("<punc=zuokuo>", sz_target);
-    return append_mark(bracket_read, p_temp_section, sz_target, p_temp_section);
+    const Section* next = p_temp_section->m_pnext;
+    const bool before_number = next != nullptr && next->m_nmark == NUMBERSYMBOL;
+    if (!before_number) return append_words("<punc=zuokuo>", sz_target);
+    return append_mark(bracket_read, p_temp_section, sz_target);
 }
 
 Section* PostProTnEng::process_plus(Section* p_temp_section, char* sz_target) {
-    if (is_number(p_temp_section->m_pprevious)) {
-        return append_words("add ", sz_target) ? p_temp_section : nullptr;
-    }
-    Section* last = nullptr;
-    return append_mark(plus_read, p_temp_section, sz_target, last) ? last : nullptr;
+    const Section* previous = p_temp_section->m_pprevious;
+    const bool after_number = previous != nullptr && previous->m_nmark == NUMBERSYMBOL;
+    const bool fits = after_number ? append_words("add ", sz_target)
+                                   : append_mark(plus_read, p_temp_section, sz_target);
+    return fits ? p_temp_section : nullptr;
 }
 
 Section* PostProTnEng::process_single_quote(Section* p_temp_section, char* /*sz_target*/) {
-    tn::process_single_quote(p_temp_section);
+    tn::process_single_quote(QueueTokens(p_temp_section).begin());
     return p_temp_section;
 }
 

@@ -2,6 +2,8 @@
 #ifndef KAVI_TN_ASCII_H
 #define KAVI_TN_ASCII_H
 
+#include <string_view>
+
 namespace kavi::tn {
 
 constexpr bool is_digit(char c) {
@@ -24,9 +26,11 @@ constexpr char to_upper(char c) {
 }
 
 // Whether the text is nothing but digits; the empty text is.
-inline bool is_digits(const char* text) {
-    while (is_digit(*text)) ++text;
-    return *text == '\0';
+constexpr bool is_digits(std::string_view text) {
+    for (const char c : text) {
+        if (!is_digit(c)) return false;
+    }
+    return true;
 }
 
 }  // namespace kavi::tn

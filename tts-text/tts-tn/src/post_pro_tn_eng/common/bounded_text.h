@@ -23,8 +23,9 @@ class BoundedText {
     // Appends all of `words` and answers true, or nothing and answers false.
     bool append(std::string_view words) {
         if (!has_room(words.size())) return false;
-        put(words);
-        *end_ = '\0';
+        char* end = put(words);
+        *end = '\0';
+        end_ = end;
         return true;
     }
 
@@ -34,10 +35,10 @@ class BoundedText {
             append(words);
             return false;
         }
-        put(words);
-        end_[0] = ' ';
-        end_[1] = '\0';
-        ++end_;
+        char* end = put(words);
+        end[0] = ' ';
+        end[1] = '\0';
+        end_ = end + 1;
         return true;
     }
 
@@ -58,9 +59,10 @@ class BoundedText {
     char* text() { return text_; }
 
   private:
-    void put(std::string_view words) {
+    // Writes the words; where they end.
+    char* put(std::string_view words) {
         copy_short(end_, words.data(), words.size());
-        end_ += words.size();
+        return end_ + words.size();
     }
 
     char* text_;

@@ -33,9 +33,8 @@ class Reading {
             append_cut(words);
             return;
         }
-        copy_short(text_ + length_, words.data(), words.size());
-        length_ += words.size();
-        text_[length_] = '\0';
+        copy_short(end(), words.data(), words.size());
+        extend(words.size());
     }
 
     // Before anything was cut: appends a text that must not be broken, such as a word or a tag of
@@ -46,7 +45,17 @@ class Reading {
         return true;
     }
 
-    // Appends a text that is no words, since there are none for it.
+    // For words of at most so many characters that are written to the end: whether they have room,
+    // where they go, and that they are there.
+    bool has_room(std::size_t length) const { return !cut_ && length <= ROOM - length_; }
+    char* end() { return text_ + length_; }
+    void extend(std::size_t length) {
+        length_ += length;
+        text_[length_] = '\0';
+    }
+
+    // Appends a text that is no words, since there are none for it. This reading has not been all
+    // words then, whatever comes after it.
     void append_as_written(std::string_view text) {
         append(text);
         all_words_ = false;
@@ -56,7 +65,6 @@ class Reading {
     void clear() {
         clear_words();
         cut_ = false;
-        all_words_ = true;
         n_digit_runs_ = 0;
     }
 
@@ -75,12 +83,12 @@ class Reading {
         digit_runs_[n_digit_runs_++] = {digits.data(), digits.size()};
     }
 
-    // How many digits of the text that begins at `text`, in a section's buffer, were read.
-    std::size_t digits_read(const char* text) const {
+    // How many digits of this text were read.
+    std::size_t digits_read(std::string_view text) const {
         std::size_t n = 0;
         for (std::size_t i = 0; i < n_digit_runs_; ++i) {
             const DigitRun& run = digit_runs_[i];
-            if (run.begin >= text && run.begin < text + WORD_MAX_LEN) n += run.length;
+            if (run.begin >= text.data() && run.begin < text.data() + text.size()) n += run.length;
         }
         return n;
     }

@@ -37,7 +37,10 @@ constexpr unsigned MARKUP_INITIALS = make_initials();
 bool begins_sentence_tag(const char* text) {
     if (!may_begin_tag(text)) return false;
     for (const MarkupTag& tag : MARKUP_TAGS) {
-        if (tag.kind != TagKind::removed && begins_with(text, tag.prefix)) return true;
+        if (tag.kind != TagKind::removed && text[1] == tag.prefix[1] &&
+            begins_with(text, tag.prefix)) {
+            return true;
+        }
     }
     return false;
 }

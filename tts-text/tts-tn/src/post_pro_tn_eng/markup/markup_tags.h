@@ -52,7 +52,7 @@ template <typename Text>
 const MarkupTag* find_markup_tag(Text text) {
     if (!may_begin_tag(text)) return nullptr;
     for (const MarkupTag& tag : MARKUP_TAGS) {
-        if (begins_with(text, tag.prefix)) return &tag;
+        if (text[1] == tag.prefix[1] && begins_with(text, tag.prefix)) return &tag;
     }
     return nullptr;
 }

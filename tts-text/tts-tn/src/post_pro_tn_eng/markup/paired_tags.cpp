@@ -74,10 +74,12 @@ const std::string_view* SortedNames::find(std::string_view name, const char* pla
 
 // ---- paired tags ----
 
+PairedTags::PairedTags(mem_stack_handle arena) : openings_(arena), closings_(arena) {}
+
 const char* PairedTags::find_closing(const char* content, const char* end, std::string_view name) {
     constexpr int FAILURES_MAX = 8;
     const char* any_closing = any_closing_.find(content, "</");
-    if (any_closing == nullptr || any_closing >= end) return nullptr;
+    if (any_closing == nullptr || any_closing >= end || is_unclosed(name, end)) return nullptr;
     if (failures_ == FAILURES_MAX) {
         ++failures_;  // once, even if the arena refuses
         sort_tags(content);
@@ -93,7 +95,7 @@ const char* PairedTags::search(const char* content, const char* end, std::string
     bool closed = false;
     for (const char* at = content; at < end; ++at) {
         at = std::strchr(at, '<');
-        if (at == nullptr) return nullptr;
+        if (at == nullptr) break;
         if (at[1] == '/') {
             if (!is_name(at + CLOSING, name, '>')) continue;
             if (to_pass-- == 0) return at;
@@ -101,6 +103,10 @@ const char* PairedTags::search(const char* content, const char* end, std::string
         } else if (!closed && is_name(at + OPENING, name, '=')) {
             ++to_pass;
         }
+    }
+    if (!closed) {
+        unclosed_ = name;
+        unclosed_to_ = end;
     }
     return nullptr;
 }

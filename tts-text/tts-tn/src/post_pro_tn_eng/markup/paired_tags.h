@@ -42,7 +42,7 @@ class SortedNames {
 // only slower.
 class PairedTags {
   public:
-    explicit PairedTags(mem_stack_handle arena) : openings_(arena), closings_(arena) {}
+    explicit PairedTags(mem_stack_handle arena);
 
     // The closing tag of the content that begins at `content`: as many closings of the name are
     // passed over as it is opened again before the first of them. Null when there are not enough
@@ -54,8 +54,15 @@ class PairedTags {
     const char* search(const char* content, const char* end, std::string_view name);
     const char* look_up(const char* content, std::string_view name) const;
 
+    // Whether it is known that no tag of the name closes anything before `end`.
+    bool is_unclosed(std::string_view name, const char* end) const {
+        return end <= unclosed_to_ && name == unclosed_;
+    }
+
     ForwardFinder any_closing_;
     int failures_ = 0;
+    std::string_view unclosed_;          // a name that no tag closes
+    const char* unclosed_to_ = nullptr;  // up to here
     bool is_sorted_ = false;
     SortedNames openings_;  // those with a value; the others do not count
     SortedNames closings_;

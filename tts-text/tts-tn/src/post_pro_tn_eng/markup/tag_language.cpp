@@ -1,8 +1,10 @@
 #include "tag_language.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <cstring>
+#include <iterator>
 
 #include "../common/ascii.h"
 
@@ -10,7 +12,8 @@ namespace kavi::tn {
 
 namespace {
 
-// A name belongs to the first row that it begins with. Only the exact name has the use.
+// By their first letter. A name belongs to the first row that it begins with; only the exact name
+// has the use.
 struct TagName {
     char prefix[13];
     TagRole role;
@@ -19,37 +22,45 @@ struct TagName {
 
 // clang-format off
 constexpr TagName TAG_NAMES[] = {
-    {"punc",         TagRole::simple,  TagUse::punc},
-    {"orgLen",       TagRole::simple,  TagUse::none},
-    {"sil",          TagRole::simple,  TagUse::none},
-    {"silratio",     TagRole::simple,  TagUse::none},
-    {"pause",        TagRole::simple,  TagUse::none},
     {"breaktime",    TagRole::simple,  TagUse::breaktime},
-    {"py",           TagRole::dropped, TagUse::none},
-    {"letter",       TagRole::dropped, TagUse::none},
     {"emphasis",     TagRole::span,    TagUse::span},
+    {"letter",       TagRole::dropped, TagUse::none},
+    {"orgLen",       TagRole::simple,  TagUse::none},
+    {"punc",         TagRole::simple,  TagUse::punc},
     {"prosody",      TagRole::span,    TagUse::span},
     {"poem",         TagRole::span,    TagUse::span},
+    {"pause",        TagRole::simple,  TagUse::none},
+    {"py",           TagRole::dropped, TagUse::none},
     {"quill_effect", TagRole::span,    TagUse::span},
+    {"sil",          TagRole::simple,  TagUse::none},
+    {"silratio",     TagRole::simple,  TagUse::none},
 };
 // clang-format on
 
-// A bit for each letter that a name begins with, from the alphabet's first on.
-constexpr unsigned make_initials() {
-    unsigned initials = 0;
-    for (const TagName& tag : TAG_NAMES) initials |= 1U << (tag.prefix[0] - 'a');
-    return initials;
+constexpr std::size_t ROWS = std::size(TAG_NAMES);
+
+// The first row of each letter; ROWS where there is none.
+constexpr auto make_first_rows() {
+    std::array<unsigned char, 26> rows{};
+    for (unsigned char& row : rows) row = ROWS;
+    for (std::size_t n = ROWS; n-- > 0;) {
+        rows[static_cast<std::size_t>(TAG_NAMES[n].prefix[0] - 'a')] =
+            static_cast<unsigned char>(n);
+    }
+    return rows;
 }
 
-constexpr unsigned INITIALS = make_initials();
+constexpr auto FIRST_ROWS = make_first_rows();
 
 // The row that the name begins with, and how much of the name that is; null when there is none.
 const TagName* find_name(const char* name, std::size_t& length) {
-    if (!is_lower(*name) || (INITIALS >> (*name - 'a') & 1U) == 0) return nullptr;
-    for (const TagName& tag : TAG_NAMES) {
-        length = 0;
-        while (tag.prefix[length] != '\0' && name[length] == tag.prefix[length]) ++length;
-        if (tag.prefix[length] == '\0') return &tag;
+    if (!is_lower(*name)) return nullptr;
+    for (std::size_t n = FIRST_ROWS[static_cast<std::size_t>(*name - 'a')];
+         n < ROWS && TAG_NAMES[n].prefix[0] == *name; ++n) {
+        const char* prefix = TAG_NAMES[n].prefix;
+        length = 1;
+        while (prefix[length] != '\0' && name[length] == prefix[length]) ++length;
+        if (prefix[length] == '\0') return &TAG_NAMES[n];
     }
     return nullptr;
 }

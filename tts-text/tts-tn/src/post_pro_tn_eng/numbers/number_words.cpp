@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "../common/ascii.h"
 
@@ -50,56 +51,65 @@ std::string_view cardinal_word(std::size_t row) {
     return {s_number_to_char[row][1], CARDINAL_LENGTHS[row]};
 }
 
-// The tables have the same order, but ordinals no row for 0.
-std::string_view word_of(char tens, char units, bool ordinal) {
-    if (!is_digit(tens) || !is_digit(units)) return {};
-    const std::size_t row = row_of(tens, units);
-    if (!ordinal) return cardinal_word(row);
-    return {s_number_to_turn[row - 1][1], ORDINAL_LENGTHS[row - 1]};
+// ---- Each writes words to `end` and returns where they end ----
+
+template <std::size_t Size>
+char* put(char* end, const char (&words)[Size]) {
+    std::memcpy(end, words, Size - 1);
+    return end + Size - 1;
 }
 
-// The words of one group, which have room here, whatever it is.
-class GroupWords {
-  public:
-    // cppcheck-suppress uninitMemberVar ; the words are those appended
-    GroupWords() {}
-    void append(std::string_view words) {
-        copy_short(words_ + length_, words.data(), words.size());
-        length_ += words.size();
-    }
-    std::string_view text() const { return {words_, length_}; }
+// A word of a table. All of its row is copied: a copy whose length is known is short.
+template <std::size_t Size>
+char* put_row(char* end, const char (&row)[Size], std::size_t length) {
+    std::memcpy(end, row, Size);
+    return end + length;
+}
 
-  private:
-    std::size_t length_ = 0;
-    char words_[64];  // "seventeen hundred  and seventy seventeenth " is longer than any
-};
+// The word that tens and units have; none for what is no digit. The tables have the same order, but
+// ordinals no row for 0.
+char* put_word(char* end, char tens, char units, bool ordinal) {
+    if (!is_digit(tens) || !is_digit(units)) return end;
+    const std::size_t row = row_of(tens, units);
+    if (!ordinal) return put_row(end, s_number_to_char[row][1], CARDINAL_LENGTHS[row]);
+    return put_row(end, s_number_to_turn[row - 1][1], ORDINAL_LENGTHS[row - 1]);
+}
 
 // The frame that cardinals and ordinals have in common: hundreds, then " and ", then one word or
 // two, of which the last is an ordinal or not.
-void append_group(std::string_view text, bool ordinal, Reading& reading) {
-    GroupWords words;
-    const Digits digits(text);
+char* put_group(char* end, Digits digits, bool ordinal) {
     const bool has_hundreds = digits.hundreds != '0';
-    if (has_hundreds) {
-        words.append(word_of('0', digits.hundreds, false));
-        words.append(" hundred ");
-    } else {
-        words.append(" ");
-    }
     const bool has_units = digits.units != '0';
-    if (has_hundreds && (digits.tens != '0' || has_units)) words.append(" and ");
+    if (has_hundreds) {
+        end = put(put_word(end, '0', digits.hundreds, false), " hundred ");
+        if (digits.tens != '0' || has_units) end = put(end, " and ");
+    } else {
+        end = put(end, " ");
+    }
     if (digits.tens == '0' || digits.tens == '1') {
         if (digits.tens == '1' || has_units) {
-            words.append(word_of(digits.tens, digits.units, ordinal));
+            end = put_word(end, digits.tens, digits.units, ordinal);
         }
     } else {
         const bool ends_here = ordinal && !has_units;
-        words.append(word_of(digits.tens, '0', ends_here));
-        if (!ends_here) words.append(" ");
-        if (has_units) words.append(word_of('0', digits.units, ordinal));
+        end = put_word(end, digits.tens, '0', ends_here);
+        if (!ends_here) end = put(end, " ");
+        if (has_units) end = put_word(end, '0', digits.units, ordinal);
     }
-    words.append(" ");
-    reading.append(words.text());
+    return put(end, " ");
+}
+
+// The words go straight to the reading where there is room for any.
+void append_group(std::string_view text, bool ordinal, Reading& reading) {
+    char scratch[80];  // "seventeen hundred  and seventy seventeenth " and a row are shorter
+    char* begin = reading.has_room(sizeof scratch) ? reading.end() : scratch;
+    char* end = put_group(begin, Digits(text), ordinal);
+    const auto length = static_cast<std::size_t>(end - begin);
+    if (begin == scratch) {
+        reading.append({scratch, length});
+    } else {
+        reading.extend(length);
+    }
 }
 
 // The length of the first of the groups, of which only that may be short.
@@ -123,6 +133,17 @@ void take_group(std::string_view& digits, std::size_t groups_after, Reading& rea
 
 }  // namespace
 
+int value_of(std::string_view text) {
+    constexpr int BASE = 10;
+    constexpr int ENOUGH = 9999;
+    int value = 0;
+    for (const char c : text) {
+        if (!is_digit(c) || value > ENOUGH) break;
+        value = value * BASE + (c - '0');
+    }
+    return value;
+}
+
 std::string_view scale_word(std::size_t groups_after) {
     constexpr std::string_view SCALES[GROUPS_MAX - 1] = {" thousand ", " million ", " billion "};
     return SCALES[groups_after - 1];
@@ -142,6 +163,10 @@ bool append_ordinal(std::string_view digits, Reading& reading) {
 }
 
 void append_number(std::string_view digits, Reading& reading) {
+    if (!digits.empty() && digits.size() <= GROUP_DIGITS) {
+        append_cardinal(digits, reading);
+        return;
+    }
     const std::string_view all = digits;
     for (std::size_t n = groups_read(digits.size()); n > 0; --n) take_group(digits, n - 1, reading);
     reading.note_digits(all.substr(0, all.size() - digits.size()));

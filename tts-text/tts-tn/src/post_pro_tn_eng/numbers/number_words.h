@@ -1,4 +1,5 @@
-// English words for digits. Each operation appends to a reading and notes the digits it has read.
+// What digits are worth, and English words for them. Each operation that appends to a reading notes
+// the digits it has read.
 #ifndef KAVI_TN_NUMBER_WORDS_H
 #define KAVI_TN_NUMBER_WORDS_H
 
@@ -12,6 +13,10 @@ namespace kavi::tn {
 // As many groups of three digits have scale words, which makes twelve digits.
 constexpr std::size_t GROUPS_MAX = 4;
 constexpr std::size_t GROUP_DIGITS = 3;
+
+// The value of the digits that a text begins with, as far as readers compare it: of any number
+// above 9999, something above that.
+int value_of(std::string_view text);
 
 // " thousand ", " million ", " billion ": after a group with so many (from 1) groups after it.
 std::string_view scale_word(std::size_t groups_after);

@@ -2,7 +2,7 @@
 
 #include "../numbers/number_words.h"
 #include "readers.h"
-#include "sections.h"
+#include "tokens.h"
 
 namespace kavi::tn {
 
@@ -23,43 +23,43 @@ const char* unit_word(const TimeUnit& unit, int value) {
     return value == 0 ? unit.zero : unit.many;
 }
 
-void append_part(const Section* number, const TimeUnit& unit, Reading& reading) {
-    append_number(number->sz_char, reading);
-    reading.append(unit_word(unit, value_of(number)));
+void append_part(const Token* number, const TimeUnit& unit, Reading& reading) {
+    append_number(number->text(), reading);
+    reading.append(unit_word(unit, value_of(number->text())));
 }
 
 // The last part of a time need not be a number. What has no room is left to the dispatcher.
-Section* end_at(Section* part, Reading& reading) {
-    return append_no_number(part, reading) ? part : part->m_pprevious;
+const Token* end_at(const Token* part, Reading& reading) {
+    return append_no_number(part, reading) ? part : part - 1;
 }
 
 }  // namespace
 
-TimeForm time_decide(Section* hours) {
-    if (!is_mark(ahead(hours, 1), ':')) return NO_TIME;
-    if (!has_digits_only(ahead(hours, 2))) return SHORT_TIME;
-    const Section* separator = ahead(hours, 3);
+TimeForm time_decide(const Token* hours) {
+    if (!is_mark(hours + 1, ':')) return NO_TIME;
+    if (!hours[2].has_digits_only) return SHORT_TIME;
+    const Token* separator = hours + 3;
     return is_mark(separator, ':') || is_mark(separator, '\'') ? LONG_TIME : SHORT_TIME;
 }
 
-Section* time_number(Section* hours, TimeForm form, Reading& reading) {
-    Section* minutes = ahead(hours, 2);
-    Section* seconds = ahead(hours, 4);
-    if (form == SHORT_TIME && minutes != nullptr) {
-        append_number(hours->sz_char, reading);
-        reading.append(" ");
-        if (!is_number(minutes)) return end_at(minutes, reading);
-        append_number(minutes->sz_char, reading);
-        return minutes;
-    }
-    if (form == LONG_TIME && seconds != nullptr) {
+const Token* time_number(const Token* hours, TimeForm form, Reading& reading) {
+    const Token* minutes = ahead(hours, 2);
+    const Token* last = form == LONG_TIME ? ahead(hours, 4) : minutes;
+    if (!is_section(last)) return last;
+    if (form == LONG_TIME) {
         append_part(hours, HOURS, reading);
         append_part(minutes, MINUTES, reading);
-        if (!is_number(seconds)) return end_at(seconds, reading);
-        append_part(seconds, SECONDS, reading);
-        return seconds;
+    } else {
+        append_number(hours->text(), reading);
+        reading.append(" ");
     }
-    return nullptr;
+    if (!is_number(last)) return end_at(last, reading);
+    if (form == LONG_TIME) {
+        append_part(last, SECONDS, reading);
+    } else {
+        append_number(last->text(), reading);
+    }
+    return last;
 }
 
 }  // namespace kavi::tn

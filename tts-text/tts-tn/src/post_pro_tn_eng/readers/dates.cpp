@@ -4,19 +4,18 @@
 #include "../numbers/number_words.h"
 #include "months.h"
 #include "readers.h"
-#include "sections.h"
+#include "tokens.h"
 
 namespace kavi::tn {
 
 namespace {
 
-bool is_part_of_date(const Section* section) {
-    return has_digits_only(section) || is_month(section);
+bool is_part_of_date(const Token* token) {
+    return token->has_digits_only || is_month(token);
 }
 
 // A month or, for what names none, the text as it stands.
-void append_month(const Section* section, Reading& reading) {
-    const std::string_view text = section->sz_char;
+void append_month(std::string_view text, Reading& reading) {
     const char* name = month_name(text);
     if (name == nullptr) {
         reading.append_as_written(text);
@@ -28,24 +27,23 @@ void append_month(const Section* section, Reading& reading) {
 
 }  // namespace
 
-bool data_decide(Section* day) {
-    const Section* separator = ahead(day, 1);
-    return (is_mark(separator, '/') || is_mark(separator, '-')) && is_part_of_date(ahead(day, 2)) &&
-           is_mark(ahead(day, 3), '/') && is_part_of_date(ahead(day, 4));
+bool data_decide(const Token* day) {
+    return (is_mark(day + 1, '/') || is_mark(day + 1, '-')) && is_part_of_date(day + 2) &&
+           is_mark(day + 3, '/') && is_part_of_date(day + 4);
 }
 
-Section* data_number(Section* day, Reading& reading) {
-    const Section* month = day->m_pnext->m_pnext;
-    Section* year = month->m_pnext->m_pnext;
+const Token* data_number(const Token* day, Reading& reading) {
+    const Token* month = day + 2;
+    const Token* year = day + 4;
     reading.append(" the ");
-    append_ordinal(day->sz_char, reading);
+    append_ordinal(day->text(), reading);
     reading.append(" of ");
-    append_month(month, reading);
+    append_month(month->text(), reading);
     reading.append(" ");
-    if (year->m_nmark == NUMBERSYMBOL) {
-        year_read(year->sz_char, reading);
+    if (is_number(year)) {
+        year_read(year->text(), reading);
     } else {
-        append_month(year, reading);
+        append_month(year->text(), reading);
     }
     return year;
 }
@@ -70,16 +68,16 @@ void year_read(std::string_view digits, Reading& reading) {
     append_cardinal(years, reading);
 }
 
-bool is_year(int value) {
+bool is_year(std::string_view digits) {
     constexpr int FIRST_YEAR = 1100;
     constexpr int LAST_YEAR = 9999;
+    if (digits.size() < 4) return false;
+    const int value = value_of(digits);
     return value >= FIRST_YEAR && value <= LAST_YEAR;
 }
 
-bool is_day_of_month(Section* number) {
-    const Section* before = number->m_pprevious;
-    return is_month(ahead(number, 2)) || is_month(before) ||
-           (before != nullptr && is_month(before->m_pprevious));
+bool is_day_of_month(const Token* number) {
+    return is_month(ahead(number, 2)) || is_month(number - 1) || is_month(number - 2);
 }
 
 }  // namespace kavi::tn

@@ -5,7 +5,7 @@
 #include "../common/word_table.h"
 #include "../numbers/number_words.h"
 #include "readers.h"
-#include "sections.h"
+#include "tokens.h"
 
 namespace kavi::tn {
 
@@ -17,31 +17,29 @@ constexpr char CONTRACTIONS[5][2][5] = {
 };
 
 // The number is the country code, what follows it the telephone number.
-bool country_code_read(Section* number, Reading& reading, BoundedText& output, Section*& last) {
-    append_cardinal(number->sz_char, reading);
+bool country_code_read(const Token* number, Reading& reading, BoundedText& output,
+                       const Token*& last) {
+    append_cardinal(number->text(), reading);
     if (!output.append("country code ") || !output.append(reading.text()) || !output.append(" ")) {
         return false;
     }
     reading.clear_words();
-    last = phone_number_read(number->m_pnext, reading);
+    last = phone_number_read(number + 1, reading);
     return output.append(reading.text()) && output.append(" ");
 }
 
 }  // namespace
 
-bool bracket_read(Section* bracket, Reading& reading, BoundedText& output, Section*& last) {
-    Section* number = ahead(bracket, 1);
-    const Section* mark = ahead(bracket, 2);
-    last = nullptr;
-    const bool begins_number =
-        mark != nullptr && mark->m_nmark == MARKSYMBOL && phone_number_decide(ahead(bracket, 3));
+bool bracket_read(const Token* bracket, Reading& reading, BoundedText& output, const Token*& last) {
+    const Token* number = bracket + 1;
+    const Token* mark = bracket + 2;
+    const bool begins_number = mark->kind == MARKSYMBOL && phone_number_decide(bracket + 3);
     return !begins_number || country_code_read(number, reading, output, last);
 }
 
-bool plus_read(Section* plus, Reading& reading, BoundedText& output, Section*& last) {
-    Section* number = ahead(plus, 1);
-    last = nullptr;
-    const bool begins_number = is_number(number) && phone_number_decide(ahead(plus, 2));
+bool plus_read(const Token* plus, Reading& reading, BoundedText& output, const Token*& last) {
+    const Token* number = plus + 1;
+    const bool begins_number = is_number(number) && phone_number_decide(plus + 2);
     return !begins_number || country_code_read(number, reading, output, last);
 }
 
@@ -49,10 +47,13 @@ const char* find_contraction(std::string_view letters) {
     return find_word(CONTRACTIONS, letters);
 }
 
-void process_single_quote(Section* apostrophe) {
-    Section* word = apostrophe->m_pnext;
-    const char* full = word != nullptr ? find_contraction(word->sz_char) : nullptr;
-    if (full != nullptr) std::memcpy(word->sz_char, full, std::strlen(full) + 1);
+const char* process_single_quote(const Token* apostrophe) {
+    const Token* word = apostrophe + 1;
+    const char* full = find_contraction(word->text());
+    if (full != nullptr && word->section != nullptr) {
+        std::memcpy(word->section->sz_char, full, std::strlen(full) + 1);
+    }
+    return full;
 }
 
 }  // namespace kavi::tn

@@ -19,10 +19,24 @@ constexpr unsigned INITIALS = make_initials();
 
 }  // namespace
 
+int month_number(std::string_view text) {
+    constexpr int BASE = 10;
+    constexpr int MONTHS = 12;
+    if (text.empty() || text.size() > 2) return 0;
+    const char tens = text.size() == 2 ? text[0] : '0';
+    const char units = text.back();
+    if (!is_digit(tens) || !is_digit(units)) return 0;
+    const int value = (tens - '0') * BASE + (units - '0');
+    return value <= MONTHS ? value : 0;
+}
+
 // Most words are answered by their first character.
 const char* month_name(std::string_view text) {
     if (text.empty()) return nullptr;
-    if (is_digit(text[0])) return find_word(s_number_to_month, text);
+    if (is_digit(text[0])) {
+        const int number = month_number(text);
+        return number > 0 ? s_number_to_month[number - 1][1] : nullptr;
+    }
     if (!is_upper(text[0]) || (INITIALS >> (text[0] - 'A') & 1U) == 0) return nullptr;
     if (const char* name = find_word(s_string_to_month, text)) return name;
     for (const auto& row : s_string_to_month) {

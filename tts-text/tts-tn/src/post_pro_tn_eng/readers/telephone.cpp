@@ -2,34 +2,31 @@
 
 #include "../numbers/number_words.h"
 #include "readers.h"
-#include "sections.h"
+#include "tokens.h"
 
 namespace kavi::tn {
 
-bool phone_number_decide(const Section* section) {
-    return is_mark(section, '(') || has_digits_only(section) || is_mark(section, '-') ||
-           is_mark(section, ' ');
+bool phone_number_decide(const Token* token) {
+    return is_mark(token, '(') || token->has_digits_only || is_mark(token, '-') ||
+           is_mark(token, ' ');
 }
 
-Section* phone_number_read(Section* section, Reading& reading) {
+const Token* phone_number_read(const Token* first, Reading& reading) {
     reading.append("area code ");
-    Section* last = section;
-    for (int n = 1; n <= TELEPHONE_SECTIONS_MAX && section != nullptr;
-         ++n, section = section->m_pnext) {
-        if (section->m_nmark != NUMBERSYMBOL && section->m_nmark != MARKSYMBOL) break;
-        last = section;
-        if (section->m_nmark == MARKSYMBOL) continue;
-        const std::string_view digits = section->sz_char;
-        const int value = n == 1 ? value_of(section) : 0;
+    const Token* token = first;
+    for (; token - first < TELEPHONE_SECTIONS_MAX; ++token) {
+        if (token->kind == MARKSYMBOL) continue;
+        if (!is_number(token)) break;
+        const int value = token == first ? value_of(token->text()) : 0;
         if (value == 800 || value == 900) {
             reading.append(value == 800 ? "eight hundred " : "nine hundred ");
-            reading.note_digits(digits);
+            reading.note_digits(token->text());
         } else {
-            append_each_digit(digits, reading);
+            append_each_digit(token->text(), reading);
             reading.append(" ");
         }
     }
-    return last;
+    return token == first ? first : token - 1;
 }
 
 }  // namespace kavi::tn

@@ -2,11 +2,9 @@
 
 #include <cassert>
 
-#include "../markup/markup_tags.h"
 #include "../numbers/number_words.h"
 #include "../readers/months.h"
 #include "../readers/readers.h"
-#include "../readers/sections.h"
 #include "../readers/words.h"
 #include "mark_readings.h"
 
@@ -14,27 +12,17 @@ namespace kavi::tn {
 
 bool SectionDispatcher::next() {
     if (outcome_ != Outcome::go_on) return false;
-    if (last_ != nullptr) section_ = section_after(last_);
-    if (section_ == nullptr) {
-        last_ = nullptr;
-        return false;
-    }
-    first_ = section_;
+    first_ = tokens_.at(end_);
+    if (!is_section(first_)) return false;
     output_before_ = output_.length();
     reading_.clear();
-    last_ = step();
-    all_words_ = all_words_ && reading_.is_all_words();
-    if (last_ == nullptr && outcome_ == Outcome::go_on) outcome_ = Outcome::ended;
-    return true;
-}
-
-Section* SectionDispatcher::section_after(const Section* last) {
-    if (window_ != nullptr) return window_->after(last);
-    for (const Section* s = first_; s != last->m_pnext; s = s->m_pnext) {
-        amount_end_.pass(s);
-        greater_.pass(s);
+    end_ = step();
+    if (is_section(end_)) {
+        ++end_;
+    } else if (outcome_ == Outcome::go_on) {
+        outcome_ = Outcome::ended;
     }
-    return last->m_pnext;
+    return true;
 }
 
 void SectionDispatcher::append(std::string_view words) {
@@ -45,20 +33,25 @@ void SectionDispatcher::append_spaced(std::string_view words) {
     if (!output_.append_spaced(words)) outcome_ = Outcome::full;
 }
 
-Section* SectionDispatcher::read_as(ReadingRule rule, std::string_view words, Section* last) {
+const Token* SectionDispatcher::read_as(ReadingRule rule, std::string_view words,
+                                        const Token* last) {
     rule_ = rule;
     append(words);
     return last;
 }
 
-Section* SectionDispatcher::reading_as(ReadingRule rule, Section* last) {
+const Token* SectionDispatcher::reading_as(ReadingRule rule, const Token* last) {
     rule_ = rule;
     append_spaced(reading_.text());
     return last;
 }
 
-Section* SectionDispatcher::step() {
-    switch (section_->m_nmark) {
+const Token* SectionDispatcher::read(ReadingRule rule, Reader* reader, const Token* pattern) {
+    return reading_as(rule, reader(pattern, reading_));
+}
+
+const Token* SectionDispatcher::step() {
+    switch (first_->kind) {
         case STRINGSYMBOL: return word();
         case NUMBERSYMBOL: return number();
         default: return mark();
@@ -67,14 +60,14 @@ Section* SectionDispatcher::step() {
 
 // ---- words ----
 
-Section* SectionDispatcher::word() {
-    const std::string_view text = section_->sz_char;
+const Token* SectionDispatcher::word() {
+    const std::string_view text = first_->text();
     switch (word_kind(text)) {
         case WordKind::telephone_label: return telephone();
         case WordKind::month:
             rule_ = ReadingRule::month;
             append_spaced(month_name(text));
-            return section_;
+            return first_;
         case WordKind::capitals:
             rule_ = ReadingRule::capital_letters;
             ask_lexicon(text);
@@ -82,143 +75,135 @@ Section* SectionDispatcher::word() {
         default: rule_ = ReadingRule::word; break;
     }
     append_spaced(text);
-    return section_;
+    return first_;
 }
 
-Section* SectionDispatcher::telephone() {
-    Section* stop = section_->m_pnext;
-    if (!is_mark(stop, '.')) {
-        return read_as(ReadingRule::telephone_label, "telephone ", section_);
-    }
-    if (!phone_number_decide(stop->m_pnext)) {
+const Token* SectionDispatcher::telephone() {
+    const Token* stop = first_ + 1;
+    if (!is_mark(stop, '.')) return read_as(ReadingRule::telephone_label, "telephone ", first_);
+    if (!phone_number_decide(stop + 1)) {
         return read_as(ReadingRule::telephone_label, "telephone ", stop);
     }
     append("telephone number ");
-    if (outcome_ == Outcome::full) return nullptr;
-    Section* last = phone_number_read(stop->m_pnext, reading_);
-    return reading_as(ReadingRule::telephone_number, last);
+    if (outcome_ == Outcome::full) return first_;
+    return read(ReadingRule::telephone_number, phone_number_read, stop + 1);
 }
 
 // ---- numbers ----
 
-Section* SectionDispatcher::number() {
-    const Section* next = section_->m_pnext;
-    if (next == nullptr || next->sz_char[0] == ' ') return plain_number();
-    if (is_mark(next, ',')) {
-        return reading_as(ReadingRule::separated_number, str_number(section_, reading_));
+const Token* SectionDispatcher::number() {
+    const Token* next = first_ + 1;
+    switch (next->length == 1 ? next->first() : '\0') {
+        case ',': return read(ReadingRule::separated_number, str_number, first_);
+        case ':': return clock_time();
+        case '/':
+        case '-':
+            if (data_decide(first_)) {
+                return read(ReadingRule::date, data_number, first_);
+            }
+            if (!fraction_decide(first_)) return plain_number();
+            return read(ReadingRule::fraction, fraction_number, first_);
+        case '.':
+            if (tokens_.is_amount_before_dollar(first_)) return money(first_);
+            if (!decimal_decide(first_)) return plain_number();
+            return read(ReadingRule::decimal, decimal_number, first_);
+        case '$': return money(first_);
+        default: break;
     }
     if (is_ordinal_suffix(next)) {
-        return reading_as(ReadingRule::ordinal, turn(section_, reading_));
+        return read(ReadingRule::ordinal, turn, first_);
     }
-    if (data_decide(section_)) {
-        return reading_as(ReadingRule::date, data_number(section_, reading_));
-    }
-    if (is_mark(next, '/')) {
-        if (!fraction_decide(section_)) return plain_number();
-        return reading_as(ReadingRule::fraction, fraction_number(section_, reading_));
-    }
-    if (is_amount_before_dollar()) return money(section_);
-    if (decimal_decide(section_)) {
-        return reading_as(ReadingRule::decimal, decimal_number(section_, reading_));
-    }
-    return is_mark(next, ':') ? clock_time() : plain_number();
+    // After so many digits that they are two sections, it may be an amount.
+    if (is_number(next) && tokens_.is_amount_before_dollar(first_)) return money(first_);
+    return plain_number();
 }
 
-// The answer of currency_decide, without walking over the same amount from each of its numbers.
-bool SectionDispatcher::is_amount_before_dollar() {
-    if (window_ != nullptr) return window_->is_amount_before_dollar(section_);
-    return is_dollar(
-        amount_end_.find(section_, [](const Section* s) { return !belongs_to_amount(s); }));
+const Token* SectionDispatcher::money(const Token* amount) {
+    return read(ReadingRule::money, currrency_read, amount);
 }
 
-Section* SectionDispatcher::money(Section* amount) {
-    return reading_as(ReadingRule::money, currrency_read(amount, reading_));
+// In a host's queue, the form code stands in the place of the section's class from here on. An
+// incomplete time ends the walk without its words.
+const Token* SectionDispatcher::clock_time() {
+    const TimeForm form = time_decide(first_);
+    if (first_->section != nullptr) first_->section->m_nmark = form;
+    const Token* last = time_number(first_, form, reading_);
+    return is_section(last) ? reading_as(ReadingRule::clock_time, last) : last;
 }
 
-// The form code stands in the place of the section's class from here on. An incomplete time ends
-// the walk without its words.
-Section* SectionDispatcher::clock_time() {
-    const TimeForm form = time_decide(section_);
-    section_->m_nmark = form;
-    Section* last = time_number(section_, form, reading_);
-    return last != nullptr ? reading_as(ReadingRule::clock_time, last) : nullptr;
-}
-
-Section* SectionDispatcher::plain_number() {
-    const std::string_view digits = section_->sz_char;
-    if (is_year(value_of(section_))) {
+const Token* SectionDispatcher::plain_number() {
+    const std::string_view digits = first_->text();
+    if (is_year(digits)) {
         year_read(digits, reading_);
-        return reading_as(ReadingRule::year, section_);
+        return reading_as(ReadingRule::year, first_);
     }
-    if (is_day_of_month(section_)) {
+    if (is_day_of_month(first_)) {
         append_ordinal(digits, reading_);
-        return reading_as(ReadingRule::ordinal_day, section_);
+        return reading_as(ReadingRule::ordinal_day, first_);
     }
     append_number(digits, reading_);
-    return reading_as(ReadingRule::cardinal, section_);
+    return reading_as(ReadingRule::cardinal, first_);
 }
 
 // ---- marks ----
 
-Section* SectionDispatcher::mark() {
-    const MarkReading* row = find_mark(section_->sz_char[0]);
+const Token* SectionDispatcher::mark() {
+    const MarkReading* row = find_mark(first_->first());
     rule_ = row != nullptr ? ReadingRule::mark : ReadingRule::silent;
-    if (row == nullptr) return section_;
-    const bool before_number = is_number(section_->m_pnext);
-    MarkWords words = words_of(*row, is_number(section_->m_pprevious), before_number);
+    if (row == nullptr) return first_;
+    const bool before_number = is_number(first_ + 1);
+    MarkWords words = words_of(*row, is_number(first_ - 1), before_number);
     if (words == READER) {
         switch (row->mark) {
             case '<': return smaller();
-            case '\'':
-                rule_ = ReadingRule::contraction;
-                process_single_quote(section_);
-                return section_;
+            case '\'': return apostrophe();
             case '(':
                 if (before_number) return bracket();
                 break;
             case '+': return plus_sign();
             default:  // "$"
-                if (before_number) return money(section_->m_pnext);
+                if (before_number) return money(first_ + 1);
         }
         words = row->otherwise;
         assert(words != READER);
     }
     row->spaced ? append_spaced(text_of(words)) : append(text_of(words));
-    return section_;
+    return first_;
 }
 
-Section* SectionDispatcher::bracket() {
-    Section* last = nullptr;
+const Token* SectionDispatcher::bracket() {
+    const Token* last = first_;
     rule_ = ReadingRule::bracket;
-    if (!bracket_read(section_, reading_, output_, last)) outcome_ = Outcome::full;
-    return last != nullptr ? last : section_;
+    if (!bracket_read(first_, reading_, output_, last)) outcome_ = Outcome::full;
+    return last;
 }
 
-Section* SectionDispatcher::plus_sign() {
-    Section* last = nullptr;
+const Token* SectionDispatcher::plus_sign() {
+    const Token* last = first_;
     rule_ = ReadingRule::plus_sign;
-    if (!plus_read(section_, reading_, output_, last)) outcome_ = Outcome::full;
-    return last != nullptr ? last : section_;
+    if (!plus_read(first_, reading_, output_, last)) outcome_ = Outcome::full;
+    return last;
 }
 
 // A markup tag, or a "<" of the text.
-Section* SectionDispatcher::smaller() {
-    const char* text = section_->sz_char;
-    if (begins_sentence_tag(text)) {
+const Token* SectionDispatcher::smaller() {
+    if (is_tag(first_)) {
         rule_ = ReadingRule::markup_tag;
-        append_spaced(text);
-        return section_;
+        append_spaced(first_->text());
+        return first_;
     }
-    const Section* next = section_->m_pnext;
-    const bool is_spoken = next == nullptr || begins_with(next->sz_char, "punc");
-    append(text_of(smaller_words(is_spoken, !is_spoken && greater_follows(next))));
-    return section_;
+    const Token* next = first_ + 1;
+    const bool is_spoken = !is_section(next) || begins_with(next->text(), "punc");
+    append(text_of(smaller_words(is_spoken, !is_spoken && tokens_.greater_follows(first_))));
+    return first_;
 }
 
-// Whether a section that begins with ">" stands somewhere from `next` on.
-bool SectionDispatcher::greater_follows(const Section* next) {
-    if (window_ != nullptr) return window_->greater_follows(section_);
-    return greater_.find(next, [](const Section* s) { return s->sz_char[0] == '>'; }) != nullptr;
+const Token* SectionDispatcher::apostrophe() {
+    rule_ = ReadingRule::contraction;
+    const char* full = process_single_quote(first_);
+    if (full == nullptr) return first_;
+    append_spaced(full);
+    return first_ + 1;
 }
 
 }  // namespace kavi::tn

@@ -110,7 +110,7 @@ const char* PlainText::smaller(const char* text) {
     const std::string_view tag = first_section(text, tag_ends_);
     if (tag.size() > 1) return output_.append_spaced(tag) ? text + tag.size() : nullptr;
     const bool is_spoken = text[1] == '\0' || begins_with(text + 1, "punc");
-    const bool greater_follows = !is_spoken && window_.greater_follows(text + 1);
+    const bool greater_follows = !is_spoken && tokens_.greater_follows(text + 1);
     return output_.append(text_of(smaller_words(is_spoken, greater_follows))) ? text + 1 : nullptr;
 }
 

@@ -1,4 +1,4 @@
-// Text that reads the same wherever it stands, and is read without sections.
+// Text that reads the same wherever it stands, and is read without tokens.
 #ifndef KAVI_TN_PLAIN_TEXT_H
 #define KAVI_TN_PLAIN_TEXT_H
 
@@ -7,7 +7,7 @@
 #include "../common/bounded_text.h"
 #include "../markup/tag_ends.h"
 #include "reading_observer.h"
-#include "section_window.h"
+#include "text_tokens.h"
 
 namespace kavi::tn {
 
@@ -15,10 +15,10 @@ namespace kavi::tn {
 // kinds of words and the same rows of marks, without a number before them.
 class PlainText {
   public:
-    // A NUL stands at `text_end`. `tag_ends` serves one pass over the text; `window` is asked for
+    // A NUL stands at `text_end`. `tag_ends` serves one pass over the text; `tokens` are asked for
     // what stands further on.
-    PlainText(const char* text_end, TagEnds& tag_ends, SectionWindow& window, BoundedText& output)
-        : text_end_(text_end), tag_ends_(tag_ends), window_(window), output_(output) {}
+    PlainText(const char* text_end, TagEnds& tag_ends, TextTokens& tokens, BoundedText& output)
+        : text_end_(text_end), tag_ends_(tag_ends), tokens_(tokens), output_(output) {}
 
     // Appends the readings from `text` on and returns where they end: at the end of the text, or
     // where a pattern may begin that a reader has to look at. Null when the output is full; it then
@@ -38,7 +38,7 @@ class PlainText {
 
     const char* text_end_;
     TagEnds& tag_ends_;
-    SectionWindow& window_;
+    TextTokens& tokens_;
     BoundedText& output_;
 };
 

@@ -12,29 +12,36 @@
 
 namespace kavi::tn {
 
-constexpr int class_of(char first) {
-    if (belongs_to(LETTERS, first)) return STRINGSYMBOL;
-    return belongs_to(DIGITS, first) ? NUMBERSYMBOL : MARKSYMBOL;
+// The run that a section belongs to whose first character this is, of letters, of digits or none.
+constexpr unsigned run_of(char first) {
+    return RUNS[static_cast<unsigned char>(first)] & (LETTERS | DIGITS);
+}
+
+constexpr int class_of(unsigned run) {
+    if (run == LETTERS) return STRINGSYMBOL;
+    return run == DIGITS ? NUMBERSYMBOL : MARKSYMBOL;
 }
 
 // What begins with "<": a tag, or that byte. `tag_ends` serves one pass over the text.
 std::string_view first_tag(const char* text, TagEnds& tag_ends);
 
-// The first section of a text that is not empty: a run of letters or digits, a tag, or one byte.
-// `tag_ends` serves one pass over the text.
-inline std::string_view first_section(const char* text, TagEnds& tag_ends) {
-    const auto run = static_cast<Run>(RUNS[static_cast<unsigned char>(*text)] & (LETTERS | DIGITS));
+// The first section of a text that is not empty, whose run is this: a run of letters or digits, a
+// tag, or one byte. `tag_ends` serves one pass over the text.
+inline std::string_view first_section(const char* text, unsigned run, TagEnds& tag_ends) {
     if (run == 0) return *text == '<' ? first_tag(text, tag_ends) : std::string_view(text, 1);
     std::size_t length = 1;
-    while (length < WORD_LENGTH_MAX && belongs_to(run, text[length])) ++length;
+    while (length < WORD_LENGTH_MAX && belongs_to(static_cast<Run>(run), text[length])) ++length;
     return {text, length};
+}
+inline std::string_view first_section(const char* text, TagEnds& tag_ends) {
+    return first_section(text, run_of(*text), tag_ends);
 }
 
 // Gives a section its text and class and no neighbours. What stands after the text is as it was.
 inline void set_section(Section& section, std::string_view text) {
     copy_short(section.sz_char, text.data(), text.size());
     section.sz_char[text.size()] = '\0';
-    section.m_nmark = class_of(text[0]);
+    section.m_nmark = class_of(run_of(text[0]));
     section.m_pnext = section.m_pprevious = nullptr;
 }
 

@@ -5,34 +5,35 @@
 #include "../common/ascii.h"
 #include "dispatcher.h"
 #include "plain_text.h"
+#include "queue_tokens.h"
 
 namespace kavi {
 
 namespace tn {
 
-// Sections are made only of what a reader has to look at: the plain text between goes straight to
+// Tokens are made only of what a reader has to look at: the plain text between goes straight to
 // the output.
 int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* observer) {
     BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
     if (output.length() == SZ_TEXT_MAX_LEN) return -1;  // no text: nothing terminates it
-    bool all_words = output.length() == 0;
+    const bool was_empty = output.length() == 0;
     TagEnds tag_ends;
-    SectionWindow window(SectionWindow::Reach::plain_word, tag_ends);
-    PlainText plain_text(sz_source_text + std::strlen(sz_source_text), tag_ends, window, output);
+    TextTokens tokens(TextTokens::Reach::plain_word, tag_ends);
+    PlainText plain_text(sz_source_text + std::strlen(sz_source_text), tag_ends, tokens, output);
+    SectionDispatcher dispatcher(tokens, output);
     for (const char* text = sz_source_text;;) {
         text = plain_text.read(text, observer);
         if (text == nullptr) return -1;
         if (*text == '\0') break;
-        SectionDispatcher dispatcher(text, window, output);
+        dispatcher.go_on_at(tokens.begin(text));
         while (dispatcher.next()) {
             if (observer != nullptr) observer->on_step(dispatcher);
         }
         if (dispatcher.outcome() == Outcome::full) return -1;
-        all_words = all_words && dispatcher.is_all_words();
         if (dispatcher.outcome() == Outcome::ended) break;
-        text = window.end();
+        text = tokens.end();
     }
-    if (all_words) {
+    if (was_empty && dispatcher.is_all_words()) {
         output.cut_blanks();  // readers write nothing but letters, blanks and tags
     } else {
         re_regular(sz_target_text);
@@ -69,7 +70,9 @@ int PostProTnEng::eng_text_tokenize(char* sz_source_text, char* sz_target_text) 
 
 int PostProTnEng::section_process(Section* p_section, char* sz_target_text) {
     tn::BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
-    tn::SectionDispatcher dispatcher(p_section, output);
+    tn::QueueTokens tokens(p_section);
+    tn::SectionDispatcher dispatcher(tokens, output);
+    dispatcher.go_on_at(tokens.begin());
     while (dispatcher.next()) {
     }
     return dispatcher.outcome() == tn::Outcome::full ? -1 : 0;

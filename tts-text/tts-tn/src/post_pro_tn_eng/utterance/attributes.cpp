@@ -80,11 +80,13 @@ bool set_attribute(CssmlTag& tag, std::string_view name, std::string_view value)
 
 }  // namespace
 
-bool tn::set_attributes(CssmlTag& tag, std::string_view names, std::string_view values) {
+bool tn::set_attributes(CssmlTag& tag, AttributeLists& lists) {
     for (;;) {
-        const std::string_view name = next_field(names, '\t');
+        const std::string_view name = next_field(lists.names, '\t');
         if (name.empty()) return true;
-        if (!set_attribute(tag, name, next_field(values, '\t'))) return false;
+        const std::string_view value = next_field(lists.values, '\t');
+        lists.lacks_value = value.empty();
+        if (!set_attribute(tag, name, value)) return false;
     }
 }
 
@@ -117,7 +119,8 @@ bool PostProTnEng::insert_prosody_in(int n, UtteranceSyllable* utt, const char* 
 
 bool PostProTnEng::insert_ssml_info_in(int n, UtteranceSyllable* utt, const char* value_str,
                                        const char* tag_type) {
-    return tn::set_attributes(utt[n - 1].cssml_tag, tag_type, value_str);
+    tn::AttributeLists lists = {tag_type, value_str};
+    return tn::set_attributes(utt[n - 1].cssml_tag, lists);
 }
 
 }  // namespace kavi

@@ -18,7 +18,7 @@ bool SpanChain::enter(std::string_view name, std::string_view value) {
     const bool inside = is_open();
     if (!names_.join(name, inside) || !values_.join(value, inside)) return false;
     ++n_levels_;
-    is_markup_known_ = false;
+    is_markup_known_ = is_markup_final_;
     return true;
 }
 
@@ -26,15 +26,22 @@ void SpanChain::leave() {
     --n_levels_;
     names_.length = levels_[n_levels_].names;
     values_.length = levels_[n_levels_].values;
-    is_markup_known_ = false;
+    is_markup_known_ = is_markup_final_ = false;
+    names_.applied = 0;
 }
 
 const CssmlTag& SpanChain::markup() {
-    if (!is_markup_known_) {
+    if (is_markup_known_) return markup_;
+    if (names_.applied == 0) {
         markup_ = {};
-        static_cast<void>(set_attributes(markup_, names_.view(), values_.view()));
-        is_markup_known_ = true;
+        values_.applied = 0;
     }
+    AttributeLists lists = {names_.rest(), values_.rest()};
+    is_markup_final_ = !set_attributes(markup_, lists);
+    is_markup_known_ = true;
+    // A value that was missing may come with the next span: all is applied again then.
+    names_.applied = lists.lacks_value ? 0 : names_.length;
+    values_.applied = values_.length - lists.values.size();
     return markup_;
 }
 

@@ -32,10 +32,11 @@ class SpanChain {
   private:
     struct List {
         std::size_t length = 0;
+        std::size_t applied = 0;  // so much of it has gone into the markup
         char text[SPAN_CHAIN_MAX];
 
         bool join(std::string_view field, bool after_others);
-        std::string_view view() const { return {text, length}; }
+        std::string_view rest() const { return {text + applied, length - applied}; }
     };
 
     // The lengths of the lists without a span.
@@ -52,12 +53,20 @@ class SpanChain {
     int n_levels_ = 0;
     Level levels_[LEVELS_MAX];
     bool is_markup_known_ = false;
-    CssmlTag markup_;
+    bool is_markup_final_ = false;  // a pair cannot be applied: no span inside changes anything
+    CssmlTag markup_;               // goes on from what has been applied when a span is entered
 };
 
-// Sets the attributes that a chain gives. False at the first pair that cannot be applied, those
-// before it applied.
-bool set_attributes(CssmlTag& tag, std::string_view names, std::string_view values);
+// Names and values that are still to be applied.
+struct AttributeLists {
+    std::string_view names;
+    std::string_view values;
+    bool lacks_value = false;  // there were fewer values than names
+};
+
+// Sets the attributes that the lists give, and takes them off. False at the first pair that cannot
+// be applied, those before it applied.
+bool set_attributes(CssmlTag& tag, AttributeLists& lists);
 
 }  // namespace kavi::tn
 

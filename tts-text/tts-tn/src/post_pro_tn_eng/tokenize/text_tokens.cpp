@@ -1,0 +1,65 @@
+#include "text_tokens.h"
+
+#include "../common/ascii.h"
+#include "../readers/words.h"
+
+namespace kavi::tn {
+
+namespace {
+
+// Whether no reader looks past a section of letters: see readers/readers.h.
+bool stops_readers(const char* word, const char* after) {
+    const bool glued =
+        is_digit(*after) || is_letter(*after) || (*after == '.' && is_digit(after[1]));
+    return !glued && word_kind({word, static_cast<std::size_t>(after - word)}) == WordKind::plain;
+}
+
+}  // namespace
+
+void TextTokens::fill() {
+    while (has_room()) {
+        if (*next_ == '\0') {
+            complete();
+            return;
+        }
+        const char* begin = next_;
+        const unsigned run = run_of(*begin);
+        const std::size_t length = first_section(begin, run, tag_ends_).size();
+        next_ = begin + length;
+        append({begin, static_cast<std::uint16_t>(length), static_cast<signed char>(class_of(run)),
+                run == DIGITS, nullptr});
+        if (reach_ == Reach::plain_word && stops_at(begin, run)) {
+            complete();
+            return;
+        }
+    }
+}
+
+// A blank before the word where readers stop is as good as the word.
+bool TextTokens::stops_at(const char* section, unsigned run) const {
+    if (run == LETTERS) return stops_readers(section, next_);
+    if (*section != ' ' || !begins_plain_word(next_)) return false;
+    const char* word_end = next_ + 1;
+    while (belongs_to(LETTERS, *word_end)) ++word_end;
+    return static_cast<std::size_t>(word_end - next_) <= WORD_LENGTH_MAX &&
+           stops_readers(next_, word_end);
+}
+
+bool TextTokens::is_amount_before_dollar(const Token* number) {
+    const char* text = number->begin;
+    if (amount_end_ == nullptr || text >= amount_end_) {
+        while (is_digit(*text) || *text == ',' || *text == '.') ++text;
+        amount_end_ = text;
+    }
+    return *amount_end_ == '$';
+}
+
+bool TextTokens::greater_follows(const char* text) {
+    if (searched_ == nullptr || searched_ < text) searched_ = text;
+    while (*searched_ != '\0' && *searched_ != '>') {
+        searched_ += first_section(searched_, tags_ahead_).size();
+    }
+    return *searched_ == '>';
+}
+
+}  // namespace kavi::tn

@@ -36,6 +36,7 @@ FAULTS = [(re.compile(pattern), replacement) for pattern, replacement in [
     (r"(?<=, )([1-9])(?=\))", lambda found: str(int(found.group(1)) - 1)),  # or earlier
     (r"(?<== )(\d+)(?=;)", lambda found: str(int(found.group(1)) + 1)),
     (r"->m_pnext\b", ""), (r"->m_pprevious\b", "->m_pnext"),  # the wrong neighbour
+    (r"(?<=\w\[)([1-9])(?=\])|(?<= \+ )([2-9])\b", lambda found: str(int(found.group()) + 1)),  # a token later
     (r"^ +[\w.>-]+\.(append|take|append_whole|cut|clear|pass|catch_up)\(.*\);$", ""),
     (r"^ +continue;$", ""), (r"^ +break;$", ""),
     # A release, a re-initialisation, a field or an escape left out.

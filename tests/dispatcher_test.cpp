@@ -79,6 +79,50 @@ TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
     EXPECT_STREQ(empty, " dollars  ");
 }
 
+TEST_F(Dispatcher, ReadsAQueueFromWithinIt) {
+    std::string text = "in the May 5";
+    Section* head = nullptr;
+    ASSERT_EQ(engine.text_to_queue(text.data(), head), 0);
+    const Section* month = head->m_pnext->m_pnext->m_pnext->m_pnext;
+    for (Section* from : {month->m_pnext, month->m_pnext->m_pnext}) {
+        char target[SZ_TEXT_MAX_LEN] = {};
+        EXPECT_EQ(engine.section_process(from, target), 0);
+        EXPECT_STREQ(target, " fifth  ");
+    }
+    release(head);
+}
+
+// A section that a host appends itself has the class of its first character, whatever follows that.
+TEST_F(Dispatcher, ReadsSectionsThatNoTextHas) {
+    struct Case {
+        std::vector<std::string> sections;
+        const char* expected;
+    };
+    for (const auto& [sections, expected] :
+         {Case{{"10", ":", "--", "a"}, " ten   a "},
+          Case{{"$", "1x", ".", "50"}, "  dollar  fifty  cents  "}, Case{{"1999x"}, " "}}) {
+        Section* head = nullptr;
+        for (std::string section : sections) EXPECT_EQ(engine.add_section(section.data(), head), 0);
+        char target[SZ_TEXT_MAX_LEN] = {};
+        EXPECT_EQ(engine.section_process(head, target), 0);
+        EXPECT_STREQ(target, expected) << sections.front();
+        release(head);
+    }
+}
+
+TEST_F(Dispatcher, APatternThatEndsTheTextNeedsRoomToo) {
+    for (const auto& [room, result] : {std::pair(10, -1), std::pair(200, 0)}) {
+        char number[] = "1,234,";
+        char target[SZ_TEXT_MAX_LEN] = {};
+        std::memset(target, 'x', static_cast<std::size_t>(SZ_TEXT_MAX_LEN - 1 - room));
+        EXPECT_EQ(engine.eng_text_tokenize(number, target), result) << room;
+    }
+}
+
+TEST_F(Dispatcher, AnAmountMayBeTwoSectionsLong) {
+    EXPECT_NE(tokenize(std::string(WORD_MAX_LEN, '1') + "$").find("dollars"), std::string::npos);
+}
+
 TEST_F(Dispatcher, TheFormOfATimeStandsInThePlaceOfItsClass) {
     char sentence[] = "10:30:15";
     Section* head = nullptr;

@@ -24,7 +24,7 @@ constexpr std::size_t ALIGNMENT = alignof(std::max_align_t);
 // Classes of 16, 32, ... 1024 bytes, then four to every doubling up to 32768.
 constexpr std::size_t SMALL_STEP = 16;
 constexpr std::size_t SMALL_MAX = 1024;
-constexpr std::size_t SMALL_SHIFT = 8;  // of a quarter of SMALL_MAX
+constexpr int SMALL_SHIFT = 8;  // of a quarter of SMALL_MAX
 constexpr std::size_t CLASS_MAX = 32768;
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
 constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
@@ -80,10 +80,12 @@ SizeClass class_of(std::size_t size) {
         return {steps - 1, steps * SMALL_STEP};
     }
     if (size > CLASS_MAX) return {CLASSES, round_up(size, ALIGNMENT)};
-    std::size_t shift = SMALL_SHIFT;
-    while (size > std::size_t{8} << shift) ++shift;
-    const std::size_t quarters = ((size - 1) >> shift) + 1;  // of the doubling: five to eight
-    return {SMALL_CLASSES + 4 * (shift - SMALL_SHIFT) + quarters - 5, quarters << shift};
+    const unsigned long last = static_cast<unsigned long>(size - 1);
+    const int top_bit = std::numeric_limits<unsigned long>::digits - 1 - __builtin_clzl(last);
+    const int shift = top_bit - 2;
+    const std::size_t quarters = (last >> shift) + 1;  // of the doubling: five to eight
+    const auto doubling = static_cast<std::size_t>(shift - SMALL_SHIFT);
+    return {SMALL_CLASSES + 4 * doubling + quarters - 5, quarters << shift};
 }
 
 }  // namespace
@@ -274,14 +276,28 @@ std::size_t mem_stack_taken(mem_stack_handle arena) {
 
 namespace {
 
+// The first free block of a class of one size, when no fewer bytes have been in use before: one
+// comparison tells both, and that the capacity is not reached. Else null.
+inline void* take_free(tag_mem_stack_array& arena, std::size_t index) {
+    FreeBlock* block = arena.free_list[index];
+    std::size_t below_peak = 0;
+    if (__builtin_sub_overflow(arena.below_peak, block->header().cost, &below_peak)) return nullptr;
+    arena.below_peak = below_peak;
+    arena.free_list[index] = block->next;
+    return block;
+}
+
 // Serves every request. Out of line, so that the usual one does not pay for its registers.
 __attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
                                             mem_stack_handle handle) {
     if (static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
     tag_mem_stack_array& arena = *handle;
+    const SizeClass wanted = class_of(size);
+    if (wanted.index != CLASSES) {
+        if (void* block = take_free(arena, wanted.index)) return block;
+    }
     const std::size_t left = arena.capacity - arena.used();
     if (size > std::min(left, REQUEST_MAX)) return nullptr;
-    const SizeClass wanted = class_of(size);
     const std::size_t cost = wanted.bytes + sizeof(BlockHeader);
     if (cost > left) return nullptr;
     BlockHeader* block = reuse(arena, wanted.index, cost);
@@ -295,21 +311,14 @@ __attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
 
 }  // namespace
 
-// The usual request is for a small block of a class that has one free, when no fewer bytes have
-// been in use before: one comparison tells both, and that the capacity is not reached.
+// The usual request is for a small block.
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
     if (arena == nullptr) return nullptr;
     const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
     if (index >= SMALL_CLASSES) return request_any(size, type, arena);
     if (static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
-    FreeBlock* block = arena->free_list[index];
-    std::size_t below_peak = 0;
-    if (__builtin_sub_overflow(arena->below_peak, block->header().cost, &below_peak)) {
-        return request_any(size, type, arena);
-    }
-    arena->below_peak = below_peak;
-    arena->free_list[index] = block->next;
-    return block;
+    void* block = take_free(*arena, index);
+    return block != nullptr ? block : request_any(size, type, arena);
 }
 
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,

@@ -35,17 +35,16 @@ char* replace_by(std::string_view words, char* target) {
     return target;
 }
 
-// Reads what a mark may begin straight to the output; the mark moves to the last section consumed.
+// Reads what a mark may begin straight to the output; `last` becomes the last section consumed.
 // False when the output is full.
-bool append_mark(bool (*read)(const Token*, Reading&, BoundedText&, const Token*&), Section*& mark,
-                 char* target) {
-    const QueueTokens tokens(mark);
+bool append_mark(bool (*read)(const Token*, Reading&, BoundedText&, const Token*&),
+                 const Token* mark, char* target, Section*& last) {
     char scratch[WORD_MAX_LEN];
     Reading reading(emptied(scratch));
     BoundedText output(target, SZ_TEXT_MAX_LEN);
-    const Token* last = tokens.begin();
-    const bool fits = read(tokens.begin(), reading, output, last);
-    mark = last->section;
+    const Token* last_token = mark;
+    const bool fits = read(mark, reading, output, last_token);
+    last = last_token->section;
     return fits;
 }
 
@@ -150,17 +149,17 @@ int PostProTnEng::process_upper_case(Section* m_ptemp_section, char* sz_target) 
 }
 
 bool PostProTnEng::process_bracket(Section*& p_temp_section, char* sz_target) {
-    const Section* next = p_temp_section->m_pnext;
-    const bool before_number = next != nullptr && next->m_nmark == NUMBERSYMBOL;
-    if (!before_number) return append_words("<punc=zuokuo>", sz_target);
-    return append_mark(bracket_read, p_temp_section, sz_target);
+    const QueueTokens tokens(p_temp_section);
+    const Token* bracket = tokens.begin();
+    if (!is_number(bracket + 1)) return append_words("<punc=zuokuo>", sz_target);
+    return append_mark(bracket_read, bracket, sz_target, p_temp_section);
 }
 
 Section* PostProTnEng::process_plus(Section* p_temp_section, char* sz_target) {
-    const Section* previous = p_temp_section->m_pprevious;
-    const bool after_number = previous != nullptr && previous->m_nmark == NUMBERSYMBOL;
-    const bool fits = after_number ? append_words("add ", sz_target)
-                                   : append_mark(plus_read, p_temp_section, sz_target);
+    const QueueTokens tokens(p_temp_section);
+    const Token* plus = tokens.begin();
+    const bool fits = is_number(plus - 1) ? append_words("add ", sz_target)
+                                          : append_mark(plus_read, plus, sz_target, p_temp_section);
     return fits ? p_temp_section : nullptr;
 }
 

@@ -2,7 +2,6 @@
 
 #include <cstring>
 
-#include "../common/word_table.h"
 #include "../numbers/number_words.h"
 #include "readers.h"
 #include "tokens.h"
@@ -11,9 +10,14 @@ namespace kavi::tn {
 
 namespace {
 
-// Each word fits over its contraction's section.
-constexpr char CONTRACTIONS[5][2][5] = {
-    {"m", "am"}, {"s", "is"}, {"ll", "will"}, {"re", "are"}, {"t", "not"},
+struct Contraction {
+    char letters[3];
+    char word[5];  // fits over the letters' section
+    unsigned char length;
+};
+
+constexpr Contraction CONTRACTIONS[] = {
+    {"t", "not", 3}, {"s", "is", 2}, {"re", "are", 3}, {"ll", "will", 4}, {"m", "am", 2},
 };
 
 // The number is the country code, what follows it the telephone number.
@@ -43,17 +47,22 @@ bool plus_read(const Token* plus, Reading& reading, BoundedText& output, const T
     return !begins_number || country_code_read(number, reading, output, last);
 }
 
-const char* find_contraction(std::string_view letters) {
-    return find_word(CONTRACTIONS, letters);
+std::string_view find_contraction(std::string_view letters) {
+    if (letters.empty() || letters.size() > 2) return {};
+    const char second = letters.size() == 2 ? letters[1] : '\0';
+    for (const Contraction& row : CONTRACTIONS) {
+        if (row.letters[0] == letters[0] && row.letters[1] == second) return {row.word, row.length};
+    }
+    return {};
 }
 
-const char* process_single_quote(const Token* apostrophe) {
-    const Token* word = apostrophe + 1;
-    const char* full = find_contraction(word->text());
-    if (full != nullptr && word->section != nullptr) {
-        std::memcpy(word->section->sz_char, full, std::strlen(full) + 1);
+std::string_view process_single_quote(const Token* apostrophe) {
+    const Token* letters = apostrophe + 1;
+    const std::string_view word = find_contraction(letters->text());
+    if (!word.empty() && letters->section != nullptr) {
+        std::memcpy(letters->section->sz_char, word.data(), word.size() + 1);
     }
-    return full;
+    return word;
 }
 
 }  // namespace kavi::tn

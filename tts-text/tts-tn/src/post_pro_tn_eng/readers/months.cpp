@@ -1,7 +1,6 @@
 #include "months.h"
 
 #include "../common/ascii.h"
-#include "../common/word_table.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
@@ -22,11 +21,9 @@ constexpr unsigned INITIALS = make_initials();
 int month_number(std::string_view text) {
     constexpr int BASE = 10;
     constexpr int MONTHS = 12;
-    if (text.empty() || text.size() > 2) return 0;
-    const char tens = text.size() == 2 ? text[0] : '0';
-    const char units = text.back();
-    if (!is_digit(tens) || !is_digit(units)) return 0;
-    const int value = (tens - '0') * BASE + (units - '0');
+    if (text.size() > 2 || !is_digit(text.back())) return 0;
+    const int tens = text.size() == 2 ? text[0] - '0' : 0;
+    const int value = tens * BASE + (text.back() - '0');
     return value <= MONTHS ? value : 0;
 }
 
@@ -38,9 +35,8 @@ const char* month_name(std::string_view text) {
         return number > 0 ? s_number_to_month[number - 1][1] : nullptr;
     }
     if (!is_upper(text[0]) || (INITIALS >> (text[0] - 'A') & 1U) == 0) return nullptr;
-    if (const char* name = find_word(s_string_to_month, text)) return name;
     for (const auto& row : s_string_to_month) {
-        if (row[1][0] == text[0] && text == row[1]) return row[1];
+        if (row[0][0] == text[0] && (text == row[0] || text == row[1])) return row[1];
     }
     return nullptr;
 }

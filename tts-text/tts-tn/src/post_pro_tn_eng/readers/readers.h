@@ -24,7 +24,7 @@ constexpr int SECTIONS_BEFORE = 2;
 
 using Reader = const Token*(const Token* pattern, Reading& reading);
 
-// ---- telephone: "area code ", then group by group, digit by digit ----
+// ---- telephone: "area code ", then group by group, digit by digit; it begins with no word ----
 bool phone_number_decide(const Token* token);
 const Token* phone_number_read(const Token* first, Reading& reading);
 
@@ -72,11 +72,11 @@ bool append_no_number(const Token* token, Reading& reading);
 bool bracket_read(const Token* bracket, Reading& reading, BoundedText& output, const Token*& last);
 bool plus_read(const Token* plus, Reading& reading, BoundedText& output, const Token*& last);
 
-// What the letters after an apostrophe stand for, or null.
-const char* find_contraction(std::string_view letters);
+// What the letters after an apostrophe stand for; empty when they are no contraction.
+std::string_view find_contraction(std::string_view letters);
 
 // The same of the token after an apostrophe; a host's section has it from then on.
-const char* process_single_quote(const Token* apostrophe);
+std::string_view process_single_quote(const Token* apostrophe);
 
 }  // namespace kavi::tn
 

@@ -29,7 +29,8 @@ WordKind word_kind(std::string_view word) {
 
 void ask_lexicon(std::string_view word) {
     char sz_desc[WORD_MAX_LEN];
-    *std::transform(word.begin(), word.end(), sz_desc, to_lower) = '\0';
+    const auto lower = [](char c) { return static_cast<char>(c - 'A' + 'a'); };
+    *std::transform(word.begin(), word.end(), sz_desc, lower) = '\0';
     char sz_phone[256] = {};
     static_cast<void>(eng_lexicon_lookup(sz_desc, sz_phone, sizeof sz_phone));
 }

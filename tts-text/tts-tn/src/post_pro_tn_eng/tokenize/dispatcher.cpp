@@ -200,9 +200,9 @@ const Token* SectionDispatcher::smaller() {
 
 const Token* SectionDispatcher::apostrophe() {
     rule_ = ReadingRule::contraction;
-    const char* full = process_single_quote(first_);
-    if (full == nullptr) return first_;
-    append_spaced(full);
+    const std::string_view word = process_single_quote(first_);
+    if (word.empty()) return first_;
+    append_spaced(word);
     return first_ + 1;
 }
 

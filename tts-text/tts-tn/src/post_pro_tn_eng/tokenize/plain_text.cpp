@@ -45,7 +45,7 @@ const char* end_of_plain_words(const char* text, const char* text_end) {
 
 const char* PlainText::read(const char* text, ReadingObserver* observer) {
     for (;;) {
-        while (*text == ' ') ++text;
+        while (*text == ' ' || *text == '\n') ++text;
         if (*text == '\0' || is_digit(*text)) return text;
         const int target_at = output_.length();
         const char* end = is_letter(*text) ? words(text) : mark(text);
@@ -116,9 +116,9 @@ const char* PlainText::smaller(const char* text) {
 
 const char* PlainText::apostrophe(const char* text) {
     const std::string_view letters = first_word(text + 1);
-    const char* full = find_contraction(letters);
-    if (full == nullptr) return text + 1;
-    return output_.append_spaced(full) ? text + 1 + letters.size() : nullptr;
+    const std::string_view word = find_contraction(letters);
+    if (word.empty()) return text + 1;
+    return output_.append_spaced(word) ? text + 1 + letters.size() : nullptr;
 }
 
 }  // namespace kavi::tn

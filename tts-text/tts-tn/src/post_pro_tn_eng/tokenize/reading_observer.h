@@ -8,7 +8,8 @@ namespace kavi::tn {
 
 class SectionDispatcher;
 
-// Is shown what is read as what, in order: together it is the sentence, but for blanks.
+// Is shown what is read as what, in order: together it is the sentence, but for blanks
+// and line ends.
 class ReadingObserver {
   public:
     // `source`, a word, a stretch of words or a mark that reads the same wherever it stands, was

@@ -35,6 +35,7 @@ constexpr int PUNC_MAX = sizeof UtteranceSyllable::punc_arr / sizeof(PUNC_type);
 
 struct PuncName {
     char name[9];
+    unsigned char length;
     bool forces_pause;
     PUNC_type punc;
 };
@@ -42,25 +43,25 @@ struct PuncName {
 // The marks of speakable text first, the usual ones before the others.
 // clang-format off
 constexpr PuncName PUNC_NAMES[] = {
-    {"ju",       true,  PUNC_JU_FE},
-    {"dou",      true,  PUNC_DOU_FE},
-    {"wen",      true,  PUNC_WEN_FE},
-    {"zuoyin",   false, PUNC_ZUOYIN_FE},
-    {"zuokuo",   false, PUNC_ZUOKUO_FE},
-    {"youkuo",   false, PUNC_YOUKUO_FE},
-    {"mao",      true,  PUNC_MAO_FE},
-    {"fen",      true,  PUNC_FEN_FE},
-    {"tan",      true,  PUNC_TAN_FE},
-    {"dun",      true,  PUNC_DUN_FE},
-    {"zuoshu",   false, PUNC_ZUOSHU_FE},
-    {"youshu",   false, PUNC_YOUSHU_FE},
-    {"youyin",   false, PUNC_YOUYIN_FE},
-    {"shenglue", true,  PUNC_SHENGLUE_FE},
-    {"pozhe",    false, PUNC_POZHE_FE},
-    {"tnbegin",  false, TN_BEGIN_FE},
-    {"tnend",    false, TN_END_FE},
-    {"POIB",     false, POIB_FE},
-    {"POIE",     false, POIE_FE},
+    {"ju",       2, true,  PUNC_JU_FE},
+    {"dou",      3, true,  PUNC_DOU_FE},
+    {"wen",      3, true,  PUNC_WEN_FE},
+    {"zuoyin",   6, false, PUNC_ZUOYIN_FE},
+    {"zuokuo",   6, false, PUNC_ZUOKUO_FE},
+    {"youkuo",   6, false, PUNC_YOUKUO_FE},
+    {"mao",      3, true,  PUNC_MAO_FE},
+    {"fen",      3, true,  PUNC_FEN_FE},
+    {"tan",      3, true,  PUNC_TAN_FE},
+    {"dun",      3, true,  PUNC_DUN_FE},
+    {"zuoshu",   6, false, PUNC_ZUOSHU_FE},
+    {"youshu",   6, false, PUNC_YOUSHU_FE},
+    {"youyin",   6, false, PUNC_YOUYIN_FE},
+    {"shenglue", 8, true,  PUNC_SHENGLUE_FE},
+    {"pozhe",    5, false, PUNC_POZHE_FE},
+    {"tnbegin",  7, false, TN_BEGIN_FE},
+    {"tnend",    5, false, TN_END_FE},
+    {"POIB",     4, false, POIB_FE},
+    {"POIE",     4, false, POIE_FE},
 };
 // clang-format on
 
@@ -94,7 +95,7 @@ bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz
 void tn::add_punc(UtteranceSyllable& record, std::string_view name) {
     if (record.n_punc >= PUNC_MAX) return;
     for (const PuncName& row : PUNC_NAMES) {
-        if (!tn::begins_with(row.name, name) || row.name[name.size()] != '\0') continue;
+        if (row.length != name.size() || !tn::begins_with(row.name, name)) continue;
         record.punc_arr[record.n_punc] = row.punc;
         const bool second_dash = row.punc == PUNC_POZHE_FE && record.n_punc > 0 &&
                                  record.punc_arr[record.n_punc - 1] == PUNC_POZHE_FE;

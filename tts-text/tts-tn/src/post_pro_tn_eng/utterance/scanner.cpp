@@ -73,7 +73,8 @@ Scanner::Met Scanner::meet_tag() {
     if (!read_opening(at_ + (is_closing ? 2 : 1), end_, tag_ends_, tag_)) return Met::no_tag;
     if (has_word() && (is_closing || tag_.use != TagUse::none)) return Met::word_end;
     met_tag_ = !is_closing;  // outside its span, a closing tag closes nothing
-    const bool closed = !met_tag_ || read_content(tag_, end_, paired_tags_);
+    if (met_tag_ && !paired_tags_) paired_tags_.emplace(arena_);
+    const bool closed = !met_tag_ || read_content(tag_, end_, *paired_tags_);
     at_ = tag_.after;
     // After a tag that should have been closed, the word is not to be lost with the tags that end
     // the text.

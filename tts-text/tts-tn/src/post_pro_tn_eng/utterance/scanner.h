@@ -2,6 +2,7 @@
 #ifndef KAVI_TN_SCANNER_H
 #define KAVI_TN_SCANNER_H
 
+#include <optional>
 #include <string_view>
 
 #include "../markup/paired_tags.h"
@@ -19,7 +20,7 @@ class Scanner {
     // them characters of the word at hand. The arena may be null.
     // cppcheck-suppress uninitMemberVar ; the tag is that of a step that has met one
     Scanner(const char* at, const char* end, char* word, int word_length, mem_stack_handle arena)
-        : at_(at), end_(end), word_(word), word_length_(word_length), paired_tags_(arena) {}
+        : at_(at), end_(end), word_(word), word_length_(word_length), arena_(arena) {}
     Scanner(const Scanner&) = delete;
     Scanner& operator=(const Scanner&) = delete;
 
@@ -68,7 +69,8 @@ class Scanner {
     Tag tag_;                           // the last that was met
     const char* text_ahead_ = nullptr;  // up to here there are more than tags
     TagEnds tag_ends_;
-    PairedTags paired_tags_;
+    mem_stack_handle arena_;
+    std::optional<PairedTags> paired_tags_;  // from the first paired tag on
 };
 
 }  // namespace kavi::tn

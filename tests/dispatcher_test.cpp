@@ -15,9 +15,11 @@ TEST_F(Dispatcher, FullOutputFailsAndKeepsWhatFits) {
         // Whatever is appended last, some lengths before it leave no room for it.
         for (std::size_t before = 0; before < 40; ++before) {
             std::string source = std::string(before, 'x') + " " + text;
-            char target[SZ_TEXT_MAX_LEN + 1] = {};
-            target[SZ_TEXT_MAX_LEN] = 'g';
+            char target[SZ_TEXT_MAX_LEN + 1];
+            std::memset(target, 'g', sizeof target);
+            target[0] = '\0';
             EXPECT_EQ(engine.eng_text_tokenize(source.data(), target), -1) << sentence;
+            ASSERT_NE(std::memchr(target, '\0', SZ_TEXT_MAX_LEN), nullptr) << sentence;
             EXPECT_EQ(target[SZ_TEXT_MAX_LEN], 'g');
             EXPECT_GT(std::strlen(target), 3500U);
             char by_sections[SZ_TEXT_MAX_LEN] = {};

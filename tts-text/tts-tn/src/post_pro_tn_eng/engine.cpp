@@ -35,17 +35,14 @@ char* replace_by(std::string_view words, char* target) {
     return target;
 }
 
-// Reads what a mark may begin straight to the output; `last` becomes the last section consumed.
-// False when the output is full.
-bool append_mark(bool (*read)(const Token*, Reading&, BoundedText&, const Token*&),
-                 const Token* mark, char* target, Section*& last) {
+// Reads what a mark may begin straight to the output. The last section consumed, or null when the
+// output is full.
+Section* append_mark(MarkReader* read, const Token* mark, char* target) {
     char scratch[WORD_MAX_LEN];
     Reading reading(emptied(scratch));
     BoundedText output(target, SZ_TEXT_MAX_LEN);
-    const Token* last_token = mark;
-    const bool fits = read(mark, reading, output, last_token);
-    last = last_token->section;
-    return fits;
+    const Token* last = read(mark, reading, output);
+    return last != nullptr ? last->section : nullptr;
 }
 
 bool append_words(const char* words, char* target) {
@@ -152,15 +149,16 @@ bool PostProTnEng::process_bracket(Section*& p_temp_section, char* sz_target) {
     const QueueTokens tokens(p_temp_section);
     const Token* bracket = tokens.begin();
     if (!is_number(bracket + 1)) return append_words("<punc=zuokuo>", sz_target);
-    return append_mark(bracket_read, bracket, sz_target, p_temp_section);
+    Section* last = append_mark(bracket_read, bracket, sz_target);
+    if (last != nullptr) p_temp_section = last;
+    return last != nullptr;
 }
 
 Section* PostProTnEng::process_plus(Section* p_temp_section, char* sz_target) {
     const QueueTokens tokens(p_temp_section);
     const Token* plus = tokens.begin();
-    const bool fits = is_number(plus - 1) ? append_words("add ", sz_target)
-                                          : append_mark(plus_read, plus, sz_target, p_temp_section);
-    return fits ? p_temp_section : nullptr;
+    if (!is_number(plus - 1)) return append_mark(plus_read, plus, sz_target);
+    return append_words("add ", sz_target) ? p_temp_section : nullptr;
 }
 
 Section* PostProTnEng::process_single_quote(Section* p_temp_section, char* /*sz_target*/) {

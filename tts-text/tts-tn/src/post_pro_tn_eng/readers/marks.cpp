@@ -21,30 +21,27 @@ constexpr Contraction CONTRACTIONS[] = {
 };
 
 // The number is the country code, what follows it the telephone number.
-bool country_code_read(const Token* number, Reading& reading, BoundedText& output,
-                       const Token*& last) {
+const Token* country_code_read(const Token* number, Reading& reading, BoundedText& output) {
     append_cardinal(number->text(), reading);
     if (!output.append("country code ") || !output.append(reading.text()) || !output.append(" ")) {
-        return false;
+        return nullptr;
     }
     reading.clear_words();
-    last = phone_number_read(number + 1, reading);
-    return output.append(reading.text()) && output.append(" ");
+    const Token* last = phone_number_read(number + 1, reading);
+    return output.append(reading.text()) && output.append(" ") ? last : nullptr;
 }
 
 }  // namespace
 
-bool bracket_read(const Token* bracket, Reading& reading, BoundedText& output, const Token*& last) {
-    const Token* number = bracket + 1;
+const Token* bracket_read(const Token* bracket, Reading& reading, BoundedText& output) {
     const Token* mark = bracket + 2;
     const bool begins_number = mark->kind == MARKSYMBOL && phone_number_decide(bracket + 3);
-    return !begins_number || country_code_read(number, reading, output, last);
+    return begins_number ? country_code_read(bracket + 1, reading, output) : bracket;
 }
 
-bool plus_read(const Token* plus, Reading& reading, BoundedText& output, const Token*& last) {
-    const Token* number = plus + 1;
-    const bool begins_number = is_number(number) && phone_number_decide(plus + 2);
-    return !begins_number || country_code_read(number, reading, output, last);
+const Token* plus_read(const Token* plus, Reading& reading, BoundedText& output) {
+    const bool begins_number = is_number(plus + 1) && phone_number_decide(plus + 2);
+    return begins_number ? country_code_read(plus + 1, reading, output) : plus;
 }
 
 std::string_view find_contraction(std::string_view letters) {

@@ -36,7 +36,10 @@ const char* month_name(std::string_view text) {
     }
     if (!is_upper(text[0]) || (INITIALS >> (text[0] - 'A') & 1U) == 0) return nullptr;
     for (const auto& row : s_string_to_month) {
-        if (row[0][0] == text[0] && (text == row[0] || text == row[1])) return row[1];
+        if (row[0][0] == text[0] && text == row[0]) return row[1];
+    }
+    for (const auto& row : s_string_to_month) {
+        if (row[1][0] == text[0] && text == row[1]) return row[1];
     }
     return nullptr;
 }

@@ -66,11 +66,12 @@ bool append_no_number(const Token* token, Reading& reading);
 
 // ---- marks: what "(", "+" and "'" mean depends on their neighbours ----
 
-// A telephone number with a country code, when "(" before a number, or "+", begins one: `last` is
-// then its last token. Else nothing is read, and `last` is as it was. False when the output, which
-// takes it piece by piece, is full.
-bool bracket_read(const Token* bracket, Reading& reading, BoundedText& output, const Token*& last);
-bool plus_read(const Token* plus, Reading& reading, BoundedText& output, const Token*& last);
+// A telephone number with a country code, when "(" before a number, or "+", begins one; else the
+// mark alone is consumed, and nothing is read. Null when the output, which takes it piece by piece,
+// is full.
+using MarkReader = const Token*(const Token* mark, Reading& reading, BoundedText& output);
+MarkReader bracket_read;
+MarkReader plus_read;
 
 // What the letters after an apostrophe stand for; empty when they are no contraction.
 std::string_view find_contraction(std::string_view letters);

@@ -158,9 +158,9 @@ const Token* SectionDispatcher::mark() {
             case '<': return smaller();
             case '\'': return apostrophe();
             case '(':
-                if (before_number) return bracket();
+                if (before_number) return read_mark(ReadingRule::bracket, bracket_read);
                 break;
-            case '+': return plus_sign();
+            case '+': return read_mark(ReadingRule::plus_sign, plus_read);
             default:  // "$"
                 if (before_number) return money(first_ + 1);
         }
@@ -171,18 +171,12 @@ const Token* SectionDispatcher::mark() {
     return first_;
 }
 
-const Token* SectionDispatcher::bracket() {
-    const Token* last = first_;
-    rule_ = ReadingRule::bracket;
-    if (!bracket_read(first_, reading_, output_, last)) outcome_ = Outcome::full;
-    return last;
-}
-
-const Token* SectionDispatcher::plus_sign() {
-    const Token* last = first_;
-    rule_ = ReadingRule::plus_sign;
-    if (!plus_read(first_, reading_, output_, last)) outcome_ = Outcome::full;
-    return last;
+const Token* SectionDispatcher::read_mark(ReadingRule rule, MarkReader* reader) {
+    rule_ = rule;
+    const Token* last = reader(first_, reading_, output_);
+    if (last != nullptr) return last;
+    outcome_ = Outcome::full;
+    return first_;
 }
 
 // A markup tag, or a "<" of the text.

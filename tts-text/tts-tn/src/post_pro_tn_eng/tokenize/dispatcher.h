@@ -88,8 +88,6 @@ class SectionDispatcher {
     inline const Token* clock_time();
     inline const Token* money(const Token* amount);
     inline const Token* mark();
-    inline const Token* bracket();
-    inline const Token* plus_sign();
     inline const Token* smaller();
     inline const Token* apostrophe();
 
@@ -101,6 +99,7 @@ class SectionDispatcher {
     inline const Token* read_as(ReadingRule rule, std::string_view words, const Token* last);
     inline const Token* reading_as(ReadingRule rule, const Token* last);
     inline const Token* read(ReadingRule rule, Reader* reader, const Token* pattern);
+    inline const Token* read_mark(ReadingRule rule, MarkReader* reader);
 
     TokenWindow& tokens_;
     BoundedText& output_;

@@ -47,15 +47,12 @@ QueueTokens::QueueTokens(Section* head)
     begin_row();
 }
 
-void QueueTokens::fill() {
-    for (; has_room(); next_ = next_->m_pnext) {
-        if (next_ == nullptr) {
-            complete();
-            return;
-        }
-        append(token_of(next_));
+Token* QueueTokens::fill(Token* end, Token* limit) {
+    for (; end != limit && next_ != nullptr; next_ = next_->m_pnext) {
+        *end++ = token_of(next_);
         ++n_;
     }
+    return end;
 }
 
 bool QueueTokens::is_amount_before_dollar(const Token* number) {

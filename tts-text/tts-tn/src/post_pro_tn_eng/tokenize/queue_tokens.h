@@ -34,7 +34,7 @@ class QueueTokens final : public TokenWindow {
     bool greater_follows(const Token* token) override;
 
   private:
-    void fill() override;
+    Token* fill(Token* end, Token* limit) override;
     std::size_t index_of(const Token* token) const { return n_ - from_end(token); }
 
     Section* next_;

@@ -16,33 +16,30 @@ bool stops_readers(const char* word, const char* after) {
 
 }  // namespace
 
-void TextTokens::fill() {
-    while (has_room()) {
-        if (*next_ == '\0') {
-            complete();
-            return;
-        }
-        const char* begin = next_;
+Token* TextTokens::fill(Token* end, Token* limit) {
+    const char* next = next_;
+    while (end != limit && *next != '\0') {
+        const char* begin = next;
         const unsigned run = run_of(*begin);
         const std::size_t length = first_section(begin, run, tag_ends_).size();
-        next_ = begin + length;
-        append({begin, static_cast<std::uint16_t>(length), static_cast<signed char>(class_of(run)),
-                run == DIGITS, nullptr});
-        if (reach_ == Reach::plain_word && stops_at(begin, run)) {
-            complete();
-            return;
-        }
+        *end++ = {begin, static_cast<std::uint16_t>(length),
+                  static_cast<signed char>(class_of(run)), run == DIGITS, nullptr};
+        next += length;
+        if (reach_ == Reach::plain_word && stops_at(begin, run, next)) break;
     }
+    next_ = next;
+    return end;
 }
 
-// A blank before the word where readers stop is as good as the word.
-bool TextTokens::stops_at(const char* section, unsigned run) const {
-    if (run == LETTERS) return stops_readers(section, next_);
-    if (*section != ' ' || !begins_plain_word(next_)) return false;
-    const char* word_end = next_ + 1;
+// Whether no reader looks past a section that `after` follows. A blank before the word where
+// readers stop is as good as the word.
+bool TextTokens::stops_at(const char* section, unsigned run, const char* after) {
+    if (run == LETTERS) return stops_readers(section, after);
+    if (*section != ' ' || !begins_plain_word(after)) return false;
+    const char* word_end = after + 1;
     while (belongs_to(LETTERS, *word_end)) ++word_end;
-    return static_cast<std::size_t>(word_end - next_) <= WORD_LENGTH_MAX &&
-           stops_readers(next_, word_end);
+    return static_cast<std::size_t>(word_end - after) <= WORD_LENGTH_MAX &&
+           stops_readers(after, word_end);
 }
 
 bool TextTokens::is_amount_before_dollar(const Token* number) {
@@ -56,6 +53,7 @@ bool TextTokens::is_amount_before_dollar(const Token* number) {
 
 bool TextTokens::greater_follows(const char* text) {
     if (searched_ == nullptr || searched_ < text) searched_ = text;
+    if (tags_ahead_.tag_at(searched_).empty()) return false;
     while (*searched_ != '\0' && *searched_ != '>') {
         searched_ += first_section(searched_, tags_ahead_).size();
     }

@@ -36,8 +36,8 @@ class TextTokens final : public TokenWindow {
     bool greater_follows(const char* text);
 
   private:
-    void fill() override;
-    inline bool stops_at(const char* section, unsigned run) const;
+    Token* fill(Token* end, Token* limit) override;
+    static inline bool stops_at(const char* section, unsigned run, const char* after);
 
     Reach reach_;
     TagEnds& tag_ends_;

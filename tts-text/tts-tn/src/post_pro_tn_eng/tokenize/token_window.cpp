@@ -5,17 +5,21 @@
 namespace kavi::tn {
 
 const Token* TokenWindow::begin_row() {
-    is_complete_ = false;
     tokens_[0] = tokens_[1] = NO_TOKEN;
-    end_ = tokens_ + SECTIONS_BEFORE;
-    fill();
+    extend_from(tokens_ + SECTIONS_BEFORE);
     return tokens_ + SECTIONS_BEFORE;
 }
 
 const Token* TokenWindow::slide_to(const Token* token) {
-    end_ = std::copy(token - SECTIONS_BEFORE, static_cast<const Token*>(end_), tokens_);
-    fill();
+    extend_from(std::copy(token - SECTIONS_BEFORE, static_cast<const Token*>(end_), tokens_));
     return tokens_ + SECTIONS_BEFORE;
+}
+
+void TokenWindow::extend_from(Token* end) {
+    Token* const limit = tokens_ + CAPACITY;
+    end_ = fill(end, limit);
+    is_complete_ = end_ != limit;
+    *end_ = NO_TOKEN;
 }
 
 }  // namespace kavi::tn

@@ -33,20 +33,12 @@ class TokenWindow {
     TokenWindow() {}
     ~TokenWindow() = default;
 
-    // Appends what comes next, as long as there is room, or completes the row.
-    virtual void fill() = 0;
+    // Writes the tokens that come next from `end` on, and returns where they end: before `limit`
+    // when there are no more that a reader looks at.
+    virtual Token* fill(Token* end, Token* limit) = 0;
 
     // A row whose first token is what comes next. Nothing stands before it.
     const Token* begin_row();
-
-    bool has_room() const { return end_ != tokens_ + CAPACITY; }
-    void append(const Token& token) { *end_++ = token; }
-    void complete() {
-        is_complete_ = true;
-        *end_ = NO_TOKEN;
-    }
-
-    const Token* slide_to(const Token* token);
 
     // So many tokens from the end of the row back is this one.
     std::size_t from_end(const Token* token) const {
@@ -60,6 +52,9 @@ class TokenWindow {
     Token tokens_[CAPACITY + 1];  // the two before the first, and after the last one more
 
   private:
+    const Token* slide_to(const Token* token);
+    void extend_from(Token* end);
+
     bool is_complete_;
     Token* end_;
 };

@@ -70,7 +70,10 @@ bool Scanner::advance() {
 // tag, end a word that stands directly before them; other tags do not.
 Scanner::Met Scanner::meet_tag() {
     const bool is_closing = at_[1] == '/';
-    if (!read_opening(at_ + (is_closing ? 2 : 1), end_, tag_ends_, tag_)) return Met::no_tag;
+    if (tag_at_ != at_) {  // or a word that it ends has been read before it
+        if (!read_opening(at_ + (is_closing ? 2 : 1), end_, tag_ends_, tag_)) return Met::no_tag;
+        tag_at_ = at_;
+    }
     if (has_word() && (is_closing || tag_.use != TagUse::none)) return Met::word_end;
     met_tag_ = !is_closing;  // outside its span, a closing tag closes nothing
     if (met_tag_ && !paired_tags_) paired_tags_.emplace(arena_);

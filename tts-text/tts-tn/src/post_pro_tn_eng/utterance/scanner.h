@@ -66,7 +66,8 @@ class Scanner {
     int word_length_;
     const char* word_begin_ = nullptr;
     bool met_tag_ = false;
-    Tag tag_;                           // the last that was met
+    const char* tag_at_ = nullptr;  // where the last tag that was read begins
+    Tag tag_;
     const char* text_ahead_ = nullptr;  // up to here there are more than tags
     TagEnds tag_ends_;
     mem_stack_handle arena_;

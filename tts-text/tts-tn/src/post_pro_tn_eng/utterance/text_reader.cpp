@@ -87,7 +87,7 @@ void TextReader::read_usual(TextEvents& events) {
             continue;
         }
         if (*end == '<' && begins_tag_name(end + (end[1] == '/' ? 2 : 1))) {
-            usual_from_ = std::max(end, at + 1);
+            usual_from_ = end + 1;
             break;
         }
         ++end;  // it is of the word

@@ -85,6 +85,45 @@ void add_sections(const SectionDispatcher& step, ExplainedRun& run) {
     }
 }
 
+// Makes runs of the steps by which a sentence is read to `output`.
+template <typename OnRun>
+class RunsOfSentence final : public tn::ReadingObserver {
+  public:
+    RunsOfSentence(const char* sentence, tn::BoundedText& output, OnRun& on_run)
+        : sentence_(sentence), output_(output), on_run_(on_run) {}
+
+    // There is none: all is read step by step.
+    void on_plain_text(std::string_view /*source*/, int /*target_at*/) override {}
+
+    void on_step(const SectionDispatcher& step) override {
+        if (run_.sections.empty() || !continues_character(run_, step.first()->text())) {
+            end();
+            begin(step);
+        }
+        add_sections(step, run_);
+        const auto length = static_cast<std::size_t>(output_.length());
+        run_.reading = {output_.text() + run_.reading_at, length - run_.reading_at};
+    }
+
+    void end() {
+        if (!run_.sections.empty()) on_run_(run_);
+    }
+
+  private:
+    void begin(const SectionDispatcher& step) {
+        run_.source = {static_cast<std::size_t>(step.first()->begin - sentence_), 0};
+        run_.sections.clear();
+        run_.reading_at = static_cast<std::size_t>(step.output_before());
+        run_.rule = name_of(step, output_.length() > step.output_before());
+        run_.is_word = step.rule() == ReadingRule::word;
+    }
+
+    const char* sentence_;
+    tn::BoundedText& output_;
+    OnRun& on_run_;
+    ExplainedRun run_ = {};
+};
+
 // Calls `on_run` with each run of a sentence, which reads to `speakable`, SZ_TEXT_MAX_LEN bytes. It
 // may take what the run holds, and that is good as long as these two are.
 template <typename OnRun>
@@ -93,24 +132,9 @@ void walk(const char* sentence, char* speakable, OnRun on_run) {
     tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
     tn::TagEnds tag_ends;
     TextTokens tokens(TextTokens::Reach::text_end, tag_ends);
-    SectionDispatcher dispatcher(tokens, output);
-    dispatcher.go_on_at(tokens.begin(sentence));
-    ExplainedRun run = {};
-    while (dispatcher.next()) {
-        if (run.sections.empty() || !continues_character(run, dispatcher.first()->text())) {
-            if (!run.sections.empty()) on_run(run);
-            const char* begin = dispatcher.first()->begin;
-            run.source = {static_cast<std::size_t>(begin - sentence), 0};
-            run.sections.clear();
-            run.reading_at = static_cast<std::size_t>(dispatcher.output_before());
-            run.rule = name_of(dispatcher, output.length() > dispatcher.output_before());
-            run.is_word = dispatcher.rule() == ReadingRule::word;
-        }
-        add_sections(dispatcher, run);
-        const auto length = static_cast<std::size_t>(output.length());
-        run.reading = {speakable + run.reading_at, length - run.reading_at};
-    }
-    if (!run.sections.empty()) on_run(run);
+    RunsOfSentence runs(sentence, output, on_run);
+    SectionDispatcher(tokens, output).walk(tokens.begin(sentence), &runs);
+    runs.end();
 }
 
 // The runs of a sentence as runs of the text that it was read from.

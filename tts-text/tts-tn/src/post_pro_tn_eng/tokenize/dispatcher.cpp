@@ -10,19 +10,22 @@
 
 namespace kavi::tn {
 
-bool SectionDispatcher::next() {
-    if (outcome_ != Outcome::go_on) return false;
-    first_ = tokens_.at(end_);
-    if (!is_section(first_)) return false;
-    output_before_ = output_.length();
-    reading_.clear();
-    end_ = step();
-    if (is_section(end_)) {
-        ++end_;
-    } else if (outcome_ == Outcome::go_on) {
-        outcome_ = Outcome::ended;
+Outcome SectionDispatcher::walk(const Token* first, ReadingObserver* observer) {
+    end_ = first;
+    while (outcome_ == Outcome::go_on) {
+        first_ = tokens_.at(end_);
+        if (!is_section(first_)) break;
+        output_before_ = output_.length();
+        reading_.clear();
+        end_ = step();
+        if (is_section(end_)) {
+            ++end_;
+        } else if (outcome_ == Outcome::go_on) {
+            outcome_ = Outcome::ended;
+        }
+        if (observer != nullptr) observer->on_step(*this);
     }
-    return true;
+    return outcome_;
 }
 
 void SectionDispatcher::append(std::string_view words) {

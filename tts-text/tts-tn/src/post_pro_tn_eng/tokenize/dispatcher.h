@@ -6,6 +6,7 @@
 
 #include "../common/bounded_text.h"
 #include "../common/reading.h"
+#include "reading_observer.h"
 #include "token_window.h"
 
 namespace kavi::tn {
@@ -53,12 +54,10 @@ class SectionDispatcher {
     SectionDispatcher(const SectionDispatcher&) = delete;
     SectionDispatcher& operator=(const SectionDispatcher&) = delete;
 
-    // The walk goes on at `token`.
-    void go_on_at(const Token* token) { end_ = token; }
-
-    // Takes the next step. False when there is none: all has been read, or the last step was not to
-    // go on.
-    bool next();
+    // Reads from `first`, a token of the row, to the end of the sentence, or as far as the walk
+    // goes on. After that it may go on from another token. `observer` is shown each step; it may be
+    // null.
+    Outcome walk(const Token* first, ReadingObserver* observer);
 
     Outcome outcome() const { return outcome_; }
 

@@ -25,12 +25,9 @@ int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* 
         text = plain_text.read(text, observer);
         if (text == nullptr) return -1;
         if (*text == '\0') break;
-        dispatcher.go_on_at(tokens.begin(text));
-        while (dispatcher.next()) {
-            if (observer != nullptr) observer->on_step(dispatcher);
-        }
-        if (dispatcher.outcome() == Outcome::full) return -1;
-        if (dispatcher.outcome() == Outcome::ended) break;
+        const Outcome outcome = dispatcher.walk(tokens.begin(text), observer);
+        if (outcome == Outcome::full) return -1;
+        if (outcome == Outcome::ended) break;
         text = tokens.end();
     }
     if (was_empty && dispatcher.is_all_words()) {
@@ -72,10 +69,8 @@ int PostProTnEng::section_process(Section* p_section, char* sz_target_text) {
     tn::BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
     tn::QueueTokens tokens(p_section);
     tn::SectionDispatcher dispatcher(tokens, output);
-    dispatcher.go_on_at(tokens.begin());
-    while (dispatcher.next()) {
-    }
-    return dispatcher.outcome() == tn::Outcome::full ? -1 : 0;
+    const tn::Outcome outcome = dispatcher.walk(tokens.begin(), nullptr);
+    return outcome == tn::Outcome::full ? -1 : 0;
 }
 
 }  // namespace kavi

@@ -98,7 +98,9 @@ TEST_F(Readers, EachByItself) {
         std::string text = row[1];
         Section* head = nullptr;
         EXPECT_EQ(engine.text_to_queue(text.data(), head), 0);
-        char target[SZ_TEXT_MAX_LEN] = {};
+        char target[SZ_TEXT_MAX_LEN];
+        std::memset(target, 'g', sizeof target);
+        target[0] = '\0';
         Section* last = head;
         if (row[0] == "process_bracket") {
             EXPECT_TRUE((engine.*Peer::process_bracket)(last, target));
@@ -163,7 +165,11 @@ TEST_F(Readers, LongReadingsAreCutAfterAWholeWord) {
         EXPECT_NE(reading.find("seven seven"), std::string::npos);
         EXPECT_EQ(reading.substr(reading.rfind("seven")).substr(0, 6), "seven ");
         EXPECT_EQ(reading.back(), 'x');
+        const std::string next = tokenize(before + std::string(100, '7') + " a 5");
+        EXPECT_EQ(next.substr(next.rfind(' ')), " five");
     }
+    const std::string nearly_full(480, 'x');
+    EXPECT_EQ(call(Peer::number_read, "777", nearly_full), nearly_full + "seven hundred  and");
 }
 
 // Words are looked at by eight characters.

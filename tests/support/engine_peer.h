@@ -81,7 +81,8 @@ class EngineTest : public testing::Test {
     // What a text-to-text operation leaves in a 500-byte buffer that held `before`.
     std::string call(PostProTnEngPeer::Text operation, std::string source,
                      const std::string& before = "") {
-        char target[WORD_MAX_LEN] = {};
+        char target[WORD_MAX_LEN];
+        std::memset(target, 'g', sizeof target);
         std::strcpy(target, before.c_str());
         (engine.*operation)(source.data(), target);
         return target;

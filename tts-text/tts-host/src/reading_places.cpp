@@ -5,6 +5,7 @@
 namespace kavi::host {
 
 void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
+    if (step.rule() == tn::ReadingRule::silent) return;
     const char* begin = step.first()->begin;
     const std::string_view last = step.end()[-1].text();
     add_plain_text({begin, static_cast<std::size_t>(last.data() + last.size() - begin)},
@@ -29,18 +30,20 @@ void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
     const char* const speakable = speakable_;
     const Reading* reading = readings_.data();
     const tn::TextEvent* event = events.begin();
+    const WordPlace* const places_end = place + events.n_words();
     std::size_t at = 0;  // the word's
-    const auto find_word = [&, end = events.end()] {
-        while (event != end && event->kind != tn::TextEventKind::word) ++event;
-        if (event == end) return false;
+    const auto find_word = [&] {
+        while (event->kind != tn::TextEventKind::word) ++event;
         at = static_cast<std::size_t>(event->begin - speakable);
-        return true;
     };
     const auto next_word = [&] {
+        if (place == places_end) return false;
         ++event;
-        return find_word();
+        find_word();
+        return true;
     };
-    bool any = find_word();
+    bool any = place != places_end;
+    if (any) find_word();
     while (any) {
         while (reading[1].target_at <= at) ++reading;
         // A piece that begins with a letter is words that are copied, or one that is written out:

@@ -22,13 +22,18 @@ class PieceCursor {
   public:
     // Of the pieces of a sentence that is not empty.
     explicit PieceCursor(const std::vector<SourcePiece>& pieces)
-        : piece_(pieces.data()), last_(&pieces.back()) {}
+        : piece_(pieces.data()), last_(&pieces.back()) {
+        look_at_piece();
+    }
 
     // Whether `length` bytes at `at`, not before the last ones, are a copy of one stretch of the
     // text.
     bool is_copied(std::size_t at, std::size_t length) {
-        while (piece_ != last_ && piece_[1].at <= at) ++piece_;
-        return is_copy(*piece_) && at + length <= piece_->at + piece_->length;
+        while (piece_ != last_ && piece_[1].at <= at) {
+            ++piece_;
+            look_at_piece();
+        }
+        return at + length < after_copy_;
     }
 
     // Where the byte at `at` of that copy comes from.
@@ -43,11 +48,14 @@ class PieceCursor {
     }
 
   private:
+    void look_at_piece() { after_copy_ = is_copy(*piece_) ? piece_->at + piece_->length + 1 : 0; }
+
     static TextRange source_of_any(const SourcePiece* piece, const SourcePiece* last,
                                    std::size_t at, std::size_t length);
 
     const SourcePiece* piece_;
     const SourcePiece* last_;
+    std::size_t after_copy_;  // one more than where the piece ends, if it is a copy; else 0
 };
 
 // Looks on while a sentence is cut, and tells then what its pieces stand for.

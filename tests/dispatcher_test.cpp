@@ -113,16 +113,32 @@ TEST_F(Dispatcher, ReadsSectionsThatNoTextHas) {
 }
 
 TEST_F(Dispatcher, APatternThatEndsTheTextNeedsRoomToo) {
-    for (const auto& [room, result] : {std::pair(10, -1), std::pair(200, 0)}) {
-        char number[] = "1,234,";
-        char target[SZ_TEXT_MAX_LEN] = {};
-        std::memset(target, 'x', static_cast<std::size_t>(SZ_TEXT_MAX_LEN - 1 - room));
-        EXPECT_EQ(engine.eng_text_tokenize(number, target), result) << room;
+    for (std::string pattern : {"1,234,", "+1 2", "(1)-2"}) {
+        for (const auto& [room, result] : {std::pair(10, -1), std::pair(200, 0)}) {
+            char target[SZ_TEXT_MAX_LEN] = {};
+            std::memset(target, 'x', static_cast<std::size_t>(SZ_TEXT_MAX_LEN - 1 - room));
+            EXPECT_EQ(engine.eng_text_tokenize(pattern.data(), target), result) << pattern << room;
+        }
     }
 }
 
 TEST_F(Dispatcher, AnAmountMayBeTwoSectionsLong) {
-    EXPECT_NE(tokenize(std::string(WORD_MAX_LEN, '1') + "$").find("dollars"), std::string::npos);
+    const std::string number(WORD_MAX_LEN, '1');
+    EXPECT_NE(tokenize(number + "$").find("dollars"), std::string::npos);
+    EXPECT_EQ(tokenize(number).find("dollars"), std::string::npos);
+}
+
+// What stands far ahead is looked for once, and again when it has been passed.
+TEST_F(Dispatcher, LooksForDollarsAndGreaterSignsAlongALongQueue) {
+    std::string text;
+    for (int i = 0; i < 20; ++i) text += "5.5$ 6.5 < 7.7 > a-";
+    text += "< 8.5";
+    Section* head = nullptr;
+    ASSERT_EQ(engine.text_to_queue(text.data(), head), 0);
+    char target[SZ_TEXT_MAX_LEN] = {};
+    EXPECT_EQ(engine.section_process(head, target), 0);
+    EXPECT_EQ(target, tokenize(text) + "  ");
+    release(head);
 }
 
 TEST_F(Dispatcher, TheFormOfATimeStandsInThePlaceOfItsClass) {

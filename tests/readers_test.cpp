@@ -145,6 +145,10 @@ TEST_F(Readers, MarksStopWhereTheOutputIsFull) {
     EXPECT_EQ(engine.text_to_queue(quote, contraction), 0);
     EXPECT_EQ((engine.*Peer::process_single_quote)(contraction, target), contraction);
     EXPECT_STREQ(contraction->m_pnext->sz_char, "will");
+    std::strcpy(contraction->m_pnext->sz_char, "s");
+    contraction->m_pnext->sz_char[2] = 'g';
+    EXPECT_EQ((engine.*Peer::process_single_quote)(contraction, target), contraction);
+    EXPECT_STREQ(contraction->m_pnext->sz_char, "is");
     release(contraction);
     release(head);
 }

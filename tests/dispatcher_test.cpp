@@ -128,6 +128,18 @@ TEST_F(Dispatcher, AnAmountMayBeTwoSectionsLong) {
     EXPECT_EQ(tokenize(number).find("dollars"), std::string::npos);
 }
 
+// Wherever in the row of tokens it begins.
+TEST_F(Dispatcher, APatternIsSeenToItsEnd) {
+    const std::string pattern = "(86)-1-2-3-4-5";
+    const std::string reading = tokenize(pattern);
+    std::string text = pattern;
+    for (int n = 0; n < 40; ++n) {
+        text.insert(0, "1-");
+        const std::string all = tokenize(text);
+        EXPECT_EQ(all.substr(all.size() - reading.size()), reading) << text;
+    }
+}
+
 // What stands far ahead is looked for once, and again when it has been passed.
 TEST_F(Dispatcher, LooksForDollarsAndGreaterSignsAlongALongQueue) {
     std::string text;

@@ -1,5 +1,6 @@
 """What scripts/worst does: the dearest pairs by the clock, then their instructions."""
 
+import os
 import re
 import subprocess
 import sys
@@ -18,7 +19,8 @@ def instructions(call, length, pair):
     counted = subprocess.run(
         ["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null",
          f"--toggle-collect=kavi::PostProTnEng::{FUNCTIONS[call]}*", program, "run", call, str(length), *pair],
-        capture_output=True, text=True, check=True)
+        capture_output=True, text=True, check=True,
+        env={**os.environ, "LD_BIND_NOW": "1"})  # what the linker looks up at a first call is not the call's
     return int(re.search(r"Collected : (\d+)", counted.stderr)[1]) / int(counted.stdout)
 
 

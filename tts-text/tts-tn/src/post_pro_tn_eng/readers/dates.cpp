@@ -71,7 +71,6 @@ void year_read(std::string_view digits, Reading& reading) {
 bool is_year(std::string_view digits) {
     constexpr int FIRST_YEAR = 1100;
     constexpr int LAST_YEAR = 9999;
-    if (digits.size() < 4) return false;
     const int value = value_of(digits);
     return value >= FIRST_YEAR && value <= LAST_YEAR;
 }

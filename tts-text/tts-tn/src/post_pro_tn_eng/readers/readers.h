@@ -35,7 +35,8 @@ const Token* data_number(const Token* day, Reading& reading);
 // A year of two or four digits; nothing for any other.
 void year_read(std::string_view digits, Reading& reading);
 
-// Whether a plain number is read as a year.
+// Whether a plain number is read as a year: no shorter one is.
+constexpr std::size_t YEAR_DIGITS = 4;
 bool is_year(std::string_view digits);
 
 // Whether a plain number is the day of a month that stands beside it.

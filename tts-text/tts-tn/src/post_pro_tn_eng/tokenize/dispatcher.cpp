@@ -101,10 +101,8 @@ const Token* SectionDispatcher::number() {
         case ':': return clock_time();
         case '/':
         case '-':
-            if (data_decide(first_)) {
-                return read(ReadingRule::date, data_number, first_);
-            }
-            if (!fraction_decide(first_)) return plain_number();
+            if (data_decide(first_)) return read(ReadingRule::date, data_number, first_);
+            if (is_mark(next, '-') || !fraction_decide(first_)) return plain_number();
             return read(ReadingRule::fraction, fraction_number, first_);
         case '.':
             if (tokens_.is_amount_before_dollar(first_)) return money(first_);
@@ -136,7 +134,7 @@ const Token* SectionDispatcher::clock_time() {
 
 const Token* SectionDispatcher::plain_number() {
     const std::string_view digits = first_->text();
-    if (is_year(digits)) {
+    if (digits.size() >= YEAR_DIGITS && is_year(digits)) {
         year_read(digits, reading_);
         return reading_as(ReadingRule::year, first_);
     }

@@ -7,6 +7,7 @@
 #include "../common/limits.h"
 #include "../common/runs.h"
 #include "../common/short_copy.h"
+#include "../markup/markup_tags.h"
 #include "../markup/tag_ends.h"
 #include "post_pro_tn_eng.h"
 
@@ -22,13 +23,14 @@ constexpr int class_of(unsigned run) {
     return run == DIGITS ? NUMBERSYMBOL : MARKSYMBOL;
 }
 
-// What begins with "<": a tag, or that byte. `tag_ends` serves one pass over the text.
+// What may begin with a tag: the tag, or one byte. `tag_ends` serves one pass over the text.
 std::string_view first_tag(const char* text, TagEnds& tag_ends);
 
 // The first section of a text that is not empty, whose run is this: a run of letters or digits, a
 // tag, or one byte. `tag_ends` serves one pass over the text.
 inline std::string_view first_section(const char* text, unsigned run, TagEnds& tag_ends) {
-    if (run == 0) return *text == '<' ? first_tag(text, tag_ends) : std::string_view(text, 1);
+    if (run == 0)
+        return may_begin_tag(text) ? first_tag(text, tag_ends) : std::string_view(text, 1);
     std::size_t length = 1;
     while (length < WORD_LENGTH_MAX && belongs_to(static_cast<Run>(run), text[length])) ++length;
     return {text, length};

@@ -31,15 +31,14 @@ Token* TextTokens::fill(Token* end, Token* limit) {
     return end;
 }
 
-// Whether no reader looks past a section that `after` follows. A blank before the word where
+// Whether no reader looks past a section that `next` follows. A blank before the word where
 // readers stop is as good as the word.
-bool TextTokens::stops_at(const char* section, unsigned run, const char* after) {
-    if (run == LETTERS) return stops_readers(section, after);
-    if (*section != ' ' || !begins_plain_word(after)) return false;
-    const char* word_end = after + 1;
-    while (belongs_to(LETTERS, *word_end)) ++word_end;
-    return static_cast<std::size_t>(word_end - after) <= WORD_LENGTH_MAX &&
-           stops_readers(after, word_end);
+bool TextTokens::stops_at(const char* section, unsigned run, const char* next) {
+    if (run == LETTERS) return stops_readers(section, next);
+    if (*section != ' ' || !begins_plain_word(next)) return false;
+    const char* end = next + 1;
+    while (belongs_to(LETTERS, *end)) ++end;
+    return static_cast<std::size_t>(end - next) <= WORD_LENGTH_MAX && stops_readers(next, end);
 }
 
 bool TextTokens::is_amount_before_dollar(const Token* number) {

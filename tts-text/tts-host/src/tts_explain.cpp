@@ -12,7 +12,6 @@ namespace {
 using tn::Outcome;
 using tn::ReadingRule;
 using tn::SectionDispatcher;
-using tn::TextTokens;
 
 struct RuleName {
     ReadingRule rule;
@@ -130,10 +129,8 @@ template <typename OnRun>
 void walk(const char* sentence, char* speakable, OnRun on_run) {
     speakable[0] = '\0';
     tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
-    tn::TagEnds tag_ends;
-    TextTokens tokens(TextTokens::Reach::text_end, tag_ends);
     RunsOfSentence runs(sentence, output, on_run);
-    SectionDispatcher(tokens, output).walk(tokens.begin(sentence), &runs);
+    tn::read_step_by_step(sentence, output, runs);
     runs.end();
 }
 

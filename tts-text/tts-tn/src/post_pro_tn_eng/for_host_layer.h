@@ -10,7 +10,6 @@
 #include "sentence/sentence_cutter.h"   // IWYU pragma: export
 #include "tokenize/dispatcher.h"        // IWYU pragma: export
 #include "tokenize/reading_observer.h"  // IWYU pragma: export
-#include "tokenize/text_tokens.h"       // IWYU pragma: export
 #include "tokenize/tokenize.h"          // IWYU pragma: export
 #include "utterance/builder.h"          // IWYU pragma: export
 

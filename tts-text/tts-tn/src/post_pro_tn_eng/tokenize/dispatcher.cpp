@@ -10,6 +10,10 @@
 
 namespace kavi::tn {
 
+// cppcheck-suppress uninitMemberVar ; the reading makes its text empty
+SectionDispatcher::SectionDispatcher(TokenWindow& tokens, BoundedText& output)
+    : tokens_(tokens), output_(output) {}
+
 Outcome SectionDispatcher::walk(const Token* first, ReadingObserver* observer) {
     end_ = first;
     while (outcome_ == Outcome::go_on) {

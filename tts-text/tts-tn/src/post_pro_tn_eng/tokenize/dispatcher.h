@@ -48,9 +48,7 @@ enum class Outcome {
 class SectionDispatcher {
   public:
     // Everything is appended to `output`, a text in a buffer of SZ_TEXT_MAX_LEN bytes.
-    // cppcheck-suppress uninitMemberVar ; the reading makes its text empty
-    SectionDispatcher(TokenWindow& tokens, BoundedText& output)
-        : tokens_(tokens), output_(output) {}
+    SectionDispatcher(TokenWindow& tokens, BoundedText& output);
     SectionDispatcher(const SectionDispatcher&) = delete;
     SectionDispatcher& operator=(const SectionDispatcher&) = delete;
 

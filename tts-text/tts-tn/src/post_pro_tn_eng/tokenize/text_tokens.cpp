@@ -16,6 +16,8 @@ bool stops_readers(const char* word, const char* after) {
 
 }  // namespace
 
+TextTokens::TextTokens(Reach reach, TagEnds& tag_ends) : reach_(reach), tag_ends_(tag_ends) {}
+
 Token* TextTokens::fill(Token* end, Token* limit) {
     const char* next = next_;
     while (end != limit && *next != '\0') {

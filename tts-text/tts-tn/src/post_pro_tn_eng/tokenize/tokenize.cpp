@@ -38,6 +38,12 @@ int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* 
     return 0;
 }
 
+void read_step_by_step(const char* sentence, BoundedText& output, ReadingObserver& observer) {
+    TagEnds tag_ends;
+    TextTokens tokens(TextTokens::Reach::text_end, tag_ends);
+    SectionDispatcher(tokens, output).walk(tokens.begin(sentence), &observer);
+}
+
 void re_regular(char* sz_source_text) {
     TagEnds tag_ends;
     char* text = sz_source_text;

@@ -59,6 +59,11 @@ constexpr Eight eight_of(const char* text) {
     return at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);  // one load, compiled
 }
 
+// Where no eight characters of a text begin any more.
+inline const char* eights_end(const char* text, const char* text_end) {
+    return text_end - text >= 8 ? text_end - 7 : text;
+}
+
 // The top bit of each that is no small letter and no blank, or a blank after a blank; `blanks` is
 // set for the next eight.
 constexpr Eight no_small_words(Eight c, Eight& blanks) {

@@ -4,7 +4,6 @@
 #include "builder.h"
 
 #include <cassert>
-#include <optional>
 
 #include "../common/clear.h"
 #include "word_filler.h"
@@ -15,26 +14,40 @@ namespace tn {
 
 namespace {
 
-// How many words are in `events` and in all that comes after them; the last list is left.
-int count_words(TextReader& reader, TextEvents& events) {
-    int n = events.n_words();
+struct WordCount {
+    int n_words;
+    bool is_listed;  // all of the text is in the one list
+};
+
+// How many words the text has. `events` is left with the last list of it.
+WordCount count_words(std::string_view text, mem_stack_handle arena, TextEvents& events) {
+    TextReader reader(text, arena);
+    reader.read(events);
+    WordCount count = {events.n_words(), reader.at_end()};
     while (!reader.at_end()) {
         reader.read(events);
-        n += events.n_words();
+        count.n_words += events.n_words();
     }
-    return n;
+    return count;
 }
 
-// Stores the words of `events` and of all that comes after them. False when the filler did not take
-// something.
-bool store_words(TextReader& reader, TextEvents& events, WordFiller& filler) {
-    for (;;) {
-        for (const TextEvent& event : events) {
-            if (!filler.take(event)) return false;
-        }
-        if (reader.at_end()) return true;
-        reader.read(events);
+// Stores what is listed. False when the filler did not take something.
+bool store_words(const TextEvents& events, WordFiller& filler) {
+    for (const TextEvent& event : events) {
+        if (!filler.take(event)) return false;
     }
+    return true;
+}
+
+// The same for a text.
+bool store_words(std::string_view text, mem_stack_handle arena, TextEvents& events,
+                 WordFiller& filler) {
+    TextReader reader(text, arena);
+    do {
+        reader.read(events);
+        if (!store_words(events, filler)) return false;
+    } while (!reader.at_end());
+    return true;
 }
 
 }  // namespace
@@ -43,15 +56,8 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
                     int& n_utt, TextEvents& events) {
     p_utt = nullptr;
     n_utt = 0;
-    std::optional<TextReader> reader(std::in_place, text, arena);
-    reader->read(events);
-    const bool is_whole = reader->at_end();
-    const int word_num = count_words(*reader, events) + 1;  // with the head record
-    if (!is_whole) {
-        reader.emplace(text, arena);
-        reader->read(events);
-    }
-
+    const WordCount count = count_words(text, arena, events);
+    const int word_num = count.n_words + 1;  // with the head record
     const std::size_t array_size = static_cast<std::size_t>(word_num) * sizeof(UtteranceSyllable);
     auto* array =
         static_cast<UtteranceSyllable*>(mem_stack_request_buf(array_size, MEM_COMMON, arena));
@@ -61,7 +67,9 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
     n_utt = word_num;
 
     WordFiller filler(arena, array + 1);
-    if (!store_words(*reader, events, filler)) return -1;
+    const bool stored =
+        count.is_listed ? store_words(events, filler) : store_words(text, arena, events, filler);
+    if (!stored) return -1;
     assert(filler.record() == array + word_num);
     return 0;
 }
@@ -69,9 +77,8 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
 }  // namespace tn
 
 bool PostProTnEng::count_embed_word(int& n, char* buffer_target) {
-    tn::TextReader reader(buffer_target, _mem_handle);
     tn::TextEvents events;
-    n += tn::count_words(reader, events);
+    n += tn::count_words(buffer_target, _mem_handle, events).n_words;
     return true;
 }
 
@@ -79,10 +86,8 @@ bool PostProTnEng::insert_ssml_info(int& n, UtteranceSyllable* utt, const char* 
                                     char* buffer_target, const char* tag_type) {
     tn::WordFiller filler(_mem_handle, utt + n);
     if (!filler.enter_span(tag_type, value_str)) return false;
-    tn::TextReader reader(buffer_target, _mem_handle);
     tn::TextEvents events;
-    reader.read(events);
-    const bool stored = tn::store_words(reader, events, filler);
+    const bool stored = tn::store_words(buffer_target, _mem_handle, events, filler);
     n = static_cast<int>(filler.record() - utt);
     return stored;
 }

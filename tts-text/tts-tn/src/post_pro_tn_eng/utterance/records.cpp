@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cassert>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string_view>
 
-#include "../markup/markup_tags.h"
 #include "post_pro_tn_eng.h"
 #include "word_filler.h"
 
@@ -33,35 +33,43 @@ namespace {
 
 constexpr int PUNC_MAX = sizeof UtteranceSyllable::punc_arr / sizeof(PUNC_type);
 
+// A name of at most eight characters as one number, of which no two have the same; 0 for a longer
+// one.
+constexpr std::uint64_t key_of(std::string_view name) {
+    if (name.size() > sizeof(std::uint64_t)) return 0;
+    std::uint64_t key = 0;
+    for (const char c : name) key = key << 8 | static_cast<unsigned char>(c);
+    return key;
+}
+
 struct PuncName {
-    char name[9];
-    unsigned char length;
-    bool forces_pause;
+    std::uint64_t key;
     PUNC_type punc;
+    bool forces_pause;
 };
 
 // The marks of speakable text first, the usual ones before the others.
 // clang-format off
 constexpr PuncName PUNC_NAMES[] = {
-    {"ju",       2, true,  PUNC_JU_FE},
-    {"dou",      3, true,  PUNC_DOU_FE},
-    {"wen",      3, true,  PUNC_WEN_FE},
-    {"zuoyin",   6, false, PUNC_ZUOYIN_FE},
-    {"zuokuo",   6, false, PUNC_ZUOKUO_FE},
-    {"youkuo",   6, false, PUNC_YOUKUO_FE},
-    {"mao",      3, true,  PUNC_MAO_FE},
-    {"fen",      3, true,  PUNC_FEN_FE},
-    {"tan",      3, true,  PUNC_TAN_FE},
-    {"dun",      3, true,  PUNC_DUN_FE},
-    {"zuoshu",   6, false, PUNC_ZUOSHU_FE},
-    {"youshu",   6, false, PUNC_YOUSHU_FE},
-    {"youyin",   6, false, PUNC_YOUYIN_FE},
-    {"shenglue", 8, true,  PUNC_SHENGLUE_FE},
-    {"pozhe",    5, false, PUNC_POZHE_FE},
-    {"tnbegin",  7, false, TN_BEGIN_FE},
-    {"tnend",    5, false, TN_END_FE},
-    {"POIB",     4, false, POIB_FE},
-    {"POIE",     4, false, POIE_FE},
+    {key_of("ju"),       PUNC_JU_FE,       true},
+    {key_of("dou"),      PUNC_DOU_FE,      true},
+    {key_of("wen"),      PUNC_WEN_FE,      true},
+    {key_of("zuoyin"),   PUNC_ZUOYIN_FE,   false},
+    {key_of("zuokuo"),   PUNC_ZUOKUO_FE,   false},
+    {key_of("youkuo"),   PUNC_YOUKUO_FE,   false},
+    {key_of("mao"),      PUNC_MAO_FE,      true},
+    {key_of("fen"),      PUNC_FEN_FE,      true},
+    {key_of("tan"),      PUNC_TAN_FE,      true},
+    {key_of("dun"),      PUNC_DUN_FE,      true},
+    {key_of("zuoshu"),   PUNC_ZUOSHU_FE,   false},
+    {key_of("youshu"),   PUNC_YOUSHU_FE,   false},
+    {key_of("youyin"),   PUNC_YOUYIN_FE,   false},
+    {key_of("shenglue"), PUNC_SHENGLUE_FE, true},
+    {key_of("pozhe"),    PUNC_POZHE_FE,    false},
+    {key_of("tnbegin"),  TN_BEGIN_FE,      false},
+    {key_of("tnend"),    TN_END_FE,        false},
+    {key_of("POIB"),     POIB_FE,          false},
+    {key_of("POIE"),     POIE_FE,          false},
 };
 // clang-format on
 
@@ -94,8 +102,9 @@ bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz
 
 void tn::add_punc(UtteranceSyllable& record, std::string_view name) {
     if (record.n_punc >= PUNC_MAX) return;
+    const std::uint64_t key = key_of(name);
     for (const PuncName& row : PUNC_NAMES) {
-        if (row.length != name.size() || !tn::begins_with(row.name, name)) continue;
+        if (row.key != key) continue;
         record.punc_arr[record.n_punc] = row.punc;
         const bool second_dash = row.punc == PUNC_POZHE_FE && record.n_punc > 0 &&
                                  record.punc_arr[record.n_punc - 1] == PUNC_POZHE_FE;

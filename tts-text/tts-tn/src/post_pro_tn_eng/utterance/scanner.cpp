@@ -40,6 +40,11 @@ void copy_name_and_value(const char* text, char* sz_tag, char* sz_value) {
 
 }  // namespace
 
+// cppcheck-suppress uninitMemberVar ; the tag is that of a step that has met one
+Scanner::Scanner(const char* at, const char* end, char* word, int word_length,
+                 mem_stack_handle arena)
+    : at_(at), end_(end), word_(word), word_length_(word_length), arena_(arena) {}
+
 bool Scanner::step() {
     met_tag_ = false;
     const bool completed = advance();

@@ -18,18 +18,13 @@ class Scanner {
   public:
     // The text ends at `end`, where a NUL stands. `word` holds WORD_MAX_LEN bytes, `word_length` of
     // them characters of the word at hand. The arena may be null.
-    // cppcheck-suppress uninitMemberVar ; the tag is that of a step that has met one
-    Scanner(const char* at, const char* end, char* word, int word_length, mem_stack_handle arena)
-        : at_(at), end_(end), word_(word), word_length_(word_length), arena_(arena) {}
+    Scanner(const char* at, const char* end, char* word, int word_length, mem_stack_handle arena);
     Scanner(const Scanner&) = delete;
     Scanner& operator=(const Scanner&) = delete;
 
     const char* at() const { return at_; }
-    const char* end() const { return end_; }
-    bool at_end() const { return at_ == end_; }
 
     // Goes on at a later place, and as if the text ended there.
-    void go_on_at(const char* at) { at_ = at; }
     void go_on_at(const char* at, const char* end) {
         at_ = at;
         end_ = end;

@@ -10,8 +10,8 @@ namespace {
 
 // The first place from `text` on where a word of tagged text may end: a character below "@", or
 // the text's end.
-const char* find_word_end(const char* text, const char* text_end) {
-    for (; text_end - text >= 8; text += 8) {
+inline const char* find_word_end(const char* text, const char* eights_end, const char* text_end) {
+    for (; text < eights_end; text += 8) {
         const Eight below = ~eight_of(text) & EACH * '@';
         if (below != 0) return text + first_of(below);
     }
@@ -23,15 +23,12 @@ const char* find_word_end(const char* text, const char* text_end) {
 // ends before `end` and may be the name of a mark. The scanner reads such tags too: this is less.
 std::string_view mark_at(const char* text, const char* end) {
     constexpr std::string_view PREFIX = "<punc=";
-    constexpr std::size_t LONGEST = 8;
     const auto size = static_cast<std::size_t>(end - text);
     if (size < PREFIX.size() || std::memcmp(text, PREFIX.data(), PREFIX.size()) != 0) return {};
     const char* name = text + PREFIX.size();
-    const std::size_t limit = std::min(size - PREFIX.size(), LONGEST + 1);
-    std::size_t length = 0;
-    while (length != limit && name[length] != '>') ++length;
-    if (length == limit) return {};
-    return {name, length};
+    const char* name_end = skip(LETTERS, name);
+    if (*name_end != '>') return {};
+    return {name, static_cast<std::size_t>(name_end - name)};
 }
 
 }  // namespace
@@ -47,10 +44,10 @@ void TextEvents::add_put_together(std::string_view word) {
 void TextReader::read(TextEvents& events) {
     events.clear();
     while (!events.is_full()) {
-        if (scanner_.at_end()) {
+        if (at_ == end_) {
             if (n_spans_ == 0) return;
             leave_span(events);
-        } else if (scanner_.at() < usual_from_ || scanner_.has_word()) {
+        } else if (at_ < usual_from_ || word_[0] != '\0') {
             read_step(events);
         } else {
             read_usual(events);
@@ -60,14 +57,15 @@ void TextReader::read(TextEvents& events) {
 
 // Words between blanks, and marks.
 void TextReader::read_usual(TextEvents& events) {
-    const char* const text_end = scanner_.end();
-    const char* at = scanner_.at();
+    const char* const text_end = end_;
+    const char* at = at_;
+    const char* const no_eight = eights_end(at, text_end);
     const char* end = at;
     while (!events.is_full()) {
-        end = find_word_end(end, text_end);
+        end = find_word_end(end, no_eight, text_end);
         const auto length = static_cast<std::size_t>(end - at);
-        if (*end == ' ' && length <= WORD_LENGTH_MAX) {
-            if (length > 0) events.add(TextEventKind::word, {at, length});
+        if (*end == ' ' && length - 1 < WORD_LENGTH_MAX) {
+            events.add(TextEventKind::word, {at, length});
             at = end = end + (end[1] == ' ' ? 2 : 1);
             continue;
         }
@@ -81,6 +79,10 @@ void TextReader::read_usual(TextEvents& events) {
             at = end;
             break;
         }
+        if (length == 0 && *end == ' ') {
+            at = ++end;
+            continue;
+        }
         if (const std::string_view name = mark_at(at, text_end); !name.empty()) {
             events.add(TextEventKind::punc, name);
             at = end = name.data() + name.size() + 1;
@@ -92,23 +94,27 @@ void TextReader::read_usual(TextEvents& events) {
         }
         ++end;  // it is of the word
     }
-    scanner_.go_on_at(at);
+    at_ = at;
 }
 
 // One character or one tag of what is not usual.
 void TextReader::read_step(TextEvents& events) {
-    if (!scanner_.step()) {
-        if (const Tag* tag = scanner_.tag()) read_tag(*tag, events);
+    if (!scanner_) scanner_.emplace(at_, end_, word_, 0, arena_);
+    scanner_->go_on_at(at_, end_);
+    const bool completed = scanner_->step();
+    at_ = scanner_->at();
+    if (!completed) {
+        if (const Tag* tag = scanner_->tag()) read_tag(*tag, events);
         return;
     }
-    const std::string_view word = scanner_.word();
-    const char* begin = scanner_.word_begin();
+    const std::string_view word = scanner_->word();
+    const char* begin = scanner_->word_begin();
     if (std::memcmp(begin, word.data(), word.size()) == 0) {
         events.add(TextEventKind::word, {begin, word.size()});
     } else {
         events.add_put_together(word);
     }
-    scanner_.clear_word();
+    scanner_->clear_word();
 }
 
 void TextReader::read_tag(const Tag& tag, TextEvents& events) {
@@ -123,8 +129,9 @@ void TextReader::read_tag(const Tag& tag, TextEvents& events) {
                 events.add(TextEventKind::span_end, {});
                 break;
             }
-            spans_[n_spans_++] = {tag.after, scanner_.end()};
-            scanner_.go_on_at(tag.content.data(), tag.content.data() + tag.content.size());
+            spans_[n_spans_++] = {tag.after, end_};
+            at_ = tag.content.data();
+            end_ = at_ + tag.content.size();
             break;
         }
         default: break;
@@ -135,8 +142,9 @@ void TextReader::read_tag(const Tag& tag, TextEvents& events) {
 void TextReader::leave_span(TextEvents& events) {
     const Span& span = spans_[--n_spans_];
     events.add(TextEventKind::span_end, {});
-    scanner_.clear_word();
-    scanner_.go_on_at(span.after, span.outer_end);
+    scanner_->clear_word();
+    at_ = span.after;
+    end_ = span.outer_end;
 }
 
 }  // namespace kavi::tn

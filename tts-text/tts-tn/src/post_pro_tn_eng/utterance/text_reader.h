@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "scanner.h"
@@ -34,7 +35,7 @@ class TextEvents {
     void clear() {
         end_ = events_;
         full_at_ = events_ + WORDS_MAX - 1;
-        n_words_ = 0;
+        n_others_ = 0;
         characters_end_ = characters_;
     }
     bool is_full() const { return end_ >= full_at_; }
@@ -43,13 +44,13 @@ class TextEvents {
     void add(TextEventKind kind, std::string_view text) {
         const std::size_t length = std::min<std::size_t>(text.size(), UINT16_MAX);
         *end_++ = {text.data(), static_cast<std::uint16_t>(length), kind};
-        if (kind == TextEventKind::word) ++n_words_;
+        if (kind != TextEventKind::word) ++n_others_;
     }
 
     // Adds a word that stands in pieces: its characters are kept here.
     void add_put_together(std::string_view word);
 
-    int n_words() const { return n_words_; }
+    int n_words() const { return static_cast<int>(end_ - events_) - n_others_; }
     const TextEvent* begin() const { return events_; }
     const TextEvent* end() const { return end_; }
 
@@ -58,7 +59,7 @@ class TextEvents {
 
     TextEvent* end_;
     TextEvent* full_at_;
-    int n_words_;
+    int n_others_;  // than words
     char* characters_end_;
     TextEvent events_[WORDS_MAX];
     char characters_[CHARACTERS];  // of words put together
@@ -70,8 +71,8 @@ class TextReader {
     // A NUL follows the text. The arena may be null.
     // cppcheck-suppress uninitMemberVar ; of the spans, those entered are set
     TextReader(std::string_view text, mem_stack_handle arena)
-        : scanner_(text.data(), text.data() + text.size(), word_, 0, arena) {
-        scanner_.clear_word();
+        : at_(text.data()), end_(at_ + text.size()), arena_(arena) {
+        word_[0] = '\0';
     }
     TextReader(const TextReader&) = delete;
     TextReader& operator=(const TextReader&) = delete;
@@ -79,7 +80,7 @@ class TextReader {
     // Lists what comes next: all of it, or as much as the list holds.
     void read(TextEvents& events);
 
-    bool at_end() const { return scanner_.at_end() && n_spans_ == 0; }
+    bool at_end() const { return at_ == end_ && n_spans_ == 0; }
 
   private:
     void read_usual(TextEvents& events);
@@ -96,8 +97,11 @@ class TextReader {
     // names is longer than any that can be.
     static constexpr int SPANS_NESTED_MAX = 64;
 
-    char word_[WORD_MAX_LEN];
-    Scanner scanner_;
+    const char* at_;
+    const char* end_;  // of the innermost open span, or of the text
+    mem_stack_handle arena_;
+    char word_[WORD_MAX_LEN];           // that the scanner is reading, or an empty one
+    std::optional<Scanner> scanner_;    // from the first step on
     const char* usual_from_ = nullptr;  // up to there, the text is read step by step
     int n_spans_ = 0;
     Span spans_[SPANS_NESTED_MAX];  // the open ones

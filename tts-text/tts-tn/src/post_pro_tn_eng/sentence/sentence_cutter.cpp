@@ -25,7 +25,7 @@ constexpr bool is_blank(char c) {
 
 bool SentenceCutter::cut() {
     drop_leading_blank();
-    while (*next_ != '\0' && !stop_ && !full_ && target_.length() <= FULL_SENTENCE) {
+    while (*next_ != '\0' && !stop_ && target_.length() <= FULL_SENTENCE) {
         if (!take_next()) return false;
     }
     return close_open_spans();
@@ -97,14 +97,16 @@ void SentenceCutter::full_stop() {
     const bool decimal_point = between_digits();
     if (!decimal_point && expand_abbreviation()) return;
     mark(!decimal_point);
-    if (decimal_point) stretch_ = next_;
+    if (!decimal_point) return;
+    stretch_ = next_;
+    hides_full_stop_ = false;
 }
 
 // Whether the full stop ended an abbreviation, whose expansion stands in the target now. A full
 // stop inside a tag that was passed hides the abbreviations after it. One whose expansion has no
 // room ends the sentence.
 bool SentenceCutter::expand_abbreviation() {
-    if (std::strchr(stretch_, '.') != next_) return false;
+    if (hides_full_stop_) return false;
     const int row = abbreviations_.find(stretch_, next_);
     if (row == NO_ABBREVIATION) return false;
     const auto& [written, expansion] = s_spec_word_abbrevi[row];
@@ -131,7 +133,7 @@ bool SentenceCutter::markup() {
     switch (tag->kind) {
         case TagKind::removed:
             report(text, target_.length());
-            next_ += text.size();
+            pass(text);
             return true;
         case TagKind::kept: keep(text); return true;
         case TagKind::span_open: return open_span(text);
@@ -147,14 +149,19 @@ void SentenceCutter::keep(std::string_view tag) {
     }
 }
 
+void SentenceCutter::pass(std::string_view tag) {
+    if (tag.find('.') != std::string_view::npos) hides_full_stop_ = true;
+    next_ += tag.size();
+}
+
 // A tag that has no room any more begins the next sentence. Where the sentence begins with tags
 // that hide no full stop, the search for abbreviations begins after them.
 bool SentenceCutter::copy_tag(std::string_view tag) {
-    full_ = !target_.append(tag);
-    if (full_) return false;
-    const bool hides_nothing = tag.find('.') == std::string_view::npos;
-    if (stretch_ == next_ && hides_nothing) stretch_ += tag.size();
-    next_ += tag.size();
+    stop_ = !target_.append(tag);
+    if (stop_) return false;
+    const bool begins_stretch = stretch_ == next_;
+    pass(tag);
+    if (begins_stretch && !hides_full_stop_) stretch_ = next_;
     return true;
 }
 

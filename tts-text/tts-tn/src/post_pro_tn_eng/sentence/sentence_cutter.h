@@ -69,6 +69,7 @@ class SentenceCutter {
     inline bool expand_abbreviation();
 
     inline bool markup();
+    inline void pass(std::string_view tag);
     inline void keep(std::string_view tag);
     inline bool copy_tag(std::string_view tag);
     inline bool open_span(std::string_view tag);
@@ -79,13 +80,13 @@ class SentenceCutter {
 
     const char* next_;  // the read position
     const char* source_end_;
-    const char* stretch_;  // where the next abbreviation search begins
+    const char* stretch_;            // where the next abbreviation search begins
+    bool hides_full_stop_ = false;  // a tag that was passed since has one inside
     BoundedText target_;
     AbbreviationSearch& abbreviations_;
     CutObserver* observer_;
     char previous_ = 0;  // the last character that the scan recorded; tags do not count
     bool stop_ = false;  // the sentence has ended
-    bool full_ = false;  // it has no room for the tag at hand
     int length_before_closing_ = 0;
     SsmlTagArr tags_;  // of its entries, those below begin_arr_len hold texts
     TagEnds tag_ends_;

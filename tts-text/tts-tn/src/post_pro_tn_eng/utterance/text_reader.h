@@ -29,8 +29,9 @@ class TextEvents {
   public:
     static constexpr std::size_t WORDS_MAX = SZ_TEXT_MAX_LEN / 2 + 1;
 
-    // cppcheck-suppress uninitMemberVar ; of the events, those added are set
-    TextEvents() { clear(); }
+    // Holds nothing of use until it has been cleared.
+    // cppcheck-suppress uninitMemberVar ; clear sets all that counts
+    TextEvents() {}
 
     void clear() {
         end_ = events_;

@@ -31,7 +31,7 @@ char* append_from(void (*read)(std::string_view, Reading&), char* source, char* 
 }
 
 char* replace_by(std::string_view words, char* target) {
-    Reading(emptied(target)).append(words);
+    Reading(target, 0).append(words);
     return target;
 }
 
@@ -39,7 +39,7 @@ char* replace_by(std::string_view words, char* target) {
 // output is full.
 Section* append_mark(MarkReader* read, const Token* mark, char* target) {
     char scratch[WORD_MAX_LEN];
-    Reading reading(emptied(scratch));
+    Reading reading(scratch, 0);
     BoundedText output(target, SZ_TEXT_MAX_LEN);
     const Token* last = read(mark, reading, output);
     return last != nullptr ? last->section : nullptr;
@@ -186,7 +186,8 @@ char* PostProTnEng::str_turn(char* sz_source_text, char* sz_target_text) {
 }
 
 char* PostProTnEng::number_to_string(char* sz_source_text, char* sz_target_text) {
-    return append_from(append_number, sz_source_text, emptied(sz_target_text));
+    *sz_target_text = '\0';
+    return append_from(append_number, sz_source_text, sz_target_text);
 }
 
 }  // namespace kavi

@@ -29,6 +29,16 @@ class BoundedText {
         return true;
     }
 
+    // Appends the text that begins a buffer; all of the buffer may be copied, and is readable.
+    template <std::size_t Size>
+    bool append_padded(const char (&buffer)[Size], std::size_t length) {
+        if (!has_room(Size)) return append({buffer, length});
+        std::memcpy(end_, buffer, Size);
+        end_ += length;
+        *end_ = '\0';
+        return true;
+    }
+
     // Appends the words, and then a blank. False when that has no room, or neither has.
     bool append_spaced(std::string_view words) {
         if (!has_room(words.size() + 1)) {
@@ -51,7 +61,8 @@ class BoundedText {
     }
 
     void cut_blanks() {
-        while (ends_with(' ')) cut(1);
+        while (ends_with(' ')) --end_;
+        *end_ = '\0';
     }
 
     bool ends_with(char c) const { return end_ != text_ && end_[-1] == c; }

@@ -12,12 +12,6 @@
 
 namespace kavi::tn {
 
-// A buffer that holds an empty text from now on.
-inline char* emptied(char* buffer) {
-    *buffer = '\0';
-    return buffer;
-}
-
 // Grows after what the buffer holds already. Words that no longer fit are cut after the last whole
 // one that does, and everything after the cut is dropped. A cut reading does not end in a blank.
 class Reading {
@@ -26,6 +20,12 @@ class Reading {
     // cppcheck-suppress uninitMemberVar ; of the digits' runs, those noted are set
     explicit Reading(char* sz_target_text)
         : text_(sz_target_text), length_(std::strlen(sz_target_text)) {}
+
+    // Grows after the first `length` characters of the buffer.
+    // cppcheck-suppress uninitMemberVar
+    Reading(char* buffer, std::size_t length) : text_(buffer), length_(length) {
+        text_[length_] = '\0';
+    }
 
     void append(std::string_view words) {
         if (cut_) return;

@@ -27,9 +27,14 @@ Outcome SectionDispatcher::walk(const Token* first, ReadingObserver* observer) {
         } else if (outcome_ == Outcome::go_on) {
             outcome_ = Outcome::ended;
         }
-        if (observer != nullptr) observer->on_step(*this);
+        observer != nullptr ? observer->on_step(*this) : pass_blanks();
     }
     return outcome_;
+}
+
+// Blanks are silent: a step for each is for those who look on.
+void SectionDispatcher::pass_blanks() {
+    while (end_->kind == MARKSYMBOL && end_->first() == ' ') ++end_;
 }
 
 void SectionDispatcher::append(std::string_view words) {

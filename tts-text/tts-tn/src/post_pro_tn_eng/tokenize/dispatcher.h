@@ -77,6 +77,7 @@ class SectionDispatcher {
   private:
     // ---- one for each kind of section and pattern: the last token consumed, or the one after the
     // last section ----
+    inline void pass_blanks();
     inline const Token* step();
     inline const Token* word();
     inline const Token* telephone();
@@ -101,7 +102,7 @@ class SectionDispatcher {
     TokenWindow& tokens_;
     BoundedText& output_;
     char reading_text_[WORD_MAX_LEN];
-    Reading reading_{emptied(reading_text_)};
+    Reading reading_{reading_text_, 0};
     ReadingRule rule_ = ReadingRule::silent;
     Outcome outcome_ = Outcome::go_on;
     const Token* first_ = nullptr;

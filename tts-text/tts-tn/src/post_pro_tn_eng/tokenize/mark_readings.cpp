@@ -34,20 +34,16 @@ constexpr MarkReading MARK_READINGS[25] = {
 
 namespace {
 
-struct MarkText {
-    char text[15];
-    unsigned char length;
-};
-
 constexpr MarkText text(std::string_view words) {
     MarkText text{};
     for (const char c : words) text.text[text.length++] = c;
     return text;
 }
 
-// In the order of MarkWords, from SILENT on.
+}  // namespace
+
 // clang-format off
-constexpr MarkText TEXTS[] = {
+constexpr MarkText MARK_TEXTS[] = {
     text(""),               // SILENT
     text(" "),              // BLANK
     text("<punc=dou> "),    // DOU
@@ -73,6 +69,8 @@ constexpr MarkText TEXTS[] = {
 };
 // clang-format on
 
+namespace {
+
 constexpr auto make_mark_rows() {
     std::array<unsigned char, '~' - '!' + 1> rows{};
     unsigned char number = 0;
@@ -85,10 +83,5 @@ constexpr auto make_mark_rows() {
 }  // namespace
 
 constexpr std::array<unsigned char, '~' - '!' + 1> MARK_ROWS = make_mark_rows();
-
-std::string_view text_of(MarkWords words) {
-    const MarkText& text = TEXTS[words - SILENT];
-    return {text.text, text.length};
-}
 
 }  // namespace kavi::tn

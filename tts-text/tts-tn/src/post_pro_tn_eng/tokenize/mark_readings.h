@@ -36,8 +36,20 @@ enum MarkWords : unsigned char {
     SMALLER,
 };
 
+struct MarkText {
+    char text[15];
+    unsigned char length;
+
+    operator std::string_view() const { return {text, length}; }
+};
+
+// In the order of MarkWords, from SILENT on.
+extern const MarkText MARK_TEXTS[SMALLER - SILENT + 1];
+
 // The text of words that are not READER.
-std::string_view text_of(MarkWords words);
+inline const MarkText& text_of(MarkWords words) {
+    return MARK_TEXTS[words - SILENT];
+}
 
 // A mark's words after a number section, else before one, and otherwise. A mark that is in no row
 // is silent.

@@ -45,10 +45,17 @@ const char* end_of_plain_words(const char* text, const char* text_end) {
 
 const char* PlainText::read(const char* text, ReadingObserver* observer) {
     for (;;) {
-        while (*text == ' ' || *text == '\n') ++text;
-        if (*text == '\0' || is_digit(*text)) return text;
-        const int target_at = output_.length();
-        const char* end = is_letter(*text) ? words(text) : mark(text);
+        const char* end = text;
+        const int target_at = observer != nullptr ? output_.length() : 0;
+        if (is_letter(*text)) {
+            end = words(text);
+        } else if (*text == ' ' || *text == '\n') {
+            do ++text;
+            while (*text == ' ' || *text == '\n');
+            continue;
+        } else if (*text != '\0' && !is_digit(*text)) {
+            end = mark(text);
+        }
         if (end == text || end == nullptr) return end;
         if (observer != nullptr) {
             observer->on_plain_text({text, static_cast<std::size_t>(end - text)}, target_at);
@@ -101,8 +108,9 @@ const char* PlainText::mark(const char* text) {
             default: return text;
         }
     }
-    const bool fits =
-        row->spaced ? output_.append_spaced(text_of(words)) : output_.append(text_of(words));
+    const MarkText& reading = text_of(words);
+    const bool fits = row->spaced ? output_.append_spaced(reading)
+                                  : output_.append_padded(reading.text, reading.length);
     return fits ? text + 1 : nullptr;
 }
 

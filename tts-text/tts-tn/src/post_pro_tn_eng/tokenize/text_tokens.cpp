@@ -7,11 +7,9 @@ namespace kavi::tn {
 
 namespace {
 
-// Whether no reader looks past a section of letters: see readers/readers.h.
-bool stops_readers(const char* word, const char* after) {
-    const bool glued =
-        is_digit(*after) || is_letter(*after) || (*after == '.' && is_digit(after[1]));
-    return !glued && word_kind({word, static_cast<std::size_t>(after - word)}) == WordKind::plain;
+// Whether a reader may look past a plain word that ends there: see readers/readers.h.
+bool is_glued(const char* after) {
+    return is_digit(*after) || is_letter(*after) || (*after == '.' && is_digit(after[1]));
 }
 
 }  // namespace
@@ -19,6 +17,7 @@ bool stops_readers(const char* word, const char* after) {
 TextTokens::TextTokens(Reach reach, TagEnds& tag_ends) : reach_(reach), tag_ends_(tag_ends) {}
 
 Token* TextTokens::fill(Token* end, Token* limit) {
+    const bool reads_all = reach_ == Reach::text_end;
     const char* next = next_;
     while (end != limit && *next != '\0') {
         const char* begin = next;
@@ -27,7 +26,7 @@ Token* TextTokens::fill(Token* end, Token* limit) {
         *end++ = {begin, static_cast<std::uint16_t>(length),
                   static_cast<signed char>(class_of(run)), run == DIGITS, nullptr};
         next += length;
-        if (reach_ == Reach::plain_word && stops_at(begin, run, next)) break;
+        if (!reads_all && stops_at(begin, run, next)) break;
     }
     next_ = next;
     return end;
@@ -36,11 +35,14 @@ Token* TextTokens::fill(Token* end, Token* limit) {
 // Whether no reader looks past a section that `next` follows. A blank before the word where
 // readers stop is as good as the word.
 bool TextTokens::stops_at(const char* section, unsigned run, const char* next) {
-    if (run == LETTERS) return stops_readers(section, next);
+    if (run == LETTERS) {
+        const std::string_view word(section, static_cast<std::size_t>(next - section));
+        return !is_glued(next) && word_kind(word) == WordKind::plain;
+    }
     if (*section != ' ' || !begins_plain_word(next)) return false;
     const char* end = next + 1;
     while (belongs_to(LETTERS, *end)) ++end;
-    return static_cast<std::size_t>(end - next) <= WORD_LENGTH_MAX && stops_readers(next, end);
+    return static_cast<std::size_t>(end - next) <= WORD_LENGTH_MAX && !is_glued(end);
 }
 
 bool TextTokens::is_amount_before_dollar(const Token* number) {

@@ -207,7 +207,7 @@ bool take_chunk(tag_mem_stack_array& arena, std::size_t cost) {
 bool find_room(tag_mem_stack_array& arena, std::size_t cost) {
     put_region_back(arena);
     if (find_region(arena, cost)) return true;
-    if (arena.used() <= arena.taken / 2 && may_merge(arena)) {
+    if (arena.used() <= arena.taken / 4 && may_merge(arena)) {
         merge_neighbours(arena);
         if (find_region(arena, cost)) return true;
     }

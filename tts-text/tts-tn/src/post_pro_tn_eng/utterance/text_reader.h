@@ -84,10 +84,10 @@ class TextReader {
     bool at_end() const { return at_ == end_ && n_spans_ == 0; }
 
   private:
-    void read_usual(TextEvents& events);
-    void read_step(TextEvents& events);
-    void read_tag(const Tag& tag, TextEvents& events);
-    void leave_span(TextEvents& events);
+    inline void read_usual(TextEvents& events);
+    inline void read_step(TextEvents& events);
+    inline void read_tag(const Tag& tag, TextEvents& events);
+    inline void leave_span(TextEvents& events);
 
     struct Span {
         const char* after;  // where the text goes on

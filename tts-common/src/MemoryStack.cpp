@@ -287,15 +287,10 @@ inline void* take_free(tag_mem_stack_array& arena, std::size_t index) {
     return block;
 }
 
-// Serves every request. Out of line, so that the usual one does not pay for its registers.
-__attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
-                                            mem_stack_handle handle) {
-    if (static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
-    tag_mem_stack_array& arena = *handle;
+// Serves a request for which there is no such block. Out of line, so that the others do not pay for
+// its registers.
+__attribute__((noinline)) void* serve(std::size_t size, tag_mem_stack_array& arena) {
     const SizeClass wanted = class_of(size);
-    if (wanted.index != CLASSES) {
-        if (void* block = take_free(arena, wanted.index)) return block;
-    }
     const std::size_t left = arena.capacity - arena.used();
     if (size > std::min(left, REQUEST_MAX)) return nullptr;
     const std::size_t cost = wanted.bytes + sizeof(BlockHeader);
@@ -309,16 +304,22 @@ __attribute__((noinline)) void* request_any(std::size_t size, tag_mem_type type,
     return block + 1;
 }
 
+// The same for all that is no small block.
+__attribute__((noinline)) void* request_large(std::size_t size, tag_mem_stack_array& arena) {
+    const SizeClass wanted = class_of(size);
+    void* block = wanted.index != CLASSES ? take_free(arena, wanted.index) : nullptr;
+    return block != nullptr ? block : serve(size, arena);
+}
+
 }  // namespace
 
 // The usual request is for a small block.
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
-    if (arena == nullptr) return nullptr;
+    if (arena == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
     const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
-    if (index >= SMALL_CLASSES) return request_any(size, type, arena);
-    if (static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
+    if (index >= SMALL_CLASSES) return request_large(size, *arena);
     void* block = take_free(*arena, index);
-    return block != nullptr ? block : request_any(size, type, arena);
+    return block != nullptr ? block : serve(size, *arena);
 }
 
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,

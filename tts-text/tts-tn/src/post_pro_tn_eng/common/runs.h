@@ -106,7 +106,7 @@ inline const char* skip_small_words(const char* text, const char* text_end) {
 }
 
 inline const char* skip_copied(const char* text, const char* text_end) {
-    for (; text_end - text >= 8; text += 8) {
+    for (const char* const end = eights_end(text, text_end); text < end; text += 8) {
         for (Eight marked = maybe_not_copied(eight_of(text)); marked != 0; marked &= marked - 1) {
             const char* at = text + first_of(marked);
             if (!belongs_to(COPIED, *at)) return at;

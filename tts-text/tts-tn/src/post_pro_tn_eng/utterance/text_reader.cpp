@@ -8,10 +8,15 @@ namespace kavi::tn {
 
 namespace {
 
+const char* skip_blanks(const char* text) {
+    while (*text == ' ') ++text;
+    return text;
+}
+
 // The first place from `text` on where a word of tagged text may end: a character below "@", or
 // the text's end.
-inline const char* find_word_end(const char* text, const char* eights_end, const char* text_end) {
-    for (; text < eights_end; text += 8) {
+inline const char* find_word_end(const char* text, const char* no_eight, const char* text_end) {
+    for (; text < no_eight; text += 8) {
         const Eight below = ~eight_of(text) & EACH * '@';
         if (below != 0) return text + first_of(below);
     }
@@ -58,15 +63,15 @@ void TextReader::read(TextEvents& events) {
 // Words between blanks, and marks.
 void TextReader::read_usual(TextEvents& events) {
     const char* const text_end = end_;
-    const char* at = at_;
+    const char* at = skip_blanks(at_);
     const char* const no_eight = eights_end(at, text_end);
     const char* end = at;
     while (!events.is_full()) {
         end = find_word_end(end, no_eight, text_end);
         const auto length = static_cast<std::size_t>(end - at);
-        if (*end == ' ' && length - 1 < WORD_LENGTH_MAX) {
+        if (*end == ' ' && length <= WORD_LENGTH_MAX) {
             events.add(TextEventKind::word, {at, length});
-            at = end = end + (end[1] == ' ' ? 2 : 1);
+            at = end = skip_blanks(end + 1);
             continue;
         }
         if (length > WORD_LENGTH_MAX) {
@@ -79,13 +84,9 @@ void TextReader::read_usual(TextEvents& events) {
             at = end;
             break;
         }
-        if (length == 0 && *end == ' ') {
-            at = ++end;
-            continue;
-        }
         if (const std::string_view name = mark_at(at, text_end); !name.empty()) {
             events.add(TextEventKind::punc, name);
-            at = end = name.data() + name.size() + 1;
+            at = end = skip_blanks(name.data() + name.size() + 1);
             continue;
         }
         if (*end == '<' && begins_tag_name(end + (end[1] == '/' ? 2 : 1))) {

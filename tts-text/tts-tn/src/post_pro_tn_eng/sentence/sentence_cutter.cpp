@@ -85,9 +85,9 @@ void SentenceCutter::run() {
     const std::ptrdiff_t length = std::min(skip_copied(begin, source_end_) - begin, room);
     next_ += length;
     target_.append({begin, static_cast<std::size_t>(length)});
-    const char before_last = length > 1 ? next_[-2] : previous_;
+    const char before = previous_;
     previous_ = next_[-1];
-    if (*next_ == '\0' && is_blank(previous_) && before_last == ' ') {
+    if (*next_ == '\0' && is_blank(previous_) && (length > 1 ? next_[-2] : before) == ' ') {
         target_.cut(1);
         report({next_ - 1, 1}, target_.length());
     }

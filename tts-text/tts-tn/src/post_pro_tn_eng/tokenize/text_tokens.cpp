@@ -14,8 +14,6 @@ bool is_glued(const char* after) {
 
 }  // namespace
 
-TextTokens::TextTokens(Reach reach, TagEnds& tag_ends) : reach_(reach), tag_ends_(tag_ends) {}
-
 Token* TextTokens::fill(Token* end, Token* limit) {
     const bool reads_all = reach_ == Reach::text_end;
     const char* next = next_;

@@ -16,7 +16,7 @@ class TextTokens final : public TokenWindow {
     };
 
     // A NUL follows the text. `tag_ends` serves one pass over it.
-    TextTokens(Reach reach, TagEnds& tag_ends);
+    TextTokens(Reach reach, TagEnds& tag_ends) : reach_(reach), tag_ends_(tag_ends) {}
 
     // The token at `text`. Nothing stands before it.
     const Token* begin(const char* text) {

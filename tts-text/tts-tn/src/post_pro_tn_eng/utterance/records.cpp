@@ -118,8 +118,11 @@ void tn::add_punc(UtteranceSyllable& record, std::string_view name) {
 
 bool tn::WordFiller::take_tag(const TextEvent& event) {
     const std::string_view text = event.text();
+    if (event.kind == TextEventKind::punc) {  // the usual one
+        add_punc(record_[-1], text);
+        return true;
+    }
     switch (event.kind) {
-        case TextEventKind::punc: add_punc(record_[-1], text); return true;
         case TextEventKind::breaktime: set_breaktime(record_[-1], text); return true;
         case TextEventKind::span_end: spans_.leave(); return true;
         default: {

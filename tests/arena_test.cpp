@@ -95,6 +95,21 @@ TEST(Arena, AFreeLargeBlockServesAgain) {
     mem_stack_destroy(arena);
 }
 
+TEST(Arena, AFreeBlockServesWhatIsALittleSmaller) {
+    mem_stack_handle arena = mem_stack_create(0);
+    void* block = mem_stack_request_buf(5120, MEM_COMMON, arena);
+    const std::size_t cost = mem_stack_used(arena);
+    for (const std::size_t size : {5000U, 4000U, 3500U}) {
+        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
+        EXPECT_EQ(mem_stack_request_buf(size, MEM_COMMON, arena), block) << size;
+        EXPECT_EQ(mem_stack_used(arena), cost) << size;
+    }
+    mem_stack_release_buf(block, 0, MEM_COMMON, arena);
+    EXPECT_NE(mem_stack_request_buf(3000, MEM_COMMON, arena), block);
+    EXPECT_LT(mem_stack_used(arena), 3500U);
+    mem_stack_destroy(arena);
+}
+
 TEST(Arena, AFreeBlockServesNoneOfAnotherClass) {
     for (std::size_t large = 1040; large <= 33000; large += 256) {
         mem_stack_handle arena = mem_stack_create(0);

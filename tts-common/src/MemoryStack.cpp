@@ -28,6 +28,7 @@ constexpr int SMALL_SHIFT = 8;  // of a quarter of SMALL_MAX
 constexpr std::size_t CLASS_MAX = 32768;
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
 constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
+constexpr std::size_t CLASSES_SERVING = 3;  // a larger request: its own, and the next two
 constexpr std::size_t REQUEST_MAX = std::numeric_limits<std::size_t>::max() / 4;  // of any memory
 constexpr std::size_t NO_LIMIT = std::numeric_limits<std::size_t>::max() - 1;  // below list_end's
 constexpr std::size_t CHUNK_BYTES = std::size_t{64} * 1024;
@@ -207,7 +208,7 @@ bool take_chunk(tag_mem_stack_array& arena, std::size_t cost) {
 bool find_room(tag_mem_stack_array& arena, std::size_t cost) {
     put_region_back(arena);
     if (find_region(arena, cost)) return true;
-    if (arena.used() <= arena.taken / 4 && may_merge(arena)) {
+    if (arena.used() <= arena.taken / 2 && may_merge(arena)) {
         merge_neighbours(arena);
         if (find_region(arena, cost)) return true;
     }
@@ -304,11 +305,16 @@ __attribute__((noinline)) void* serve(std::size_t size, tag_mem_stack_array& are
     return block + 1;
 }
 
-// The same for all that is no small block.
+// The same for all that is no small block. Texts differ in length: a free block that is at most
+// half as large again is better than one cut anew, for which all that is free may have to be
+// merged.
 __attribute__((noinline)) void* request_large(std::size_t size, tag_mem_stack_array& arena) {
-    const SizeClass wanted = class_of(size);
-    void* block = wanted.index != CLASSES ? take_free(arena, wanted.index) : nullptr;
-    return block != nullptr ? block : serve(size, arena);
+    const std::size_t first = class_of(size).index;
+    const std::size_t end = std::min(first + CLASSES_SERVING, CLASSES);
+    for (std::size_t index = first; index < end; ++index) {
+        if (void* block = take_free(arena, index)) return block;
+    }
+    return serve(size, arena);
 }
 
 }  // namespace

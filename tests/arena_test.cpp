@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -56,10 +57,9 @@ TEST(Arena, AFreeBlockServesItsOwnSizeAndPool) {
 
 TEST(Arena, StartsAnewInItsFirstChunk) {
     mem_stack_handle arena = mem_stack_create(190000);
-    for (int round = 0; round < 3; ++round) {
+    // Each finds no room in what the last round has left, and no block that would serve.
+    for (std::size_t size : {32000U, 18000U, 9000U}) {
         std::vector<void*> blocks;
-        // Finds no room in what the last round has left, and no block of its size.
-        std::size_t size = 32000 - static_cast<std::size_t>(round) * 6000;
         while (void* block = mem_stack_request_buf(size, MEM_COMMON, arena)) {
             EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % alignof(std::max_align_t), 0U);
             blocks.push_back(block);
@@ -160,6 +160,29 @@ TEST(Arena, CapacityBoundsWhatIsInUseAndRefusalHarmsNothing) {
         EXPECT_NE(blocks.back(), nullptr) << "usable again after a refusal";
         mem_stack_destroy(arena);  // takes the blocks that are out with it
     }
+}
+
+// In each chunk, a small block that stays out cuts what is free into pieces that are too small for
+// the next.
+TEST(Arena, TakesNoMoreThanIsPromisedAndHandsNothingOutTwice) {
+    constexpr std::size_t CAPACITY = 100000;
+    mem_stack_handle arena = mem_stack_create(CAPACITY);
+    std::size_t size = 33000;
+    for (; void* block = mem_stack_request_buf(size, MEM_COMMON, arena); size += 1000) {
+        EXPECT_NE(mem_stack_request_buf(40, MEM_COMMON, arena), nullptr);
+        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
+        ASSERT_LE(mem_stack_taken(arena), 2 * CAPACITY + 65536);
+        ASSERT_LT(size, 60000U);
+    }
+    EXPECT_GT(size, 35000U);
+    std::vector<void*> blocks;
+    while (void* block = mem_stack_request_buf(100, MEM_COMMON, arena)) {
+        blocks.push_back(std::memset(block, 1, 100));
+    }
+    EXPECT_GT(blocks.size(), 770U);
+    std::sort(blocks.begin(), blocks.end());
+    EXPECT_EQ(std::adjacent_find(blocks.begin(), blocks.end()), blocks.end());
+    mem_stack_destroy(arena);
 }
 
 TEST(Arena, AFreeBlockIsRefusedWhereTheCapacityEnds) {

@@ -80,7 +80,7 @@ class SentenceCutter {
 
     const char* next_;  // the read position
     const char* source_end_;
-    const char* stretch_;            // where the next abbreviation search begins
+    const char* stretch_;           // where the next abbreviation search begins
     bool hides_full_stop_ = false;  // a tag that was passed since has one inside
     BoundedText target_;
     AbbreviationSearch& abbreviations_;

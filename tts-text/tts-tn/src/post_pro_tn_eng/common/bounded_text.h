@@ -29,13 +29,12 @@ class BoundedText {
         return true;
     }
 
-    // Appends the text that begins a buffer; all of the buffer may be copied, and is readable.
+    // Appends the NUL-terminated text of a buffer, all of which may be copied.
     template <std::size_t Size>
     bool append_padded(const char (&buffer)[Size], std::size_t length) {
         if (!has_room(Size)) return append({buffer, length});
         std::memcpy(end_, buffer, Size);
         end_ += length;
-        *end_ = '\0';
         return true;
     }
 

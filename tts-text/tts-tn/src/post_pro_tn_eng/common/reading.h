@@ -23,9 +23,7 @@ class Reading {
 
     // Grows after the first `length` characters of the buffer.
     // cppcheck-suppress uninitMemberVar
-    Reading(char* buffer, std::size_t length) : text_(buffer), length_(length) {
-        text_[length_] = '\0';
-    }
+    Reading(char* buffer, std::size_t length) : text_(buffer), length_(length) {}
 
     void append(std::string_view words) {
         if (cut_) return;

@@ -37,10 +37,7 @@ bool TextTokens::stops_at(const char* section, unsigned run, const char* next) {
         const std::string_view word(section, static_cast<std::size_t>(next - section));
         return !is_glued(next) && word_kind(word) == WordKind::plain;
     }
-    if (*section != ' ' || !begins_plain_word(next)) return false;
-    const char* end = next + 1;
-    while (belongs_to(LETTERS, *end)) ++end;
-    return static_cast<std::size_t>(end - next) <= WORD_LENGTH_MAX && !is_glued(end);
+    return *section == ' ' && begins_plain_word(next);
 }
 
 bool TextTokens::is_amount_before_dollar(const Token* number) {

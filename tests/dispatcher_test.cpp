@@ -79,6 +79,12 @@ TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
     dollar.m_pnext = &no_digits;
     EXPECT_EQ(engine.section_process(&dollar, empty), 0);
     EXPECT_STREQ(empty, " dollars  ");
+    Section number_sign = {"#", MARKSYMBOL, nullptr, nullptr};
+    Section word = {" x", STRINGSYMBOL, nullptr, &number_sign};
+    number_sign.m_pnext = &word;
+    char spaced[SZ_TEXT_MAX_LEN] = {};
+    EXPECT_EQ(engine.section_process(&number_sign, spaced), 0);
+    EXPECT_STREQ(spaced, "  x ");
 }
 
 TEST_F(Dispatcher, ReadsAQueueFromWithinIt) {
@@ -113,8 +119,9 @@ TEST_F(Dispatcher, ReadsSectionsThatNoTextHas) {
 }
 
 TEST_F(Dispatcher, APatternThatEndsTheTextNeedsRoomToo) {
-    for (std::string pattern : {"1,234,", "+1 2", "(1)-2"}) {
-        for (const auto& [room, result] : {std::pair(10, -1), std::pair(200, 0)}) {
+    for (std::string pattern : {"1,234,", "+1 2", "+1 -", "(1)-2"}) {
+        for (const auto& [room, result] :
+             {std::pair(10, -1), std::pair(12, -1), std::pair(200, 0)}) {
             char target[SZ_TEXT_MAX_LEN] = {};
             std::memset(target, 'x', static_cast<std::size_t>(SZ_TEXT_MAX_LEN - 1 - room));
             EXPECT_EQ(engine.eng_text_tokenize(pattern.data(), target), result) << pattern << room;

@@ -154,6 +154,25 @@ TEST_F(Utterance, IsCutIntoTheSameWordsByStepsHoweverTagsAreClosed) {
     }
 }
 
+// A span that is not read, being nested too deep, needs room for two where a list has room for one.
+TEST_F(Utterance, AWordInPiecesSurvivesAFullList) {
+    const auto repeated = [](const std::string& piece, int n) {
+        std::string text;
+        while (n-- > 0) text += piece;
+        return text;
+    };
+    for (int n = 1980; n < 1990; ++n) {
+        std::string text = "ab<sil=1>cd " + repeated("<poem=p>", 64) + repeated("x ", n) +
+                           "<poem=p>y</poem>" + repeated("</poem>", 64);
+        UtteranceSyllable* utt = nullptr;
+        int n_utt = 0;
+        EXPECT_EQ(engine.eng_text_to_utterance_syllable(text.data(), utt, n_utt), -1);
+        ASSERT_EQ(n_utt, n + 2);
+        EXPECT_STREQ(utt[1].syllable, "abcd") << n;
+        kavi::release(utt, n_utt, arena);
+    }
+}
+
 TEST_F(Utterance, StepsAndCountsByThemselves) {
     std::string many;  // more than one list holds
     while (many.size() < 10000) many += "a ";

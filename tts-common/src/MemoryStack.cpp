@@ -305,8 +305,8 @@ __attribute__((noinline)) void* serve(std::size_t size, tag_mem_stack_array& are
     return block + 1;
 }
 
-// The same for all that is no small block. Texts differ in length: a free block that is at most
-// half as large again is better than one cut anew, for which all that is free may have to be
+// Serves a request for more than a small block. Texts differ in length: a free block that is at
+// most half as large again is better than one cut anew, for which all that is free may have to be
 // merged.
 __attribute__((noinline)) void* request_large(std::size_t size, tag_mem_stack_array& arena) {
     const std::size_t first = class_of(size).index;

@@ -3,7 +3,7 @@
 // where there are too few, the one after the last section.
 //
 // What the tokenizer's speed rests on: no reader looks past a plain word that is followed neither
-// by a digit nor by "." and a digit, and none looks back past one.
+// by a digit nor by "." and a digit, or that stands after a blank, and none looks back past one.
 #ifndef KAVI_TN_READERS_H
 #define KAVI_TN_READERS_H
 

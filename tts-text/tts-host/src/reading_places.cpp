@@ -24,7 +24,7 @@ void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
                                 const tn::TextEvents& events, WordPlace* place) {
     readings_.push_back({0, 0, SZ_TEXT_MAX_LEN});
     PieceCursor cursor(pieces);
-    *place++ = {{cursor.source_of(0, 1).offset, 0}, 0};
+    *place++ = {{cursor.source_of(0, 0).offset, 0}, 0};
 
     const char* const sentence = sentence_;
     const char* const speakable = speakable_;

@@ -131,6 +131,15 @@ void take_group(std::string_view& digits, std::size_t groups_after, Reading& rea
     digits.remove_prefix(length);
 }
 
+// Reads a number group by group, but for the last `n_left` of those that are read.
+void append_groups(std::string_view digits, std::size_t n_left, Reading& reading) {
+    const std::string_view all = digits;
+    for (std::size_t n = groups_read(digits.size()); n > n_left; --n) {
+        take_group(digits, n - 1, reading);
+    }
+    reading.note_digits(all.substr(0, all.size() - digits.size()));
+}
+
 }  // namespace
 
 int value_of(std::string_view text) {
@@ -164,20 +173,16 @@ bool append_ordinal(std::string_view digits, Reading& reading) {
 
 void append_number(std::string_view digits, Reading& reading) {
     if (!digits.empty() && digits.size() <= GROUP_DIGITS) {
-        append_cardinal(digits, reading);
+        reading.note_digits(digits);
+        append_group(digits, false, reading);
         return;
     }
-    const std::string_view all = digits;
-    for (std::size_t n = groups_read(digits.size()); n > 0; --n) take_group(digits, n - 1, reading);
-    reading.note_digits(all.substr(0, all.size() - digits.size()));
+    append_groups(digits, 0, reading);
 }
 
 void append_ordinal_number(std::string_view digits, Reading& reading) {
-    const std::string_view all = digits;
-    const std::string_view last = all.substr(all.size() - std::min(all.size(), GROUP_DIGITS));
-    for (std::size_t n = groups_read(digits.size()); n > 1; --n) take_group(digits, n - 1, reading);
-    reading.note_digits(all.substr(0, all.size() - digits.size()));
-    append_ordinal(last, reading);
+    append_groups(digits, 1, reading);
+    append_ordinal(digits.substr(digits.size() - std::min(digits.size(), GROUP_DIGITS)), reading);
 }
 
 void append_each_digit(std::string_view digits, Reading& reading) {

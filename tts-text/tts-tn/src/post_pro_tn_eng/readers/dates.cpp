@@ -76,7 +76,8 @@ bool is_year(std::string_view digits) {
 }
 
 bool is_day_of_month(const Token* number) {
-    return is_month(ahead(number, 2)) || is_month(number - 1) || is_month(number - 2);
+    return (is_section(number + 1) && is_month(number + 2)) || is_month(number - 1) ||
+           is_month(number - 2);
 }
 
 }  // namespace kavi::tn

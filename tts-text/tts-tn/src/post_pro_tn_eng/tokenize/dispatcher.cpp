@@ -6,35 +6,40 @@
 #include "../readers/months.h"
 #include "../readers/readers.h"
 #include "../readers/words.h"
-#include "mark_readings.h"
 
 namespace kavi::tn {
+
+// Blanks are silent: a step for each is for those who look on.
+static const Token* after_blanks(const Token* token) {
+    while (token->kind == MARKSYMBOL && token->first() == ' ') ++token;
+    return token;
+}
 
 // cppcheck-suppress uninitMemberVar ; the reading makes its text empty
 SectionDispatcher::SectionDispatcher(TokenWindow& tokens, BoundedText& output)
     : tokens_(tokens), output_(output) {}
 
 Outcome SectionDispatcher::walk(const Token* first, ReadingObserver* observer) {
-    end_ = first;
+    const Token* next = first;
     while (outcome_ == Outcome::go_on) {
-        first_ = tokens_.at(end_);
+        first_ = tokens_.at(next);
         if (!is_section(first_)) break;
         output_before_ = output_.length();
         reading_.clear();
-        end_ = step();
-        if (is_section(end_)) {
-            ++end_;
+        next = step();
+        if (is_section(next)) {
+            ++next;
         } else if (outcome_ == Outcome::go_on) {
             outcome_ = Outcome::ended;
         }
-        observer != nullptr ? observer->on_step(*this) : pass_blanks();
+        end_ = next;
+        if (observer != nullptr) {
+            observer->on_step(*this);
+        } else {
+            next = after_blanks(next);
+        }
     }
     return outcome_;
-}
-
-// Blanks are silent: a step for each is for those who look on.
-void SectionDispatcher::pass_blanks() {
-    while (end_->kind == MARKSYMBOL && end_->first() == ' ') ++end_;
 }
 
 void SectionDispatcher::append(std::string_view words) {
@@ -43,6 +48,12 @@ void SectionDispatcher::append(std::string_view words) {
 
 void SectionDispatcher::append_spaced(std::string_view words) {
     if (!output_.append_spaced(words)) outcome_ = Outcome::full;
+}
+
+const Token* SectionDispatcher::append_mark(MarkWords words) {
+    const MarkText& reading = text_of(words);
+    if (!output_.append_padded(reading.text, reading.length)) outcome_ = Outcome::full;
+    return first_;
 }
 
 const Token* SectionDispatcher::read_as(ReadingRule rule, std::string_view words,
@@ -111,20 +122,20 @@ const Token* SectionDispatcher::number() {
         case '/':
         case '-':
             if (data_decide(first_)) return read(ReadingRule::date, data_number, first_);
-            if (is_mark(next, '-') || !fraction_decide(first_)) return plain_number();
-            return read(ReadingRule::fraction, fraction_number, first_);
+            if (fraction_decide(first_)) {
+                return read(ReadingRule::fraction, fraction_number, first_);
+            }
+            break;
         case '.':
             if (tokens_.is_amount_before_dollar(first_)) return money(first_);
-            if (!decimal_decide(first_)) return plain_number();
-            return read(ReadingRule::decimal, decimal_number, first_);
+            if (decimal_decide(first_)) return read(ReadingRule::decimal, decimal_number, first_);
+            break;
         case '$': return money(first_);
-        default: break;
+        default:
+            if (is_ordinal_suffix(next)) return read(ReadingRule::ordinal, turn, first_);
+            // After so many digits that they are two sections, it may be an amount.
+            if (is_number(next) && tokens_.is_amount_before_dollar(first_)) return money(first_);
     }
-    if (is_ordinal_suffix(next)) {
-        return read(ReadingRule::ordinal, turn, first_);
-    }
-    // After so many digits that they are two sections, it may be an amount.
-    if (is_number(next) && tokens_.is_amount_before_dollar(first_)) return money(first_);
     return plain_number();
 }
 
@@ -177,7 +188,8 @@ const Token* SectionDispatcher::mark() {
         words = row->otherwise;
         assert(words != READER);
     }
-    row->spaced ? append_spaced(text_of(words)) : append(text_of(words));
+    if (!row->spaced) return append_mark(words);
+    append_spaced(text_of(words));
     return first_;
 }
 
@@ -198,8 +210,7 @@ const Token* SectionDispatcher::smaller() {
     }
     const Token* next = first_ + 1;
     const bool is_spoken = !is_section(next) || begins_with(next->text(), "punc");
-    append(text_of(smaller_words(is_spoken, !is_spoken && tokens_.greater_follows(first_))));
-    return first_;
+    return append_mark(smaller_words(is_spoken, !is_spoken && tokens_.greater_follows(first_)));
 }
 
 const Token* SectionDispatcher::apostrophe() {

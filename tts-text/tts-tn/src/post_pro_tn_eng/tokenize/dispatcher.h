@@ -6,6 +6,7 @@
 
 #include "../common/bounded_text.h"
 #include "../common/reading.h"
+#include "mark_readings.h"
 #include "reading_observer.h"
 #include "token_window.h"
 
@@ -77,7 +78,6 @@ class SectionDispatcher {
   private:
     // ---- one for each kind of section and pattern: the last token consumed, or the one after the
     // last section ----
-    inline void pass_blanks();
     inline const Token* step();
     inline const Token* word();
     inline const Token* telephone();
@@ -92,6 +92,7 @@ class SectionDispatcher {
     // Appends to the output; the outcome tells whether it fitted.
     inline void append(std::string_view words);
     inline void append_spaced(std::string_view words);
+    inline const Token* append_mark(MarkWords words);
 
     // Appends a step's words, or those of the reading, and says what the step was.
     inline const Token* read_as(ReadingRule rule, std::string_view words, const Token* last);

@@ -37,7 +37,7 @@ class TextTokens final : public TokenWindow {
 
   private:
     Token* fill(Token* end, Token* limit) override;
-    static inline bool stops_at(const char* section, unsigned run, const char* next);
+    bool find_greater();
 
     Reach reach_;
     TagEnds& tag_ends_;

@@ -77,7 +77,8 @@ char* put_word(char* end, char tens, char units, bool ordinal) {
 
 // The frame that cardinals and ordinals have in common: hundreds, then " and ", then one word or
 // two, of which the last is an ordinal or not.
-char* put_group(char* end, Digits digits, bool ordinal) {
+char* put_group(char* end, std::string_view text, bool ordinal) {
+    const Digits digits(text);
     const bool has_hundreds = digits.hundreds != '0';
     const bool has_units = digits.units != '0';
     if (has_hundreds) {
@@ -99,17 +100,22 @@ char* put_group(char* end, Digits digits, bool ordinal) {
     return put(end, " ");
 }
 
-// The words go straight to the reading where there is room for any.
+constexpr std::size_t GROUP_MAX = 80;  // "seventeen hundred  and seventy seventeenth " and a row
+
+// Where there may be no room for all of the words. Out of line, so that the others do not pay for
+// its frame.
+__attribute__((noinline)) void append_last_group(std::string_view text, bool ordinal,
+                                                 Reading& reading) {
+    char words[GROUP_MAX];
+    const char* end = put_group(words, text, ordinal);
+    reading.append({words, static_cast<std::size_t>(end - words)});
+}
+
 void append_group(std::string_view text, bool ordinal, Reading& reading) {
-    char scratch[80];  // "seventeen hundred  and seventy seventeenth " and a row are shorter
-    char* begin = reading.has_room(sizeof scratch) ? reading.end() : scratch;
-    char* end = put_group(begin, Digits(text), ordinal);
-    const auto length = static_cast<std::size_t>(end - begin);
-    if (begin == scratch) {
-        reading.append({scratch, length});
-    } else {
-        reading.extend(length);
-    }
+    if (!reading.has_room(GROUP_MAX)) return append_last_group(text, ordinal, reading);
+    char* begin = reading.end();
+    const char* end = put_group(begin, text, ordinal);
+    reading.extend(static_cast<std::size_t>(end - begin));
 }
 
 // The length of the first of the groups, of which only that may be short.

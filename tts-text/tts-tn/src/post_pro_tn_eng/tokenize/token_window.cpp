@@ -18,7 +18,7 @@ const Token* TokenWindow::slide_to(const Token* token) {
 void TokenWindow::extend_from(Token* end) {
     Token* const limit = tokens_ + CAPACITY;
     end_ = fill(end, limit);
-    is_complete_ = end_ != limit;
+    slide_at_ = end_ != limit ? limit + 1 : end_ - SECTIONS_AHEAD;
     *end_ = NO_TOKEN;
 }
 

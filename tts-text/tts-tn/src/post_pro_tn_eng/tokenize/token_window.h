@@ -17,9 +17,7 @@ class TokenWindow {
 
     // A token of the row, or the one after the last section, when all that a reader may look at
     // stands around it. Where that makes the row slide, no other token of it is good any more.
-    const Token* at(const Token* token) {
-        return is_complete_ || end_ - token > SECTIONS_AHEAD ? token : slide_to(token);
-    }
+    const Token* at(const Token* token) { return token < slide_at_ ? token : slide_to(token); }
 
     // Whether a "$" follows the amount that begins with this number.
     virtual bool is_amount_before_dollar(const Token* number) = 0;
@@ -55,8 +53,8 @@ class TokenWindow {
     const Token* slide_to(const Token* token);
     void extend_from(Token* end);
 
-    bool is_complete_;
     Token* end_;
+    const Token* slide_at_;  // from there on a reader may look for tokens that are not in the row
 };
 
 }  // namespace kavi::tn

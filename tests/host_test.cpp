@@ -52,6 +52,14 @@ TEST(Host, ShortTextsComeOutAsByHand) {
     }
 }
 
+// The layer writes the tags of open spans over what it has read, and searched for abbreviations.
+TEST(Host, WhatAnOpenSpanIsWrittenOverIsNotFound) {
+    for (const char* text : {"<poem=a>b. x B. y, b. z</poem>", "<poem=a>dr. x, Dr. y, dr. z</poem>",
+                             "<poem=a><emphasis=b>b. x B. y, b. z</emphasis></poem>"}) {
+        EXPECT_EQ(read_by_layer(text).normalized, read_by_hand(text).normalized);
+    }
+}
+
 TEST(Host, WordsComeFromTheirPlaces) {
     expect_table("places", [](const std::string& text) {
         const ReadText read = read_by_layer(text);

@@ -154,11 +154,16 @@ void SentenceCutter::pass(std::string_view tag) {
     next_ += tag.size();
 }
 
-// A tag that has no room any more begins the next sentence.
+// A tag that has no room any more begins the next sentence. Where the sentence begins with tags
+// that hide no full stop, the search for abbreviations begins after them: a host may have written
+// them over text that has been searched.
 bool SentenceCutter::copy_tag(std::string_view tag) {
     stop_ = !target_.append(tag);
-    if (!stop_) pass(tag);
-    return !stop_;
+    if (stop_) return false;
+    const bool begins_stretch = stretch_ == next_;
+    pass(tag);
+    if (begins_stretch && !hides_full_stop_) stretch_ = next_;
+    return true;
 }
 
 bool SentenceCutter::open_span(std::string_view tag) {

@@ -22,7 +22,7 @@ TextRange ReadingPlaces::source_of_word(const Reading& reading, std::size_t offs
 // All that changes from word to word stands in variables here, so that it can stay in registers.
 void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
                                 const tn::TextEvents& events, WordPlace* place) {
-    readings_.push_back({0, 0, SZ_TEXT_MAX_LEN});
+    readings_.emplace_back().target_at = SZ_TEXT_MAX_LEN;  // after the last
     PieceCursor cursor(pieces);
     *place++ = {{cursor.source_of(0, 0).offset, 0}, 0};
 

@@ -29,8 +29,9 @@ void SentenceSource::find_pieces(const TextWindow& window, const tn::SentenceCut
     const std::optional<std::size_t> from = window.copied_from(cutter.end());
     if (from.has_value() && replacements_.empty() &&
         cutter.length() == cutter.length_before_closing()) {  // as most sentences
-        const auto length = static_cast<std::size_t>(cutter.length());
-        pieces_.push_back({0, length, {*from, length}, nullptr});
+        SourcePiece& all = pieces_.emplace_back();
+        all.length = static_cast<std::size_t>(cutter.length());
+        all.source = {*from, all.length};
     } else {
         find_several(window, cutter);
     }

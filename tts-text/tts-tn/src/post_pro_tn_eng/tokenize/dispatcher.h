@@ -69,7 +69,7 @@ class SectionDispatcher {
     // What was read by a reader: whether it was cut, and which digits are in it.
     const Reading& reading() const { return reading_; }
 
-    // How much the output held before it.
+    // How much the output held before it: for an observer; nobody else may ask.
     int output_before() const { return output_before_; }
 
     // Whether all of the walk's readings were words and tags.

@@ -179,8 +179,7 @@ bool append_ordinal(std::string_view digits, Reading& reading) {
 
 void append_number(std::string_view digits, Reading& reading) {
     if (!digits.empty() && digits.size() <= GROUP_DIGITS) {
-        reading.note_digits(digits);
-        append_group(digits, false, reading);
+        append_cardinal(digits, reading);
         return;
     }
     append_groups(digits, 0, reading);

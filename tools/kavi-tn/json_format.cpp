@@ -19,53 +19,33 @@ namespace {
 constexpr PlainCharacters PLAIN("\"\\");
 
 // One object after the other. Text that is not UTF-8 has U+FFFD in
-// the place of what is not.
+// the place of what is not. A comma stands after each value, until its object or array ends.
 class JsonLine {
   public:
     void begin() {
         line_.clear();
-        open('{');
+        line_ << '{';
     }
     void end(std::string& out) {
         close('}');
-        line_ << '\n';
-        out += line_.text();
+        out.append(line_.text().substr(0, line_.text().size() - 1)) += '\n';
     }
 
-    void key(std::string_view name) {
-        separate();
-        quote(name);
-        line_ << ':';
-        is_first_ = true;  // what follows is its value
-    }
-    void text(std::string_view value) {
-        separate();
-        PLAIN.are_all(value) ? quote(value) : escape(value);
-    }
-    void name(std::string_view plain) {
-        separate();
-        quote(plain);
-    }
-    void number(std::size_t value) {
-        separate();
-        line_ << value;
-    }
-    void null() {
-        separate();
-        line_ << "null";
-    }
+    void key(std::string_view name) { line_.add('"', name, "\":"); }
+    void text(std::string_view value) { PLAIN.are_all(value) ? name(value) : escape(value); }
+    void name(std::string_view plain) { line_.add('"', plain, "\","); }
+    void number(std::size_t value) { line_.add(value, ','); }
+    void null() { line_ << "null,"; }
 
     template <typename Write>
     void object(Write write) {
-        separate();
-        open('{');
+        line_ << '{';
         write();
         close('}');
     }
     template <typename Write>
     void array(Write write) {
-        separate();
-        open('[');
+        line_ << '[';
         write();
         close(']');
     }
@@ -75,8 +55,7 @@ class JsonLine {
         text(value);
     }
     void field(std::string_view name, std::size_t value) {
-        key(name);
-        number(value);
+        line_.add('"', name, "\":", value, ',');
     }
     void range(const TextRange& range) {
         field("offset", range.offset);
@@ -84,30 +63,21 @@ class JsonLine {
     }
 
   private:
-    void separate() {
-        if (!is_first_) line_ << ',';
-        is_first_ = false;
-    }
-    void open(char bracket) {
-        line_ << bracket;
-        is_first_ = true;
-    }
     void close(char bracket) {
-        line_ << bracket;
-        is_first_ = false;
+        const std::string_view line = line_.text();
+        if (line.back() == ',') line_.cut_to(line.size() - 1);
+        line_.add(bracket, ',');
     }
 
-    void quote(std::string_view plain) { line_ << '"' << plain << '"'; }
     void escape(std::string_view text) {
         const std::string valid = valid_utf8(text);
         rapidjson::StringBuffer buffer;
         rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
         writer.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
-        line_ << std::string_view(buffer.GetString(), buffer.GetSize());
+        line_.add(std::string_view(buffer.GetString(), buffer.GetSize()), ',');
     }
 
     TextBuffer line_;
-    bool is_first_ = true;  // in its object or array, or after its key
 };
 
 class JsonFormat : public Format {
@@ -166,20 +136,25 @@ class JsonFormat : public Format {
     }
 
     void write_words(const HostSentence& sentence) {
+        const bool are_plain = PLAIN.are_all(sentence.speakable);  // which the words are pieces of
         line_.array([&] {
             for (int i = 0; i < sentence.n_records; ++i) {
                 const UtteranceSyllable& record = sentence.records[i];
                 if (i == 0 && !has_marks(record)) continue;
-                write_word(record, sentence.places.of_record(i));
+                write_word(record, sentence.places.of_record(i), are_plain);
             }
         });
     }
 
     // The head record, which holds what comes before the first word, has no word.
-    void write_word(const UtteranceSyllable& record, const WordPlace& place) {
+    void write_word(const UtteranceSyllable& record, const WordPlace& place, bool is_plain) {
         line_.object([&] {
             line_.key("word");
-            record.syllable != nullptr ? line_.text(word_of(record)) : line_.null();
+            if (record.syllable == nullptr) {
+                line_.null();
+            } else {
+                is_plain ? line_.name(word_of(record)) : line_.text(word_of(record));
+            }
             line_.range(place.source);
             line_.key("pause");
             line_.name(pause_name(record.pause_type));

@@ -33,34 +33,55 @@ class PlainCharacters {
     std::array<bool, 256> is_plain_{};
 };
 
-// A piece costs a comparison and a copy, while std::string makes a call of it.
+// Pieces that are added together cost a comparison, and a copy each, while std::string makes a call
+// of each.
 class TextBuffer {
   public:
     void clear() { end_ = 0; }
+    void cut_to(std::size_t size) { end_ = size; }
     std::string_view text() const { return {bytes_.data(), end_}; }
 
-    TextBuffer& operator<<(char c) {
-        reserve(1);
-        bytes_[end_++] = c;
-        return *this;
+    // Characters, texts and numbers, one after the other.
+    template <typename... Pieces>
+    void add(const Pieces&... pieces) {
+        append(as_piece(pieces)...);
     }
-    TextBuffer& operator<<(std::string_view piece) {
-        reserve(piece.size());
-        std::memcpy(bytes_.data() + end_, piece.data(), piece.size());
-        end_ += piece.size();
-        return *this;
-    }
-    TextBuffer& operator<<(std::size_t number) {
-        constexpr std::size_t DIGITS = std::numeric_limits<std::size_t>::digits10 + 1;
-        reserve(DIGITS);
-        char* begin = bytes_.data() + end_;
-        end_ += static_cast<std::size_t>(std::to_chars(begin, begin + DIGITS, number).ptr - begin);
+    template <typename Piece>
+    TextBuffer& operator<<(const Piece& piece) {
+        add(piece);
         return *this;
     }
 
   private:
-    void reserve(std::size_t size) {
-        if (size > bytes_.size() - end_) bytes_.resize(2 * (end_ + size));
+    template <typename... Pieces>
+    void append(Pieces... pieces) {
+        const std::size_t room = (room_for(pieces) + ...);
+        if (room > bytes_.size() - end_) bytes_.resize(2 * (end_ + room));
+        char* end = bytes_.data() + end_;
+        ((end = put(pieces, end)), ...);
+        end_ = static_cast<std::size_t>(end - bytes_.data());
+    }
+
+    static char as_piece(char c) { return c; }
+    static std::string_view as_piece(std::string_view text) { return text; }
+    static std::size_t as_piece(std::size_t number) { return number; }
+
+    static constexpr std::size_t room_for(char /*c*/) { return 1; }
+    static constexpr std::size_t room_for(std::string_view piece) { return piece.size(); }
+    static constexpr std::size_t room_for(std::size_t /*number*/) {
+        return std::numeric_limits<std::size_t>::digits10 + 1;
+    }
+
+    static char* put(char c, char* end) {
+        *end = c;
+        return end + 1;
+    }
+    static char* put(std::string_view piece, char* end) {
+        std::memcpy(end, piece.data(), piece.size());
+        return end + piece.size();
+    }
+    static char* put(std::size_t number, char* end) {
+        return std::to_chars(end, end + room_for(number), number).ptr;
     }
 
     std::string bytes_;  // longer than the text

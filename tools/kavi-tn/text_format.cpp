@@ -17,6 +17,12 @@ namespace kavi::tool {
 
 namespace {
 
+bool is_ascii(std::string_view text) {
+    unsigned bits = 0;
+    for (const char c : text) bits |= static_cast<unsigned char>(c);
+    return bits <= '\x7f';
+}
+
 // How many characters a field has, if it is UTF-8.
 std::size_t width_of(std::string_view field) {
     constexpr unsigned CONTINUATION = 0x80;
@@ -33,11 +39,16 @@ std::size_t width_of(std::string_view field) {
 template <std::size_t Columns>
 class Table {
   public:
+    // `titles`: of the columns, above the rows; there may be none.
+    explicit Table(std::initializer_list<std::string_view> titles = {}) {
+        for (const std::string_view title : titles) add(title);
+        n_titles_ = n_fields_;
+    }
+
+    // Leaves the titles.
     void clear() {
-        text_.clear();
-        fields_.clear();
-        widths_ = {};
-        begin_ = column_ = 0;
+        n_fields_ = n_titles_;
+        text_.cut_to(n_titles_ > 0 ? fields_[n_titles_ - 1].end : 0);
     }
 
     // The text to append the next field to.
@@ -45,12 +56,8 @@ class Table {
 
     // Ends the field, and after the last of a row the row.
     void end_field() {
-        const std::size_t end = text_.text().size();
-        const std::size_t width = width_of(text_.text().substr(begin_));
-        widths_[column_] = std::max(widths_[column_], width);
-        column_ = column_ + 1 < Columns ? column_ + 1 : 0;
-        fields_.push_back({end, width});
-        begin_ = end;
+        if (n_fields_ == fields_.size()) fields_.resize(2 * n_fields_ + Columns);
+        fields_[n_fields_++].end = text_.text().size();
     }
     void add(std::string_view field) {
         text_ << field;
@@ -58,14 +65,15 @@ class Table {
     }
 
     // All rows, and an empty line. They are written over blanks.
-    void append_to(std::string& out) const {
-        const std::size_t row = std::accumulate(widths_.begin(), widths_.end(), 2 * Columns);
+    void append_to(std::string& out) {
+        const Widths widths = measure();
+        const std::size_t row = std::accumulate(widths.begin(), widths.end(), 2 * Columns);
         const std::size_t begin = out.size();
-        out.resize(begin + text_.text().size() + fields_.size() / Columns * row + 1, ' ');
+        out.resize(begin + text_.text().size() + n_fields_ / Columns * row + 1, ' ');
         char* end = out.data() + begin;
         const char* field = text_.text().data();
-        for (auto at = fields_.begin(); at != fields_.end(); at += Columns) {
-            end = write_row(&*at, field, end);
+        for (std::size_t i = 0; i < n_fields_; i += Columns) {
+            end = write_row(&fields_[i], widths, field, end);
         }
         *end++ = '\n';
         out.resize(static_cast<std::size_t>(end - out.data()));
@@ -76,9 +84,29 @@ class Table {
         std::size_t end;  // in the text
         std::size_t width;
     };
+    using Widths = std::array<std::size_t, Columns>;
+
+    // Sets the widths of the fields; those of the columns.
+    Widths measure() {
+        Widths widths = {};
+        const std::string_view text = text_.text();
+        const bool are_bytes = is_ascii(text);
+        std::size_t begin = 0;
+        for (std::size_t i = 0; i < n_fields_;) {
+            for (std::size_t& widest : widths) {
+                Field& field = fields_[i++];
+                const std::size_t size = field.end - begin;
+                field.width = are_bytes ? size : width_of(text.substr(begin, size));
+                widest = std::max(widest, field.width);
+                begin = field.end;
+            }
+        }
+        return widths;
+    }
 
     // Writes a row from `target` on, whose fields begin at `field`; where the next goes.
-    char* write_row(const Field* fields, const char*& field, char* target) const {
+    char* write_row(const Field* fields, const Widths& widths, const char*& field,
+                    char* target) const {
         char* end = target;  // after the last that is not empty
         for (std::size_t column = 0; column < Columns; ++column) {
             const auto size =
@@ -87,7 +115,7 @@ class Table {
                 std::memcpy(target, field, size);
                 end = target + size;
             }
-            target += size + widths_[column] - fields[column].width + 2;
+            target += size + widths[column] - fields[column].width + 2;
             field += size;
         }
         *end++ = '\n';
@@ -95,10 +123,9 @@ class Table {
     }
 
     TextBuffer text_;
-    std::vector<Field> fields_;
-    std::size_t begin_ = 0;   // of the next field
-    std::size_t column_ = 0;  // where it goes
-    std::array<std::size_t, Columns> widths_ = {};
+    std::vector<Field> fields_;  // with room for more
+    std::size_t n_fields_ = 0;
+    std::size_t n_titles_ = 0;
 };
 
 class SentenceFormat : public Format {
@@ -144,9 +171,6 @@ class WordFormat : public Format {
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         table_.clear();
-        for (const char* title : {"word", "written", "pause", "marks", "break", "attributes"}) {
-            table_.add(title);
-        }
         for (int i = 0; i < sentence.n_records; ++i) {
             const UtteranceSyllable& record = sentence.records[i];
             if (i == 0 && !has_marks(record)) continue;
@@ -164,7 +188,7 @@ class WordFormat : public Format {
     }
 
   private:
-    Table<6> table_;
+    Table<6> table_{{"word", "written", "pause", "marks", "break", "attributes"}};
 };
 
 class ExplainFormat : public Format {

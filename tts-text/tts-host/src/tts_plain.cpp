@@ -11,12 +11,13 @@ std::string plain_text(const UtteranceSyllable* records, int n_records) {
         const UtteranceSyllable& record = records[i];
         if (i > 0) {
             if (!text.empty()) text += ' ';
-            text += marks.take_opening();
+            marks.append_opening(text);
             text += record.syllable;
         }
         marks.add(record, text);
     }
-    return text + marks.take_opening();
+    marks.append_opening(text);
+    return text;
 }
 
 }  // namespace kavi

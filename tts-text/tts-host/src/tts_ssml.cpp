@@ -116,7 +116,7 @@ class SentenceWriter {
             marks_.add(record, out_);
             write_break(record);
         }
-        out_ += marks_.take_opening();
+        marks_.append_opening(out_);
         close_others("", "");
         const bool is_silent = sentence_.n_records <= 1 && !has_break_;
         return is_silent ? "" : "<s>" + out_ + "</s>\n";
@@ -140,7 +140,7 @@ class SentenceWriter {
             out_ += "<mark name=\"" + std::to_string(source.offset) + "-" +
                     std::to_string(source.length) + "\"/>";
         }
-        out_ += marks_.take_opening();
+        marks_.append_opening(out_);
         append_escaped(record.syllable, out_);
     }
 

@@ -13,11 +13,11 @@ class WrittenMarks {
     // Appends what is written after the word of a record; what opens is kept for the next word.
     void add(const UtteranceSyllable& record, std::string& text);
 
-    // What stands directly before the next word, or at the end of the sentence.
-    std::string take_opening() {
-        std::string opening;
-        opening.swap(opening_);
-        return opening;
+    // Appends what stands directly before the next word, or at the end of the sentence.
+    void append_opening(std::string& text) {
+        if (opening_.empty()) return;
+        text += opening_;
+        opening_.clear();
     }
 
   private:

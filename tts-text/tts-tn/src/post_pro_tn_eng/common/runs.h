@@ -84,6 +84,12 @@ constexpr Eight maybe_not_copied(Eight c) {
     return no_blank & ~c >> 1 & EACH * 0x20;
 }
 
+// The same bit of each from "!" to "?" that is no digit.
+constexpr Eight no_digit(Eight c) {
+    const Eight from_colon = (c & EACH * 0x1f) + EACH * ('@' - ':');
+    return from_colon | ~c << 1;
+}
+
 // A bit of each below "@", as are a blank, a "<" and what stands after a text.
 constexpr Eight below_letters(Eight c) {
     return ~c & EACH * '@';
@@ -107,7 +113,10 @@ inline const char* skip_small_words(const char* text, const char* text_end) {
 
 inline const char* skip_copied(const char* text, const char* text_end) {
     for (const char* const end = eights_end(text, text_end); text < end; text += 8) {
-        for (Eight marked = maybe_not_copied(eight_of(text)); marked != 0; marked &= marked - 1) {
+        const Eight eight = eight_of(text);
+        Eight marked = maybe_not_copied(eight);
+        if (marked == 0) continue;
+        for (marked &= no_digit(eight); marked != 0; marked &= marked - 1) {
             const char* at = text + first_of(marked);
             if (!belongs_to(COPIED, *at)) return at;
         }

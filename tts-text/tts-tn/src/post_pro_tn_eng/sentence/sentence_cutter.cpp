@@ -14,6 +14,12 @@ namespace tn {
 
 namespace {
 
+// Whether this mark, before which something stands, only joins digits.
+constexpr bool joins_digits(const char* mark) {
+    const bool may_join = *mark == '.' || *mark == ',' || *mark == ':';
+    return may_join && is_digit(mark[-1]) && is_digit(mark[1]);
+}
+
 // A sentence that has grown beyond this is cut, so that what closes it still finds room.
 constexpr int FULL_SENTENCE = SZ_TEXT_MAX_LEN - 10;
 
@@ -81,8 +87,13 @@ void SentenceCutter::mark(bool ends_sentence) {
 // blanks that ends the source loses its last.
 void SentenceCutter::run() {
     const char* begin = next_;
+    const char* end = begin;
+    do {
+        if (*end == '.') begin_stretch(end + 1);
+        end = skip_copied(end + 1, source_end_);
+    } while (joins_digits(end));
     const std::ptrdiff_t room = FULL_SENTENCE + 1 - target_.length();
-    const std::ptrdiff_t length = std::min(skip_copied(begin, source_end_) - begin, room);
+    const std::ptrdiff_t length = std::min(end - begin, room);
     next_ += length;
     target_.append({begin, static_cast<std::size_t>(length)});
     const char before = previous_;
@@ -98,7 +109,11 @@ void SentenceCutter::full_stop() {
     if (!decimal_point && expand_abbreviation()) return;
     mark(!decimal_point);
     if (!decimal_point) return;
-    stretch_ = next_;
+    begin_stretch(next_);
+}
+
+void SentenceCutter::begin_stretch(const char* text) {
+    stretch_ = text;
     hides_full_stop_ = false;
 }
 

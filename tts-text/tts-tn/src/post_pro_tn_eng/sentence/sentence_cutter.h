@@ -66,6 +66,7 @@ class SentenceCutter {
     inline void mark(bool ends_sentence);
     inline void run();
     inline void full_stop();
+    inline void begin_stretch(const char* text);
     inline bool expand_abbreviation();
 
     inline bool markup();

@@ -45,7 +45,8 @@ class WordFiller {
         return spans_.enter(name, value);
     }
 
-    // At the default pause. False when the arena refused the word's storage: nothing is kept.
+    // At the default pause. A character that may be read stands after the word. False when the
+    // arena refused its storage: nothing is kept.
     bool store(std::string_view word) {
         constexpr std::size_t ZHUYIN_MIN = 128;
         constexpr std::size_t ZHUYIN_PER_CHARACTER = 10;
@@ -59,7 +60,7 @@ class WordFiller {
             record_->syllable = nullptr;
             return false;
         }
-        copy_short(syllable, word.data(), word.size());
+        copy_short(syllable, word.data(), size);  // so that most words are not below four
         syllable[word.size()] = '\0';
         clear<ZHUYIN_MIN>(zhuyin);
         if (is_long) std::memset(zhuyin + ZHUYIN_MIN, 0, zhuyin_size - ZHUYIN_MIN);

@@ -84,7 +84,7 @@ constexpr Eight maybe_not_copied(Eight c) {
     return no_blank & ~c >> 1 & EACH * 0x20;
 }
 
-// The same bit of each from "!" to "?" that is no digit.
+// Of such bits, those of digits are 0 here: a number would be looked up digit by digit.
 constexpr Eight no_digit(Eight c) {
     const Eight from_colon = (c & EACH * 0x1f) + EACH * ('@' - ':');
     return from_colon | ~c << 1;

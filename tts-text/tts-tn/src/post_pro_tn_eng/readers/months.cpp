@@ -27,7 +27,8 @@ int month_number(std::string_view text) {
     return value <= MONTHS ? value : 0;
 }
 
-// Most words are answered by their first character.
+// Most words are answered by their first character. The twelve numbers without a leading zero are
+// the first rows of their table, in order.
 const char* month_name(std::string_view text) {
     if (text.empty()) return nullptr;
     if (is_digit(text[0])) {

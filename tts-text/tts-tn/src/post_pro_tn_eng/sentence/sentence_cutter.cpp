@@ -14,7 +14,7 @@ namespace tn {
 
 namespace {
 
-// Whether this mark, before which something stands, only joins digits.
+// Whether what stands here, after some other character, is a mark that only joins digits.
 constexpr bool joins_digits(const char* mark) {
     const bool may_join = *mark == '.' || *mark == ',' || *mark == ':';
     return may_join && is_digit(mark[-1]) && is_digit(mark[1]);
@@ -83,8 +83,8 @@ void SentenceCutter::mark(bool ends_sentence) {
     stop_ = ends_sentence;
 }
 
-// Copies characters up to the next that needs a decision, or until the sentence is full. A run of
-// blanks that ends the source loses its last.
+// Copies characters up to the next that needs a decision, with marks that join digits, or until the
+// sentence is full. A run of blanks that ends the source loses its last.
 void SentenceCutter::run() {
     const char* begin = next_;
     const char* end = begin;
@@ -108,10 +108,10 @@ void SentenceCutter::full_stop() {
     const bool decimal_point = between_digits();
     if (!decimal_point && expand_abbreviation()) return;
     mark(!decimal_point);
-    if (!decimal_point) return;
-    begin_stretch(next_);
+    if (decimal_point) begin_stretch(next_);
 }
 
+// Searches for abbreviations go no further back than here.
 void SentenceCutter::begin_stretch(const char* text) {
     stretch_ = text;
     hides_full_stop_ = false;

@@ -62,6 +62,7 @@ class TextBuffer {
         end_ = static_cast<std::size_t>(end - bytes_.data());
     }
 
+    // A text that ends in a NUL is measured once.
     static char as_piece(char c) { return c; }
     static std::string_view as_piece(std::string_view text) { return text; }
     static std::size_t as_piece(std::size_t number) { return number; }

@@ -12,7 +12,7 @@ std::string plain_text(const UtteranceSyllable* records, int n_records) {
         if (i > 0) {
             if (!text.empty()) text += ' ';
             marks.append_opening(text);
-            text.append(record.syllable, static_cast<std::size_t>(record.syl_len - 1));
+            text += record.syllable;
         }
         marks.add(record, text);
     }

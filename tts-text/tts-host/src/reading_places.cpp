@@ -9,7 +9,7 @@ void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
     const char* begin = step.first()->begin;
     const std::string_view last = step.end()[-1].text();
     add_plain_text({begin, static_cast<std::size_t>(last.data() + last.size() - begin)},
-                   step.output_before());
+                   step.output_length());
 }
 
 // The source of the word at `offset` of copied words that the text has something left out among.

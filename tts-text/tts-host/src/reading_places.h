@@ -20,11 +20,14 @@ class ReadingPlaces {
         sentence_ = sentence;
         speakable_ = speakable;
         readings_.clear();
+        target_end_ = 0;
     }
 
-    void add_plain_text(std::string_view source, int target_at) {
-        readings_.push_back({static_cast<std::size_t>(source.data() - sentence_), source.size(),
-                             static_cast<std::size_t>(target_at)});
+    // The speakable text is so long after it.
+    void add_plain_text(std::string_view source, int target_length) {
+        readings_.push_back(
+            {static_cast<std::size_t>(source.data() - sentence_), source.size(), target_end_});
+        target_end_ = static_cast<std::size_t>(target_length);
     }
     void add_step(const tn::SectionDispatcher& step);
 
@@ -47,6 +50,7 @@ class ReadingPlaces {
     const char* sentence_ = nullptr;
     const char* speakable_ = nullptr;
     std::vector<Reading> readings_;
+    std::size_t target_end_ = 0;  // of the last one
 };
 
 }  // namespace kavi::host

@@ -92,7 +92,7 @@ class RunsOfSentence final : public tn::ReadingObserver {
         : sentence_(sentence), output_(output), on_run_(on_run) {}
 
     // There is none: all is read step by step.
-    void on_plain_text(std::string_view /*source*/, int /*target_at*/) override {}
+    void on_plain_text(std::string_view /*source*/, int /*output_length*/) override {}
 
     void on_step(const SectionDispatcher& step) override {
         if (run_.sections.empty() || !continues_character(run_, step.first()->text())) {
@@ -100,8 +100,8 @@ class RunsOfSentence final : public tn::ReadingObserver {
             begin(step);
         }
         add_sections(step, run_);
-        const auto length = static_cast<std::size_t>(output_.length());
-        run_.reading = {output_.text() + run_.reading_at, length - run_.reading_at};
+        read_to_ = static_cast<std::size_t>(output_.length());
+        run_.reading = {output_.text() + run_.reading_at, read_to_ - run_.reading_at};
     }
 
     void end() {
@@ -112,8 +112,8 @@ class RunsOfSentence final : public tn::ReadingObserver {
     void begin(const SectionDispatcher& step) {
         run_.source = {static_cast<std::size_t>(step.first()->begin - sentence_), 0};
         run_.sections.clear();
-        run_.reading_at = static_cast<std::size_t>(step.output_before());
-        run_.rule = name_of(step, output_.length() > step.output_before());
+        run_.reading_at = read_to_;
+        run_.rule = name_of(step, static_cast<std::size_t>(output_.length()) > read_to_);
         run_.is_word = step.rule() == ReadingRule::word;
     }
 
@@ -121,6 +121,7 @@ class RunsOfSentence final : public tn::ReadingObserver {
     tn::BoundedText& output_;
     OnRun& on_run_;
     ExplainedRun run_ = {};
+    std::size_t read_to_ = 0;  // of the output, before the step
 };
 
 // Calls `on_run` with each run of a sentence, which reads to `speakable`, SZ_TEXT_MAX_LEN bytes. It

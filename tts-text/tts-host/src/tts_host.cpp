@@ -73,8 +73,8 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     Diagnostic as_written(const Diagnostic& diagnostic) const;
 
     // While a sentence is read.
-    void on_plain_text(std::string_view source, int target_at) override {
-        reading_places_.add_plain_text(source, target_at);
+    void on_plain_text(std::string_view source, int output_length) override {
+        reading_places_.add_plain_text(source, output_length);
     }
     void on_step(const tn::SectionDispatcher& step) override {
         reading_places_.add_step(step);

@@ -3,6 +3,7 @@
 #ifndef KAVI_TN_BOUNDED_TEXT_H
 #define KAVI_TN_BOUNDED_TEXT_H
 
+#include <cstddef>
 #include <cstring>
 #include <string_view>
 
@@ -49,6 +50,17 @@ class BoundedText {
         end[1] = '\0';
         end_ = end + 1;
         return true;
+    }
+
+    // For words that are written to the end: how many characters have room, where they go, and that
+    // so many are there, before a blank that has room.
+    std::ptrdiff_t room() const { return limit_ - end_ - 1; }
+    char* end() { return end_; }
+    void extend_spaced(std::ptrdiff_t length) {
+        char* end = end_ + length;
+        end[0] = ' ';
+        end[1] = '\0';
+        end_ = end + 1;
     }
 
     bool has_room(std::size_t size) const { return size < static_cast<std::size_t>(limit_ - end_); }

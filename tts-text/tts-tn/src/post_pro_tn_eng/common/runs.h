@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "ascii.h"
 
@@ -64,17 +65,17 @@ inline const char* eights_end(const char* text, const char* text_end) {
     return text_end - text >= 8 ? text_end - 7 : text;
 }
 
-// The top bit of each that is no small letter and no blank, or a blank after a blank; `blanks` is
-// set for the next eight.
-constexpr Eight no_small_words(Eight c, Eight& blanks) {
+// The top bit of each up to the first that is no small letter and no blank, or a blank after a
+// blank, and of that; what comes after it is of no use, since sums may carry into it. `no_blanks`
+// is set for the next eight.
+constexpr Eight no_small_words(Eight c, Eight& no_blanks) {
     const Eight from_blank = c ^ EACH * ' ';  // 0 for a blank, capitals for small letters
-    const Eight low = from_blank & EACH * 0x7f;
-    const Eight no_letter = ~(low + EACH * (0x80 - 'A')) | (low + EACH * (0x7f - 'Z')) | from_blank;
-    const Eight no_blank = (low + EACH * 0x7f) | from_blank;
-    const Eight is_blank = ~no_blank & EACH * 0x80;
-    const Eight after_blank = is_blank << 8 | blanks;
-    blanks = is_blank >> 56;
-    return (no_letter & no_blank & EACH * 0x80) | (is_blank & after_blank);
+    const Eight no_blank = from_blank + EACH * 0x7f;
+    const Eight no_letter =
+        ~(from_blank + EACH * (0x80 - 'A')) | (from_blank + EACH * (0x7f - 'Z'));
+    const Eight one_blank = no_blank | no_blank << 8 | no_blanks;
+    no_blanks = no_blank >> 56;
+    return ((no_letter & no_blank) | from_blank | ~one_blank) & EACH * 0x80;
 }
 
 // A bit of each from "!" to "?", as is all that needs a decision of the pre-pass, and of some
@@ -100,15 +101,22 @@ inline std::size_t first_of(Eight marked) {
     return static_cast<unsigned>(__builtin_ctzll(marked)) / 8;
 }
 
-// The first from `text` on that is no small letter and no blank after one, or `text_end`.
-inline const char* skip_small_words(const char* text, const char* text_end) {
-    Eight blanks = 0;
-    for (; text_end - text >= 8; text += 8) {
-        const Eight marked = no_small_words(eight_of(text), blanks);
-        if (marked != 0) return text + first_of(marked);
+// Copies small letters, and a blank after each run of them, to the same places of `target`, from
+// `at` on, where a letter stands before, and up to `limit`. Where they end; what comes after them
+// may be copied too.
+inline std::ptrdiff_t copy_small_words(const char* text, std::ptrdiff_t at, std::ptrdiff_t limit,
+                                       char* target) {
+    Eight no_blanks = 0x80;
+    for (; at + 8 <= limit; at += 8) {
+        const Eight marked = no_small_words(eight_of(text + at), no_blanks);
+        std::memcpy(target + at, text + at, 8);
+        if (marked != 0) return at + static_cast<std::ptrdiff_t>(first_of(marked));
     }
-    while (text < text_end && (is_lower(*text) || (*text == ' ' && text[-1] != ' '))) ++text;
-    return text;
+    while (at < limit && (is_lower(text[at]) || (text[at] == ' ' && text[at - 1] != ' '))) {
+        target[at] = text[at];
+        ++at;
+    }
+    return at;
 }
 
 inline const char* skip_copied(const char* text, const char* text_end) {

@@ -24,7 +24,6 @@ Outcome SectionDispatcher::walk(const Token* first, ReadingObserver* observer) {
     while (outcome_ == Outcome::go_on) {
         first_ = tokens_.at(next);
         if (!is_section(first_)) break;
-        if (observer != nullptr) output_before_ = output_.length();
         reading_.clear();
         next = step();
         if (is_section(next)) {

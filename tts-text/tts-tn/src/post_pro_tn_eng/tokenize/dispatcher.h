@@ -69,8 +69,8 @@ class SectionDispatcher {
     // What was read by a reader: whether it was cut, and which digits are in it.
     const Reading& reading() const { return reading_; }
 
-    // How much the output held before it: for an observer; nobody else may ask.
-    int output_before() const { return output_before_; }
+    // How long the output is after it.
+    int output_length() const { return output_.length(); }
 
     // Whether all of the walk's readings were words and tags.
     bool is_all_words() const { return reading_.is_all_words(); }
@@ -108,7 +108,6 @@ class SectionDispatcher {
     Outcome outcome_ = Outcome::go_on;
     const Token* first_ = nullptr;
     const Token* end_ = nullptr;
-    int output_before_ = 0;
 };
 
 }  // namespace kavi::tn

@@ -1,5 +1,7 @@
 #include "plain_text.h"
 
+#include <algorithm>
+
 #include "../common/runs.h"
 #include "../markup/markup_tags.h"
 #include "../readers/months.h"
@@ -23,66 +25,57 @@ bool number_may_follow(const char* after) {
     return is_digit(after[0]) || (after[0] != '\0' && is_digit(after[1])) || after[0] == '<';
 }
 
-// The end of the words from `text` on that are plain, in small letters but for a first capital, and
-// have one blank between each two: they are spoken as they stand. `text` itself when the first word
-// is none of those.
-const char* end_of_plain_words(const char* text, const char* text_end) {
-    const auto room = static_cast<std::size_t>(text_end - text);
-    const char* const limit = room > WORD_LENGTH_MAX ? text + WORD_LENGTH_MAX : text_end;
-    const char* end = text;
-    do {
-        if (!begins_plain_word(end)) break;
-        end = skip_small_words(end + 1, limit);
-    } while (end[-1] == ' ');
-    if (is_letter(*end)) {
-        while (end != text && is_letter(end[-1])) --end;  // the last word is another
-    }
-    while (end != text && end[-1] == ' ') --end;
-    return end;
-}
-
 }  // namespace
 
 const char* PlainText::read(const char* text, ReadingObserver* observer) {
     for (;;) {
+        while (static_cast<unsigned char>(*text) <= ' ' && (*text == ' ' || *text == '\n')) ++text;
         const char* end = text;
-        const int target_at = observer != nullptr ? output_.length() : 0;
         if (is_letter(*text)) {
-            end = words(text);
-        } else if (*text == ' ' || *text == '\n') {
-            do ++text;
-            while (*text == ' ' || *text == '\n');
-            continue;
+            end = word(text);
         } else if (*text != '\0' && !is_digit(*text)) {
             end = mark(text);
         }
         if (end == text || end == nullptr) return end;
         if (observer != nullptr) {
-            observer->on_plain_text({text, static_cast<std::size_t>(end - text)}, target_at);
+            observer->on_plain_text({text, static_cast<std::size_t>(end - text)}, output_.length());
         }
         text = end;
     }
 }
 
-const char* PlainText::words(const char* text) {
-    const char* end = end_of_plain_words(text, text_end_);
-    if (end == text) return other_word(text, first_word(text));
-    const std::string_view all(text, static_cast<std::size_t>(end - text));
-    if (!output_.has_room(all.size() + 1)) return plain_words(text);
-    output_.append_spaced(all);
-    return end;
+const char* PlainText::word(const char* text) {
+    const char* end = begins_plain_word(text) ? plain_words(text) : text;
+    return end != text ? end : other_word(text);
 }
 
-// Word by word, as far as there is room: not to the end.
+// Words in small letters but for a first capital, with one blank between each two, are copied as
+// they are looked at; none when what follows makes the first another word, or when there is no room
+// for it.
 const char* PlainText::plain_words(const char* text) {
-    for (;;) {
-        const std::string_view word = first_word(text);
-        if (!output_.append_spaced(word)) return nullptr;
-        text += word.size() + 1;
+    constexpr std::ptrdiff_t LONGEST = WORD_LENGTH_MAX;
+    const std::ptrdiff_t room = std::min(LONGEST, output_.room() - 1);
+    const std::ptrdiff_t limit = std::min(text_end_ - text, room);
+    char* const target = output_.end();
+    std::ptrdiff_t length = 0;
+    do {
+        target[length] = text[length];
+        length = copy_small_words(text, length + 1, limit, target);
+    } while (text[length - 1] == ' ' && begins_plain_word(text + length));
+    if (is_letter(text[length]) || length > limit) {
+        while (length > 0 && is_letter(text[length - 1])) --length;
     }
+    if (length == 0) {
+        *target = '\0';
+        return text;
+    }
+    if (text[length - 1] == ' ') --length;
+    output_.extend_spaced(length);
+    return text + length;
 }
 
-const char* PlainText::other_word(const char* text, std::string_view word) {
+const char* PlainText::other_word(const char* text) {
+    const std::string_view word = first_word(text);
     const char* end = text + word.size();
     switch (word_kind(word)) {
         case WordKind::telephone_label:

@@ -29,9 +29,9 @@ class PlainText {
   private:
     // Each reads what begins at `text` and returns where that ends; `text` itself when a reader has
     // to look at it, null when the output is full.
-    inline const char* words(const char* text);
+    inline const char* word(const char* text);
     inline const char* plain_words(const char* text);
-    inline const char* other_word(const char* text, std::string_view word);
+    inline const char* other_word(const char* text);
     inline const char* mark(const char* text);
     inline const char* smaller(const char* text);
     inline const char* apostrophe(const char* text);

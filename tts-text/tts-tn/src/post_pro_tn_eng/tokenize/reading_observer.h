@@ -9,12 +9,12 @@ namespace kavi::tn {
 class SectionDispatcher;
 
 // Is shown what is read as what, in order: together it is the sentence, but for blanks
-// and line ends.
+// and line ends. A reading is written where the one before it ends.
 class ReadingObserver {
   public:
     // `source`, a word, a stretch of words or a mark that reads the same wherever it stands, was
-    // written to the output from `target_at` on.
-    virtual void on_plain_text(std::string_view source, int target_at) = 0;
+    // written to the output, which is so long now.
+    virtual void on_plain_text(std::string_view source, int output_length) = 0;
 
     virtual void on_step(const SectionDispatcher& step) = 0;
 

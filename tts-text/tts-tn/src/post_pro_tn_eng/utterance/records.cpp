@@ -7,6 +7,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "../common/runs.h"
 #include "post_pro_tn_eng.h"
 #include "word_filler.h"
 
@@ -38,8 +39,18 @@ constexpr int PUNC_MAX = sizeof UtteranceSyllable::punc_arr / sizeof(PUNC_type);
 constexpr std::uint64_t key_of(std::string_view name) {
     if (name.size() > sizeof(std::uint64_t)) return 0;
     std::uint64_t key = 0;
-    for (const char c : name) key = key << 8 | static_cast<unsigned char>(c);
+    for (std::size_t i = name.size(); i-- > 0;) {
+        key = key << 8 | static_cast<unsigned char>(name[i]);
+    }
     return key;
+}
+
+// The same of a name that stands in its tag, after "<punc=": none of those below is shorter than
+// two characters, so eight that end with it stand in the text.
+std::uint64_t key_of_mark(std::string_view name) {
+    constexpr std::size_t MOST = sizeof(std::uint64_t);
+    if (name.size() < 2 || name.size() > MOST) return 0;
+    return tn::eight_of(name.data() + name.size() - MOST) >> (8 * (MOST - name.size()));
 }
 
 struct PuncName {
@@ -100,9 +111,9 @@ bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz
     return true;
 }
 
-void tn::add_punc(UtteranceSyllable& record, std::string_view name) {
+// Adds the mark of a key. Those after the tenth are dropped; an unknown one counts, as no mark.
+static void add_punc(UtteranceSyllable& record, std::uint64_t key) {
     if (record.n_punc >= PUNC_MAX) return;
-    const std::uint64_t key = key_of(name);
     for (const PuncName& row : PUNC_NAMES) {
         if (row.key != key) continue;
         record.punc_arr[record.n_punc] = row.punc;
@@ -119,7 +130,7 @@ void tn::add_punc(UtteranceSyllable& record, std::string_view name) {
 bool tn::WordFiller::take_tag(const TextEvent& event) {
     const std::string_view text = event.text();
     if (event.kind == TextEventKind::punc) {  // the usual one
-        add_punc(record_[-1], text);
+        add_punc(record_[-1], key_of_mark(text));
         return true;
     }
     switch (event.kind) {
@@ -133,7 +144,7 @@ bool tn::WordFiller::take_tag(const TextEvent& event) {
 }
 
 bool PostProTnEng::insert_punc(int n, UtteranceSyllable* utt, char* punc_str) {
-    tn::add_punc(utt[n - 1], punc_str);
+    add_punc(utt[n - 1], key_of(punc_str));
     return true;
 }
 

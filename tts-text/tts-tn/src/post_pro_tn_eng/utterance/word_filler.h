@@ -13,10 +13,6 @@
 
 namespace kavi::tn {
 
-// Adds the mark of this name to a record. Those after the tenth are dropped; an unknown name
-// counts, as no mark.
-void add_punc(UtteranceSyllable& record, std::string_view name);
-
 // The first 19 characters of the value, in the place of what was there.
 void set_breaktime(UtteranceSyllable& record, std::string_view value);
 

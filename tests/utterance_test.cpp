@@ -46,8 +46,21 @@ TEST_F(Utterance, AWordWithoutStorageLeavesNothing) {
     engine.init(nullptr);
     EXPECT_FALSE(engine.insert_syllable(1, utt, "word"));
     EXPECT_EQ(utt[1].syllable, nullptr);
-    EXPECT_TRUE((engine.*Peer::insert_punc)(1, utt, buffer));
-    EXPECT_EQ(utt[0].n_punc, 1);
+}
+
+TEST_F(Utterance, AnUnknownMarkCountsAsNone) {
+    const std::pair<std::string, PUNC_type> marks[] = {{"ju", PUNC_JU_FE},
+                                                       {"", PUNC_NULL_FE},
+                                                       {"j", PUNC_NULL_FE},
+                                                       {"shenglue", PUNC_SHENGLUE_FE},
+                                                       {"shenglues", PUNC_NULL_FE}};
+    UtteranceSyllable utt[1] = {};
+    for (auto [name, punc] : marks) {
+        const int n = utt[0].n_punc;
+        EXPECT_TRUE((engine.*Peer::insert_punc)(1, utt, name.data()));
+        EXPECT_EQ(utt[0].n_punc, n + 1) << name;
+        EXPECT_EQ(utt[0].punc_arr[n], punc) << name;
+    }
 }
 
 TEST_F(Utterance, PauseCharacters) {

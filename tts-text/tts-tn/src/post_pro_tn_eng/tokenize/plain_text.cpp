@@ -29,7 +29,7 @@ bool number_may_follow(const char* after) {
 
 const char* PlainText::read(const char* text, ReadingObserver* observer) {
     for (;;) {
-        while (static_cast<unsigned char>(*text) <= ' ' && (*text == ' ' || *text == '\n')) ++text;
+        while (*text == ' ') ++text;
         const char* end = text;
         if (is_letter(*text)) {
             end = word(text);

@@ -24,9 +24,9 @@ class BoundedText {
     // Appends all of `words` and answers true, or nothing and answers false.
     bool append(std::string_view words) {
         if (!has_room(words.size())) return false;
-        char* end = put(words);
-        *end = '\0';
-        end_ = end;
+        copy_short(end_, words.data(), words.size());
+        end_ += words.size();
+        *end_ = '\0';
         return true;
     }
 
@@ -45,18 +45,18 @@ class BoundedText {
             append(words);
             return false;
         }
-        char* end = put(words);
-        end[0] = ' ';
-        end[1] = '\0';
-        end_ = end + 1;
+        copy_short(end_, words.data(), words.size());
+        extend_spaced(words.size());
         return true;
     }
 
-    // For words that are written to the end: how many characters have room, where they go, and that
-    // so many are there, before a blank that has room.
+    // For words that are written straight to the end: how many characters fit, and where they go.
     std::ptrdiff_t room() const { return limit_ - end_ - 1; }
     char* end() { return end_; }
-    void extend_spaced(std::ptrdiff_t length) {
+
+    // Takes so many characters that have been written there. A blank comes after them, and must
+    // fit.
+    void extend_spaced(std::size_t length) {
         char* end = end_ + length;
         end[0] = ' ';
         end[1] = '\0';
@@ -81,12 +81,6 @@ class BoundedText {
     char* text() { return text_; }
 
   private:
-    // Writes the words; where they end.
-    char* put(std::string_view words) {
-        copy_short(end_, words.data(), words.size());
-        return end_ + words.size();
-    }
-
     char* text_;
     char* end_;
     char* limit_;  // after the buffer

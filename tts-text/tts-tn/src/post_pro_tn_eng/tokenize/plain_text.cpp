@@ -70,7 +70,7 @@ const char* PlainText::plain_words(const char* text) {
         return text;
     }
     if (text[length - 1] == ' ') --length;
-    output_.extend_spaced(length);
+    output_.extend_spaced(static_cast<std::size_t>(length));
     return text + length;
 }
 

@@ -8,8 +8,8 @@ namespace kavi::tn {
 
 class SectionDispatcher;
 
-// Is shown what is read as what, in order: together it is the sentence, but for blanks. A reading is
-// written where the one before it ends.
+// Is shown what is read as what, in order: together it is the sentence, but for blanks. A reading
+// is written where the one before it ends.
 class ReadingObserver {
   public:
     // `source`, a word, a stretch of words or a mark that reads the same wherever it stands, was

@@ -49,9 +49,8 @@ void SectionDispatcher::append_spaced(std::string_view words) {
     if (!output_.append_spaced(words)) outcome_ = Outcome::full;
 }
 
-const Token* SectionDispatcher::append_mark(MarkWords words) {
-    const MarkText& reading = text_of(words);
-    if (!output_.append_padded(reading.text, reading.length)) outcome_ = Outcome::full;
+const Token* SectionDispatcher::append_mark(MarkWords words, bool spaced) {
+    if (!tn::append_mark(words, spaced, output_)) outcome_ = Outcome::full;
     return first_;
 }
 
@@ -187,9 +186,7 @@ const Token* SectionDispatcher::mark() {
         words = row->otherwise;
         assert(words != READER);
     }
-    if (!row->spaced) return append_mark(words);
-    append_spaced(text_of(words));
-    return first_;
+    return append_mark(words, row->spaced);
 }
 
 const Token* SectionDispatcher::read_mark(ReadingRule rule, MarkReader* reader) {
@@ -209,7 +206,8 @@ const Token* SectionDispatcher::smaller() {
     }
     const Token* next = first_ + 1;
     const bool is_spoken = !is_section(next) || begins_with(next->text(), "punc");
-    return append_mark(smaller_words(is_spoken, !is_spoken && tokens_.greater_follows(first_)));
+    const bool greater_follows = !is_spoken && tokens_.greater_follows(first_);
+    return append_mark(smaller_words(is_spoken, greater_follows), false);
 }
 
 const Token* SectionDispatcher::apostrophe() {

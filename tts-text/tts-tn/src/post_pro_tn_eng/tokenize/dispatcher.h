@@ -92,7 +92,7 @@ class SectionDispatcher {
     // Appends to the output; the outcome tells whether it fitted.
     inline void append(std::string_view words);
     inline void append_spaced(std::string_view words);
-    inline const Token* append_mark(MarkWords words);
+    inline const Token* append_mark(MarkWords words, bool spaced);
 
     // Appends a step's words, or those of the reading, and says what the step was.
     inline const Token* read_as(ReadingRule rule, std::string_view words, const Token* last);

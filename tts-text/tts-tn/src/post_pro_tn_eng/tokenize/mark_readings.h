@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "../common/bounded_text.h"
+
 namespace kavi::tn {
 
 // What may be written for a mark. READER: the dispatcher has to look at more than the section
@@ -46,9 +48,11 @@ struct MarkText {
 // In the order of MarkWords, from SILENT on.
 extern const MarkText MARK_TEXTS[SMALLER - SILENT + 1];
 
-// The text of words that are not READER.
-inline const MarkText& text_of(MarkWords words) {
-    return MARK_TEXTS[words - SILENT];
+// Appends words that are not READER, and then a blank when they are `spaced`. False when there is no
+// room.
+inline bool append_mark(MarkWords words, bool spaced, BoundedText& output) {
+    const MarkText& text = MARK_TEXTS[words - SILENT];
+    return spaced ? output.append_spaced(text) : output.append_padded(text.text, text.length);
 }
 
 // A mark's words after a number section, else before one, and otherwise. A mark that is in no row

@@ -101,10 +101,7 @@ const char* PlainText::mark(const char* text) {
             default: return text;
         }
     }
-    const MarkText& reading = text_of(words);
-    const bool fits = row->spaced ? output_.append_spaced(reading)
-                                  : output_.append_padded(reading.text, reading.length);
-    return fits ? text + 1 : nullptr;
+    return append_mark(words, row->spaced, output_) ? text + 1 : nullptr;
 }
 
 const char* PlainText::smaller(const char* text) {
@@ -112,7 +109,8 @@ const char* PlainText::smaller(const char* text) {
     if (tag.size() > 1) return output_.append_spaced(tag) ? text + tag.size() : nullptr;
     const bool is_spoken = text[1] == '\0' || begins_with(text + 1, "punc");
     const bool greater_follows = !is_spoken && tokens_.greater_follows(text + 1);
-    return output_.append(text_of(smaller_words(is_spoken, greater_follows))) ? text + 1 : nullptr;
+    const MarkWords words = smaller_words(is_spoken, greater_follows);
+    return append_mark(words, false, output_) ? text + 1 : nullptr;
 }
 
 const char* PlainText::apostrophe(const char* text) {

@@ -48,8 +48,8 @@ struct MarkText {
 // In the order of MarkWords, from SILENT on.
 extern const MarkText MARK_TEXTS[SMALLER - SILENT + 1];
 
-// Appends words that are not READER, and then a blank when they are `spaced`. False when there is no
-// room.
+// Appends words that are not READER, and then a blank when they are `spaced`. False when there is
+// no room.
 inline bool append_mark(MarkWords words, bool spaced, BoundedText& output) {
     const MarkText& text = MARK_TEXTS[words - SILENT];
     return spaced ? output.append_spaced(text) : output.append_padded(text.text, text.length);

@@ -5,7 +5,8 @@
 namespace kavi::tn {
 
 const Token* TokenWindow::begin_row() {
-    tokens_[0] = tokens_[1] = NO_TOKEN;
+    tokens_[0] = NO_TOKEN;
+    tokens_[1] = NO_TOKEN;
     extend_from(tokens_ + SECTIONS_BEFORE);
     return tokens_ + SECTIONS_BEFORE;
 }

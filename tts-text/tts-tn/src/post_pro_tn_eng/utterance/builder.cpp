@@ -4,8 +4,8 @@
 #include "builder.h"
 
 #include <cassert>
+#include <cstring>
 
-#include "../common/clear.h"
 #include "word_filler.h"
 
 namespace kavi {
@@ -62,7 +62,7 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
     auto* array =
         static_cast<UtteranceSyllable*>(mem_stack_request_buf(array_size, MEM_COMMON, arena));
     if (array == nullptr) return -1;
-    for (int i = 0; i < word_num; ++i) clear<sizeof(UtteranceSyllable)>(array + i);
+    std::memset(static_cast<void*>(array), 0, array_size);
     p_utt = array;
     n_utt = word_num;
 

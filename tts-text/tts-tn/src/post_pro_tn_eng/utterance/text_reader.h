@@ -73,7 +73,7 @@ class TextReader {
     // A NUL follows the text. The arena may be null.
     // cppcheck-suppress uninitMemberVar ; of the spans, those entered are set
     TextReader(std::string_view text, mem_stack_handle arena)
-        : at_(text.data()), end_(at_ + text.size()), arena_(arena) {
+        : at_(text.data()), arena_(arena), end_(at_ + text.size()) {
         word_[0] = '\0';
     }
     TextReader(const TextReader&) = delete;
@@ -99,9 +99,10 @@ class TextReader {
     // names is longer than any that can be.
     static constexpr int SPANS_NESTED_MAX = 64;
 
+    // Not side by side: loaded as one, place and end would wait for the store of the place.
     const char* at_;
-    const char* end_;  // of the innermost open span, or of the text
     mem_stack_handle arena_;
+    const char* end_;                   // of the innermost open span, or of the text
     char word_[WORD_MAX_LEN];           // that the scanner is reading, or an empty one
     std::optional<Scanner> scanner_;    // from the first step on
     const char* usual_from_ = nullptr;  // up to there, the text is read step by step

@@ -23,10 +23,7 @@ namespace {
 constexpr PlainCharacters PLAIN("&<>\"");
 
 void append_escaped(std::string_view text, TextBuffer& out) {
-    if (PLAIN.are_all(text)) {
-        out << text;
-        return;
-    }
+    if (out.add_plain(text, PLAIN)) return;
     constexpr const char* DIGITS = "0123456789abcdef";
     for (const char c : valid_utf8(text)) {
         const auto byte = static_cast<unsigned char>(c);
@@ -49,9 +46,9 @@ void append_escaped(std::string_view text, TextBuffer& out) {
 }
 
 void append_element(std::string_view name, std::string_view text, TextBuffer& out) {
-    out << '<' << name << '>';
+    out.add('<', name, '>');
     append_escaped(text, out);
-    out << "</" << name << '>';
+    out.add("</", name, '>');
 }
 
 // How a pause is shown; empty for one that every word has.
@@ -85,7 +82,8 @@ class SentenceWriter {
                    const std::vector<Diagnostic>& diagnostics, TextBuffer& out)
         : place_(place),
           sentence_(sentence),
-          diagnostics_(diagnostics),
+          findings_(diagnostics),
+          finding_(diagnostics.begin()),
           out_(out),
           at_(sentence.source.offset) {}
 
@@ -196,22 +194,21 @@ class SentenceWriter {
 
     // Numbers that lead to the findings before `end`.
     void write_numbers_of_findings(std::size_t end) {
-        for (; n_findings_ < diagnostics_.size() && diagnostics_[n_findings_].offset < end;) {
-            ++n_findings_;
-            out_ << "<sup><a href=#" << anchor(place_) << '-' << n_findings_ << '>' << n_findings_
-                 << "</a></sup>";
+        for (; finding_ != findings_.end() && finding_->offset < end; ++finding_) {
+            const auto number = static_cast<std::size_t>(finding_ - findings_.begin()) + 1;
+            out_.add("<sup><a href=#", anchor(place_), '-', number, '>', number, "</a></sup>");
         }
     }
 
     const Place& place_;
     const HostSentence& sentence_;
-    const std::vector<Diagnostic>& diagnostics_;
+    const std::vector<Diagnostic>& findings_;
+    std::vector<Diagnostic>::const_iterator finding_;  // the next
     TextBuffer& out_;
     std::size_t at_;         // the next byte of the text
     int next_ = 1;           // the next record
     TextBuffer attributes_;  // of the last word
     TextBuffer attributes_before_;
-    std::size_t n_findings_ = 0;
 };
 
 class HtmlFormat : public Format {

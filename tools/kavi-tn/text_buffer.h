@@ -22,10 +22,12 @@ class PlainCharacters {
         }
     }
 
+    bool have(char c) const { return is_plain_[static_cast<unsigned char>(c)]; }
+
     // Whether a text is nothing else. It is not left early: most texts are plain.
     bool are_all(std::string_view text) const {
         bool plain = true;
-        for (const char c : text) plain &= is_plain_[static_cast<unsigned char>(c)];
+        for (const char c : text) plain &= have(c);
         return plain;
     }
 
@@ -52,12 +54,29 @@ class TextBuffer {
         return *this;
     }
 
+    // Adds a text of nothing but such characters and answers true, or nothing and answers false. It
+    // is copied as it is looked at.
+    bool add_plain(std::string_view text, const PlainCharacters& characters) {
+        char* end = end_with(text.size());
+        bool plain = true;
+        for (const char c : text) {
+            plain &= characters.have(c);
+            *end++ = c;
+        }
+        if (plain) end_ += text.size();
+        return plain;
+    }
+
   private:
+    // The end, with room for so many characters.
+    char* end_with(std::size_t room) {
+        if (room > bytes_.size() - end_) bytes_.resize(2 * (end_ + room));
+        return bytes_.data() + end_;
+    }
+
     template <typename... Pieces>
     void append(Pieces... pieces) {
-        const std::size_t room = (room_for(pieces) + ...);
-        if (room > bytes_.size() - end_) bytes_.resize(2 * (end_ + room));
-        char* end = bytes_.data() + end_;
+        char* end = end_with((room_for(pieces) + ...));
         ((end = put(pieces, end)), ...);
         end_ = static_cast<std::size_t>(end - bytes_.data());
     }

@@ -8,8 +8,8 @@ void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
     if (step.rule() == tn::ReadingRule::silent) return;
     const char* begin = step.first()->begin;
     const std::string_view last = step.end()[-1].text();
-    add_plain_text({begin, static_cast<std::size_t>(last.data() + last.size() - begin)},
-                   step.output_length());
+    add({begin, static_cast<std::size_t>(last.data() + last.size() - begin)},
+        static_cast<std::size_t>(step.output_length()), false);
 }
 
 // The source of the word at `offset` of copied words that the text has something left out among.
@@ -26,7 +26,6 @@ void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
     PieceCursor cursor(pieces);
     *place++ = {{cursor.source_of(0, 0).offset, 0}, 0};
 
-    const char* const sentence = sentence_;
     const char* const speakable = speakable_;
     const Reading* reading = readings_.data();
     const tn::TextEvent* event = events.begin();
@@ -46,24 +45,20 @@ void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
     if (any) find_word();
     while (any) {
         while (reading[1].target_at <= at) ++reading;
-        // A piece that begins with a letter is words that are copied, or one that is written out:
-        // then it is longer.
-        const std::size_t copied_end = reading->target_at + reading->length;
-        if (at < copied_end && tn::is_letter(sentence[reading->at]) &&
-            !tn::is_letter(speakable[copied_end])) {
+        const std::size_t end = reading[1].target_at;
+        if (reading->is_copy) {
             if (cursor.is_copied(reading->at, reading->length)) {
                 const std::size_t shift = cursor.copied_from(reading->at) - reading->target_at;
                 do {
                     *place++ = {{at + shift, event->length}, at};
                     any = next_word();
-                } while (any && at < copied_end);
+                } while (any && at < end);
             } else {
                 *place++ = {source_of_word(*reading, at - reading->target_at, cursor), at};
                 any = next_word();
             }
         } else {
             const TextRange source = cursor.source_of(reading->at, reading->length);
-            const std::size_t end = reading[1].target_at;
             do {
                 *place++ = {source, at};
                 any = next_word();

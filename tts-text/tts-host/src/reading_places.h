@@ -23,11 +23,12 @@ class ReadingPlaces {
         target_end_ = 0;
     }
 
-    // The speakable text is so long after it.
+    // The speakable text is so long after it. What begins with a letter is words that are copied,
+    // and a blank, or one that is written out: then it is longer.
     void add_plain_text(std::string_view source, int target_length) {
-        readings_.push_back(
-            {static_cast<std::size_t>(source.data() - sentence_), source.size(), target_end_});
-        target_end_ = static_cast<std::size_t>(target_length);
+        const auto target_end = static_cast<std::size_t>(target_length);
+        const bool is_copy = target_end - target_end_ == source.size() + 1;
+        add(source, target_end, is_copy && tn::is_letter(source[0]));
     }
     void add_step(const tn::SectionDispatcher& step);
 
@@ -43,7 +44,14 @@ class ReadingPlaces {
         std::size_t at;
         std::size_t length;
         std::size_t target_at;
+        bool is_copy;
     };
+
+    void add(std::string_view source, std::size_t target_end, bool is_copy) {
+        readings_.push_back({static_cast<std::size_t>(source.data() - sentence_), source.size(),
+                             target_end_, is_copy});
+        target_end_ = target_end;
+    }
 
     TextRange source_of_word(const Reading& reading, std::size_t offset, PieceCursor pieces) const;
 

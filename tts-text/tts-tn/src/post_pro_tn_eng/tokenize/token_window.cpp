@@ -6,7 +6,7 @@ namespace kavi::tn {
 
 const Token* TokenWindow::begin_row() {
     tokens_[0] = NO_TOKEN;
-    tokens_[1] = NO_TOKEN;
+    tokens_[1] = NO_TOKEN;  // not copied from the first: loading it would wait for its stores
     extend_from(tokens_ + SECTIONS_BEFORE);
     return tokens_ + SECTIONS_BEFORE;
 }

@@ -1,0 +1,130 @@
+// Fractions, by a sign of their own or with a slash.
+
+#include "fractions.h"
+
+#include "spoken_numbers.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+struct SignRow {
+    std::string_view sign;
+    const char* spoken;
+};
+
+// clang-format off
+constexpr SignRow SIGNS[] = {
+    {"\xc2\xbd",     "one half"},
+    {"\xc2\xbc",     "one quarter"},
+    {"\xc2\xbe",     "three quarters"},
+    {"\xe2\x85\x93", "one third"},
+    {"\xe2\x85\x94", "two thirds"},
+    {"\xe2\x85\x9b", "one eighth"},
+    {"\xe2\x85\x9c", "three eighths"},
+    {"\xe2\x85\x9d", "five eighths"},
+    {"\xe2\x85\x9e", "seven eighths"},
+    {"\xe2\x85\x95", "one fifth"},
+};
+// clang-format on
+
+struct NoFractionRow {
+    std::string_view above;
+    std::string_view below;
+    const char* spoken;
+};
+
+// What only looks like one.
+constexpr NoFractionRow NO_FRACTIONS[] = {
+    {"24", "7", "twenty four seven"},
+    {"9", "11", "nine eleven"},
+};
+
+// "1/2", "3/4", "24/7": up to two digits above, three below.
+bool say_fraction(std::string_view above, std::string_view below, std::string& out) {
+    if (above.size() > 2 || below.empty() || below.size() > 3 || below[0] == '0') return false;
+    for (const auto& known : NO_FRACTIONS) {
+        if (above != known.above || below != known.below) continue;
+        say(known.spoken, out);
+        return true;
+    }
+    if (below == "1") return false;
+    say_cardinal(above, out);
+    const bool is_one = above == "1";
+    if (below == "2") {
+        say(is_one ? "half" : "halves", out);
+    } else if (below == "4") {
+        say(is_one ? "quarter" : "quarters", out);
+    } else {
+        say_ordinal(below, out);
+        if (!is_one) out += 's';
+    }
+    return true;
+}
+
+void say_whole_and(std::string_view whole, std::string& out) {
+    say_cardinal(whole, out);
+    say("and", out);
+}
+
+// "3½", "3 ½"
+bool read_whole_and_sign(const Place& place, std::string_view whole, Found& found) {
+    constexpr std::string_view ONE = "one ";
+    const std::size_t at = whole.size() + (place.peek(whole.size()) == ' ' ? 1 : 0);
+    std::size_t length = 0;
+    const char* sign = fraction_sign_at(place, at, length);
+    if (sign == nullptr) return false;
+    say_whole_and(whole, found.words);
+    std::string_view part = sign;
+    if (part.substr(0, ONE.size()) == ONE) {
+        say("a", found.words);
+        part.remove_prefix(ONE.size());
+    }
+    say(part, found.words);
+    found.length = at + length;
+    return true;
+}
+
+// "3 1/2"
+bool read_whole_and_slash(const Place& place, std::string_view whole, Found& found) {
+    if (place.peek(whole.size()) != ' ') return false;
+    const std::string_view above = place.digits(whole.size() + 1);
+    const std::size_t slash = whole.size() + 1 + above.size();
+    const std::string_view below = place.digits(slash + 1);
+    if (above.empty() || place.peek(slash) != '/' || above >= below) return false;
+    std::string words;
+    say_whole_and(whole, words);
+    if (!say_fraction(above, below, words)) return false;
+    found.words = words;
+    found.length = slash + 1 + below.size();
+    return true;
+}
+
+// "1/2", which no other slash follows
+bool read_slash(const Place& place, std::string_view above, Found& found) {
+    if (place.peek(above.size()) != '/') return false;
+    const std::string_view below = place.digits(above.size() + 1);
+    const std::size_t end = above.size() + 1 + below.size();
+    if (place.peek(end) == '/' || !say_fraction(above, below, found.words)) return false;
+    found.length = end;
+    return true;
+}
+
+}  // namespace
+
+const char* fraction_sign_at(const Place& place, std::size_t ahead, std::size_t& length) {
+    for (const SignRow& row : SIGNS) {
+        if (!place.starts_with(row.sign, ahead)) continue;
+        length = row.sign.size();
+        return row.spoken;
+    }
+    return nullptr;
+}
+
+bool read_fraction(const Place& place, Found& found) {
+    const std::string_view digits = place.digits();
+    return read_whole_and_sign(place, digits, found) ||
+           read_whole_and_slash(place, digits, found) || read_slash(place, digits, found);
+}
+
+}  // namespace kavi::everyday

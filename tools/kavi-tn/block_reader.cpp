@@ -79,7 +79,7 @@ bool BlockReader::cut_after_last_text(std::string& bytes, std::size_t searched) 
     const std::size_t last = std::string_view(bytes).substr(searched).rfind(options_.delimiter);
     if (last == std::string_view::npos) return false;
     const std::size_t end = searched + last + 1;
-    carry_.assign(bytes, end, bytes.size() - end);
+    carry_.assign(bytes, end);
     bytes.resize(end);
     return true;
 }

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstring>
 #include <numeric>
+#include <string_view>
 
 namespace kavi::tool {
 
@@ -15,6 +16,18 @@ namespace {
 // Where the `part`-th of `parts` ends, of so many bytes in all.
 std::size_t end_of_part(std::size_t bytes, std::size_t part, std::size_t parts) {
     return bytes / parts * part + bytes % parts * part / parts;
+}
+
+// Counts the texts that end in these bytes, which stand at `at` of the file, until the next begins
+// in the part. False when none does.
+bool count_texts(std::string_view bytes, std::size_t at, char delimiter, FilePart& part) {
+    for (std::size_t end = bytes.find(delimiter); end != std::string_view::npos;
+         end = bytes.find(delimiter, end + 1)) {
+        ++part.number;
+        part.first_text = at + end + 1;
+        if (part.first_text >= part.begin) return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -48,32 +61,28 @@ std::string FileParts::find(int file, std::size_t n, FilePart& part) {
     part.first_text = part.begin;
     part.number = 1;
     if (part.begin == 0 || part.begin >= part.end) return {};
+    const int error = find_first_text(file, part);
+    return error == 0 ? "" : std::strerror(error);
+}
 
-    // Texts before the part are counted; the first begins after a delimiter, which may be the last
-    // byte before it.
+// Counts the texts before the part, and goes to its first, which begins after a delimiter; that may
+// be the last byte before the part. An error number, or 0.
+int FileParts::find_first_text(int file, FilePart& part) const {
     std::string buffer(std::size_t{1} << 18U, '\0');
     for (std::size_t at = 0;;) {
         const ssize_t got = ::pread(file, buffer.data(), buffer.size(), static_cast<off_t>(at));
         if (got < 0 && errno == EINTR) continue;
-        if (got < 0) return std::strerror(errno);
+        if (got < 0) return errno;
         if (got == 0) {
             part.first_text = part.end;
-            return {};
+            return 0;
         }
-        const char* const begin = buffer.data();
-        const char* const end = begin + got;
-        const char* from = begin;
-        while (const auto* found = static_cast<const char*>(
-                   std::memchr(from, options_.delimiter, static_cast<std::size_t>(end - from)))) {
-            from = found + 1;
-            ++part.number;
-            part.first_text = at + static_cast<std::size_t>(from - begin);
-            if (part.first_text >= part.begin) {
-                const auto offset = static_cast<off_t>(part.first_text);
-                return ::lseek(file, offset, SEEK_SET) < 0 ? std::strerror(errno) : "";
-            }
+        const std::string_view bytes(buffer.data(), static_cast<std::size_t>(got));
+        if (count_texts(bytes, at, options_.delimiter, part)) {
+            const auto offset = static_cast<off_t>(part.first_text);
+            return ::lseek(file, offset, SEEK_SET) < 0 ? errno : 0;
         }
-        at += static_cast<std::size_t>(got);
+        at += bytes.size();
     }
 }
 

@@ -31,6 +31,7 @@ class FileParts {
 
   private:
     std::string measure();
+    int find_first_text(int file, FilePart& part) const;
 
     const Options& options_;
     std::vector<std::size_t> sizes_;  // of the files, once they are known

@@ -118,9 +118,9 @@ bool BlockReader::read_long_text(Block& block) {
     return false;
 }
 
-// Appends what there is, at least one byte. False at the end of the file, which is closed then.
+// Appends what there is in the open file, at least one byte. False at its end, where it is closed.
+// What is carried when a part has been read ends with a delimiter: nothing is read after that.
 bool BlockReader::read_more(std::string& bytes) {
-    if (file_ < 0) return false;
     const std::size_t size = bytes.size();
     bytes.resize(size + BLOCK_BYTES);
     ssize_t n = 0;

@@ -18,8 +18,8 @@ namespace {
 
 constexpr PlainCharacters PLAIN("\"\\");
 
-// One object after the other. Text that is not UTF-8 has U+FFFD in the place of what is not. A comma
-// stands after each value, until its object or array ends.
+// One object after the other. Text that is not UTF-8 has U+FFFD where it is not. A comma stands
+// after each value, until its object or array ends.
 class JsonLine {
   public:
     void begin() {

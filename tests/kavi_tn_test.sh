@@ -63,8 +63,8 @@ done <<'TABLE'
 TABLE
 expect 'help' 'Usage: kavi-tn [OPTION]... [-t TEXT] [FILE]...' "$("$tool" --help --words | head -n 1)"
 
-# The parts of files, however many, are the run over all of them; a block is smaller than the second file.
-seq 4000 | sed 's/.*/Line & <\/poem> costs $&, and it is 10:30 in the garden & of the house now./' >long
+# The parts of files, however many, are the run over all of them.
+seq 3000 | sed 's/.*/Line & <\/poem> costs $&, and it is 10:30 in the garden & of the house now./' >long
 printf '\n\n5\n\nno end 7' >short
 parts() { for ((i = 1; i <= $1; ++i)); do "$tool" --part "$i/$1" --format jsonl short long short missing 2>/dev/null; done; }
 whole=$("$tool" --format jsonl short long short missing 2>/dev/null | md5sum)
@@ -81,6 +81,8 @@ seq 17000 | sed 's/.*/Extraordinarily incomprehensible & counterrevolutionaries 
 { cat short && echo && cat sentences && echo 'last' && cat short; } >shorter
 in_lines=$("$tool" shorter | md5sum)
 expect 'a long line' "$in_lines" "$("$tool" longer 2>/dev/null | md5sum)"
+expect 'parts of several blocks' "$in_lines" \
+    "$(for i in 1 2; do "$tool" --part "$i/2" shorter; done | md5sum)"
 expect 'a finding at the end of it' "longer:6: byte $(wc -c <sentences): " \
     "$(said "$tool" longer | grep -o '^.*: byte [0-9]*: ')"
 expect 'lines after it' '6 7 10 12' \

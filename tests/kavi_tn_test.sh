@@ -150,12 +150,13 @@ echo 'a</poem>' >$'q"\\\377\n'
 expect 'a name that is no UTF-8' '"q\"\\\xff\n":1: byte 1: this closing tag closes nothing; it is left out' \
     "$(said "$tool" $'q"\\\377\n')"
 expect 'tabs and line ends are text' '' "$(printf 'a\tb\tc\r\n\t\r\n' | said "$tool")"
-gzip -k in && printf '\1\2\3 \4\5\n' >binary
+gzip -k in && printf '\1\2\3 \4\5\n\1\2\3 \4\5\n' >binary
 expect 'the first part of a compressed input' 'kavi-tn: in.gz: seems to be compressed; read it by: gzip -dc FILE | kavi-tn' \
     "$(said "$tool" --part 1/2 in.gz)"
 expect 'a compressed input' \
     'kavi-tn: in.gz: seems to be compressed; read it by: gzip -dc FILE | kavi-tn' "$(said "$tool" in.gz)"
 expect 'a binary input' 'kavi-tn: binary: seems to be binary, not text' "$(said "$tool" binary)"
+expect 'its second part' '' "$(said "$tool" --part 2/2 binary)"
 expect 'NUL bytes that end texts' '' "$(printf 'a\0b\0' | said "$tool" -0)"
 
 # The output is the same bytes for every number of threads, and under GNU parallel.

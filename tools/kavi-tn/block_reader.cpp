@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <string_view>
@@ -146,7 +147,7 @@ bool BlockReader::read_more(std::string& bytes) {
 std::size_t BlockReader::end_of_part(const char* bytes, std::size_t n) const {
     const std::size_t last = part_.end - 1;
     if (at_ + n <= last) return n;
-    const std::size_t from = last > at_ ? last - at_ : 0;
+    const std::size_t from = std::max(last, at_) - at_;
     const auto* found =
         static_cast<const char*>(std::memchr(bytes + from, options_.delimiter, n - from));
     return found != nullptr ? static_cast<std::size_t>(found + 1 - bytes) : n;

@@ -54,7 +54,7 @@ std::string FileParts::find(int file, std::size_t n, FilePart& part) {
     const std::size_t before = std::accumulate(sizes_.begin(), here, std::size_t{0});
     const std::size_t all = std::accumulate(here, sizes_.end(), before);
     const auto in_file = [&](std::size_t at) {
-        return at > before ? std::min(at - before, *here) : 0;
+        return std::min(std::max(at, before) - before, *here);
     };
     part.begin = in_file(end_of_part(all, options_.part - 1, options_.parts));
     part.end = in_file(end_of_part(all, options_.part, options_.parts));

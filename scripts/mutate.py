@@ -1,11 +1,13 @@
 """What scripts/mutate runs."""
 
 import concurrent.futures
+import contextlib
 import os
 import pathlib
 import queue
 import re
 import shutil
+import signal
 import subprocess
 import sys
 
@@ -106,15 +108,19 @@ class Tree:
                                cwd=self.root, capture_output=True)
         if build.returncode != 0:
             return "does not compile"
-        for test in tests:
+        return "survived" if all(self.passes(test.split()) for test in tests) else "killed"
+
+    def passes(self, test):
+        """Whether it ends well, and in time. What it has started and left running ends with it."""
+        with subprocess.Popen(test, cwd=self.root, env={**os.environ, "KAVI_TEST_TEXTS": "600"}, start_new_session=True,
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as run:
             try:
-                run = subprocess.run(test.split(), cwd=self.root, capture_output=True, timeout=SECONDS,
-                                     env={**os.environ, "KAVI_TEST_TEXTS": "600"})
+                return run.wait(SECONDS) == 0
             except subprocess.TimeoutExpired:
-                return "killed"
-            if run.returncode != 0:
-                return "killed"
-        return "survived"
+                return False
+            finally:
+                with contextlib.suppress(ProcessLookupError):
+                    os.killpg(run.pid, signal.SIGKILL)
 
     def try_fault(self, path, number, before, after):
         text = (self.root / path).read_text()

@@ -100,17 +100,16 @@ std::size_t say_percent(const Place& place, std::size_t ahead, std::string& out)
 }
 
 // "3x", "3 x 4", "3×4", "3 × 4"; the blank after it is left
+std::size_t times_length(const Place& place, std::size_t ahead) {
+    constexpr std::string_view CROSS = "\xc3\x97";
+    if (place.starts_with(CROSS, ahead)) return CROSS.size();
+    if (place.starts_with(" \xc3\x97 ", ahead)) return 1 + CROSS.size();
+    if (place.starts_with(" x ", ahead) && is_digit(place.peek(ahead + 3))) return 2;
+    return place.peek(ahead) == 'x' && ends_word(place, ahead + 1) ? 1 : 0;
+}
+
 std::size_t say_times(const Place& place, std::size_t ahead, std::string& out) {
-    std::size_t length = 0;
-    if (place.peek(ahead) == 'x' && ends_word(place, ahead + 1)) {
-        length = 1;
-    } else if (place.starts_with("\xc3\x97", ahead)) {
-        length = 2;
-    } else if (place.starts_with(" \xc3\x97 ", ahead)) {
-        length = 3;
-    } else if (place.starts_with(" x ", ahead) && is_digit(place.peek(ahead + 3))) {
-        length = 2;
-    }
+    const std::size_t length = times_length(place, ahead);
     if (length > 0) say("times", out);
     return length;
 }

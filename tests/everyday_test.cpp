@@ -168,6 +168,12 @@ TEST(Everyday, EachClassIsSwitchedByItself) {
     EXPECT_FALSE(everyday_class_of("none"));
 }
 
+TEST(Everyday, AProperFractionAfterANumberIsReadWithIt) {
+    EXPECT_EQ(rewritten(all_classes(), "2 3/4"), "two and three quarters");
+    EXPECT_EQ(rewritten(all_classes(), "3 5/16"), "three and five sixteenths");
+    EXPECT_EQ(rewritten(all_classes(), "3 16/5"), "three sixteen fifths");
+}
+
 TEST(Everyday, AmericanDatesPutTheMonthFirst) {
     Everyday everyday = all_classes();
     EXPECT_EQ(rewritten(everyday, "3/1/2020"), "the third of January twenty twenty");

@@ -62,6 +62,11 @@ bool say_fraction(std::string_view above, std::string_view below, std::string& o
     return true;
 }
 
+// Of numbers as they are written, without zeros before them.
+bool is_less(std::string_view number, std::string_view than) {
+    return number.size() != than.size() ? number.size() < than.size() : number < than;
+}
+
 void say_whole_and(std::string_view whole, std::string& out) {
     say_cardinal(whole, out);
     say("and", out);
@@ -85,13 +90,13 @@ bool read_whole_and_sign(const Place& place, std::string_view whole, Found& foun
     return true;
 }
 
-// "3 1/2"
+// "3 1/2", "3 5/16"
 bool read_whole_and_slash(const Place& place, std::string_view whole, Found& found) {
     if (place.peek(whole.size()) != ' ') return false;
     const std::string_view above = place.digits(whole.size() + 1);
     const std::size_t slash = whole.size() + 1 + above.size();
     const std::string_view below = place.digits(slash + 1);
-    if (above.empty() || place.peek(slash) != '/' || above >= below) return false;
+    if (above.empty() || place.peek(slash) != '/' || !is_less(above, below)) return false;
     std::string words;
     say_whole_and(whole, words);
     if (!say_fraction(above, below, words)) return false;

@@ -177,7 +177,7 @@ for signal in INT TERM; do
     # A shell script has its background commands ignore SIGINT.
     mkfifo pipe && { env --default-signal=INT "$tool" pipe -o out 2>err & } &&
         exec 3>pipe && echo a >&3 && sleep 0.2 && echo b >&3
-    sleep 0.2 && kill -$signal $! && { wait $!; ended=$?; }
+    sleep 0.4 && kill -$signal $! && { wait $!; ended=$?; }
     exec 3>&- && rm pipe
     expect "the exit status of an interrupt by $signal" $((128 + $(kill -l $signal))) "$ended"
     expect "a file that was to be written, after $signal" 'a' "$(cat out)"
@@ -258,7 +258,7 @@ def is_right(found):  # as far as the rate is told, to a tenth
     rate = float(found[3])
     left = (size - float(found[1])) / max(rate, 0.1)
     return abs(left - int(found[4])) < 1.1 + left * 0.06 / max(rate, 0.1)
-print(0.6 * size < max(steps, default=0) < size + 0.1, all(found[2] == f"{size:.1f}" for found in shown), steps == sorted(steps),
+print(0.3 * size < max(steps, default=0) < size + 0.1, all(found[2] == f"{size:.1f}" for found in shown), steps == sorted(steps),
       all(map(is_right, shown)), "left\x1b[K\x1b[33m" not in text,
       "left" not in told([*json, *files, "/dev/null"]), told(["-t", "a"]) == "",
       told(["-t", "a</poem>"])[:5] == "\x1b[33m",

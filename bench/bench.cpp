@@ -155,18 +155,13 @@ void add_rewriting(const Kind& kind) {
     everyday.set_all(true);
     static Lexicon lexicon;
     static Everyday by_lexicon(&lexicon);
-    static RewrittenText rewritten;
-    add(name + "/everyday", texts, [](const std::string& text) {
-        everyday.rewrite(text, rewritten);
-        return rewritten.text.size();
-    });
+    add(name + "/everyday", texts,
+        [](const std::string& text) { return rewritten(everyday, text).size(); });
     const std::string lines = lexicon_lines(100000);
     std::string error;
     lexicon.add("lexicon", lines, error);
-    add(name + "/lexicon", texts, [](const std::string& text) {
-        by_lexicon.rewrite(text, rewritten);
-        return rewritten.text.size();
-    });
+    add(name + "/lexicon", texts,
+        [](const std::string& text) { return rewritten(by_lexicon, text).size(); });
     add(name + "/load", {lines}, [](const std::string& text) {
         std::string fault;
         return Lexicon().add("lexicon", text, fault);

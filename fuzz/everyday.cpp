@@ -14,9 +14,8 @@ namespace {
 double cost_of_byte(const kavi::Everyday& everyday, const std::string& text, std::size_t size) {
     std::string repeated;
     while (repeated.size() < size) repeated += text;
-    kavi::RewrittenText rewritten;
     const auto begin = std::chrono::steady_clock::now();
-    everyday.rewrite(repeated, rewritten);
+    kavi::rewritten(everyday, repeated);
     const std::chrono::duration<double, std::nano> time = std::chrono::steady_clock::now() - begin;
     return time.count() / static_cast<double>(repeated.size());
 }

@@ -13,12 +13,6 @@
 namespace kavi {
 namespace {
 
-std::string rewritten(const TextRewriter& rewriter, const std::string& text) {
-    RewrittenText result;
-    rewriter.rewrite(text, result);
-    return result.text;
-}
-
 ReadText read_with(const TextRewriter& rewriter, const std::string& text) {
     TtsHost host;
     host.rewrite_by(&rewriter);
@@ -90,16 +84,6 @@ TEST(Lexicon, IsNamedWithItsLineByAnExplanation) {
     EXPECT_EQ(rules, "lexicon my.txt:2|not spoken|everyday: numbers|");
 }
 
-TEST(Everyday, APlaceInsideWordsIsAllThatTheyWereReadFrom) {
-    RewrittenText text;
-    all_classes().rewrite("a Mr. X", text);
-    EXPECT_EQ(text.text, "a mister X");
-    EXPECT_EQ(text.begin_of(4), 2U);
-    EXPECT_EQ(text.end_of(4), 5U);
-    EXPECT_EQ(text.end_of(2), 2U);
-    EXPECT_EQ(text.end_of(10), 7U);
-}
-
 TEST(Everyday, WithoutAnyClassEveryByteIsAsWithoutIt) {
     const Everyday none(nullptr);
     std::mt19937 random(5);
@@ -136,15 +120,63 @@ TEST(Everyday, PlacesHoldWhateverIsRewritten) {
     }
 }
 
+TEST(Everyday, LongSentence_IsCutBetweenRewritings) {
+    const Everyday everyday = all_classes();
+    std::string text;
+    for (int i = 0; i < 200; ++i) text += "It cost $1,234,567 and ";
+    const std::vector<std::string> words = read_with(everyday, text).words;
+    EXPECT_EQ(words.size(), 200U * 17);
+    for (const std::size_t capacity : {0, 30000, 15000}) {
+        TtsHost host(capacity);
+        host.rewrite_by(&everyday);
+        const ReadText read = read_by_layer(host, text);
+        EXPECT_EQ(read.fault, "") << capacity;
+        EXPECT_EQ(read.words, words) << capacity;
+        for (const std::string& source : read.sources) {
+            EXPECT_EQ(source.find_first_of("123456"), source.find("1,234,567")) << capacity;
+        }
+    }
+    TtsHost small(3200);  // does not hold the words of the number
+    small.rewrite_by(&everyday);
+    const ReadText read = read_by_layer(small, text);
+    EXPECT_EQ(read.fault, "");
+    EXPECT_EQ(read.words, words);
+}
+
+// Reads "x" as words that a rewriter should not have, and what is inside of a tag.
+class BadRewriter final : public TextRewriter {
+  public:
+    bool next(std::string_view text, Rewriting& rewriting) const override {
+        const std::size_t from = rewriting.source.offset + rewriting.source.length;
+        const std::size_t at = text.find('x', from);
+        if (at == std::string_view::npos) return false;
+        rewriting.source = {at, 1};
+        rewriting.words.assign("<poem=a>", 8);
+        for (int i = 0; i < 6000; ++i) rewriting.words += std::string("\0 ab c", 7);
+        rewriting.by = {"bad"};
+        return true;
+    }
+};
+
+TEST(Rewriter, LongWordsWithMarkup_AreReadWithoutIt) {
+    const BadRewriter bad;
+    const ReadText read = read_with(bad, "<poem=x>x y x</poem>");
+    EXPECT_TRUE(read.all_read);
+    EXPECT_EQ(read.fault, "");
+    EXPECT_EQ(read.words.size(), 2U * (6000 * 2 + 4) + 1);
+    EXPECT_EQ(std::count(read.words.begin(), read.words.end(), "ab"), 2 * 6000);
+    EXPECT_TRUE(std::all_of(read.records.begin(), read.records.end(), [](const std::string& r) {
+        return r.find("poem=a") == std::string::npos;
+    }));
+}
+
 TEST(Everyday, PlainProseComesOutUnchanged) {
     EXPECT_EQ(rewritten(all_classes(), "<poem=5 km>5</poem>"), "<poem=5 km>five</poem>");
     const std::string prose =
         "It was a bright cold day, and the clocks were striking; nobody looked up. <poem=a>Were "
         "they asleep?</poem> No: they waited (or so it seemed)!";
-    RewrittenText result;
-    all_classes().rewrite(prose, result);
-    EXPECT_EQ(result.text, prose);
-    EXPECT_TRUE(result.rewritings.empty());
+    Rewriting rewriting;
+    EXPECT_FALSE(all_classes().next(prose, rewriting));
 }
 
 TEST(Everyday, EachClassIsSwitchedByItself) {

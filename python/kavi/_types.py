@@ -82,6 +82,9 @@ class FindingCode(str, enum.Enum):
     TAG_IN_TELEPHONE_NUMBER = "tag-in-telephone-number"
     READING_CUT = "reading-cut"
     ARENA_TOO_SMALL = "arena-too-small"
+    SPAN_NEVER_CLOSED = "span-never-closed"
+    FOREIGN_TAG = "foreign-tag"
+    MARK_NOT_SPOKEN = "mark-not-spoken"
 
 
 class Word(NamedTuple):

@@ -35,7 +35,7 @@ py::tuple names() {
     for (int i = kavi::PUNC_NULL_FE; i <= kavi::POIE_FE; ++i) {
         marks.append(kavi::punctuation_name(static_cast<kavi::PUNC_type>(i)));
     }
-    for (int i = 0; i <= static_cast<int>(kavi::Finding::arena_too_small); ++i) {
+    for (int i = 0; i < kavi::FINDINGS; ++i) {
         findings.append(kavi::code_of(static_cast<kavi::Finding>(i)));
     }
     return py::make_tuple(pauses, marks, findings);

@@ -25,14 +25,12 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
         if (piece.source.offset < offset) return "pieces out of order";
         at += piece.length;
         // What was rewritten may be the source of several pieces.
-        offset = piece.source.offset + (piece.rule == nullptr ? piece.source.length : 0);
+        offset = piece.source.offset + (piece.by.name == nullptr ? piece.source.length : 0);
         if (piece.source.offset + piece.source.length > end)
             return "a piece is not of this sentence";
         std::string copy(text.substr(piece.source.offset, piece.source.length));
         std::replace(copy.begin(), copy.end(), '\0', ' ');
-        const bool is_copy = piece.rule == nullptr && piece.length > 1;
-        if (is_copy && piece.source.length > 0 &&
-            sentence.normalized.substr(piece.at, piece.length) != copy)
+        if (piece.is_copy && sentence.normalized.substr(piece.at, piece.length) != copy)
             return "a piece is no copy";
     }
     if (at != sentence.normalized.size()) return "the pieces are not the sentence";
@@ -42,7 +40,7 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
     for (int i = 1; i < sentence.n_records; ++i) {
         const WordPlace& place = sentence.places.of_record(i);
         if (place.source.offset < offset) return "words out of order";
-        // A tag that is opened again may be words to the builder.
+        // A tag that is opened again may be words to the builder; words that are cut go on.
         const bool opens_again = sentence.places.pieces()[0].source.length == 0;
         if (place.source.length == 0 && !opens_again) return "a word from nowhere";
         if (place.source.offset + place.source.length > end) return "a word of another sentence";

@@ -74,7 +74,7 @@ kavi_status read(kavi_reader& reader, std::string_view text, OnSentence on_sente
 }
 
 bool is_finding(std::int32_t code) {
-    return code >= 0 && code <= static_cast<std::int32_t>(kavi::Finding::arena_too_small);
+    return code >= 0 && code < kavi::FINDINGS;
 }
 
 }  // namespace

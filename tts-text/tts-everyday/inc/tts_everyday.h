@@ -45,7 +45,7 @@ class Everyday : public TextRewriter {
     // 3/1/2020 is March first, not the third of January.
     void set_american_dates(bool on) { american_dates_ = on; }
 
-    void rewrite(std::string_view text, RewrittenText& rewritten) const override;
+    bool next(std::string_view text, Rewriting& rewriting) const override;
 
   private:
     const Lexicon* lexicon_;

@@ -21,7 +21,11 @@ enum class Finding {
     tag_in_telephone_number,
     reading_cut,
     arena_too_small,
+    span_never_closed,
+    foreign_tag,
+    mark_not_spoken,
 };
+constexpr int FINDINGS = static_cast<int>(Finding::mark_not_spoken) + 1;
 
 // A short name for programs, such as "stray-closing-tag", that stays as it is; a constant text.
 const char* code_of(Finding finding);
@@ -32,7 +36,7 @@ const char* describe(Finding finding);
 struct Diagnostic {
     std::size_t offset;  // of the first byte it is about, in the text given to read()
     Finding finding;
-    std::size_t length = 1;  // of what is not spoken, in bytes; of no meaning for other findings
+    std::size_t length = 1;  // in bytes, of what is not spoken or a foreign tag; else 1
 };
 
 }  // namespace kavi

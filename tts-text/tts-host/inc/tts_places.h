@@ -13,17 +13,22 @@ struct TextRange {
     std::size_t length;
 };
 
-// A piece of the normalised sentence, and the bytes of the text that it stands for. A piece as long
-// as its source is a copy of it, unless a rule has rewritten it. A piece without a source
-// is a tag that opens or closes a span where the text was cut; one without a length, or with a
-// blank for its source, is what was left out.
+// What wrote other bytes than the text has.
+struct RuleId {
+    const char* name = nullptr;   // "abbreviation", or of a rewriter; null for none
+    const char* file = nullptr;   // of the lexicon's line that says so; null for none
+    std::size_t line_number = 0;  // there, from 1
+};
+
+// A piece of the normalised sentence, and the bytes of the text that it was made of. Without a
+// source it is a tag that opens or closes a span where the text was cut, or what goes on with words
+// that were cut; without a length, or as a blank, it is what was left out.
 struct SourcePiece {
     std::size_t at;  // in the normalised sentence
     std::size_t length;
     TextRange source;
-    const char* rule;            // that wrote it: "abbreviation", or of a rewriter; null for none
-    const char* file = nullptr;  // of the lexicon that says so, and where there
-    std::size_t line_number = 0;
+    bool is_copy;  // byte for byte
+    RuleId by;
 };
 
 // Where the word of a record comes from. The words of one number share a source.

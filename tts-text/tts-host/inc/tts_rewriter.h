@@ -5,44 +5,36 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "tts_places.h"
 
 namespace kavi {
 
-// What was written at `source`, and the words that stand for it.
+// A piece of a text, and the words that are read for it.
 struct Rewriting {
-    TextRange source;
-    std::size_t at;  // of the words, in the rewritten text
-    std::size_t length;
-    const char* rule;         // lives as long as the rewriter
-    const char* file;         // of the line that says so; null for none
-    std::size_t line_number;  // there, from 1
+    TextRange source = {0, 0};
+    std::string words;  // "<" and NUL are read as blanks; a blank for nothing
+    RuleId by;          // its texts live as long as the rewriter
+
+    // The rewriter's own: where the markup tag ends that it looked for last.
+    std::size_t tag_end = 0;
 };
 
-// A text of which pieces are rewritten; the rest is a copy.
-struct RewrittenText {
-    std::string text;
-    std::vector<Rewriting> rewritings;  // in order, not overlapping
-
-    // Where in the text as written a place of this one is: for one inside the words of a rewriting,
-    // the end of its source or the begin.
-    std::size_t end_of(std::size_t at) const;
-    std::size_t begin_of(std::size_t at) const;
-
-    // The first rewriting whose words end after `at`, or null.
-    const Rewriting* first_from(std::size_t at) const;
-};
-
-// Rewrites a text before it is read. One object may serve several threads.
+// Rewrites a text piece by piece before it is read. One object may serve several threads.
 class TextRewriter {
   public:
     virtual ~TextRewriter() = default;
 
-    // Puts the rewritten text into `rewritten`, whatever that has held.
-    virtual void rewrite(std::string_view text, RewrittenText& rewritten) const = 0;
+    // Moves `rewriting` on to the next piece of `text` that is rewritten; the text between two
+    // pieces is read as it is. A new Rewriting is before the first piece, and false is answered
+    // after the last: then `rewriting` is not changed but for its memory. Pieces are in order, do
+    // not overlap, have a source of at least one byte, and are never inside a tag of the markup
+    // language. `text` is the same in each call.
+    virtual bool next(std::string_view text, Rewriting& rewriting) const = 0;
 };
+
+// The whole of a text as it is read.
+std::string rewritten(const TextRewriter& rewriter, std::string_view text);
 
 }  // namespace kavi
 

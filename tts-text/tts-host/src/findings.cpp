@@ -32,6 +32,12 @@ constexpr Row ROWS[] = {
     {Finding::reading_cut, "reading-cut", "the reading of this number is too long and was cut"},
     {Finding::arena_too_small, "arena-too-small",
      "the arena is too small for this sentence; it is passed over"},
+    {Finding::span_never_closed, "span-never-closed",
+     "nothing closes this tag; it applies to the end of the text"},
+    {Finding::foreign_tag, "foreign-tag",
+     "this tag is not of the markup language; it is read as text"},
+    {Finding::mark_not_spoken, "mark-not-spoken",
+     "no word is said for this mark; it is told once in a text"},
 };
 
 // A finding is found by its place.
@@ -40,7 +46,7 @@ constexpr bool are_in_order() {
     for (const Row& row : ROWS) {
         if (static_cast<int>(row.finding) != place++) return false;
     }
-    return place == static_cast<int>(Finding::arena_too_small) + 1;
+    return place == FINDINGS;
 }
 static_assert(are_in_order());
 

@@ -8,7 +8,7 @@ namespace {
 
 // The source of one byte of a piece.
 TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
-    return is_copy(piece) ? TextRange{piece.source.offset + (at - piece.at), 1} : piece.source;
+    return piece.is_copy ? TextRange{piece.source.offset + (at - piece.at), 1} : piece.source;
 }
 
 }  // namespace
@@ -24,66 +24,18 @@ TextRange PieceCursor::source_of_any(const SourcePiece* piece, const SourcePiece
     return {begin.offset, end.offset + end.length - begin.offset};
 }
 
-void SentenceSource::find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter) {
-    pieces_.clear();
-    const std::optional<std::size_t> from = window.copied_from(cutter.end());
-    if (from.has_value() && replacements_.empty() &&
-        cutter.length() == cutter.length_before_closing()) {  // as most sentences
-        SourcePiece& all = pieces_.emplace_back();
-        all.length = static_cast<std::size_t>(cutter.length());
-        all.source = {*from, all.length};
-    } else {
-        find_several(window, cutter);
-    }
-}
-
-void SentenceSource::find_several(const TextWindow& window, const tn::SentenceCutter& cutter) {
-    TextWindow::Sources sources(window, pieces_);
+void SentenceSource::find_pieces(TextWindow& window, const tn::SentenceCutter& cutter) {
+    map_.clear();
+    const char* from = window.text();
     for (const Replacement& r : replacements_) {
-        sources.copied_up_to(r.source.data());
-        sources.replaced(r.source, r.length);
+        window.append_sources(from, r.source.data(), map_);
+        map_.replaced(r.length, window.source_of(r.source),
+                      {r.length > 0 ? "abbreviation" : nullptr});
+        from = r.source.data() + r.source.size();
     }
-    sources.copied_up_to(cutter.end());
+    window.append_sources(from, cutter.end(), map_);
     const auto closing = static_cast<std::size_t>(cutter.length() - cutter.length_before_closing());
-    if (closing > 0) sources.added(closing);
-}
-
-void SentenceSource::find_as_written(const RewrittenText& rewritten) {
-    pieces_.swap(as_read_);
-    pieces_.clear();
-    for (const SourcePiece& piece : as_read_) {
-        const std::size_t end = piece.source.offset + piece.source.length;
-        if (is_copy(piece)) {
-            add_as_written(piece.at, piece.source.offset, end, rewritten);
-        } else {
-            const std::size_t begin = rewritten.begin_of(piece.source.offset);
-            const std::size_t length = rewritten.end_of(end) - begin;
-            pieces_.push_back({piece.at, piece.length, {begin, length}, piece.rule});
-        }
-    }
-}
-
-// A copy of the rewritten text from `begin` to `end`: copies of the text as it was written, and
-// what was written in the place of others.
-void SentenceSource::add_as_written(std::size_t at, std::size_t begin, std::size_t end,
-                                    const RewrittenText& rewritten) {
-    while (begin < end) {
-        const Rewriting* next = rewritten.first_from(begin);
-        const bool is_inside = next != nullptr && next->at <= begin;
-        std::size_t piece_end = end;
-        if (next != nullptr) {
-            piece_end = std::min(end, is_inside ? next->at + next->length : next->at);
-        }
-        const std::size_t length = piece_end - begin;
-        if (is_inside) {
-            pieces_.push_back(
-                {at, length, next->source, next->rule, next->file, next->line_number});
-        } else {
-            pieces_.push_back({at, length, {rewritten.begin_of(begin), length}, nullptr});
-        }
-        at += length;
-        begin = piece_end;
-    }
+    if (closing > 0) map_.replaced(closing, {window.source_offset(cutter.end()), 0});
 }
 
 }  // namespace kavi::host

@@ -7,15 +7,11 @@
 #include <vector>
 
 #include "for_host_layer.h"
+#include "source_map.h"
 #include "text_window.h"
 #include "tts_places.h"
-#include "tts_rewriter.h"
 
 namespace kavi::host {
-
-inline bool is_copy(const SourcePiece& piece) {
-    return piece.length == piece.source.length && piece.rule == nullptr;
-}
 
 // Which pieces stand for what, asked for one place after the other.
 class PieceCursor {
@@ -48,7 +44,7 @@ class PieceCursor {
     }
 
   private:
-    void look_at_piece() { after_copy_ = is_copy(*piece_) ? piece_->at + piece_->length + 1 : 0; }
+    void look_at_piece() { after_copy_ = piece_->is_copy ? piece_->at + piece_->length + 1 : 0; }
 
     static TextRange source_of_any(const SourcePiece* piece, const SourcePiece* last,
                                    std::size_t at, std::size_t length);
@@ -70,19 +66,11 @@ class SentenceSource : public tn::CutObserver {
     }
 
     // After it was cut, and before the window moves on.
-    void find_pieces(const TextWindow& window, const tn::SentenceCutter& cutter);
+    void find_pieces(TextWindow& window, const tn::SentenceCutter& cutter);
 
-    // After that, when what was read was rewritten: makes them pieces of the text as it was
-    // written.
-    void find_as_written(const RewrittenText& rewritten);
-
-    const std::vector<SourcePiece>& pieces() const { return pieces_; }
+    const std::vector<SourcePiece>& pieces() const { return map_.pieces(); }
 
   private:
-    void find_several(const TextWindow& window, const tn::SentenceCutter& cutter);
-    void add_as_written(std::size_t at, std::size_t begin, std::size_t end,
-                        const RewrittenText& rewritten);
-
     struct Replacement {
         std::string_view source;  // in the window
         std::size_t at;
@@ -90,8 +78,7 @@ class SentenceSource : public tn::CutObserver {
     };
 
     std::vector<Replacement> replacements_;
-    std::vector<SourcePiece> pieces_;
-    std::vector<SourcePiece> as_read_;
+    SourceMap map_;
 };
 
 }  // namespace kavi::host

@@ -29,6 +29,28 @@ std::size_t tag_length(std::string_view text) {
     return tag->kind == tn::TagKind::kept && end >= tn::WORD_LENGTH_MAX ? 0 : end + 1;
 }
 
+bool is_of_tag_name(char c) {
+    return tn::is_letter(c) || tn::is_digit(c) || c == '-' || c == ':';
+}
+
+// The length of a tag as HTML, XML and SSML have them at the start of `text`, which begins with
+// "<"; 0 for none. A longer one is taken for text.
+std::size_t foreign_tag_length(std::string_view text) {
+    constexpr std::size_t LONGEST = 256;
+    const std::size_t end = text.substr(0, LONGEST).find_first_of("<>", 1);
+    if (end == std::string_view::npos || text[end] == '<') return 0;
+    std::string_view inside = text.substr(1, end - 1);
+    if (tn::begins_with(inside, "!") || tn::begins_with(inside, "?")) return end + 1;
+    if (tn::begins_with(inside, "/")) inside.remove_prefix(1);
+    const auto* after_name = std::find_if_not(inside.begin(), inside.end(), is_of_tag_name);
+    if (after_name == inside.begin() || !tn::is_letter(inside[0])) return 0;
+    const bool is_name_alone = after_name == inside.end() || *after_name == '/';
+    const bool has_attributes =
+        !is_name_alone && *after_name == ' ' &&
+        (inside.find('=') != std::string_view::npos || inside.back() == '/');
+    return is_name_alone || has_attributes ? end + 1 : 0;
+}
+
 // Whether text may be cut between two characters without cutting a word, a number or a character.
 bool is_boundary(char before, char after) {
     return !(tn::is_letter(before) && tn::is_letter(after)) &&
@@ -73,12 +95,13 @@ bool FedSpans::value_fits(std::string_view tag) const {
     return values_ + value_length(tag) <= tn::SPAN_CHAIN_MAX;
 }
 
-void FedSpans::open(std::string_view tag, const tn::MarkupTag* row, bool left_out) {
+void FedSpans::open(std::string_view tag, std::size_t offset, const tn::MarkupTag* row,
+                    bool left_out) {
     if (left_out && (deeper_ > 0 || spans_.size() == SPANS_MAX)) {
         ++deeper_;
         return;
     }
-    spans_.push_back({row, value_length(tag) + 1, left_out});
+    spans_.push_back({row, offset, value_length(tag) + 1, left_out});
     if (left_out) return;
     ++n_open_;
     values_ += spans_.back().value_length;
@@ -101,15 +124,38 @@ void FedSpans::close_innermost() {
     spans_.pop_back();
 }
 
+void FedSpans::report_open(std::deque<Diagnostic>& findings) const {
+    for (const Span& span : spans_) {
+        if (!span.left_out) findings.push_back({span.offset, Finding::span_never_closed});
+    }
+}
+
 // ---- feeding ----
 
-void TextWindow::begin(std::string_view text) {
+void TextWindow::begin(std::string_view text, const TextRewriter* rewriter) {
     text_ = text;
-    next_ = begin_ = prefix_ = end_ = origin_ = left_out_ = 0;
+    next_ = begin_ = prefix_ = end_ = origin_ = 0;
     next_tag_ = next_tag_end_ = next_nul_ = not_spoken_end_ = 0;
     spans_.clear();
-    gaps_.clear();
+    map_.clear();
     findings_.clear();
+    rewriter_ = rewriter;
+    rewriting_ = {};
+    find_rewriting();
+}
+
+// The next rewriting of what has not been fed. One that is inside a tag is passed over.
+void TextWindow::find_rewriting() {
+    words_fed_ = 0;
+    bool found = false;
+    do {
+        found = rewriter_ != nullptr && rewriter_->next(text_, rewriting_);
+    } while (found && rewriting_.source.offset < next_);
+    next_rewriting_ = found ? rewriting_.source.offset : text_.size();
+    const auto is_no_word = [](char c) { return c == '<' || c == '\0'; };
+    if (found) {
+        std::replace_if(rewriting_.words.begin(), rewriting_.words.end(), is_no_word, ' ');
+    }
 }
 
 bool TextWindow::fill(bool& moved) {
@@ -119,6 +165,7 @@ bool TextWindow::fill(bool& moved) {
         origin_ += begin_;
         end_ = length();
         begin_ = 0;
+        map_.drop_before(origin_ + prefix_);
         while (!holds_rest() && room() > 0 && feed()) {
         }
     }
@@ -136,6 +183,8 @@ std::size_t TextWindow::find_from_here(char c, std::size_t most, std::size_t& me
 }
 
 bool TextWindow::feed() {
+    if (next_ > next_rewriting_) find_rewriting();
+    if (next_ == next_rewriting_) return feed_rewriting();
     switch (text_[next_]) {
         case '<': return feed_tag();
         case '\0': return copy_without_nuls(rest().substr(0, 1));
@@ -143,22 +192,42 @@ bool TextWindow::feed() {
     }
 }
 
+// As many of the words as there is room for. Where those before were cut off, the rest has no
+// source.
+bool TextWindow::feed_rewriting() {
+    const std::string_view words = std::string_view(rewriting_.words).substr(words_fed_, room());
+    std::memcpy(buffer_ + end_, words.data(), words.size());
+    const std::vector<SourcePiece>& fed = map_.pieces();
+    const bool goes_on = words_fed_ > 0 && !fed.empty() && fed.back().source.length > 0;
+    const std::size_t source_end = rewriting_.source.offset + rewriting_.source.length;
+    const bool has_source = words_fed_ == 0 || goes_on;
+    map_.replaced(words.size(), has_source ? rewriting_.source : TextRange{source_end, 0},
+                  rewriting_.by);
+    end_ += words.size();
+    words_fed_ += words.size();
+    if (words_fed_ == rewriting_.words.size()) {
+        next_ = source_end;
+        find_rewriting();
+    }
+    return true;
+}
+
 bool TextWindow::feed_run() {
-    const std::size_t end = std::min(find_from_here('<', CAPACITY, next_tag_),
-                                     find_from_here('\0', CAPACITY, next_nul_));
+    const std::size_t end = std::min({find_from_here('<', CAPACITY, next_tag_),
+                                      find_from_here('\0', CAPACITY, next_nul_), next_rewriting_});
     const std::string_view run = text_.substr(next_, std::min(end - next_, room()));
     report_not_spoken(run);
     return copy(run);
 }
 
-// Reports each stretch of bytes outside ASCII, as far as the text goes; one that the last run ended
-// with has been reported.
+// Reports each stretch of bytes outside ASCII, to where it ends in the text; one that the last run
+// ended with has been reported.
 void TextWindow::report_not_spoken(std::string_view run) {
     const std::size_t run_end = next_ + run.size();
     std::size_t at = std::max(next_, not_spoken_end_);
     while ((at = find_outside_ascii(text_, at, run_end)) < run_end) {
         not_spoken_end_ = at;
-        while (not_spoken_end_ < text_.size() && is_outside_ascii(text_[not_spoken_end_])) {
+        while (not_spoken_end_ < next_rewriting_ && is_outside_ascii(text_[not_spoken_end_])) {
             ++not_spoken_end_;
         }
         findings_.push_back({at, Finding::not_spoken, not_spoken_end_ - at});
@@ -169,7 +238,7 @@ void TextWindow::report_not_spoken(std::string_view run) {
 bool TextWindow::feed_tag() {
     const std::string_view here = rest();
     const tn::MarkupTag* row = tn::find_markup_tag(here);
-    if (row == nullptr) return copy(here.substr(0, 1));
+    if (row == nullptr) return feed_other_tag();
     const std::size_t end = find_from_here('>', std::string_view::npos, next_tag_end_);
     if (end == text_.size()) return feed_as_text(Finding::tag_never_closed, true);
     const std::string_view tag = here.substr(0, end + 1 - next_);
@@ -179,6 +248,14 @@ bool TextWindow::feed_tag() {
         case tn::TagKind::removed: return feed_removed(tag);
         default: return feed_kept(tag);
     }
+}
+
+// A "<" that the engine reads as text, also where a tag of another language begins.
+bool TextWindow::feed_other_tag() {
+    if (const std::size_t length = foreign_tag_length(rest()); length > 0) {
+        findings_.push_back({next_, Finding::foreign_tag, length});
+    }
+    return copy(rest().substr(0, 1));
 }
 
 bool TextWindow::feed_kept(std::string_view tag) {
@@ -218,6 +295,7 @@ bool TextWindow::ends_in_tag_beginning() const {
 // A tag that is left out takes its closing tag with it.
 bool TextWindow::feed_opening(std::string_view tag, const tn::MarkupTag* row) {
     const bool too_long = tag.size() > tn::SAVED_TAG_MAX;
+    const std::size_t offset = next_;
     const bool left_out = too_long || !spans_.has_room() || !spans_.value_fits(tag);
     if (left_out) {
         report(too_long            ? Finding::tag_too_long
@@ -227,7 +305,7 @@ bool TextWindow::feed_opening(std::string_view tag, const tn::MarkupTag* row) {
     } else if (!copy_without_nuls(tag)) {
         return false;
     }
-    spans_.open(tag, row, left_out);
+    spans_.open(tag, offset, row, left_out);
     return true;
 }
 
@@ -245,6 +323,7 @@ bool TextWindow::feed_closing(std::string_view tag, const tn::MarkupTag* opening
 bool TextWindow::copy(std::string_view piece) {
     if (piece.size() > room()) return false;
     std::memcpy(buffer_ + end_, piece.data(), piece.size());
+    map_.copied(next_, piece.size());
     end_ += piece.size();
     next_ += piece.size();
     return true;
@@ -266,16 +345,19 @@ bool TextWindow::copy_without_nuls(std::string_view piece) {
 // make a tag together.
 bool TextWindow::leave_out(std::size_t length) {
     buffer_[end_++] = ' ';
-    gaps_.push_back({origin_ + end_, length - 1});
+    map_.replaced(1, {next_, length});
     next_ += length;
     return true;
 }
 
 // ---- reading ----
 
-std::size_t TextWindow::cut_position(std::size_t size) const {
+std::size_t TextWindow::cut_position(std::size_t size, bool inside_rewritings) const {
     const std::string_view text(buffer_ + begin_, length());
     const std::size_t limit = prefix_ + size;
+    const auto may_cut = [&](std::size_t at) {
+        return inside_rewritings || map_.is_joint(origin_ + begin_ + at);
+    };
     std::size_t after_blank = 0;
     std::size_t between = 0;  // words, numbers, characters or tags
     std::size_t within = 0;   // a word that is longer than any that is read whole
@@ -285,16 +367,16 @@ std::size_t TextWindow::cut_position(std::size_t size) const {
         const std::size_t tag = tag_length(here);
         next = at + std::max<std::size_t>(tag, 1);
         if (!is_removed_tag(here, tag)) {
-            if (at > prefix_ && is_boundary(before, here[0])) between = at;
+            if (at > prefix_ && is_boundary(before, here[0]) && may_cut(at)) between = at;
             before = text[next - 1];
         }
-        if (at > prefix_ && at <= limit) within = at;
+        if (at > prefix_ && at <= limit && may_cut(at)) within = at;
         if (next > limit) {
             if (after_blank != 0) return after_blank;
             if (between != 0) return between;
             if (within != 0 && next - prefix_ > tn::WORD_LENGTH_MAX) return within;
         }
-        if (here[0] == ' ') after_blank = next;
+        if (here[0] == ' ' && may_cut(next)) after_blank = next;
     }
     return text.size();
 }
@@ -302,11 +384,7 @@ std::size_t TextWindow::cut_position(std::size_t size) const {
 // The tags are written over what has been consumed, which they come from: so there is room.
 void TextWindow::consume(const char* rest, const SsmlTagArr& open) {
     begin_ = static_cast<std::size_t>(rest - buffer_);
-    const std::size_t position = origin_ + begin_;
-    while (!gaps_.empty() && gaps_.front().at <= position) {
-        left_out_ += gaps_.front().length;
-        gaps_.pop_front();
-    }
+    map_.detach_at(origin_ + begin_);
     prefix_ = 0;
     for (int i = open.begin_arr_len - 1; i >= 0; --i) {
         const std::string_view tag = open.begin_tag_arr[i];
@@ -316,42 +394,15 @@ void TextWindow::consume(const char* rest, const SsmlTagArr& open) {
     }
 }
 
-std::size_t TextWindow::source_offset(const char* at) const {
-    const auto index = std::max(static_cast<std::size_t>(at - buffer_), begin_ + prefix_);
-    std::size_t offset = origin_ + index + left_out_;
-    for (const Gap& gap : gaps_) {
-        if (gap.at > origin_ + index) break;
-        offset += gap.length;
+void TextWindow::append_sources(const char* begin, const char* end, SourceMap& sentence) const {
+    const char* const first_fed = buffer_ + begin_ + prefix_;
+    if (begin < first_fed) {  // tags that were written again
+        const char* const prefix_end = std::min(end, first_fed);
+        sentence.replaced(static_cast<std::size_t>(prefix_end - begin),
+                          {source_offset(first_fed), 0});
+        begin = prefix_end;
     }
-    return offset;
-}
-
-// The opening tags that were written again.
-void TextWindow::Sources::pass_prefix(std::size_t index) {
-    const std::size_t prefix_end = window_.begin_ + window_.prefix_;
-    const std::size_t length = std::min(index, prefix_end) - from_;
-    add(length, {window_.origin_ + prefix_end + window_.left_out_, 0}, nullptr);
-    from_ += length;
-}
-
-// What was left out, a blank stands for it.
-void TextWindow::Sources::pass_gap() {
-    copy_up_to(next_gap_->at - window_.origin_ - 1);
-    const std::size_t begin = offset();
-    pass(from_ + 1);
-    add(1, {begin, offset() - begin}, nullptr);
-}
-
-void TextWindow::Sources::replaced(std::string_view source, std::size_t length) {
-    const std::size_t begin = offset();
-    pass(from_ + source.size());
-    add(length, {begin, offset() - begin}, length > 0 ? "abbreviation" : nullptr);
-}
-
-// Passes bytes of the window that have been told of, and what is left out among them.
-void TextWindow::Sources::pass(std::size_t index) {
-    for (; is_gap_up_to(index); ++next_gap_) left_out_ += next_gap_->length;
-    from_ = index;
+    if (begin < end) sentence.append(map_, position(begin), position(end));
 }
 
 }  // namespace kavi::host

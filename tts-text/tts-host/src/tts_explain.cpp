@@ -171,11 +171,11 @@ class RunsOfText {
     // What stands at `at` of the sentence may have been rewritten by a rule.
     void rewrite(std::size_t at) {
         while (piece_ != last_piece_ && piece_->at + piece_->length <= at) ++piece_;
-        if (piece_->rule == nullptr) return;
-        run_.rule = piece_->rule;
-        if (piece_->file != nullptr) {
-            rule_ = piece_->rule + (" " + std::string(piece_->file) + ":") +
-                    std::to_string(piece_->line_number);
+        const RuleId& by = piece_->by;
+        if (by.name == nullptr) return;
+        run_.rule = by.name;
+        if (by.file != nullptr) {
+            rule_ = by.name + (" " + std::string(by.file) + ":") + std::to_string(by.line_number);
             run_.rule = rule_;
         }
         run_.is_word = false;

@@ -63,18 +63,10 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     void collect_diagnostics(bool done);
     bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
-    // Where in the text as it was written a place of the one that is read is: an end, or a begin.
-    std::size_t written_end(std::size_t at) const {
-        return rewriter_ != nullptr ? rewritten_.end_of(at) : at;
-    }
-    std::size_t written_begin(std::size_t at) const {
-        return rewriter_ != nullptr ? rewritten_.begin_of(at) : at;
-    }
-    Diagnostic as_written(const Diagnostic& diagnostic) const;
-
     // While a sentence is read.
     void on_plain_text(std::string_view source, int output_length) override {
         reading_places_.add_plain_text(source, output_length);
+        findings_.add_plain_text(source, output_length);
     }
     void on_step(const tn::SectionDispatcher& step) override {
         reading_places_.add_step(step);
@@ -88,7 +80,6 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     mem_stack_handle arena_;
     void (*destroy_)(mem_stack_handle);
     const TextRewriter* rewriter_ = nullptr;
-    RewrittenText rewritten_;  // the text that is read, if there is a rewriter
     bool is_reading_ = false;
     host::TextWindow window_;
     host::SentenceSource source_;
@@ -114,16 +105,12 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
     const Session session(*this);
     bool all_read = true;
     std::size_t begin = 0;  // of the next sentence's source
-    if (rewriter_ != nullptr) {
-        rewriter_->rewrite(text, rewritten_);
-        window_.begin(rewritten_.text);
-    } else {
-        window_.begin(text);
-    }
+    window_.begin(text, rewriter_);
+    findings_.begin_text();
     for (bool moved = false; window_.fill(moved);) {
         if (moved) abbreviations_.reset();
         const bool done = read_piece();
-        const std::size_t end = written_end(window_.source_offset(rest_));
+        const std::size_t end = window_.source_offset(rest_);
         collect_diagnostics(done);
         if (!report(end, on_diagnostic)) return false;
         if (!done) {
@@ -143,18 +130,22 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
         window_.consume(rest_, cutter_->open_tags());
     }
     diagnostics_.clear();
+    window_.report_open_spans();
     return report(text.size(), on_diagnostic) && all_read;
 }
 
 // The first sentence of the window, or of a shorter and shorter piece of it until the engine's
-// buffers and the arena hold what it reads as. False when not even the shortest was read.
+// buffers and the arena hold what it reads as: as a last resort inside the words of a rewriting.
+// False when not even the shortest was read.
 bool TtsHost::State::read_piece() {
     bool done = read_sentence(window_.length());
     if (rest_ == window_.text() + window_.length() && !window_.holds_rest()) done = false;
-    for (std::size_t size = LONG_PIECE; !done && size >= SHORTEST_PIECE; size /= 2) {
-        abbreviations_.reset();  // what it remembers is of another piece
-        done = read_sentence(window_.cut_position(size));
-        abbreviations_.reset();
+    for (const bool inside_rewritings : {false, true}) {
+        for (std::size_t size = LONG_PIECE; !done && size >= SHORTEST_PIECE; size /= 2) {
+            abbreviations_.reset();  // what it remembers is of another piece
+            done = read_sentence(window_.cut_position(size, inside_rewritings));
+            abbreviations_.reset();
+        }
     }
     return done;
 }
@@ -173,7 +164,7 @@ bool TtsHost::State::read_sentence(std::size_t cut) {
     rest_ = cutter_->rest().data();
     text[cut] = after;
     are_pieces_known_ = are_words_known_ = false;
-    findings_.begin(normalized_);
+    findings_.begin(normalized_, speakable_);
     reading_places_.begin(normalized_, speakable_);
     return well_formed && cutter_->length() <= SENTENCE_MAX &&
            tn::tokenize(normalized_, speakable_, this) == 0 &&
@@ -199,12 +190,15 @@ void TtsHost::State::collect_diagnostics(bool done) {
     diagnostics_.clear();
     if (!done) {
         const std::size_t begin = window_.source_offset(window_.text());
-        diagnostics_.push_back({written_begin(begin), Finding::arena_too_small});
+        diagnostics_.push_back({begin, Finding::arena_too_small});
         return;
     }
     // They come nearly in the order of their offsets.
-    for (const Diagnostic& finding : findings_.findings()) {
+    for (const Diagnostic& finding : findings_.tell()) {
         const Diagnostic found = {source_of(finding.offset, 1).offset, finding.finding};
+        const bool is_told = finding.finding == Finding::mark_not_spoken &&
+                             window_.has_finding_at(found.offset);  // of a "<"
+        if (is_told) continue;
         diagnostics_.insert(
             std::upper_bound(diagnostics_.begin(), diagnostics_.end(), found, is_before), found);
     }
@@ -220,7 +214,7 @@ bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnos
     };
     const auto report_text_before = [&](std::size_t offset) {
         while (!in_text.empty()) {
-            const Diagnostic first = as_written(in_text.front());
+            const Diagnostic first = in_text.front();
             if (first.offset >= offset) break;
             in_text.pop_front();
             if (!hand_over(first)) return false;
@@ -233,16 +227,9 @@ bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnos
     return report_text_before(end);
 }
 
-Diagnostic TtsHost::State::as_written(const Diagnostic& diagnostic) const {
-    const std::size_t begin = written_begin(diagnostic.offset);
-    const std::size_t end = written_end(diagnostic.offset + diagnostic.length);
-    return {begin, diagnostic.finding, end - begin};
-}
-
 const std::vector<SourcePiece>& TtsHost::State::pieces() {
     if (!are_pieces_known_) {
         source_.find_pieces(window_, *cutter_);
-        if (rewriter_ != nullptr) source_.find_as_written(rewritten_);
         are_pieces_known_ = true;
     }
     return source_.pieces();

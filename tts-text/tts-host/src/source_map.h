@@ -1,0 +1,70 @@
+// Which bytes of a text each byte of another text comes from that was made of it.
+#ifndef KAVI_HOST_SOURCE_MAP_H
+#define KAVI_HOST_SOURCE_MAP_H
+
+#include <cstddef>
+#include <vector>
+
+#include "tts_places.h"
+
+namespace kavi::host {
+
+// Pieces of the made text, in order and without a gap, each with its source. Pieces are appended at
+// the end and dropped from the front. Positions count bytes of the made text from its beginning,
+// whatever has been dropped; each position that is asked for is in a piece or at the end.
+class SourceMap {
+  public:
+    void clear() {
+        pieces_.clear();
+        end_ = 0;
+    }
+
+    // ---- the made text goes on with ----
+
+    // A copy of `length` bytes at `offset`.
+    void copied(std::size_t offset, std::size_t length);
+
+    // `length` bytes that stand for `source` as a whole, or go on with what does; without a length:
+    // what was removed, and without a source: what was added. `by` may name the rule that wrote
+    // them.
+    void replaced(std::size_t length, TextRange source, const RuleId& by = {});
+
+    // What `map` has from `begin` to `end`.
+    void append(const SourceMap& map, std::size_t begin, std::size_t end);
+
+    // ----
+
+    // Drops the pieces that end at `position` or before.
+    void drop_before(std::size_t position);
+
+    // From now on a piece that goes on after `position`, and is no copy, has no source there: it
+    // was that of the bytes before.
+    void detach_at(std::size_t position);
+
+    // Where the byte at `position` comes from: for one inside a piece that is no copy the end of
+    // its source. At the end, where the source of the last piece ends.
+    std::size_t offset_of(std::size_t position) const;
+
+    // The source of the bytes from `begin` to `end`: all of what was replaced for any of them. Of
+    // an empty range, an empty one.
+    TextRange source_of(std::size_t begin, std::size_t end) const;
+
+    // Whether the text may be parted at `position`: in a copy, or between two pieces.
+    bool is_joint(std::size_t position) const;
+
+    const std::vector<SourcePiece>& pieces() const { return pieces_; }
+    std::size_t end() const { return end_; }
+
+  private:
+    using Iterator = std::vector<SourcePiece>::const_iterator;
+
+    // The piece with the byte at `position`, or the end.
+    Iterator piece_at(std::size_t position) const;
+
+    std::vector<SourcePiece> pieces_;
+    std::size_t end_ = 0;
+};
+
+}  // namespace kavi::host
+
+#endif  // KAVI_HOST_SOURCE_MAP_H

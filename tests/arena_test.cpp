@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <random>
+#include <set>
+#include <sstream>
 #include <vector>
 
 #include "EngLexicon.h"
@@ -28,86 +30,78 @@ TEST(Arena, KeepsItsPromisesInAnyOrder) {
     }
 }
 
-TEST(Arena, ABlockCostsLittleMoreThanItsSize) {
-    for (const std::size_t size : {16U, 1024U, 1280U, 2048U, 32768U, 32784U}) {
-        mem_stack_handle probe = mem_stack_create(0);
-        EXPECT_NE(mem_stack_request_buf(size, MEM_COMMON, probe), nullptr);
-        const std::size_t cost = mem_stack_used(probe);
-        EXPECT_LE(cost, size + 16);
-        mem_stack_destroy(probe);
-        mem_stack_handle exact = mem_stack_create(cost);
-        EXPECT_NE(mem_stack_request_buf(size, MEM_COMMON, exact), nullptr);
-        mem_stack_destroy(exact);
-    }
-}
+// The steps of tests/tables/arena.txt on an arena.
+class Steps {
+  public:
+    explicit Steps(std::size_t capacity)
+        : capacity_(capacity), arena_(mem_stack_create(capacity)) {}
+    ~Steps() { mem_stack_destroy(arena_); }  // takes the blocks that are out with it
 
-TEST(Arena, AFreeBlockServesItsOwnSizeAndPool) {
-    mem_stack_handle arena = mem_stack_create(0);
-    void* small = mem_stack_request_buf(16, MEM_COMMON, arena);
-    const std::size_t cost = mem_stack_used(arena);
-    void* larger = mem_stack_request_buf(32, MEM_COMMON, arena);
-    mem_stack_release_buf(small, 0, MEM_COMMON, arena);
-    mem_stack_release_buf(larger, 0, MEM_COMMON, arena);
-    EXPECT_EQ(mem_stack_request_buf(16, MEM_MAX_CNT, arena), nullptr);
-    EXPECT_EQ(mem_stack_request_buf(2000, MEM_MAX_CNT, arena), nullptr);
-    EXPECT_EQ(mem_stack_request_buf(16, MEM_COMMON, arena), small);
-    EXPECT_EQ(mem_stack_used(arena), cost);
-    mem_stack_destroy(arena);
-}
-
-TEST(Arena, StartsAnewInItsFirstChunk) {
-    mem_stack_handle arena = mem_stack_create(190000);
-    // Each finds no room in what the last round has left, and no block that would serve.
-    for (std::size_t size : {32000U, 18000U, 9000U}) {
-        std::vector<void*> blocks;
-        while (void* block = mem_stack_request_buf(size, MEM_COMMON, arena)) {
-            EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % alignof(std::max_align_t), 0U);
-            blocks.push_back(block);
-            size = 1000;
+    // What came of a step.
+    std::string take(const std::string& step) {
+        const std::size_t taken = mem_stack_taken(arena_);
+        std::string came = step[0] == '-' ? release(step) : request(step);
+        came += ":" + std::to_string(mem_stack_used(arena_));
+        if (capacity_ != 0) {
+            EXPECT_LE(mem_stack_taken(arena_), 2 * capacity_ + 65536);
         }
-        EXPECT_GT(blocks.size(), 120U);
-        for (void* block : blocks) mem_stack_release_buf(block, 0, MEM_COMMON, arena);
+        return mem_stack_taken(arena_) > taken ? came + "+" : came;
     }
-    mem_stack_destroy(arena);
-}
 
-TEST(Arena, WhatIsLeftOfAChunkServesLater) {
-    mem_stack_handle arena = mem_stack_create(0);
-    EXPECT_NE(mem_stack_request_buf(45024, MEM_COMMON, arena), nullptr);
-    EXPECT_NE(mem_stack_request_buf(45024, MEM_COMMON, arena), nullptr);  // of another chunk
-    EXPECT_NE(mem_stack_request_buf(10000, MEM_COMMON, arena), nullptr);
-    const std::size_t taken = mem_stack_taken(arena);
-    EXPECT_GE(taken, mem_stack_used(arena));
-    EXPECT_NE(mem_stack_request_buf(20480, MEM_COMMON, arena), nullptr);  // all of the first
-    EXPECT_EQ(mem_stack_taken(arena), taken);
-    mem_stack_destroy(arena);
-}
-
-TEST(Arena, AFreeLargeBlockServesAgain) {
-    mem_stack_handle arena = mem_stack_create(0);
-    void* block = mem_stack_request_buf(50000, MEM_COMMON, arena);
-    const std::size_t cost = mem_stack_used(arena);
-    for (const std::size_t size : {50000U, 45000U}) {
-        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
-        EXPECT_EQ(mem_stack_request_buf(size, MEM_COMMON, arena), block);
-        EXPECT_EQ(mem_stack_used(arena), cost);
+  private:
+    static std::size_t number(const char* digits, char** end) {
+        return static_cast<std::size_t>(std::strtoull(digits, end, 10));
     }
-    mem_stack_destroy(arena);
-}
 
-TEST(Arena, AFreeBlockServesWhatIsALittleSmaller) {
-    mem_stack_handle arena = mem_stack_create(0);
-    void* block = mem_stack_request_buf(5120, MEM_COMMON, arena);
-    const std::size_t cost = mem_stack_used(arena);
-    for (const std::size_t size : {5000U, 4000U, 3500U}) {
-        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
-        EXPECT_EQ(mem_stack_request_buf(size, MEM_COMMON, arena), block) << size;
-        EXPECT_EQ(mem_stack_used(arena), cost) << size;
+    std::string request(const std::string& step) {
+        const bool is_refused = step[0] == 'm';
+        const tag_mem_type pool = step[0] == 'p' ? MEM_MAX_CNT : MEM_COMMON;
+        char* end = nullptr;
+        const std::size_t size = number(step.c_str() + (is_refused || pool != MEM_COMMON), &end);
+        const std::size_t n = *end == 'x' ? number(end + 1, nullptr) : *end == '*' ? HUGE_SIZE : 1;
+        std::size_t came = 0;
+        std::string name = "none";
+        for (; came < n; ++came) {
+            RefusedMalloc refused;
+            if (!is_refused) RefusedMalloc::end();
+            void* block = mem_stack_request_buf(size, pool, arena_);
+            RefusedMalloc::end();
+            if (block == nullptr) break;
+            std::memset(block, 1, size);
+            const auto seen = std::find(blocks_.begin(), blocks_.end(), block);
+            name = std::to_string(seen - blocks_.begin());
+            if (seen == blocks_.end()) blocks_.push_back(block);
+            EXPECT_TRUE(in_use_.insert(block).second) << "handed out twice: " << step;
+        }
+        return n == 1 ? name : "x" + std::to_string(came);
     }
-    mem_stack_release_buf(block, 0, MEM_COMMON, arena);
-    EXPECT_NE(mem_stack_request_buf(3000, MEM_COMMON, arena), block);
-    EXPECT_LT(mem_stack_used(arena), 3500U);
-    mem_stack_destroy(arena);
+
+    // "-5": that block; "-5+": and all after it.
+    std::string release(const std::string& step) {
+        char* end = nullptr;
+        std::size_t i = number(step.c_str() + 1, &end);
+        do {
+            if (in_use_.erase(blocks_[i]) > 0) {
+                mem_stack_release_buf(blocks_[i], 0, MEM_COMMON, arena_);
+            }
+        } while (*end == '+' && ++i < blocks_.size());
+        return "";
+    }
+
+    std::size_t capacity_;
+    mem_stack_handle arena_;
+    std::vector<void*> blocks_;
+    std::set<void*> in_use_;
+};
+
+TEST(Arena, GivesBlocksAsInTheTable) {
+    for (const TableRow& row : read_table("arena")) {
+        Steps steps(std::stoul(row[0]));
+        std::istringstream in(row[1]);
+        std::string came;
+        for (std::string step; in >> step;) came += (came.empty() ? "" : " ") + steps.take(step);
+        EXPECT_EQ(came, row[2]) << row[0] << ": " << row[1];
+    }
 }
 
 TEST(Arena, AFreeBlockServesNoneOfAnotherClass) {
@@ -124,120 +118,18 @@ TEST(Arena, AFreeBlockServesNoneOfAnotherClass) {
     }
 }
 
-// What was given back in one size is to be had in another, and nothing more is taken for it.
-TEST(Arena, FreeNeighboursBecomeOneBlock) {
-    mem_stack_handle arena = mem_stack_create(0);
-    std::vector<void*> blocks;
-    for (int i = 0; i < 1000; ++i) blocks.push_back(mem_stack_request_buf(100, MEM_COMMON, arena));
-    const std::size_t taken = mem_stack_taken(arena);
-    EXPECT_LE(taken, 300000U);
-    for (std::size_t i = 10; i < 1000; ++i) {
-        mem_stack_release_buf(blocks[i], 0, MEM_COMMON, arena);
-    }
-    for (const std::size_t size : {50000U, 1000U, 3000U, 200U, 40000U}) {
-        void* block = mem_stack_request_buf(size, MEM_COMMON, arena);
-        ASSERT_NE(block, nullptr);
-        std::memset(block, 1, size);
-        mem_stack_release_buf(block, size, MEM_COMMON, arena);
-        EXPECT_EQ(mem_stack_taken(arena), taken) << size;
-    }
-    mem_stack_destroy(arena);
-    EXPECT_EQ(mem_stack_taken(nullptr), 0U);
-}
-
-TEST(Arena, CapacityBoundsWhatIsInUseAndRefusalHarmsNothing) {
-    for (const std::size_t size : {std::size_t{1}, std::size_t{500}, std::size_t{40000}}) {
-        mem_stack_handle arena = mem_stack_create(100000);
-        std::vector<void*> blocks;
-        while (void* p = mem_stack_request_buf(size, MEM_COMMON, arena)) {
-            std::memset(p, 1, size);
-            blocks.push_back(p);
-        }
-        EXPECT_LE(mem_stack_used(arena), 100000U);
-        EXPECT_GT(mem_stack_used(arena) + size + 1100, 100000U) << "refused long before the end";
-        mem_stack_release_buf(blocks.back(), size, MEM_COMMON, arena);
-        blocks.back() = mem_stack_request_buf(size, MEM_COMMON, arena);
-        EXPECT_NE(blocks.back(), nullptr) << "usable again after a refusal";
-        mem_stack_destroy(arena);  // takes the blocks that are out with it
-    }
-}
-
-// In each chunk, a small block that stays out cuts what is free into pieces that are too small for
-// the next.
-TEST(Arena, TakesNoMoreThanIsPromisedAndHandsNothingOutTwice) {
-    constexpr std::size_t CAPACITY = 100000;
-    mem_stack_handle arena = mem_stack_create(CAPACITY);
-    std::size_t size = 33000;
-    for (; void* block = mem_stack_request_buf(size, MEM_COMMON, arena); size += 1000) {
-        EXPECT_NE(mem_stack_request_buf(40, MEM_COMMON, arena), nullptr);
-        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
-        ASSERT_LE(mem_stack_taken(arena), 2 * CAPACITY + 65536);
-        ASSERT_LT(size, 60000U);
-    }
-    EXPECT_GT(size, 35000U);
-    std::vector<void*> blocks;
-    while (void* block = mem_stack_request_buf(100, MEM_COMMON, arena)) {
-        blocks.push_back(std::memset(block, 1, 100));
-    }
-    EXPECT_GT(blocks.size(), 770U);
-    std::sort(blocks.begin(), blocks.end());
-    EXPECT_EQ(std::adjacent_find(blocks.begin(), blocks.end()), blocks.end());
-    mem_stack_destroy(arena);
-}
-
-TEST(Arena, AFreeBlockIsRefusedWhereTheCapacityEnds) {
-    mem_stack_handle arena = mem_stack_create(120);
-    void* block = mem_stack_request_buf(32, MEM_COMMON, arena);
-    mem_stack_release_buf(block, 32, MEM_COMMON, arena);
-    EXPECT_NE(mem_stack_request_buf(64, MEM_COMMON, arena), nullptr);
-    EXPECT_EQ(mem_stack_request_buf(32, MEM_COMMON, arena), nullptr);
-    mem_stack_destroy(arena);
-}
-
-TEST(Arena, RefusesWhatCannotBeHad) {
-    mem_stack_handle arena = mem_stack_create(0);
-    EXPECT_EQ(mem_stack_request_buf(HUGE_SIZE, MEM_COMMON, arena), nullptr);
-    EXPECT_EQ(mem_stack_request_buf(HUGE_SIZE / 2, MEM_COMMON, arena), nullptr);
-    EXPECT_EQ(mem_stack_request_buf(8, MEM_MAX_CNT, arena), nullptr);
-    EXPECT_EQ(mem_stack_request_buf(8, MEM_COMMON, nullptr), nullptr);
-    EXPECT_EQ(mem_stack_release_buf(nullptr, 0, MEM_COMMON, arena), 0);
-    EXPECT_EQ(mem_stack_used(arena), 0U);
-    EXPECT_EQ(mem_stack_peak(arena), 0U);
-    void* nothing = mem_stack_request_buf(0, MEM_COMMON, arena);
-    EXPECT_NE(nothing, nullptr);
-    EXPECT_EQ(mem_stack_release_buf(nothing, 0, MEM_COMMON, arena), 0);
-    mem_stack_destroy(arena);
-    mem_stack_destroy(nullptr);
-    EXPECT_EQ(mem_stack_used(nullptr) + mem_stack_peak(nullptr), 0U);
-    EXPECT_EQ(mem_stack_release_buf(arena, 0, MEM_COMMON, nullptr), 0);
-}
-
-TEST(Arena, OutlivesASystemWithoutMemory) {
+TEST(Arena, ThatIsNoneHasNothing) {
     RefusedMalloc refused;
     EXPECT_EQ(mem_stack_create(0), nullptr);
     refused.end();
     mem_stack_handle arena = mem_stack_create(0);
-    for (const std::size_t size : {std::size_t{8}, std::size_t{400000}}) {
-        refused.begin();
-        EXPECT_EQ(mem_stack_request_buf(size, MEM_COMMON, arena), nullptr);
-        refused.end();
-        EXPECT_EQ(mem_stack_used(arena), 0U);
-        void* block = mem_stack_request_buf(size, MEM_COMMON, arena);
-        EXPECT_NE(block, nullptr) << "usable again";
-        mem_stack_release_buf(block, size, MEM_COMMON, arena);
-    }
+    EXPECT_EQ(mem_stack_request_buf(8, MEM_COMMON, nullptr), nullptr);
+    EXPECT_EQ(mem_stack_release_buf(nullptr, 0, MEM_COMMON, arena), 0);
+    EXPECT_EQ(mem_stack_used(arena) + mem_stack_peak(arena), 0U);
+    EXPECT_EQ(mem_stack_release_buf(arena, 0, MEM_COMMON, nullptr), 0);
+    EXPECT_EQ(mem_stack_used(nullptr) + mem_stack_peak(nullptr) + mem_stack_taken(nullptr), 0U);
     mem_stack_destroy(arena);
-    // Neighbours become one block before a request is refused for want of memory.
-    arena = mem_stack_create(0);
-    std::vector<void*> blocks;
-    for (int i = 0; i < 64; ++i) blocks.push_back(mem_stack_request_buf(1000, MEM_COMMON, arena));
-    for (const unsigned i : {10U, 11U, 12U}) mem_stack_release_buf(blocks[i], 0, MEM_COMMON, arena);
-    refused.begin();
-    EXPECT_EQ(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
-    EXPECT_NE(mem_stack_request_buf(2500, MEM_COMMON, arena), nullptr);
-    EXPECT_EQ(mem_stack_request_buf(20000, MEM_COMMON, arena), nullptr);
-    refused.end();
-    mem_stack_destroy(arena);
+    mem_stack_destroy(nullptr);
 }
 
 TEST(Strings, BoundedAppendIsAllOrNothing) {

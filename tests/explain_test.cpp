@@ -30,6 +30,7 @@ TEST(Explain, RunsTileTheSentenceAsItStands) {
                 EXPECT_EQ(run.source.offset, sections.size()) << row[0];
                 for (const std::string_view section : run.sections) sections += section;
                 EXPECT_EQ(run.source.offset + run.source.length, sections.size()) << row[0];
+                EXPECT_EQ(run.is_word, run.rule == "word") << row[0];
             });
             EXPECT_EQ(sections, row[0]);
         }
@@ -49,20 +50,6 @@ TEST(Explain, RunsStandInTheTextAsInTheTable) {
             nullptr);
         return TableRow{text, runs};
     });
-}
-
-TEST(Explain, TellsWordsThatAreCopied) {
-    std::string words;
-    TtsHost().read(
-        "Dr. Zed has 5",
-        [&](const HostSentence& sentence) {
-            explain(sentence, "Dr. Zed has 5", [&](const ExplainedRun& run) {
-                if (run.is_word) (words += run.reading) += '|';
-            });
-            return true;
-        },
-        nullptr);
-    EXPECT_EQ(words, "Zed |has |");
 }
 
 TEST(Explain, StopsWhereTheOutputIsFull) {

@@ -13,10 +13,23 @@ namespace kavi {
 namespace {
 
 // The words of all records, whatever marks and attributes they have.
-std::vector<std::string> words_of(std::string_view text) {
-    ReadText read = read_by_layer(text);
+std::vector<std::string> words_of(std::string_view text, std::size_t capacity = 0) {
+    ReadText read = read_by_layer(text, capacity);
     EXPECT_TRUE(read.all_read);
     return std::move(read.words);
+}
+
+// The same on one line: "word*9" for nine in a row.
+std::string run_lengths(std::string_view text, std::size_t capacity = 0) {
+    const std::vector<std::string> words = words_of(text, capacity);
+    std::string line;
+    for (auto word = words.begin(); word != words.end();) {
+        const auto end = std::find_if(word, words.end(), [&](const auto& w) { return w != *word; });
+        line += (line.empty() ? "" : " ") + *word;
+        if (end - word > 1) line += "*" + std::to_string(end - word);
+        word = end;
+    }
+    return line;
 }
 
 // A word for every number, without digits and without the end of an abbreviation.
@@ -49,14 +62,6 @@ TEST(Host, ShortTextsComeOutAsByHand) {
         ASSERT_EQ(layer.normalized, hand.normalized) << text;
         ASSERT_EQ(layer.speakable, hand.speakable) << text;
         ASSERT_EQ(layer.records, hand.records) << text;
-    }
-}
-
-// The layer writes the tags of open spans over what it has read, and searched for abbreviations.
-TEST(Host, WhatAnOpenSpanIsWrittenOverIsNotFound) {
-    for (const char* text : {"<poem=a>b. x B. y, b. z</poem>", "<poem=a>dr. x, Dr. y, dr. z</poem>",
-                             "<poem=a><emphasis=b>b. x B. y, b. z</emphasis></poem>"}) {
-        EXPECT_EQ(read_by_layer(text).normalized, read_by_hand(text).normalized);
     }
 }
 
@@ -121,22 +126,14 @@ TEST(Host, NamesOfWhatNoSentenceHas) {
     EXPECT_STREQ(punctuation_name(static_cast<PUNC_type>(POIE_FE + 1)), "unknown");
 }
 
-TEST(Host, SourcesOfSentencesCoverTheText) {
-    const std::string text = "  Dr. X <poem=p>said: \"no!\" \r\n Then</poem> 'left'. ";
-    const ReadText read = read_by_layer(text);
-    EXPECT_EQ(read.covered, text.size());
-    EXPECT_EQ(read.sources, (std::vector<std::string>{"  Dr. X <poem=p>said: \"", "no!\" \r\n",
-                                                      " Then</poem> 'left'. "}));
-    EXPECT_EQ(read.normalized,
-              (std::vector<std::string>{" doctor  X <poem=p>said:</poem>", "<poem=p>no!</poem>",
-                                        "<poem=p> Then</poem> 'left'."}));
-}
-
-TEST(Host, SourcesCoverWhatIsSilentBetweenSentences) {
-    std::string silent;
-    while (silent.size() < 6000) silent += "<pause=3>";
-    const ReadText read = read_by_layer("a. " + silent + "b!  \r ");
-    EXPECT_EQ(read.sources, (std::vector<std::string>{"a. ", silent + "b!  \r"}));
+TEST(Host, SourcesOfSentencesAsInTheTable) {
+    expect_table("sources", [](const std::string& text) {
+        const ReadText read = read_by_layer(text);
+        TableRow row{text, "", ""};
+        for (const std::string& source : read.sources) row[1] += source + "|";
+        for (const std::string& normalized : read.normalized) row[2] += normalized + "|";
+        return row;
+    });
 }
 
 TEST(Host, NoWordOfALongTextIsLost) {
@@ -169,17 +166,16 @@ TEST(Host, LongTextsAreCutAtBlanksAndCarrySpansOn) {
         EXPECT_EQ(read.covered, grown.size()) << piece;
         for (const std::string& speakable : read.speakable) ASSERT_LT(speakable.size(), 4096U);
     }
-    std::string many;
-    for (int i = 0; i < 4000; ++i) many += "ack. ";
-    EXPECT_EQ(words_of(many), std::vector<std::string>(4000, "acknowledge"));
-    // No blank at all: words are cut where they are too long for a section.
-    const std::vector<std::string> pieces = words_of(std::string(100000, 'x'));
-    std::size_t total = 0;
-    for (const std::string& piece : pieces) total += piece.size();
-    EXPECT_EQ(total, 100000U);
-    std::string unbroken;
-    for (int i = 0; i < 10000; ++i) unbroken += "word-";
-    EXPECT_EQ(words_of(unbroken), std::vector<std::string>(10000, "word"));
+}
+
+TEST(Host, WordsOfLongTextsAsInTheTable) {
+    for (const TableRow& row : read_table("words_of_long_texts")) {
+        EXPECT_EQ(run_lengths(row[0]), row[1]);
+        for (std::size_t capacity = row[2].empty() ? 12000 : 4000; capacity < 12000;
+             capacity += 501) {
+            EXPECT_EQ(run_lengths(row[0], capacity), row[1]) << capacity;
+        }
+    }
 }
 
 // The findings of a text as in the table, and the records of all its sentences.
@@ -243,19 +239,6 @@ TEST(Host, TextThatTheEngineDoesNotStopAtComesOutAsByHand) {
     }
 }
 
-TEST(Host, OneObjectReadsTextAfterText) {
-    TtsHost host;
-    const std::string open = "<poem=p>a <emphasis=" + std::string(300, 'x') + ">q. c";
-    for (int round = 0; round < 3; ++round) {
-        EXPECT_EQ(read_by_layer(host, open).records,
-                  (std::vector<std::string>{"|a(poem=p)|q+ju!(poem=p)", "|c(poem=p)"}));
-        const ReadText other = read_by_layer(host, "dr. d</emphasis> </poem>e");
-        EXPECT_EQ(other.records, (std::vector<std::string>{"|doctor|d|e"}));
-        EXPECT_EQ(other.diagnostics.size(), 2U);
-        EXPECT_EQ(read_by_layer(host, "").records.size(), 0U);
-    }
-}
-
 TEST(Host, MarkupThatIsNeverClosedCostsNoMoreTheMoreThereIs) {
     std::string text;
     for (int i = 0; i < 300000; ++i) text += i % 3 == 0 ? "<poem=a>" : "<prosody=b>";
@@ -287,6 +270,8 @@ TEST(Host, AStretchThatIsNotSpokenIsReportedOnceHoweverItIsFed) {
         EXPECT_EQ(read.diagnostics[0].length, 6U);
     }
     EXPECT_TRUE(read_by_layer("a\x7f b").diagnostics.empty());
+    const std::string_view longer = "a\xe2\x82\xac\xe2\x82\xac";  // it ends with the text
+    EXPECT_EQ(read_by_layer(longer.substr(0, 4)).diagnostics.at(0).length, 3U);
 }
 
 TEST(Host, DiagnosticsStandBeforeTheirSentenceInOrder) {
@@ -326,13 +311,6 @@ TEST(Host, HandlersMayBeEmptyThrowOrCallAgain) {
     EXPECT_EQ(next.records, (std::vector<std::string>{"|c+ju!"}));
     ASSERT_EQ(next.diagnostics.size(), 1U);
     EXPECT_EQ(next.diagnostics[0].offset, 1U);
-}
-
-TEST(Host, AStretchThatIsNotSpokenEndsWithTheText) {
-    const std::string_view longer = "a\xe2\x82\xac\xe2\x82\xac";
-    const ReadText read = read_by_layer(longer.substr(0, 4));
-    ASSERT_EQ(read.diagnostics.size(), 1U);
-    EXPECT_EQ(read.diagnostics[0].length, 3U);
 }
 
 TEST(Host, StopsWhenAHandlerSaysSo) {
@@ -382,8 +360,9 @@ TEST(Host, OneTextLeavesNothingToTheNext) {
     std::string deep;
     for (int i = 0; i < 70; ++i) deep += "<poem=" + std::string(200, 'x') + ">";
     for (const std::string& first :
-         {std::string("</poem>a </poem>b"), deep, "<poem=" + std::string(150, 'x') + ">a",
-          std::string(20000, 'a') + "</poem>\xff"}) {
+         {std::string("</poem>a </poem>b"), deep,
+          "<poem=p>a <emphasis=" + std::string(300, 'x') + ">q. c",
+          "<poem=" + std::string(150, 'x') + ">a", std::string(20000, 'a') + "</poem>\xff"}) {
         TtsHost host;
         read_by_layer(host, first);
         host.read(
@@ -410,26 +389,11 @@ TEST(Host, WhatIsPassedOverBelongsToNoSentence) {
 }
 
 TEST(Host, CutsAnywhereLoseNoWord) {
-    // A tag at every place around the end of the buffer.
-    for (std::size_t before = 16340; before < 16390; ++before) {
-        const std::string text =
-            std::string(before, ' ') + "<pause=123><poem=\"x y\">a b</poem><punc=ju> c";
-        EXPECT_EQ(words_of(text), (std::vector<std::string>{"a", "b", "c"})) << before;
-    }
-    // A removed tag inside a word or a number at every place around the end of the buffer.
-    for (std::size_t before = 16340; before < 16390; ++before) {
-        std::string text = std::string(before - 20, ' ') + "dog<orgLen=3>gy 12<pause=1>3 ";
-        const std::vector<std::string> words = words_of(text + "b ");
-        EXPECT_EQ(words, words_of("doggy 123 b")) << before;
-        text.insert(0, std::string(3000, 'a') + " ");
-        EXPECT_EQ(words_of(text + "b ").back(), "b") << before;
-    }
-    // The same after so much that is silent that the sentence itself is short.
-    std::string silent;
-    while (silent.size() < 16330) silent += "<pause=1>";
-    for (std::size_t before = 0; before < 50; ++before) {
-        const std::string text = silent + std::string(before, ' ') + "dog<orgLen=3>gy b";
-        EXPECT_EQ(words_of(text), (std::vector<std::string>{"doggy", "b"})) << before;
+    // The end of the buffer is at every place of the text.
+    for (const TableRow& row : read_table("cuts_anywhere")) {
+        for (std::size_t before = 0; before < 50; ++before) {
+            EXPECT_EQ(run_lengths(row[0] + std::string(before, ' ') + row[1]), row[2]) << before;
+        }
     }
     // Without a blank: between words, between numbers, after a character of several bytes, after
     // a tag; and where there is no such place, within the word.
@@ -448,33 +412,11 @@ TEST(Host, CutsAnywhereLoseNoWord) {
     }
 }
 
-// Tags that are read as text, removed tags and words of any length where a sentence is cut.
-TEST(Host, LongSentencesAreCutBesideWhatIsNoTag) {
-    std::string words = "<punc=x ";
-    for (int i = 0; i < 2500; ++i) words += "a ";
-    EXPECT_EQ(words_of(words).size(), 2504U);  // smaller punc equal x
-    const std::string no_tag = "<punc=" + std::string(600, 'y') + "> ";
-    std::string long_tags;
-    for (int i = 0; i < 12; ++i) long_tags += no_tag + "b ";
-    EXPECT_EQ(words_of(long_tags).back(), "b");
-    EXPECT_EQ(words_of(long_tags).size(), words_of(no_tag + "b ").size() * 12);
-    // Characters of several bytes, and a "<" that begins no tag.
+TEST(Host, LongSentencesAreCutBeforeACharacterOrATag) {
     std::string euros = "<-";
     for (int i = 0; i < 3000; ++i) euros += "\xe2\x82\xac<";
     for (const std::string& source : read_by_layer(euros + "<orgLen=1>").sources) {
         EXPECT_TRUE(source[0] == '<' || source[0] == '\xe2') << source[0];
-    }
-    // Without a blank, and in a small arena.
-    for (const char* piece : {"dog<orgLen=3>gy-", "12<pause=1>3-"}) {
-        std::string unbroken;
-        for (int i = 0; i < 200; ++i) unbroken += piece;
-        const std::string whole = piece[0] == 'd' ? "doggy" : "three";
-        for (std::size_t capacity = 4000; capacity < 12000; capacity += 501) {
-            const ReadText read = read_by_layer(unbroken, capacity);
-            EXPECT_TRUE(read.all_read) << piece << capacity;
-            EXPECT_EQ(std::count(read.words.begin(), read.words.end(), whole), 200)
-                << piece << capacity;
-        }
     }
 }
 

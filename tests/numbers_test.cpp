@@ -22,11 +22,14 @@ TEST_F(Numbers, AreReadByTheirTables) {
     expect("digit_strings", Peer::number_to_string, "replaced");
 }
 
-TEST_F(Numbers, AreAppendedToWhatTheTargetHolds) {
-    EXPECT_EQ(call(Peer::number_read, "7", "abc"), "abc seven ");
-    EXPECT_EQ(call(Peer::number_to_normal, "", "x"), "x");
-    EXPECT_EQ(call(Peer::number_to_normal, "907"), "nine zero seven ");
-    EXPECT_EQ(call(Peer::number_to_normal, "3.5"), "three   five ");
+TEST_F(Numbers, AreAppendedAsInTheTable) {
+    for (const TableRow& row : read_table("appended_numbers")) {
+        const Peer::Text read = row[0] == "digits" ? Peer::number_to_normal : Peer::number_read;
+        EXPECT_EQ(call(read, row[2], row[1]), row[3]);
+    }
+}
+
+TEST_F(Numbers, OrdinalOfMoreThanThreeDigitsIsNone) {
     char four_digits[] = "1000";
     char target[WORD_MAX_LEN] = {};
     EXPECT_EQ((engine.*Peer::str_turn)(four_digits, target), nullptr);
@@ -34,21 +37,10 @@ TEST_F(Numbers, AreAppendedToWhatTheTargetHolds) {
     EXPECT_STREQ(target, "  ");
 }
 
-TEST_F(Numbers, DigitByDigitIsCutAfterTheLastWholeWord) {
-    const std::string reading = call(Peer::number_to_normal, std::string(100, '7'));
-    EXPECT_EQ(reading.size(), 6 * 83 - 1U);
-    EXPECT_EQ(reading.substr(reading.size() - 11), "seven seven");
-    EXPECT_EQ(call(Peer::number_to_normal, std::string(125, '1')).size(), 499U);
-    // The 499 characters end inside "seven", and the short word after it must not slip in.
-    const std::string ones = call(Peer::number_to_normal, std::string(124, '1') + "71");
-    EXPECT_EQ(ones.substr(ones.size() - 7), "one one");
-}
-
-TEST_F(Numbers, DigitTest) {
-    for (const char* yes : {"", "7", "007"}) EXPECT_EQ(test(Peer::number_def, yes), 1) << yes;
-    for (const char* no : {"a", "1a", "a1", "1x2", " ", "$", "\xb2"}) {
-        EXPECT_EQ(test(Peer::number_def, no), 0) << no;
-    }
+TEST_F(Numbers, DigitTestAsInTheTable) {
+    expect_table("digit_test", [this](const std::string& text) {
+        return TableRow{text, std::to_string(test(Peer::number_def, text))};
+    });
 }
 
 }  // namespace

@@ -4,35 +4,12 @@
 // Usage: node page_test.mjs PAGE LONG-PAGE FOLDER   (playwright-core and axe-core in NODE_PATH)
 
 import assert from 'node:assert/strict';
-import {readFileSync, statSync} from 'node:fs';
-import {createRequire} from 'node:module';
+import {statSync} from 'node:fs';
 import {pathToFileURL} from 'node:url';
+import {browser, check_accessibility, open_page} from './support/browser.mjs';
 
-const require = createRequire(process.env.NODE_PATH + '/');
-const {chromium} = require('playwright-core');
-const axe = readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 const [page_file, long_file, folder] = process.argv.slice(2);
-
-const browser = await chromium.launch({
-  executablePath: '/usr/bin/chromium',
-  args: ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
-    '--disable-background-networking', '--disable-component-update', '--disable-sync'],
-});
-
-async function open(file, options) {
-  const page = await browser.newPage(options);
-  page.on('console', message => assert.notEqual(message.type(), 'error', message.text()));
-  page.on('pageerror', error => assert.fail(error));
-  await page.goto(pathToFileURL(file).href);
-  return page;
-}
-
-async function check_accessibility(page, name) {
-  await page.evaluate(axe);
-  const {violations} = await page.evaluate(() => axe.run());
-  assert.deepEqual(violations.map(v => [v.id, v.nodes.slice(0, 3).map(n => n.html)]), [], name);
-  console.log(`${name}: no violation`);
-}
+const open = async (file, options) => open_page(await browser.newContext(options), pathToFileURL(file).href);
 
 const looks = {
   wide: {viewport: {width: 900, height: 800}},
@@ -41,10 +18,7 @@ const looks = {
 };
 for (const [name, options] of Object.entries(looks)) {
   const page = await open(page_file, options);
-  const width = await page.evaluate(() => document.documentElement.scrollWidth);
-  assert.ok(width <= options.viewport.width, `${name}: wider than the screen: ${width}`);
-  await check_accessibility(page, name);
-  await page.screenshot({path: `${folder}/${name}.png`});
+  await check_accessibility(page, folder, name);
   await page.close();
 }
 

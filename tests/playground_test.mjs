@@ -4,31 +4,17 @@
 // Usage: node playground_test.mjs PAGE FOLDER   (playwright-core and axe-core in NODE_PATH)
 
 import assert from 'node:assert/strict';
-import {mkdirSync, readFileSync} from 'node:fs';
-import {createRequire} from 'node:module';
+import {mkdirSync} from 'node:fs';
 import {pathToFileURL} from 'node:url';
+import {browser, check_accessibility, open_page} from './support/browser.mjs';
 
-const require = createRequire(process.env.NODE_PATH + '/');
-const {chromium} = require('playwright-core');
-const axe = readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
 const [page_file, folder] = process.argv.slice(2);
 mkdirSync(folder, {recursive: true});
 const url = pathToFileURL(page_file).href;
 
-const browser = await chromium.launch({
-  executablePath: '/usr/bin/chromium',
-  args: ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
-    '--disable-background-networking', '--disable-component-update', '--disable-sync'],
-});
-
 async function open(hash = '', options = {}) {
   const context = await browser.newContext({offline: true, permissions: ['clipboard-read', 'clipboard-write'], ...options});
-  const page = await context.newPage();
-  page.on('console', message => assert.notEqual(message.type(), 'error', message.text()));
-  page.on('pageerror', error => assert.fail(error));
-  page.on('dialog', () => assert.fail('a script ran'));
-  page.on('request', request => assert.match(request.url(), /^(file|data|blob):/));
-  await page.goto(url + hash);
+  const page = await open_page(context, url + hash);
   await settled(page);
   return page;
 }
@@ -107,13 +93,8 @@ console.log('link, copies, samples, findings underlined');
 for (const [name, options] of [['playground', {}], ['playground-phone', {viewport: {width: 360, height: 800}}],
   ['playground-dark', {colorScheme: 'dark'}]]) {
   const shown = await open('#' + new URLSearchParams({text: await page.inputValue('#text') + '\nDr. Smith paid $5.50.'}), options);
-  await shown.evaluate(axe);
-  const {violations} = await shown.evaluate(() => axe.run());
-  assert.deepEqual(violations.map(v => [v.id, v.nodes.slice(0, 3).map(n => n.html)]), [], name);
-  assert.ok(await shown.evaluate(() => document.documentElement.scrollWidth <= innerWidth), `${name} is too wide`);
-  await shown.screenshot({path: `${folder}/${name}.png`});
+  await check_accessibility(shown, folder, name);
   await shown.context().close();
-  console.log(`${name}: no violation`);
 }
 
 // The longest a keystroke keeps the page from the next one, the best of some, in a text of 10,000 words: of

@@ -1,5 +1,6 @@
 // Tables of cases: tests/tables/*.txt, a row a line, each field in «», with \n, \r, \t, \0 and \xHH
-// for bytes that a line does not show, \{12:ab} for twelve times "ab", and "#" before a remark.
+// for bytes that a line does not show, \{12:ab} for twelve times "ab" (which may have such
+// in it), and "#" before a remark.
 #ifndef KAVI_TESTS_TABLE_H
 #define KAVI_TESTS_TABLE_H
 
@@ -26,10 +27,11 @@ inline std::string unescape(const std::string& field) {
             case '0': text += '\0'; break;
             case '{': {
                 const std::size_t colon = field.find(':', i);
-                const std::size_t close = field.find('}', i);
-                for (int n = std::stoi(field.substr(i + 1)); n > 0; --n) {
-                    text.append(field, colon + 1, close - colon - 1);
-                }
+                std::size_t close = i;
+                for (int depth = 1; depth > 0;)
+                    depth += field[++close] == '{' ? 1 : field[close] == '}' ? -1 : 0;
+                const std::string once = unescape(field.substr(colon + 1, close - colon - 1));
+                for (int n = std::stoi(field.substr(i + 1)); n > 0; --n) text += once;
                 i = close;
                 break;
             }

@@ -1,20 +1,26 @@
 // Looks for the texts that cost most a byte: pieces of the language, two by two, again and again.
 // scripts/worst counts the instructions of what is found. Usage:
-//   bench_worst search              a line for each call and pair: call, pieces by number,
-//   nanoseconds
-//                                   a byte of 256 bytes, and of 4,095
-//   bench_worst run CALL BYTES P Q  that call once; prints the bytes
-//   bench_worst show P Q            the pair, as it is written
+//   bench_worst search LAYER...       a line for each layer and pair: layer, pieces by number,
+//                                     nanoseconds a byte of a short text, and of a long one
+//   bench_worst run LAYER BYTES UNIT  the layer once, on the unit again and again; prints the bytes
+//   bench_worst show P Q              the pair, as it is written
+//   bench_worst layers                a line for each: its name, and the bytes of its short text
+//                                     and of its long one
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <iterator>
+#include <set>
 #include <string>
 
 #include "calls.h"
+#include "tts_everyday.h"
+#include "tts_explain.h"
+#include "tts_ssml.h"
 
 namespace kavi::bench {
 namespace {
@@ -87,58 +93,203 @@ const char* const PIECES[] = {
     "<punc=dou> ",
     "<breaktime=5>",
     "<emphasis=strong>",
+    // Everyday English and a lexicon.
+    "\xE2\x80\x94",
+    "\xE2\x80\x94 ",
+    "\xE2\x80\x99s ",
+    "\xE2\x80\x9C",
+    "\xE2\x80\x9D ",
+    "\xE2\x80\xA6",
+    "\xC2\xBD",
+    "\xE2\x82\xAC",
+    "\xE2\x82\xAC"
+    "20.99 ",
+    "$1.5 million ",
+    "5 EUR ",
+    "5 km ",
+    "25\xC2\xB0"
+    "C ",
+    "1990s",
+    "1990s-",
+    "2010-2015 ",
+    "2020-03-01 ",
+    "5:30 p.m. ",
+    "a@b.com ",
+    "www.a.com/",
+    "VIII ",
+    "Henry ",
+    "Mr. ",
+    "J. ",
+    "U.S. ",
+    "won't ",
+    "caf\xC3\xA9 ",
+    "e\xCC\x81",
+    "left. ",
+    "10-20% ",
+    "3 1/2 ",
+    "0.",
+    "\xF0\x9F\x98\x80",
+    "\xF0\x9F\x91\xA8\xE2\x80\x8D",
+    "\xE2",
+    "<poem=a",
+    "<b>",
+    "word word word ",
+    "&",
+    "/",
 };
 
-constexpr std::size_t SHORT = 256;
-constexpr std::size_t LONG = SZ_TEXT_MAX_LEN - 1;
-
-std::string text_of(std::size_t p, std::size_t q, std::size_t bytes) {
-    const std::string pair = std::string(PIECES[p]) + PIECES[q];
+// As many whole units as `bytes` hold.
+std::string repeated(const std::string& unit, std::size_t bytes) {
     std::string text;
-    while (text.size() + pair.size() <= bytes) text += pair;
+    while (text.size() + unit.size() <= bytes) text += unit;
     return text;
 }
 
-using Call = int (*)(Calls&, std::string&);
-
-struct NamedCall {
-    const char* name;
-    Call call;
-};
-
-// Each gets the text itself. What they answer is of no use but to be used.
-const NamedCall CALLS[] = {
-    {"normalize",
-     [](Calls& calls, std::string& text) { return calls.first_sentence(text.data()); }},
-    {"tokenize", [](Calls& calls,
-                    std::string& text) { return static_cast<int>(*calls.tokenize(text.data())); }},
-    {"build", [](Calls& calls, std::string& text) { return calls.build(text.data()); }},
-};
-
-// Nanoseconds a byte: the least of a few runs.
-double cost(Calls& calls, Call call, std::string text) {
-    using Clock = std::chrono::steady_clock;
-    constexpr int RUNS = 7;
-    double least = 1e9;
-    static volatile int used;
-    for (int i = 0; i < RUNS; ++i) {
-        const Clock::time_point begin = Clock::now();
-        used = call(calls, text);
-        const std::chrono::duration<double, std::nano> time = Clock::now() - begin;
-        least = std::min(least, time.count());
-    }
-    return least / static_cast<double>(text.size());
+std::string pair_of(std::size_t p, std::size_t q) {
+    return std::string(PIECES[p]) + PIECES[q];
 }
 
-void search() {
-    Calls calls;
+using Clock = std::chrono::steady_clock;
+Clock::duration measured_time;
+
+// All that is measured is done in here: while this runs, the clock does, and callgrind counts.
+[[gnu::noinline]] int measured(const std::function<int()>& work) {
+    const Clock::time_point begin = Clock::now();
+    const int used = work();
+    measured_time += Clock::now() - begin;
+    return used;
+}
+
+const Lexicon& lexicon() {
+    static const Lexicon read = [] {
+        Lexicon all;
+        std::string error;
+        const bool is_good = all.add("worst",
+                                     "word\tw\nword word word word word word word a\tw\n"
+                                     "word word word word Word\tw\tany case\n1990s\tw\n5 km\tw\n"
+                                     "Mr.\tmister\n\xE2\x80\x94\tdash\n\xF0\x9F\x98\x80\tsmile\n",
+                                     error);
+        if (!is_good) std::abort();
+        return all;
+    }();
+    return read;
+}
+
+int rewrite(const Everyday& everyday, const std::string& text) {
+    return measured([&] {
+        static RewrittenText rewritten;
+        everyday.rewrite(text, rewritten);
+        return static_cast<int>(rewritten.text.size());
+    });
+}
+
+// Reads a text with all of everyday English and calls `on_sentence`, of which each measures what it
+// is about.
+int read_everyday(const std::string& text, const TtsHost::SentenceHandler& on_sentence) {
+    static const Everyday everyday = [] {
+        Everyday all(&lexicon());
+        all.set_all(true);
+        return all;
+    }();
+    TtsHost host;
+    host.rewrite_by(&everyday);
+    return host.read(text, on_sentence, nullptr) ? 1 : 0;
+}
+
+struct Layer {
+    const char* name;
+    std::size_t short_bytes;
+    std::size_t long_bytes;
+    int (*read)(std::string& text);
+};
+
+constexpr std::size_t SHORT_CALL = 256;
+constexpr std::size_t LONG_CALL = SZ_TEXT_MAX_LEN - 1;
+constexpr std::size_t SHORT_TEXT = 2048;
+constexpr std::size_t LONG_TEXT = 16384;
+constexpr std::size_t SHORT_PIECES = 8192;  // a host reads by pieces of some 3 KB: longer than two
+
+Calls calls;
+
+// What they answer is of no use but to be used.
+const Layer LAYERS[] = {
+    {"normalize", SHORT_CALL, LONG_CALL,
+     [](std::string& text) { return measured([&] { return calls.first_sentence(text.data()); }); }},
+    {"tokenize", SHORT_CALL, LONG_CALL,
+     [](std::string& text) {
+         return measured([&] { return static_cast<int>(*calls.tokenize(text.data())); });
+     }},
+    {"build", SHORT_CALL, LONG_CALL,
+     [](std::string& text) { return measured([&] { return calls.build(text.data()); }); }},
+    {"everyday", SHORT_TEXT, LONG_TEXT,
+     [](std::string& text) {
+         static const Everyday everyday = [] {
+             Everyday all(nullptr);
+             all.set_all(true);
+             return all;
+         }();
+         return rewrite(everyday, text);
+     }},
+    {"lexicon", SHORT_TEXT, LONG_TEXT,
+     [](std::string& text) {
+         static const Everyday everyday(&lexicon());
+         return rewrite(everyday, text);
+     }},
+    {"places", SHORT_PIECES, LONG_TEXT,
+     [](std::string& text) { return measured([&] { return read_by_host(text, true); }); }},
+    {"explain", SHORT_PIECES, LONG_TEXT,
+     [](std::string& text) {
+         return read_everyday(text, [&](const HostSentence& sentence) {
+             return measured([&] {
+                        explain(sentence, text, [](const ExplainedRun&) {});
+                        return 1;
+                    }) == 1;
+         });
+     }},
+    {"ssml", SHORT_PIECES, LONG_TEXT,
+     [](std::string& text) {
+         std::set<std::string> lost;
+         return read_everyday(text, [&](const HostSentence& sentence) {
+             return measured([&] {
+                        static_cast<void>(ssml(sentence, true, lost));
+                        return 1;
+                    }) == 1;
+         });
+     }},
+};
+
+const Layer& layer_of(const char* name) {
+    const Layer* layer = std::find_if(std::begin(LAYERS), std::end(LAYERS), [&](const Layer& l) {
+        return std::strcmp(l.name, name) == 0;
+    });
+    if (layer == std::end(LAYERS)) {
+        std::fprintf(stderr, "%s: no such layer\n", name);
+        std::exit(2);
+    }
+    return *layer;
+}
+
+// Nanoseconds a byte: the least of a few runs.
+double cost(const Layer& layer, std::string text) {
+    constexpr int RUNS = 5;
+    Clock::duration least = Clock::duration::max();
+    static volatile int used;
+    for (int i = 0; i < RUNS; ++i) {
+        measured_time = {};
+        used = layer.read(text);
+        least = std::min(least, measured_time);
+    }
+    return std::chrono::duration<double, std::nano>(least).count() /
+           static_cast<double>(text.size());
+}
+
+void search(const Layer& layer) {
     for (std::size_t p = 0; p < std::size(PIECES); ++p) {
         for (std::size_t q = 0; q < std::size(PIECES); ++q) {
-            for (const auto& [name, call] : CALLS) {
-                std::printf("%s %zu %zu %.3f %.3f\n", name, p, q,
-                            cost(calls, call, text_of(p, q, SHORT)),
-                            cost(calls, call, text_of(p, q, LONG)));
-            }
+            const std::string unit = pair_of(p, q);
+            std::printf("%s %zu %zu %.3f %.3f\n", layer.name, p, q,
+                        cost(layer, repeated(unit, layer.short_bytes)),
+                        cost(layer, repeated(unit, layer.long_bytes)));
         }
     }
 }
@@ -149,15 +300,16 @@ int run(int argc, char** argv) {
         return static_cast<std::size_t>(std::strtoul(argv[i], nullptr, 10));
     };
     if (what == "search") {
-        search();
-    } else if (what == "show" && argc == 4) {
-        std::printf("%s%s\n", PIECES[number(2)], PIECES[number(3)]);
-    } else if (what == "run" && argc == 6) {
-        Calls calls;
-        std::string text = text_of(number(4), number(5), number(3));
-        for (const auto& [name, call] : CALLS) {
-            if (std::strcmp(name, argv[2]) == 0) call(calls, text);
+        for (int i = 2; i < argc; ++i) search(layer_of(argv[i]));
+    } else if (what == "layers") {
+        for (const Layer& layer : LAYERS) {
+            std::printf("%s %zu %zu\n", layer.name, layer.short_bytes, layer.long_bytes);
         }
+    } else if (what == "show" && argc == 4) {
+        std::printf("%s", pair_of(number(2), number(3)).c_str());
+    } else if (what == "run" && argc == 5) {
+        std::string text = repeated(argv[4], number(3));
+        layer_of(argv[2]).read(text);
         std::printf("%zu\n", text.size());
     } else {
         return 2;

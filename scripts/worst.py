@@ -1,43 +1,97 @@
 """What scripts/worst does: the dearest pairs by the clock, then their instructions."""
 
+import json
 import os
+import pathlib
 import re
 import subprocess
 import sys
 
-program, how_many = sys.argv[1], int(sys.argv[2])
-FUNCTIONS = {"normalize": "eng_text_normalize", "tokenize": "eng_text_tokenize", "build": "eng_text_to_utterance_syllable"}
-SHORT, LONG = 256, 4095
-COST_MAX, GROWTH_MAX = 200, 1.3
+KNOWN = pathlib.Path("bench/worst.txt")
+CALLS = ["normalize", "tokenize", "build"]  # each sees one sentence at most
+COST_MAX = 200  # instructions a byte of a call
+GROWTH_MAX = 1.3
+LONGEST = 65536  # bytes, where what is read is not one sentence
+
+program, *arguments = sys.argv[1:]
 
 
-def run(*arguments):
-    return subprocess.run([program, *arguments], capture_output=True, check=True).stdout.decode(errors="replace")
+def run(*parts):
+    return subprocess.run([program, *parts], capture_output=True, check=True).stdout
 
 
-def instructions(call, length, pair):
+LAYERS = {name: (int(short), int(long)) for name, short, long in (line.split() for line in run("layers").decode().splitlines())}
+
+
+def instructions(layer, length, unit):
+    """Those of a byte of the unit, said again and again up to that length."""
     counted = subprocess.run(
         ["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null",
-         f"--toggle-collect=kavi::PostProTnEng::{FUNCTIONS[call]}*", program, "run", call, str(length), *pair],
-        capture_output=True, text=True, check=True,
+         "--toggle-collect=*kavi::bench::*measured*", program, "run", layer, str(length), unit],
+        capture_output=True, check=False,
         env={**os.environ,
              "LD_BIND_NOW": "1",  # what the linker looks up at a first call is not the call's
              # Nor is a string instruction one for each byte, as callgrind has it.
              "GLIBC_TUNABLES": "glibc.cpu.x86_rep_stosb_threshold=1000000000"})
-    return int(re.search(r"Collected : (\d+)", counted.stderr)[1]) / int(counted.stdout)
+    if counted.returncode != 0:
+        return float("inf")  # it did not live through it
+    return int(re.search(rb"Collected : (\d+)", counted.stderr)[1]) / int(counted.stdout)
 
 
-found = [line.split() for line in run("search").splitlines()]
-broken = 0
-print(f"{len(found) // len(FUNCTIONS)} pairs\ncall       {SHORT:6} {LONG:6}  growth  text, again and again")
-for call in FUNCTIONS:
-    rows = [(float(short), float(long), (p, q)) for name, p, q, short, long in found if name == call]
-    dearest = sorted(rows, key=lambda row: -max(row[0], row[1]))[:how_many]
-    growing = sorted(rows, key=lambda row: -row[1] / row[0])[:how_many]
-    counted = {pair: (instructions(call, SHORT, pair), instructions(call, LONG, pair)) for *_, pair in dearest + growing}
-    for pair, (short, long) in sorted(counted.items(), key=lambda item: -max(item[1])):
-        is_broken = max(short, long) > COST_MAX or long > GROWTH_MAX * short
-        broken += is_broken
-        print(f"{call:10} {short:6.1f} {long:6.1f} {long / short:7.2f}  {run('show', *pair)[:-1]!r}{'  MISSED' * is_broken}")
-print(f"{broken} beyond {COST_MAX} instructions a byte or {GROWTH_MAX} times the shorter text")
-sys.exit(broken > 0)
+def shown(unit):
+    return json.dumps(unit.decode(errors="surrogateescape"), ensure_ascii=False).encode(errors="backslashreplace").decode()
+
+
+def check(layer, unit, lengths):
+    """Counts one unit at all lengths, or until a longer text costs too much more; whether it keeps the bounds."""
+    costs = []
+    for length in lengths:
+        costs.append(instructions(layer, length, unit))
+        if costs[-1] > GROWTH_MAX * costs[0]:
+            break
+    missed = costs[-1] > GROWTH_MAX * costs[0] or layer in CALLS and max(costs) > COST_MAX
+    print(f"{layer:10}{''.join(f'{cost:8.1f}' for cost in costs):24} {costs[-1] / costs[0]:7.2f}  {shown(unit)}"
+          f"{'  MISSED' * missed}", flush=True)
+    return not missed
+
+
+def lengths_of(layer, longest):
+    short, long = LAYERS[layer]
+    return (short, long) if layer in CALLS else (short, long, longest)[:2 if longest <= long else 3]
+
+
+def search(layers, how_many):
+    """The pairs that cost most by the clock, and those that grow most, counted. Those beyond a bound."""
+    broken = 0
+    for layer in layers:
+        rows = []
+        for line in run("search", layer).decode().splitlines():
+            _, p, q, short, long = line.split()
+            rows.append((float(short), float(long), (p, q)))
+        dearest = sorted(rows, key=lambda row: -row[1])[:how_many]
+        growing = sorted(rows, key=lambda row: -row[1] / row[0])[:how_many]
+        pairs = dict.fromkeys(pair for *_, pair in growing + dearest)
+        print(f"{layer}: {len(rows)} pairs, {len(pairs)} of them counted", flush=True)
+        for pair in pairs:
+            broken += not check(layer, run("show", *pair), lengths_of(layer, LONGEST))
+    return broken
+
+
+def check_known():
+    broken = 0
+    for line in KNOWN.read_text(encoding="utf-8").splitlines():
+        if line and not line.startswith("#"):
+            layer, unit = line.split(maxsplit=1)
+            unit = json.loads(unit).encode(errors="surrogateescape")
+            broken += not check(layer, unit, lengths_of(layer, 0))
+    return broken
+
+
+if arguments[:1] == ["--known"]:
+    missed = check_known()
+else:
+    numbers = [int(argument) for argument in arguments if argument.isdigit()]
+    layers = [argument for argument in arguments if not argument.isdigit()]
+    missed = search(layers or LAYERS, numbers[0] if numbers else 15)
+print(f"{missed} beyond {COST_MAX} instructions a byte of a call, or {GROWTH_MAX} times a shorter text")
+sys.exit(missed > 0)

@@ -176,11 +176,7 @@ const Lexicon& lexicon() {
 }
 
 int rewrite(const Everyday& everyday, const std::string& text) {
-    return measured([&] {
-        static RewrittenText rewritten;
-        everyday.rewrite(text, rewritten);
-        return static_cast<int>(rewritten.text.size());
-    });
+    return measured([&] { return static_cast<int>(rewritten(everyday, text).size()); });
 }
 
 // Reads a text with all of everyday English and calls `on_sentence`, of which each measures what it

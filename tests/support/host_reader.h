@@ -79,8 +79,9 @@ inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
                                         std::string(text.substr(place.offset, place.length)));
             }
             if (result.fault.empty()) result.fault = fault_of_places(sentence, text);
-            for (const Diagnostic& d : result.diagnostics) {
-                if (d.finding == Finding::arena_too_small && d.offset >= sentence.source.offset) {
+            for (auto d = result.diagnostics.rbegin();
+                 d != result.diagnostics.rend() && d->offset >= sentence.source.offset; ++d) {
+                if (d->finding == Finding::arena_too_small) {
                     result.fault = "what was passed over belongs to a sentence";
                 }
             }

@@ -33,7 +33,8 @@ class TtsHost {
     using DiagnosticHandler = std::function<bool(const Diagnostic&)>;
 
     // On an arena of its own, by mem_stack_create and mem_stack_destroy, which a host with services
-    // of its own need not have otherwise. `n_capacity` bounds it, in bytes; 0: no limit.
+    // of its own need not have otherwise. `n_capacity` bounds it, in bytes; 0: no limit. Throws
+    // std::bad_alloc when the system has no memory for it.
     explicit TtsHost(std::size_t n_capacity = 0);
 
     // On an arena that stays the caller's, and that nobody else uses during a call of read().

@@ -1,0 +1,120 @@
+// A reader of kavi.h while the system refuses memory: what is refused is refused whole, and after
+// that the reader reads as a new one does.
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <new>
+#include <string>
+
+#include "kavi.h"
+
+extern "C" void* __real_malloc(std::size_t size);
+
+namespace {
+
+// Allocations while the library is called, by number.
+constexpr long NEVER = std::numeric_limits<long>::max();
+long allocations = 0;
+long first_refused = NEVER;
+long last_refused = NEVER;
+bool in_library = false;
+
+void require(bool kept, const char* what) {
+    if (kept) return;
+    std::fprintf(stderr, "broken: %s\n", what);
+    std::abort();
+}
+
+template <typename Call>
+kavi_status in_want(Call call) {
+    in_library = true;
+    const kavi_status status = call();
+    in_library = false;
+    return status;
+}
+
+// Sets a reader up with the settings of an input; what it then says of the text is put into `said`.
+kavi_status set_up_and_read(kavi_reader* reader, const std::string& text, std::uint32_t classes,
+                            std::string& said) {
+    const std::size_t line = std::min(text.find("\n\n"), text.size());
+    const kavi_status lexicon =
+        in_want([&] { return kavi_reader_set_lexicon(reader, "fuzz", text.data(), line); });
+    require(lexicon != KAVI_BAD_LEXICON || *kavi_reader_error(reader) != '\0', "a fault is told");
+    const kavi_status everyday = in_want([&] { return kavi_reader_set_everyday(reader, classes); });
+    kavi_result* result = nullptr;
+    const kavi_status read =
+        in_want([&] { return kavi_read(reader, text.data(), text.size(), KAVI_RUNS, &result); });
+    require((result != nullptr) == (read == KAVI_OK || read == KAVI_INCOMPLETE),
+            "a result with its status");
+    said = result == nullptr ? "" : std::to_string(kavi_result_findings(result));
+    for (std::size_t i = 0; const kavi_sentence* s = kavi_result_sentence(result, i); ++i) {
+        said.append(s->speakable.data, s->speakable.length);
+        for (std::size_t w = 0; w < s->n_words; ++w) said += s->words[w].text.data;
+        for (std::size_t r = 0; r < s->n_runs; ++r) said += s->runs[r].rule;
+    }
+    kavi_result_free(result);
+    char* spoken = nullptr;
+    const kavi_status normalized = in_want([&] {
+        return kavi_normalize(reader, text.data(), text.size(), KAVI_PLAIN, &spoken, nullptr);
+    });
+    require((spoken != nullptr) == (normalized == KAVI_OK || normalized == KAVI_INCOMPLETE),
+            "a text with its status");
+    kavi_free(spoken);
+    const kavi_status all[] = {lexicon, everyday, read, normalized};
+    return std::find(std::begin(all), std::end(all), KAVI_NO_MEMORY) != std::end(all)
+               ? KAVI_NO_MEMORY
+               : KAVI_OK;
+}
+
+}  // namespace
+
+extern "C" __attribute__((used)) void* __wrap_malloc(std::size_t size) {
+    if (in_library) {
+        const long number = allocations++;
+        if (number >= first_refused && number <= last_refused) return nullptr;
+    }
+    return __real_malloc(size);
+}
+void* operator new(std::size_t size) {
+    if (void* block = std::malloc(size > 0 ? size : 1)) return block;
+    throw std::bad_alloc();
+}
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    return std::malloc(size > 0 ? size : 1);
+}
+void operator delete(void* block) noexcept {
+    std::free(block);
+}
+void operator delete(void* block, std::size_t) noexcept {
+    std::free(block);
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size < 2) return 0;
+    const std::string text(reinterpret_cast<const char*>(data) + 2, size - 2);
+    const std::uint32_t classes = data[1] % 4 == 0 ? 0 : KAVI_ALL_EVERYDAY;
+    allocations = 0;
+    first_refused = data[0];
+    last_refused = data[1] % 2 == 0 ? first_refused : NEVER;
+    kavi_reader* reader = nullptr;
+    if (in_want([&] { return kavi_reader_new(0, &reader); }) == KAVI_NO_MEMORY) {
+        require(reader == nullptr, "none when refused");
+        return 0;
+    }
+    std::string said;
+    const kavi_status status = set_up_and_read(reader, text, classes, said);
+    require(status == KAVI_NO_MEMORY || allocations <= first_refused, "told when refused");
+    first_refused = last_refused = NEVER;
+    kavi_reader* fresh = nullptr;
+    require(kavi_reader_new(0, &fresh) == KAVI_OK, "a new reader");
+    std::string expected;
+    set_up_and_read(fresh, text, classes, expected);
+    set_up_and_read(reader, text, classes, said);
+    require(said == expected, "as a new one");
+    kavi_reader_free(fresh);
+    kavi_reader_free(reader);
+    return 0;
+}

@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
     std::vector<std::string> lines;
     for (std::string line; std::getline(file, line);) lines.push_back(line);
     kavi::TtsHost host;
+    kavi::PlainForm plain;
     double best = 1e18;
     std::size_t bytes = 0;
     for (int run = 0; run < 7; ++run) {
@@ -28,10 +29,8 @@ int main(int argc, char** argv) {
             host.read(
                 line,
                 [&](const kavi::HostSentence& sentence) {
-                    const std::string plain =
-                        kavi::plain_text(sentence.records, sentence.n_records);
-                    if (!all.empty()) all += ' ';
-                    all += plain;
+                    plain.read(sentence, line);
+                    all += plain.all();
                     return true;
                 },
                 nullptr);

@@ -25,7 +25,7 @@ def main(metadata: str, spoken: str, report: str) -> None:
         for number, line in enumerate(file, 1):
             name, text = line.rstrip("\n").split("|", 1)
             result = reader.read(text)
-            words = " ".join(sentence.plain for sentence in result.sentences)
+            words = "".join(sentence.plain for sentence in result.sentences)
             print(name, text, words, sep="|", file=out)
             for finding in result.findings:
                 print(f"{metadata}:{number}:{finding.offset}: {finding.code.value}: {finding.message}", file=findings)

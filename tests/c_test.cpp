@@ -12,6 +12,7 @@
 #include "tts_explain.h"
 #include "tts_host.h"
 #include "tts_names.h"
+#include "tts_plain.h"
 
 namespace {
 
@@ -52,7 +53,7 @@ std::string listed(kavi_range range) {
 }
 
 std::string listed(const kavi_word& word) {
-    std::string all = std::string(word.text.data, word.text.length) + "@" + listed(word.source) +
+    std::string all = std::string(word.text.data) + word.after.data + "@" + listed(word.source) +
                       " " + kavi_pause_name(word.pause);
     for (int i = 0; i < word.n_marks; ++i) (all += ' ') += kavi_mark_name(word.marks[i]);
     if (*word.break_time != '\0') (all += " break ") += word.break_time;
@@ -67,8 +68,15 @@ std::string listed(const kavi_word& word) {
 std::string listed(const kavi_sentence& sentence) {
     std::string all = listed(sentence.source) + " " + sentence.normalized.data + "|" +
                       sentence.speakable.data + "\n" + listed(*sentence.head);
-    EXPECT_EQ(sentence.normalized.length, std::strlen(sentence.normalized.data));
-    EXPECT_EQ(sentence.speakable.length, std::strlen(sentence.speakable.data));
+    std::string plain = sentence.before.data;
+    for (std::size_t i = 0; i < sentence.n_words; ++i) {
+        (plain += sentence.words[i].text.data) += sentence.words[i].after.data;
+    }
+    EXPECT_EQ(plain, sentence.plain.data);
+    for (const kavi_text& text :
+         {sentence.normalized, sentence.speakable, sentence.plain, sentence.before}) {
+        EXPECT_EQ(text.length, std::strlen(text.data));
+    }
     for (std::size_t i = 0; i < sentence.n_words; ++i) all += listed(sentence.words[i]);
     for (std::size_t i = 0; i < sentence.n_runs; ++i) {
         const kavi_run& run = sentence.runs[i];
@@ -84,14 +92,16 @@ std::string listed(const kavi_finding& finding) {
 }
 
 std::string listed(const kavi::HostSentence& sentence, std::string_view text) {
+    kavi::PlainForm plain;
+    plain.read(sentence, text);
     std::string all =
         std::to_string(sentence.source.offset) + "+" + std::to_string(sentence.source.length) +
         " " + std::string(sentence.normalized) + "|" + std::string(sentence.speakable) + "\n";
     for (int i = 0; i < sentence.n_records; ++i) {
         const kavi::UtteranceSyllable& record = sentence.records[i];
         const kavi::TextRange source = sentence.places.of_record(i).source;
-        all += std::string(record.syllable != nullptr ? record.syllable : "") + "@" +
-               std::to_string(source.offset) + "+" + std::to_string(source.length) + " " +
+        if (i > 0) (all += record.syllable) += plain.after(static_cast<std::size_t>(i));
+        all += "@" + std::to_string(source.offset) + "+" + std::to_string(source.length) + " " +
                kavi::pause_name(record.pause_type);
         for (int m = 0; m < record.n_punc; ++m) {
             (all += ' ') += kavi::punctuation_name(record.punc_arr[m]);
@@ -195,7 +205,7 @@ TEST(C, GivesTheSpokenTextAlone) {
     } cases[] = {
         {"", KAVI_PLAIN, "", KAVI_OK},
         {"  ", KAVI_SPEAKABLE, "", KAVI_OK},
-        {"Tom, 5. No", KAVI_PLAIN, "Tom, five. No", KAVI_OK},
+        {"Tom, 5!  No", KAVI_PLAIN, "Tom, five!  No", KAVI_OK},
         {"a. 5", KAVI_SPEAKABLE, "a <punc=ju>\n five", KAVI_OK},
         {"a</poem> b", KAVI_PLAIN, "a b", KAVI_OK},
     };

@@ -7,7 +7,6 @@
 
 #include "expect_table.h"
 #include "host_reader.h"
-#include "tts_plain.h"
 
 namespace kavi {
 namespace {
@@ -108,13 +107,7 @@ TEST(Host, EveryLetterAndDigitOfOrdinarySentencesHasAWord) {
 TEST(Host, PlainTextAsInTheTable) {
     expect_table("plain", [](const std::string& text) {
         std::string plain;
-        TtsHost().read(
-            text,
-            [&](const HostSentence& sentence) {
-                plain += plain_text(sentence.records, sentence.n_records) + "|";
-                return true;
-            },
-            nullptr);
+        for (const std::string& sentence : read_by_layer(text).plain) plain += sentence + "|";
         return TableRow{text, plain};
     });
 }

@@ -13,7 +13,7 @@ TableRow document(const std::string& text, bool has_marks) {
     TtsHost().read(
         text,
         [&](const HostSentence& sentence) {
-            std::string element = ssml(sentence, has_marks, lost);
+            std::string element = ssml(sentence, text, has_marks, lost);
             if (!element.empty()) element.back() = '|';
             row[1] += element;
             return true;

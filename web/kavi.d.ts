@@ -6,6 +6,8 @@ export const EVERYDAY: readonly string[];
 export interface Word {
   /** Empty for the head of a sentence. */
   word: string;
+  /** As written up to the next word: punctuation and blanks. */
+  after: string;
   /** What it was read from; the words of one number share it. */
   offset: number;
   length: number;
@@ -40,7 +42,11 @@ export interface Sentence {
   normalized: string;
   /** Words and punctuation tags. */
   speakable: string;
-  /** What comes before the first word. */
+  /** `before`, then `word` and `after` of each word; of all sentences together what normalize() returns. */
+  plain: string;
+  /** As written before the first word: blanks and punctuation. */
+  before: string;
+  /** Marks and a break before the first word. */
   head: Word;
   words: Word[];
   /** Empty unless asked for. */
@@ -87,7 +93,7 @@ export interface ReaderOptions {
 }
 
 export interface Reader {
-  /** What is spoken: single blanks, punctuation. */
+  /** What is spoken, with punctuation and blanks as written. */
   normalize(text: string): string;
   read(text: string, options?: ReadOptions): Result;
   /** Reads each line of a text that comes in pieces, strings or UTF-8; nothing but the last line is kept. */
@@ -107,7 +113,7 @@ export interface Kavi {
 }
 
 /**
- * Loads the engine: 65 KB; with everyday English and lexicons, 131 KB. `wasm` is the bytes of kavi.wasm or
+ * Loads the engine: 66 KB; with everyday English and lexicons, 131 KB. `wasm` is the bytes of kavi.wasm or
  * kavi-everyday.wasm where they do not stand beside this file. Throws what fetch() or the file system throws.
  */
 export function load(options?: {everyday?: boolean; wasm?: BufferSource | Promise<BufferSource>}): Promise<Kavi>;

@@ -2,8 +2,9 @@
 // and places. kavi.d.ts has the contract of all that is exported.
 
 // The layout of the structures of kavi.h where pointers have four bytes.
-const WORD = {size: 68, text: 0, source: 8, pause: 16, nMarks: 20, marks: 24, breakTime: 36, attributes: 40};
-const SENTENCE = {source: 0, normalized: 8, speakable: 16, head: 24, words: 28, nWords: 32, runs: 36, nRuns: 40};
+const WORD = {size: 76, text: 0, after: 8, source: 16, pause: 24, nMarks: 28, marks: 32, breakTime: 44, attributes: 48};
+const SENTENCE = {source: 0, normalized: 8, speakable: 16, plain: 24, before: 32, head: 40, words: 44, nWords: 48,
+  runs: 52, nRuns: 56};
 const RUN = {size: 20, source: 0, rule: 8, reading: 12};
 const FINDING = {code: 0, offset: 4, length: 8, sentence: 12};
 const ATTRIBUTES = 7;
@@ -223,12 +224,14 @@ class Reader {
     });
     return {...range, source: text.slice(range.offset, range.offset + range.length),
       normalized: memory.text(at + SENTENCE.normalized), speakable: memory.text(at + SENTENCE.speakable),
+      plain: memory.text(at + SENTENCE.plain), before: memory.text(at + SENTENCE.before),
       head: this.#word(memory.u32(at + SENTENCE.head), units), words, runs};
   }
 
   #word(at, units) {
     const memory = this.#memory;
-    const word = {word: memory.text(at + WORD.text), ...this.#range(at + WORD.source, units),
+    const word = {word: memory.text(at + WORD.text), after: memory.text(at + WORD.after),
+      ...this.#range(at + WORD.source, units),
       pause: memory.name('kavi_pause_name', memory.i32(at + WORD.pause))};
     const nMarks = memory.i32(at + WORD.nMarks);
     if (nMarks > 0) {

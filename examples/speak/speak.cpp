@@ -51,7 +51,7 @@ Spoken speak(std::string_view text) {
     kavi::TtsHost().read(
         text,
         [&](const kavi::HostSentence& sentence) {
-            spoken.document += kavi::ssml(sentence, false, lost);
+            spoken.document += kavi::ssml(sentence, text, false, lost);
             return true;
         },
         nullptr);

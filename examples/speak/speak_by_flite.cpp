@@ -14,10 +14,12 @@ extern "C" cst_voice* register_cmu_us_kal(const char* folder);
 int main(int argc, char** argv) {
     if (argc != 3) return std::fputs("Usage: speak_by_flite FILE.wav TEXT\n", stderr), 2;
     std::string words;
+    kavi::PlainForm plain;
     kavi::TtsHost().read(
         argv[2],
         [&](const kavi::HostSentence& sentence) {
-            words += kavi::plain_text(sentence.records, sentence.n_records) + " ";
+            plain.read(sentence, argv[2]);
+            words += plain.all();
             return true;
         },
         nullptr);

@@ -56,7 +56,7 @@ class Reader:
         self._reader = _kavi.Reader(*self._settings)
 
     def normalize(self, text: str) -> str:
-        """Returns the words that are spoken, with single blanks and punctuation.
+        """Returns the words that are spoken, with punctuation and blanks as written.
 
         Raises MemoryError when the capacity does not hold all of it.
         """
@@ -115,7 +115,7 @@ def _default() -> Reader:
 
 
 def normalize(text: str) -> str:
-    """Returns the words that are spoken for a text, with single blanks and punctuation."""
+    """Returns the words that are spoken for a text, with punctuation and blanks as written."""
     return _default().normalize(text)
 
 

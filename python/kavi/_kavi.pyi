@@ -22,7 +22,11 @@ class Sentence:
         """Words and punctuation tags."""
     @property
     def plain(self) -> str:
-        """Words and punctuation, single blanks."""
+        """`before`, then `text` and `after` of each word; those of all sentences, one after the other, are
+        what normalize() returns."""
+    @property
+    def before(self) -> str:
+        """As written before the first word: blanks and punctuation."""
     @property
     def head(self) -> Word:
         """What comes before the first word: marks and a break, without a word."""

@@ -97,6 +97,7 @@ class Word(NamedTuple):
     marks: Tuple[Mark, ...]
     breaktime: str  # milliseconds as written; "" for none
     attributes: Dict[str, str]  # of the markup around it, by name
+    after: str  # as written up to the next word: punctuation and blanks
 
 
 class Run(NamedTuple):

@@ -4,8 +4,6 @@
 #include <stdexcept>
 #include <vector>
 
-#include "tts_plain.h"
-
 namespace kavi::python {
 
 namespace py = pybind11;
@@ -62,13 +60,11 @@ Reader::Reader(std::size_t capacity, const std::string& lexicon_name, const py::
 }
 
 bool Reader::append_plain(std::string_view text, std::string& spoken) {
-    const std::size_t begin = spoken.size();
     return host_.read(
         text,
         [&](const HostSentence& sentence) {
-            const std::string plain = plain_text(sentence.records, sentence.n_records);
-            if (spoken.size() > begin && !plain.empty()) spoken += ' ';
-            spoken += plain;
+            plain_.read(sentence, text);
+            spoken += plain_.all();
             return true;
         },
         nullptr);
@@ -132,7 +128,7 @@ Result Reader::read(const py::str& text, bool rules) {
         utf8.bytes(),
         [&](const HostSentence& sentence) {
             result.sentences.push_back(
-                std::make_shared<Sentence>(sentence, utf8.bytes(), rules, of_sentences));
+                std::make_shared<Sentence>(sentence, utf8.bytes(), rules, plain_, of_sentences));
             return true;
         },
         [&](const Diagnostic& found) {

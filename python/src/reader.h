@@ -29,6 +29,7 @@ class Reader {
     bool append_plain(std::string_view text, std::string& spoken);
 
     TtsHost host_;
+    PlainForm plain_;  // of the last sentence
     Lexicon lexicon_;
     Everyday everyday_;
     std::atomic<bool> is_reading_ = false;

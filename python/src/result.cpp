@@ -4,7 +4,6 @@
 
 #include "tts_explain.h"
 #include "tts_names.h"
-#include "tts_plain.h"
 
 namespace kavi::python {
 
@@ -49,7 +48,7 @@ py::object word_of(const Word& word) {
     for (const auto& [name, value] : word.attributes) attributes[name] = shown(value);
     return python_type(WORD)(shown(word.text), word.source.offset, word.source.length,
                              python_type(PAUSE)(word.pause), marks, shown(word.breaktime),
-                             attributes);
+                             attributes, shown(word.after));
 }
 
 py::tuple words_of(const SentenceOfText& of) {
@@ -89,8 +88,10 @@ py::tuple findings_of(const Result& result) {
     return all;
 }
 
-Word word_of(const UtteranceSyllable& record, const WordPlace& place, CodePoints& code_points) {
+Word word_of(const UtteranceSyllable& record, std::string_view after, const WordPlace& place,
+             CodePoints& code_points) {
     Word word = {record.syllable != nullptr ? record.syllable : "",
+                 std::string(after),
                  place_of(place.source, code_points),
                  record.pause_type,
                  {record.punc_arr, record.punc_arr + record.n_punc},
@@ -105,14 +106,19 @@ Word word_of(const UtteranceSyllable& record, const WordPlace& place, CodePoints
 }  // namespace
 
 Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs,
-                   CodePoints& code_points)
+                   PlainForm& form, CodePoints& code_points)
     : source(place_of(sentence.source, code_points)),
       normalized(sentence.normalized),
-      speakable(sentence.speakable),
-      plain(plain_text(sentence.records, sentence.n_records)) {
-    words.reserve(static_cast<std::size_t>(sentence.n_records));
-    for (int i = 0; i < sentence.n_records; ++i) {
-        words.push_back(word_of(sentence.records[i], sentence.places.of_record(i), code_points));
+      speakable(sentence.speakable) {
+    form.read(sentence, text);
+    plain = form.all();
+    before = form.before();
+    const auto n_records = static_cast<std::size_t>(sentence.n_records);
+    const WordPlace* const places = sentence.places.words();
+    words.reserve(n_records);
+    for (std::size_t i = 0; i < n_records; ++i) {
+        words.push_back(word_of(sentence.records[i], i > 0 ? form.after(i) : std::string_view(),
+                                places[i], code_points));
     }
     if (!wants_runs) return;
     explain(sentence, text, [&](const ExplainedRun& run) {
@@ -140,6 +146,8 @@ void add_results(py::module_& module) {
             "speakable", [](const SentenceOfText& of) { return shown(of.sentence->speakable); })
         .def_property_readonly("plain",
                                [](const SentenceOfText& of) { return shown(of.sentence->plain); })
+        .def_property_readonly("before",
+                               [](const SentenceOfText& of) { return shown(of.sentence->before); })
         .def_property_readonly(
             "head", [](const SentenceOfText& of) { return word_of(of.sentence->words[0]); })
         .def_property_readonly("words", words_of)

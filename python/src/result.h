@@ -11,6 +11,7 @@
 
 #include "text.h"
 #include "tts_host.h"
+#include "tts_plain.h"
 
 namespace kavi::python {
 
@@ -21,6 +22,7 @@ struct Place {
 
 struct Word {
     std::string text;
+    std::string after;
     Place source;
     int pause;
     std::vector<int> marks;
@@ -35,14 +37,15 @@ struct Run {
 };
 
 struct Sentence {
-    // A copy of what is read from `text`, whose offsets these are.
-    Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs,
+    // A copy of what is read from `text`, whose offsets these are. `form` is written anew.
+    Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs, PlainForm& form,
              CodePoints& code_points);
 
     Place source;
     std::string normalized;
     std::string speakable;
     std::string plain;
+    std::string before;
     std::vector<Word> words;  // the first is the head
     std::vector<Run> runs;
 };

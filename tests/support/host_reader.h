@@ -11,6 +11,7 @@
 #include "post_pro_tn_eng.h"
 #include "records.h"
 #include "tts_host.h"
+#include "tts_plain.h"
 
 namespace kavi {
 
@@ -56,6 +57,7 @@ struct ReadText {
     std::vector<std::string> records;
     std::vector<std::string> words;  // of all records
     std::vector<std::string> sources;
+    std::vector<std::string> plain;
     std::vector<std::string> places;  // of all records, each as "word=its source"
     std::string fault;                // of the places
     std::vector<Diagnostic> diagnostics;
@@ -65,19 +67,30 @@ struct ReadText {
 
 inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
     ReadText result;
+    PlainForm form;
+    bool ends_in_word = false;
     result.all_read = host.read(
         text,
         [&](const HostSentence& sentence) {
             result.normalized.emplace_back(sentence.normalized);
             result.speakable.emplace_back(sentence.speakable);
             result.records.push_back(to_text(sentence.records, sentence.n_records));
+            form.read(sentence, text);
+            std::string& plain = result.plain.emplace_back(form.before());
+            std::string_view after = form.before();
             for (int i = 1; i < sentence.n_records; ++i) {
+                if (after.empty() && ends_in_word) result.fault = "words run together";
+                ends_in_word = true;
+                after = form.after(static_cast<std::size_t>(i));
+                plain.append(sentence.records[i].syllable) += after;
                 const char* word = sentence.records[i].syllable;
                 const TextRange place = sentence.places.of_record(i).source;
                 result.words.emplace_back(word);
                 result.places.push_back(std::string(word) + "=" +
                                         std::string(text.substr(place.offset, place.length)));
             }
+            ends_in_word = ends_in_word && after.empty();
+            if (plain != form.all()) result.fault = "the plain form is not its parts";
             if (result.fault.empty()) result.fault = fault_of_places(sentence, text);
             for (auto d = result.diagnostics.rbegin();
                  d != result.diagnostics.rend() && d->offset >= sentence.source.offset; ++d) {

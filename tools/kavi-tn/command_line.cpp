@@ -22,7 +22,7 @@ nothing for standard input; every line is a text of its own.
 
 What is written of each sentence, a line or a table each:
   --speakable          words with marks as tags (the default)
-  --plain              words with single blanks and punctuation; a line for each text
+  --plain              words, with punctuation and blanks as written; a line for each text
   --sentences          the sentence as cut, abbreviations expanded
   --words              a table of the words with pauses, marks and markup
   --explain            what was written, what is said for it, and the rule
@@ -30,7 +30,7 @@ What is written of each sentence, a line or a table each:
 How it is written:
   --format FORMAT      text (the default), jsonl (an object a sentence), html (a page) or ssml
   --fields LIST        of jsonl: input,line,sentence,offset,length,source,normalized,speakable,
-                       plain,words,findings,runs; without it all but runs
+                       plain,before,words,findings,runs; without it all but runs
   --marks              of ssml: before each word a mark named OFFSET-LENGTH, its place in the line
   -o, --output FILE    to FILE, which changes only when all is written, and may be an input
 

@@ -83,14 +83,14 @@ class JsonLine {
 class JsonFormat : public Format {
   public:
     explicit JsonFormat(std::vector<Field> fields) : fields_(std::move(fields)) {
-        if (!fields_.empty()) return;
-        for (int i = 0; i < static_cast<int>(Field::runs); ++i) {
-            fields_.push_back(static_cast<Field>(i));
-        }
+        const int n_fields = fields_.empty() ? static_cast<int>(Field::runs) : 0;
+        for (int i = 0; i < n_fields; ++i) fields_.push_back(static_cast<Field>(i));
+        needs_plain_ = has(Field::plain) || has(Field::before) || has(Field::words);
     }
 
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
+        if (needs_plain_) plain_.read(sentence, place.text);
         line_.begin();
         for (const Field field : fields_) {
             line_.key(name_of(field));
@@ -128,7 +128,8 @@ class JsonFormat : public Format {
             case Field::source: return line_.text(place.text.substr(source.offset, source.length));
             case Field::normalized: return line_.text(sentence.normalized);
             case Field::speakable: return line_.text(sentence.speakable);
-            case Field::plain: return line_.text(plain_text(sentence.records, sentence.n_records));
+            case Field::plain: return line_.text(plain_.all());
+            case Field::before: return line_.text(plain_.before());
             case Field::words: return write_words(sentence);
             case Field::findings: return write_findings(place, diagnostics);
             case Field::runs: return write_runs(place, sentence);
@@ -141,21 +142,23 @@ class JsonFormat : public Format {
             for (int i = 0; i < sentence.n_records; ++i) {
                 const UtteranceSyllable& record = sentence.records[i];
                 if (i == 0 && !has_marks(record)) continue;
-                write_word(record, sentence.places.of_record(i), are_plain);
+                write_word(sentence, i, are_plain);
             }
         });
     }
 
     // The head record, which holds what comes before the first word, has no word.
-    void write_word(const UtteranceSyllable& record, const WordPlace& place, bool is_plain) {
+    void write_word(const HostSentence& sentence, int number, bool is_plain) {
+        const UtteranceSyllable& record = sentence.records[number];
         line_.object([&] {
             line_.key("word");
             if (record.syllable == nullptr) {
                 line_.null();
             } else {
                 is_plain ? line_.name(word_of(record)) : line_.text(word_of(record));
+                line_.field("after", plain_.after(static_cast<std::size_t>(number)));
             }
-            line_.range(place.source);
+            line_.range(sentence.places.of_record(number).source);
             line_.key("pause");
             line_.name(pause_name(record.pause_type));
             if (record.n_punc > 0) {
@@ -204,6 +207,8 @@ class JsonFormat : public Format {
     }
 
     std::vector<Field> fields_;
+    bool needs_plain_;
+    PlainForm plain_;
     JsonLine line_;
 };
 

@@ -14,12 +14,19 @@ struct FieldRow {
 };
 
 constexpr FieldRow FIELDS[] = {
-    {Field::input, "input"},           {Field::line, "line"},
-    {Field::sentence, "sentence"},     {Field::offset, "offset"},
-    {Field::length, "length"},         {Field::source, "source"},
-    {Field::normalized, "normalized"}, {Field::speakable, "speakable"},
-    {Field::plain, "plain"},           {Field::words, "words"},
-    {Field::findings, "findings"},     {Field::runs, "runs"},
+    {Field::input, "input"},
+    {Field::line, "line"},
+    {Field::sentence, "sentence"},
+    {Field::offset, "offset"},
+    {Field::length, "length"},
+    {Field::source, "source"},
+    {Field::normalized, "normalized"},
+    {Field::speakable, "speakable"},
+    {Field::plain, "plain"},
+    {Field::before, "before"},
+    {Field::words, "words"},
+    {Field::findings, "findings"},
+    {Field::runs, "runs"},
 };
 
 // A field is found by its place.

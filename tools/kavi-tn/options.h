@@ -23,6 +23,7 @@ enum class Field {
     normalized,
     speakable,
     plain,
+    before,
     words,
     findings,
     runs,

@@ -14,9 +14,9 @@ class SsmlFormat : public Format {
     std::string prologue() const override { return SSML_BEGIN; }
     std::string epilogue() const override { return SSML_END; }
 
-    void write(const Place& /*place*/, const HostSentence& sentence,
+    void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
-        out += ssml(sentence, marks_, lost_);
+        out += ssml(sentence, place.text, marks_, lost_);
     }
 
     std::set<std::string> take_lost() override {

@@ -148,22 +148,18 @@ class SpeakableFormat : public Format {
 // input.
 class PlainFormat : public Format {
   public:
-    void write(const Place& /*place*/, const HostSentence& sentence,
+    void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
-        const std::string plain = plain_text(sentence.records, sentence.n_records);
-        if (plain.empty()) return;
-        if (has_words_) out += ' ';
-        out += plain;
-        has_words_ = true;
+        plain_.read(sentence, place.text);
+        out += plain_.all();
     }
     void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
                   std::string& out) override {
         out += '\n';
-        has_words_ = false;
     }
 
   private:
-    bool has_words_ = false;
+    PlainForm plain_;
 };
 
 class WordFormat : public Format {

@@ -70,6 +70,7 @@ typedef enum kavi_attribute {
 
 typedef struct kavi_word {
     kavi_text text;                    /* empty for the head of a sentence */
+    kavi_text after;                   /* as written up to the next word: punctuation, blanks */
     kavi_range source;                 /* the words of one number share it */
     int32_t pause;                     /* after the word; kavi_pause_name() */
     int32_t n_marks;                   /* after the word, in order; kavi_mark_name() */
@@ -89,6 +90,9 @@ typedef struct kavi_sentence {
     kavi_range source;     /* begins where that of the last sentence ended */
     kavi_text normalized;  /* abbreviations written out, its end marked */
     kavi_text speakable;   /* words and punctuation tags */
+    kavi_text plain;       /* before, then text and after of each word; those of all sentences, one
+                              after the other, are the plain form of the text */
+    kavi_text before;      /* as written before the first word: blanks, punctuation */
     const kavi_word* head; /* what comes before the first word: marks and a break; no text */
     const kavi_word* words;
     size_t n_words;
@@ -99,7 +103,7 @@ typedef struct kavi_sentence {
 typedef struct kavi_finding {
     int32_t code; /* kavi_finding_code(), kavi_finding_message() */
     size_t offset;
-    size_t length;   /* of what is not spoken; 1 for other findings */
+    size_t length;   /* of what is not spoken, or of a foreign tag; else 1 */
     size_t sentence; /* its number, from 0; the number of sentences for one after the last */
 } kavi_finding;
 
@@ -190,7 +194,7 @@ KAVI_API kavi_status kavi_read_each(kavi_reader* reader, const char* text, size_
 typedef enum kavi_form {
     KAVI_SPEAKABLE, /* words and punctuation tags, a line for each sentence but the last without its
                        end */
-    KAVI_PLAIN,     /* words and punctuation, single blanks */
+    KAVI_PLAIN,     /* words, with punctuation and blanks as written */
 } kavi_form;
 
 /* Gives what is spoken for a text alone, in a kavi_form, NUL-terminated; to be freed by

@@ -11,7 +11,6 @@
 
 #include "reader.h"
 #include "tts_names.h"
-#include "tts_plain.h"
 
 namespace {
 
@@ -135,7 +134,8 @@ kavi_status kavi_read(kavi_reader* reader, const char* text, size_t length, uint
         return read(
             *reader, read_text,
             [&](const kavi::HostSentence& sentence) {
-                made->sentences.push_back(kavi::c::copied(sentence, read_text, wanted, made->pool));
+                made->sentences.push_back(
+                    kavi::c::copied(sentence, read_text, wanted, reader->plain, made->pool));
                 return true;
             },
             [&](const kavi_finding& finding) {
@@ -179,7 +179,8 @@ kavi_status kavi_read_each(kavi_reader* reader, const char* text, size_t length,
         [&](const kavi::HostSentence& sentence) {
             if (handlers->on_sentence == nullptr) return true;
             pool.clear();
-            const kavi_sentence copy = kavi::c::copied(sentence, read_text, wanted, pool);
+            const kavi_sentence copy =
+                kavi::c::copied(sentence, read_text, wanted, reader->plain, pool);
             return handlers->on_sentence(handlers->user, &copy) != 0;
         },
         [&](const kavi_finding& finding) {
@@ -196,13 +197,13 @@ kavi_status kavi_normalize(kavi_reader* reader, const char* text, size_t length,
     const kavi_status refused = refusal(reader, text, length, 0);
     if (refused != KAVI_OK) return refused;
     std::string all;
+    const std::string_view read_text(length > 0 ? text : "", length);
     const kavi_status status = read(
-        *reader, {length > 0 ? text : "", length},
+        *reader, read_text,
         [&](const kavi::HostSentence& sentence) {
             if (form == KAVI_PLAIN) {
-                const std::string plain = kavi::plain_text(sentence.records, sentence.n_records);
-                if (!all.empty() && !plain.empty()) all += ' ';
-                all += plain;
+                reader->plain.read(sentence, read_text);
+                all += reader->plain.all();
             } else {
                 if (!all.empty()) all += '\n';
                 all += sentence.speakable;

@@ -10,6 +10,7 @@
 #include "kavi.h"
 #include "pool.h"
 #include "tts_host.h"
+#include "tts_plain.h"
 
 namespace kavi {
 class Everyday;
@@ -20,6 +21,7 @@ struct kavi_reader {
     explicit kavi_reader(std::size_t capacity) : host(capacity) {}
 
     kavi::TtsHost host;
+    kavi::PlainForm plain;  // of the last sentence
 
     // Of readings.cpp: what rewrites texts, of which the reader itself knows nothing.
     std::shared_ptr<kavi::Lexicon> lexicon;
@@ -50,9 +52,9 @@ kavi_status guarded(Work work) {
     }
 }
 
-// A sentence of `text` with copies of all it points to.
+// A sentence of `text` with copies of all it points to. `plain` is written anew.
 kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::uint32_t wanted,
-                     Pool& pool);
+                     PlainForm& plain, Pool& pool);
 
 }  // namespace kavi::c
 

@@ -4,6 +4,7 @@
 #include "reader.h"
 #include "tts_explain.h"
 #include "tts_names.h"
+#include "tts_plain.h"
 
 namespace kavi::c {
 
@@ -11,6 +12,12 @@ namespace {
 
 kavi_range range_of(const TextRange& range) {
     return {range.offset, range.length};
+}
+
+// Most words are followed by a blank alone.
+kavi_text short_text(std::string_view text, Pool& pool) {
+    if (text.empty()) return {"", 0};
+    return text == " " ? kavi_text{" ", 1} : pool.text(text);
 }
 
 void fill(kavi_word& word, const UtteranceSyllable& record, const WordPlace& place, Pool& pool) {
@@ -31,17 +38,21 @@ void fill(kavi_word& word, const UtteranceSyllable& record, const WordPlace& pla
 }  // namespace
 
 kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::uint32_t wanted,
-                     Pool& pool) {
+                     PlainForm& plain, Pool& pool) {
     const auto n_records = static_cast<std::size_t>(sentence.n_records);
     auto* words = pool.array<kavi_word>(n_records);
     const WordPlace* places = sentence.places.words();
+    plain.read(sentence, text);
     for (std::size_t i = 0; i < n_records; ++i) {
         fill(words[i], sentence.records[i], places[i], pool);
+        words[i].after = short_text(i > 0 ? plain.after(i) : "", pool);
     }
     kavi_sentence copy = {};
     copy.source = range_of(sentence.source);
     copy.normalized = pool.text(sentence.normalized);
     copy.speakable = pool.text(sentence.speakable);
+    copy.plain = pool.text(plain.all());
+    copy.before = short_text(plain.before(), pool);
     copy.head = words;
     copy.words = words + 1;
     copy.n_words = n_records - 1;

@@ -1,17 +1,50 @@
-// Records as text that people read.
+// A sentence as text that people read.
 #ifndef KAVI_TTS_PLAIN_H
 #define KAVI_TTS_PLAIN_H
 
 #include <string>
+#include <string_view>
+#include <vector>
 
-#include "ShareObj.h"
+#include "tts_host.h"
 
 namespace kavi {
 
-// The words of one sentence with single blanks between them and their marks as punctuation. Marks
-// that English does not write are left out, and so are pauses and markup. Quotation marks open and
-// close in turn. Reads `records`, of which the first is the head record.
-std::string plain_text(const UtteranceSyllable* records, int n_records);
+// The words of a sentence, and between them the punctuation and the blanks that were written there.
+// The plain texts of the sentences of a text, one after the other, are the plain text of it all.
+//
+// Blanks stay as they were written; a run of them with anything else in it, such as a line end,
+// markup or a sign that is not spoken, is one blank. Where nothing is left between two words, one
+// blank is. The blanks between two sentences are before the later one; there are none at the begin
+// and the end of the text.
+class PlainForm {
+  public:
+    // Of a sentence that was read from `text`. What is handed out lives until the next call.
+    void read(const HostSentence& sentence, std::string_view text);
+
+    std::string_view all() const { return all_; }
+
+    // What stands before the first word.
+    std::string_view before() const { return after(0); }
+
+    // What follows the word of a record, up to the next word; of the head record, before().
+    std::string_view after(std::size_t record) const {
+        const Range& range = after_[record];
+        return all().substr(range.begin, range.end - range.begin);
+    }
+
+  private:
+    struct Range {
+        std::size_t begin;
+        std::size_t end;
+    };
+
+    void add_gap(std::string_view gap);
+    void end_before(std::string_view text, bool is_last);
+
+    std::string all_;
+    std::vector<Range> after_;  // of each record, in that
+};
 
 }  // namespace kavi
 

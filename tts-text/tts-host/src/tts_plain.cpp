@@ -1,23 +1,139 @@
 #include "tts_plain.h"
 
-#include "written_marks.h"
+#include <algorithm>
 
 namespace kavi {
 
-std::string plain_text(const UtteranceSyllable* records, int n_records) {
-    std::string text;
-    host::WrittenMarks marks;
-    for (int i = 0; i < n_records; ++i) {
-        const UtteranceSyllable& record = records[i];
-        if (i > 0) {
-            if (!text.empty()) text += ' ';
-            marks.append_opening(text);
-            text += record.syllable;
-        }
-        marks.add(record, text);
+namespace {
+
+constexpr std::string_view ASCII_MARKS = ".,;:!?\"'()[]{}-/";
+
+// Typographic dashes, quotation marks and the ellipsis: the last bytes of U+2010 to U+203A, and of
+// U+00AB and U+00BB.
+constexpr std::string_view GENERAL = "\xe2\x80";
+constexpr std::string_view GENERAL_MARKS =
+    "\x90\x91\x92\x93\x94\x95\x98\x99\x9a\x9b\x9c\x9d\x9e\x9f\xa6\xb9\xba";
+constexpr std::string_view LATIN = "\xc2";
+constexpr std::string_view LATIN_MARKS = "\xab\xbb";
+
+bool has(std::string_view characters, char c) {
+    return characters.find(c) != std::string_view::npos;
+}
+
+// How long the mark of English is that a text begins with; 0 for anything else.
+std::size_t mark_length(std::string_view text) {
+    const auto begins = [&](std::string_view first, std::string_view last) {
+        return text.size() > first.size() && text.substr(0, first.size()) == first &&
+               has(last, text[first.size()]);
+    };
+    if (has(ASCII_MARKS, text[0])) return 1;
+    if (begins(GENERAL, GENERAL_MARKS)) return GENERAL.size() + 1;
+    if (begins(LATIN, LATIN_MARKS)) return LATIN.size() + 1;
+    return 0;
+}
+
+bool ends_with_mark(std::string_view text) {
+    for (std::size_t size = 1; size <= std::min(text.size(), GENERAL.size() + 1); ++size) {
+        if (mark_length(text.substr(text.size() - size)) == size) return true;
     }
-    marks.append_opening(text);
-    return text;
+    return false;
+}
+
+bool is_control(char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
+}
+
+bool is_blank(char c) {
+    return c == ' ' || is_control(c);
+}
+
+bool begins_tag(std::string_view text) {
+    if (text[0] != '<' || text.size() == 1) return false;
+    const auto letter = static_cast<unsigned char>(text[1] | 0x20);
+    return text[1] == '/' || (letter >= 'a' && letter <= 'z');
+}
+
+// Where the blanks before a sentence begin, which no earlier one has written. Of many that are
+// nothing but blanks, none looks back.
+std::size_t begin_of_blanks(std::string_view text, const TextRange& sentence) {
+    const std::string_view source = text.substr(sentence.offset, sentence.length);
+    std::size_t begin = sentence.offset;
+    if (std::all_of(source.begin(), source.end(), is_blank)) return begin;
+    while (begin > 0 && is_blank(text[begin - 1])) --begin;
+    return begin;
+}
+
+}  // namespace
+
+void PlainForm::read(const HostSentence& sentence, std::string_view text) {
+    const auto n_records = static_cast<std::size_t>(sentence.n_records);
+    const WordPlace* const places = sentence.places.words();
+    const TextRange& whole = sentence.source;
+    all_.clear();
+    after_.clear();
+    const std::size_t begin_of_form = begin_of_blanks(text, whole);
+    std::size_t at = begin_of_form;
+    for (std::size_t i = 0; i < n_records; ++i) {
+        if (i > 0) {
+            const UtteranceSyllable& record = sentence.records[i];
+            all_.append(record.syllable, static_cast<std::size_t>(record.syl_len - 1));
+            at = std::max(at, places[i].source.offset + places[i].source.length);
+        }
+        const std::size_t begin = all_.size();
+        const bool is_last = i + 1 == n_records;
+        const std::size_t next =
+            is_last ? whole.offset + whole.length : places[i + 1].source.offset;
+        if (next > at) {
+            add_gap(text.substr(at, next - at));
+            at = next;
+        }
+        if (is_last) {
+            all_.resize(std::max(begin, all_.find_last_not_of(' ') + 1));
+        } else if (i > 0 && all_.size() == begin) {
+            all_ += ' ';
+        }
+        if (i == 0) end_before(text.substr(0, begin_of_form), is_last);
+        after_.push_back({begin, all_.size()});
+    }
+}
+
+// All there is stands before the first word, and that is preceded by this text.
+void PlainForm::end_before(std::string_view text, bool is_last) {
+    if (text.empty()) {
+        all_.erase(0, all_.find_first_not_of(' '));
+    } else if (all_.empty() && !is_last && !ends_with_mark(text)) {
+        all_ = ' ';
+    }
+}
+
+// Appends what of a gap between words is punctuation or a blank.
+void PlainForm::add_gap(std::string_view gap) {
+    std::size_t n_blanks = 0;  // in the run that has been read,
+    bool has_other = false;    // not only these
+    bool may_have_tags = true;
+    const auto end_run = [&] {
+        all_.append(has_other ? std::min<std::size_t>(n_blanks, 1) : n_blanks, ' ');
+        n_blanks = 0;
+        has_other = false;
+    };
+    while (!gap.empty()) {
+        std::size_t length = mark_length(gap);
+        if (length > 0) {
+            end_run();
+            all_ += gap.substr(0, length);
+        } else {
+            length = 1;
+            if (is_blank(gap[0])) ++n_blanks;
+            has_other = has_other || gap[0] != ' ';
+            if (may_have_tags && begins_tag(gap)) {
+                const std::size_t close = gap.find('>');
+                may_have_tags = close != std::string_view::npos;
+                if (may_have_tags) length = close + 1;
+            }
+        }
+        gap.remove_prefix(length);
+    }
+    end_run();
 }
 
 }  // namespace kavi

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "written_marks.h"
+#include "tts_plain.h"
 
 namespace kavi {
 
@@ -106,23 +106,37 @@ void append_escaped(std::string_view word, std::string& out) {
 
 class SentenceWriter {
   public:
-    SentenceWriter(const HostSentence& sentence, bool has_marks, std::set<std::string>& lost)
-        : sentence_(sentence), has_marks_(has_marks), lost_(lost) {}
+    SentenceWriter(const HostSentence& sentence, std::string_view text, bool has_marks,
+                   std::set<std::string>& lost)
+        : sentence_(sentence), has_marks_(has_marks), lost_(lost) {
+        plain_.read(sentence, text);
+    }
 
     std::string write() {
         for (int i = 0; i < sentence_.n_records; ++i) {
-            const UtteranceSyllable& record = sentence_.records[i];
             if (i > 0) write_word(i);
-            marks_.add(record, out_);
-            write_break(record);
+            out_ += closing_marks(i);
+            write_break(sentence_.records[i]);
         }
-        marks_.append_opening(out_);
         close_others("", "");
         const bool is_silent = sentence_.n_records <= 1 && !has_break_;
         return is_silent ? "" : "<s>" + out_ + "</s>\n";
     }
 
   private:
+    // Of what follows a record: up to the first blank, but that before the first word is not of it.
+    // The rest is kept for the next word: blanks, and what stands directly before it.
+    std::string_view closing_marks(int i) {
+        const std::string_view after = plain_.after(static_cast<std::size_t>(i));
+        if (i > 0 && i == sentence_.n_records - 1) return after;
+        const std::size_t begin = std::min(after.find_first_not_of(' '), after.size());
+        const std::size_t end = i > 0 ? std::min(after.find(' '), after.size()) : begin;
+        const std::size_t blanks_end = std::max(end, after.rfind(' ') + 1);
+        between_ = after.substr(end, blanks_end - end);
+        opening_ = after.substr(blanks_end);
+        return i > 0 ? after.substr(0, end) : std::string_view();
+    }
+
     void write_word(int i) {
         const UtteranceSyllable& record = sentence_.records[i];
         const CssmlTag& tag = record.cssml_tag;
@@ -140,7 +154,7 @@ class SentenceWriter {
             out_ += "<mark name=\"" + std::to_string(source.offset) + "-" +
                     std::to_string(source.length) + "\"/>";
         }
-        marks_.append_opening(out_);
+        out_ += opening_;
         append_escaped(record.syllable, out_);
     }
 
@@ -159,14 +173,13 @@ class SentenceWriter {
     void open(const std::string& prosody, const std::string& level) {
         const bool is_other = prosody != prosody_;
         close_others(prosody, level);
-        if (!out_.empty() && has_words_) out_ += ' ';
+        out_ += between_;
         if (!prosody.empty() && is_other) out_ += "<prosody" + prosody + ">";
         if (!level.empty() && (is_other || level != level_)) {
             out_ += "<emphasis level=\"" + level + "\">";
         }
         prosody_ = prosody;
         level_ = level;
-        has_words_ = true;
     }
 
     void close_others(const std::string& prosody, const std::string& level) {
@@ -192,17 +205,19 @@ class SentenceWriter {
     bool has_marks_;
     std::set<std::string>& lost_;
     std::string out_;
-    host::WrittenMarks marks_;
-    std::string prosody_;  // the attributes of the element that is open; none: no element
-    std::string level_;    // likewise, inside it
-    bool has_words_ = false;
+    PlainForm plain_;
+    std::string_view between_;  // before the next word, outside of its elements,
+    std::string_view opening_;  // and inside
+    std::string prosody_;       // the attributes of the element that is open; none: no element
+    std::string level_;         // likewise, inside it
     bool has_break_ = false;
 };
 
 }  // namespace
 
-std::string ssml(const HostSentence& sentence, bool has_marks, std::set<std::string>& lost) {
-    return SentenceWriter(sentence, has_marks, lost).write();
+std::string ssml(const HostSentence& sentence, std::string_view text, bool has_marks,
+                 std::set<std::string>& lost) {
+    return SentenceWriter(sentence, text, has_marks, lost).write();
 }
 
 }  // namespace kavi

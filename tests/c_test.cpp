@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "kavi.h"
+#include "kavi_version.h"  // the same macros, or a warning
 #include "tts_explain.h"
 #include "tts_host.h"
 #include "tts_names.h"
@@ -187,8 +188,8 @@ TEST(C, SaysWhatTheHostLayerSays) {
         if (i < kavi_result_sentences(result)) kept += listed(*kavi_result_sentence(result, i));
     }
     EXPECT_EQ(kept, expected);
-    EXPECT_EQ(kavi_result_sentence(result, 1000), nullptr);
-    EXPECT_EQ(kavi_result_finding(result, 1000), nullptr);
+    EXPECT_EQ(kavi_result_sentence(result, kavi_result_sentences(result)), nullptr);
+    EXPECT_EQ(kavi_result_finding(result, kavi_result_findings(result)), nullptr);
     kavi_result_free(result);
 
     EXPECT_EQ(kavi_read(r.reader, "a", 1, 0, &result), KAVI_OK);
@@ -297,6 +298,7 @@ TEST(C, RefusesArgumentsWithoutAMeaning) {
     const Reader r;
     kavi_result* result = nullptr;
     char* spoken = nullptr;
+    std::size_t lengths[] = {9, 9, 9};
     const kavi_handlers none = {nullptr, nullptr, nullptr};
     const kavi_status answers[] = {
         kavi_reader_new(0, nullptr),
@@ -306,9 +308,9 @@ TEST(C, RefusesArgumentsWithoutAMeaning) {
         kavi_read(r.reader, "a", 1, 0, nullptr),
         kavi_read_each(r.reader, "a", 1, 0, nullptr),
         kavi_read_each(nullptr, "a", 1, 0, &none),
-        kavi_normalize(r.reader, "a", 1, 2, &spoken, nullptr),
-        kavi_normalize(r.reader, "a", 1, KAVI_PLAIN, nullptr, nullptr),
-        kavi_normalize(nullptr, "a", 1, KAVI_PLAIN, &spoken, nullptr),
+        kavi_normalize(r.reader, "a", 1, 2, &spoken, &lengths[0]),
+        kavi_normalize(r.reader, "a", 1, KAVI_PLAIN, nullptr, &lengths[1]),
+        kavi_normalize(nullptr, "a", 1, KAVI_PLAIN, &spoken, &lengths[2]),
         kavi_reader_set_lexicon(nullptr, "", "", 0),
         kavi_reader_set_lexicon(r.reader, "", nullptr, 1),
         kavi_reader_set_everyday(nullptr, 0),
@@ -317,6 +319,8 @@ TEST(C, RefusesArgumentsWithoutAMeaning) {
     for (const kavi_status answer : answers) EXPECT_EQ(answer, KAVI_BAD_ARGUMENT);
     EXPECT_EQ(result, nullptr);
     EXPECT_EQ(spoken, nullptr);
+    EXPECT_EQ(lengths[0] + lengths[1] + lengths[2], 0U);
+    EXPECT_STREQ(kavi_version(), KAVI_VERSION);
     EXPECT_EQ(kavi_read(r.reader, nullptr, 0, 0, &result), KAVI_OK);
     kavi_result_free(result);
     kavi_result_free(nullptr);

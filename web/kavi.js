@@ -1,7 +1,7 @@
 // kavi for browsers and node: the functions of kavi.h in WebAssembly, with JavaScript's own strings
 // and places. kavi.d.ts has the contract of all that is exported.
 
-// The layout of the structures of kavi.h where pointers have four bytes.
+// The layout of the structures of kavi.h where pointers have four bytes, as src/layout.cpp asserts it.
 const WORD = {size: 76, text: 0, after: 8, source: 16, pause: 24, nMarks: 28, marks: 32, breakTime: 44, attributes: 48};
 const SENTENCE = {source: 0, normalized: 8, speakable: 16, plain: 24, before: 32, head: 40, words: 44, nWords: 48,
   runs: 52, nRuns: 56};

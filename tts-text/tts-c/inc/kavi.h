@@ -1,10 +1,15 @@
 /* kavi for programs in C, and in every language that can call C: English text in, words out.
  *
  *     kavi_reader* reader;
- *     kavi_result* result;
  *     if (kavi_reader_new(0, &reader) != KAVI_OK) return 1;
- *     if (kavi_read(reader, text, length, 0, &result) < KAVI_NO_MEMORY) { ...;
- * kavi_result_free(result); } kavi_reader_free(reader);
+ *
+ *     kavi_result* result;
+ *     kavi_read(reader, text, length, 0, &result);
+ *     for (size_t i = 0; i < kavi_result_sentences(result); ++i)
+ *         fputs(kavi_result_sentence(result, i)->plain.data, stdout);
+ *
+ *     kavi_result_free(result);
+ *     kavi_reader_free(reader);
  *
  * Texts have any bytes and any length. What is given out is NUL-terminated, with its length beside
  * it where it may be long. All offsets and lengths are bytes. No function keeps a pointer that it
@@ -28,6 +33,15 @@ extern "C" {
 #else
 #define KAVI_API
 #endif
+
+/* The version of this header. */
+#define KAVI_VERSION_MAJOR 0
+#define KAVI_VERSION_MINOR 1
+#define KAVI_VERSION_PATCH 0
+#define KAVI_VERSION "0.1.0"
+
+/* The version of the library that runs, as KAVI_VERSION; a constant text. */
+KAVI_API const char* kavi_version(void);
 
 typedef enum kavi_status {
     KAVI_OK,
@@ -87,7 +101,8 @@ typedef struct kavi_run {
 } kavi_run;
 
 typedef struct kavi_sentence {
-    kavi_range source;     /* begins where that of the last sentence ended */
+    kavi_range source;     /* begins where that of the last sentence ended, or, with
+                              KAVI_INCOMPLETE, after a piece that was passed over */
     kavi_text normalized;  /* abbreviations written out, its end marked */
     kavi_text speakable;   /* words and punctuation tags */
     kavi_text plain;       /* before, then text and after of each word; those of all sentences, one
@@ -198,7 +213,8 @@ typedef enum kavi_form {
 } kavi_form;
 
 /* Gives what is spoken for a text alone, in a kavi_form, NUL-terminated; to be freed by
- * kavi_free(). `n_spoken` may be null. Otherwise as kavi_read(). */
+ * kavi_free(). `n_spoken` may be null; it is 0 where `*spoken` is null. Otherwise as kavi_read().
+ */
 KAVI_API kavi_status kavi_normalize(kavi_reader* reader, const char* text, size_t length,
                                     uint32_t form, char** spoken, size_t* n_spoken);
 KAVI_API void kavi_free(char* spoken);

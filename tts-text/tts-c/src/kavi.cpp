@@ -78,6 +78,10 @@ bool is_finding(std::int32_t code) {
 
 }  // namespace
 
+const char* kavi_version(void) {
+    return KAVI_VERSION;
+}
+
 const char* kavi_status_text(kavi_status status) {
     const auto place = static_cast<std::size_t>(status);
     return place < std::size(STATUS_TEXTS) ? STATUS_TEXTS[place] : "unknown";
@@ -191,6 +195,7 @@ kavi_status kavi_read_each(kavi_reader* reader, const char* text, size_t length,
 
 kavi_status kavi_normalize(kavi_reader* reader, const char* text, size_t length, uint32_t form,
                            char** spoken, size_t* n_spoken) {
+    if (n_spoken != nullptr) *n_spoken = 0;
     if (spoken == nullptr) return KAVI_BAD_ARGUMENT;
     *spoken = nullptr;
     if (form != KAVI_SPEAKABLE && form != KAVI_PLAIN) return KAVI_BAD_ARGUMENT;

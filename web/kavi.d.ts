@@ -87,26 +87,26 @@ export interface ReaderOptions {
   /** Lines of what is written, a tab, and what is spoken. A bad line is a SyntaxError. */
   lexicon?: string;
   /** All classes of everyday English, or those that are named. */
-  everyday?: boolean | string[];
+  everyday?: boolean | string | readonly string[];
   /** 3/1/2020 is March first. */
   americanDates?: boolean;
 }
 
 export interface Reader {
-  /** What is spoken, with punctuation and blanks as written. */
+  /** What is spoken, with punctuation and blanks as written. A RangeError where the capacity does not hold it. */
   normalize(text: string): string;
   read(text: string, options?: ReadOptions): Result;
   /** Reads each line of a text that comes in pieces, strings or UTF-8; nothing but the last line is kept. */
   lines(chunks: Iterable<string | Uint8Array> | AsyncIterable<string | Uint8Array>, options?: ReadOptions): AsyncGenerator<Line>;
   /** Another lexicon; when a line is wrong, a SyntaxError, and the last one stays. */
   setLexicon(lines: string): void;
-  /** Gives its memory back; it is of no use after that. */
+  /** Gives its memory back; after that it reads no text. */
   free(): void;
 }
 
 export interface Kavi {
   reader(options?: ReaderOptions): Reader;
-  /** Those of a reader without options. */
+  /** Those of a reader without options; after load({everyday: true}), of one with everyday English. */
   normalize(text: string): string;
   read(text: string, options?: ReadOptions): Result;
   lines: Reader['lines'];
@@ -115,5 +115,8 @@ export interface Kavi {
 /**
  * Loads the engine: 66 KB; with everyday English and lexicons, 131 KB. `wasm` is the bytes of kavi.wasm or
  * kavi-everyday.wasm where they do not stand beside this file. Throws what fetch() or the file system throws.
+ *
+ * A call that has no memory or stack left throws, and all readers read the next text. Options that are not listed
+ * here are a TypeError.
  */
 export function load(options?: {everyday?: boolean; wasm?: BufferSource | Promise<BufferSource>}): Promise<Kavi>;

@@ -19,7 +19,25 @@ export const EVERYDAY = Object.freeze(['titles', 'contractions', 'currencies', '
 const AMERICAN_DATES = 1 << 16;
 
 const encoder = new TextEncoder();
-const decoder = new TextDecoder();
+const decoder = new TextDecoder('utf-8', {ignoreBOM: true});
+
+// Options that nobody knows are mistakes.
+function refuseOthers(options, known) {
+  for (const name of Object.keys(options)) {
+    if (!known.includes(name)) throw new TypeError(`no such option: ${name}`);
+  }
+}
+
+// The bits of kavi.h for names of classes.
+function bitsOf(everyday) {
+  if (typeof everyday === 'boolean') return everyday ? (1 << EVERYDAY.length) - 1 : 0;
+  const names = typeof everyday === 'string' ? [everyday] : everyday;
+  return names.reduce((sum, name) => {
+    const place = EVERYDAY.indexOf(name);
+    if (place < 0) throw new TypeError(`no class of everyday English: ${name}`);
+    return sum | 1 << place;
+  }, 0);
+}
 
 // Places in a string for places in its UTF-8 bytes; cheap for one after the other.
 class Units {
@@ -40,13 +58,38 @@ class Units {
   }
 }
 
-// What is inside of an instance, by address.
+// What is inside of an instance, by address. One in which a function threw, for want of memory or stack, is in no
+// known state, and what was made in it is gone: it is the last of its generation.
 class Memory {
-  constructor(exports) {
-    this.exports = exports;
+  #instantiate;
+  #isLost = false;
+
+  constructor(exports, instantiate) {
+    this.#instantiate = instantiate;
+    this.generation = 1;
+    this.#adopt(exports);
+  }
+  #adopt(exports) {
+    this.exports = {};
+    for (const [name, value] of Object.entries(exports)) {
+      this.exports[name] = typeof value !== 'function' ? value : (...values) => {
+        try {
+          return value(...values);
+        } catch (error) {
+          this.#isLost = true;
+          ++this.generation;
+          throw error;
+        }
+      };
+    }
     this.names = new Map();
     this.room = 0;
     this.size = 0;
+    this.#isLost = false;
+  }
+  // Another instance in the place of one that is lost.
+  renew() {
+    if (this.#isLost) this.#adopt(this.#instantiate());
   }
   view() {
     // The buffer is another one after the memory has grown.
@@ -100,50 +143,79 @@ class Memory {
 
 class Reader {
   #memory;
-  #reader;
+  #generation = 0; // of the instance that the reader is in
+  #reader = 0;
   #out; // where functions leave what they give
+  #capacity;
+  #classes;
+  #lexicon = '';
+  #isFreed = false;
 
-  constructor(memory, {capacity = 0, lexicon = '', everyday = [], americanDates = false} = {}) {
-    const {exports} = memory;
+  constructor(memory, options = {}) {
+    refuseOthers(options, ['capacity', 'lexicon', 'everyday', 'americanDates']);
+    const {capacity = 0, lexicon = '', everyday = false, americanDates = false} = options;
+    if (!Number.isInteger(capacity) || capacity < 0 || capacity >= 2 ** 32) throw new TypeError('a capacity is a number of bytes');
     this.#memory = memory;
-    this.#out = memory.take(8);
-    this.#check(exports.kavi_reader_new(capacity, this.#out));
-    this.#reader = memory.u32(this.#out);
-    if (lexicon === '' && (everyday === false || everyday.length === 0)) return;
-    if (exports.kavi_reader_set_lexicon === undefined) {
-      throw new TypeError('a lexicon and everyday English need load({everyday: true})');
+    this.#capacity = capacity;
+    this.#classes = bitsOf(everyday) | (americanDates ? AMERICAN_DATES : 0);
+    try {
+      this.#start();
+      if (lexicon !== '') this.setLexicon(lexicon);
+    } catch (error) {
+      this.free();
+      throw error;
     }
-    this.setLexicon(lexicon);
-    const classes = everyday === true ? EVERYDAY : everyday || [];
-    const bits = classes.reduce((sum, name) => {
-      const place = EVERYDAY.indexOf(name);
-      if (place < 0) throw new TypeError(`no class of everyday English: ${name}`);
-      return sum | 1 << place;
-    }, americanDates ? AMERICAN_DATES : 0);
-    this.#check(exports.kavi_reader_set_everyday(this.#reader, bits));
+  }
+
+  // In the instance that there is.
+  #start() {
+    this.#memory.renew();
+    this.#generation = this.#memory.generation;
+    this.#reader = 0;
+    this.#out = 0;
+    this.#out = this.#memory.take(8);
+    this.#check(this.#memory.exports.kavi_reader_new(this.#capacity, this.#out));
+    this.#reader = this.#memory.u32(this.#out);
+    if (this.#classes !== 0) {
+      this.#check(this.#everyday('kavi_reader_set_everyday')(this.#reader, this.#classes));
+    }
+    if (this.#lexicon !== '') this.setLexicon(this.#lexicon);
+  }
+
+  // Of the functions that only the larger module has.
+  #everyday(name) {
+    const found = this.#memory.exports[name];
+    if (found === undefined) throw new TypeError('a lexicon and everyday English need load({everyday: true})');
+    return found;
   }
 
   setLexicon(lines) {
-    const {exports} = this.#memory;
-    const length = this.#memory.put(lines);
-    const status = exports.kavi_reader_set_lexicon(this.#reader, 0, this.#memory.room, length);
-    if (status === BAD_LEXICON) throw new SyntaxError(this.#memory.charsAt(exports.kavi_reader_error(this.#reader)));
+    const length = this.#put(lines);
+    const status = this.#everyday('kavi_reader_set_lexicon')(this.#reader, 0, this.#memory.room, length);
+    if (status === BAD_LEXICON) {
+      throw new SyntaxError(this.#memory.charsAt(this.#memory.exports.kavi_reader_error(this.#reader)));
+    }
     this.#check(status);
+    this.#lexicon = lines;
   }
 
   normalize(text) {
-    const {exports} = this.#memory;
     const length = this.#put(text);
-    this.#check(exports.kavi_normalize(this.#reader, this.#memory.room, length, PLAIN, this.#out, this.#out + 4));
+    const {exports} = this.#memory;
+    const status = exports.kavi_normalize(this.#reader, this.#memory.room, length, PLAIN, this.#out, this.#out + 4);
+    this.#check(status);
     const spoken = this.#memory.u32(this.#out);
     const plain = decoder.decode(this.#memory.bytes(spoken, this.#memory.u32(this.#out + 4)));
     exports.kavi_free(spoken);
+    if (status === INCOMPLETE) throw new RangeError('the capacity does not hold what this text is read as');
     return plain;
   }
 
-  read(text, {rules = false} = {}) {
-    const {exports} = this.#memory;
+  read(text, options = {}) {
+    refuseOthers(options, ['rules']);
+    const {rules = false} = options;
     const length = this.#put(text);
+    const {exports} = this.#memory;
     const status = exports.kavi_read(this.#reader, this.#memory.room, length, rules ? WANTS_RUNS : 0, this.#out);
     this.#check(status);
     const result = this.#memory.u32(this.#out);
@@ -188,9 +260,11 @@ class Reader {
   }
 
   free() {
-    this.#memory.exports.kavi_reader_free(this.#reader);
-    this.#memory.exports.free(this.#out);
-    this.#reader = 0;
+    if (!this.#isFreed && this.#generation === this.#memory.generation) {
+      this.#memory.exports.kavi_reader_free(this.#reader);
+      this.#memory.exports.free(this.#out);
+    }
+    this.#isFreed = true;
   }
 
   #check(status) {
@@ -202,7 +276,8 @@ class Reader {
   // The length of the text in the memory's room.
   #put(text) {
     if (typeof text !== 'string') throw new TypeError('a text is a string');
-    if (this.#reader === 0) throw new TypeError('the reader is freed');
+    if (this.#isFreed) throw new TypeError('the reader is freed');
+    if (this.#generation !== this.#memory.generation) this.#start();
     return this.#memory.put(text);
   }
 
@@ -264,19 +339,25 @@ async function bytesOf(file) {
   return readFile(url);
 }
 
-export async function load({everyday = false, wasm} = {}) {
-  const source = wasm ?? await bytesOf(everyday ? './kavi-everyday.wasm' : './kavi.wasm');
-  const {instance} = await WebAssembly.instantiate(await source, {
+export async function load(options = {}) {
+  refuseOthers(options, ['everyday', 'wasm']);
+  const {everyday = false, wasm} = options;
+  const module = await WebAssembly.compile(await (wasm ?? bytesOf(everyday ? './kavi-everyday.wasm' : './kavi.wasm')));
+  const imports = {
     env: {emscripten_notify_memory_growth() {}},
     wasi_snapshot_preview1: {proc_exit(status) {
       throw new RangeError(`kavi ended with ${status}`); // there is no more memory
     }},
-  });
-  instance.exports._initialize();
-  const memory = new Memory(instance.exports);
+  };
+  const begun = ({exports}) => {
+    exports._initialize();
+    return exports;
+  };
+  const memory = new Memory(begun(await WebAssembly.instantiate(module, imports)),
+    () => begun(new WebAssembly.Instance(module, imports)));
   let usual;
-  const reader = options => new Reader(memory, options);
-  const theUsual = () => usual ??= reader();
-  return {reader, normalize: text => theUsual().normalize(text), read: (text, options) => theUsual().read(text, options),
-    lines: (chunks, options) => theUsual().lines(chunks, options)};
+  const reader = settings => new Reader(memory, settings);
+  const theUsual = () => usual ??= reader({everyday});
+  return {reader, normalize: text => theUsual().normalize(text), read: (text, settings) => theUsual().read(text, settings),
+    lines: (chunks, settings) => theUsual().lines(chunks, settings)};
 }

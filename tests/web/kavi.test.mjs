@@ -59,6 +59,7 @@ test('reads everyday English as the native tool does', () => {
   }
   assert.equal(large.reader({everyday: ['years'], americanDates: true}).normalize('3/4/2020'),
     'March fourth twenty twenty');
+  assert.equal(large.normalize("won't"), 'will not');
   assert.equal(EVERYDAY.length, 11);
 });
 
@@ -82,29 +83,63 @@ test('tells sources, heads and marks', () => {
   assert.deepEqual([ok.rate, ok.breaktime], ['2', '200']);
 });
 
-test('refuses what has no meaning, and says so', () => {
-  assert.throws(() => small.normalize(5), TypeError);
-  assert.throws(() => small.reader({lexicon: 'a\tb'}), /load\({everyday: true}\)/);
-  assert.throws(() => large.reader({everyday: ['all']}), /no class of everyday English: all/);
-  const reader = small.reader();
-  reader.free();
-  assert.throws(() => reader.normalize('a'), /freed/);
+test('refuses what has no meaning, and says so', async () => {
+  for (const [call, said] of [
+    [() => small.normalize(5), /^TypeError: a text/],
+    [() => small.read('a', {rule: true}), /^TypeError: no such option: rule$/],
+    [() => small.reader({american_dates: true}), /^TypeError: no such option: american_dates$/],
+    [() => small.reader({capacity: 2 ** 32}), /^TypeError: a capacity/],
+    [() => small.reader({lexicon: 'a\tb'}), /^TypeError: .*load\({everyday: true}\)/],
+    [() => small.reader().setLexicon('a\tb'), /^TypeError: .*load\({everyday: true}\)/],
+    [() => small.reader({everyday: 'units'}), /^TypeError: .*load\({everyday: true}\)/],
+    [() => large.reader({everyday: ['units', 'all']}), /^TypeError: no class of everyday English: all$/],
+    [() => small.reader({capacity: 1}).normalize('a b'), /^RangeError: the capacity/],
+  ]) assert.throws(call, said);
+  await assert.rejects(load({everyDay: true}), /^TypeError: no such option: everyDay$/);
   assert.equal(small.reader({capacity: 1}).read('a b').complete, false);
 });
 
+test('frees a reader once, also one whose constructor throws', () => {
+  const reader = large.reader();
+  reader.free();
+  reader.free();
+  assert.throws(() => reader.normalize('a'), /freed/);
+  // Some 100 KB each: all of them together are more than there can be.
+  for (let i = 0; i < 30000; ++i) assert.throws(() => large.reader({lexicon: 'bad'}), SyntaxError);
+  assert.equal(large.reader({lexicon: 'a\tb'}).normalize('a 5'), 'b five');
+});
+
+test('reads the next text when there was no memory for one', async () => {
+  // The same module with 8 MB at most.
+  const wasm = readFileSync(`${process.env.KAVI_PACKAGE}/kavi-everyday.wasm`);
+  const most = Buffer.from([0x80, 0x80, 0x02]); // 32,768 pages
+  wasm.set([0x80, 0x81, 0x00], wasm.indexOf(most));
+  const {reader} = await load({everyday: true, wasm});
+  const first = reader({everyday: 'contractions', lexicon: 'kavi\tkahvee'});
+  const second = reader();
+  assert.throws(() => second.read('a '.repeat(200000)));
+  assert.equal(first.normalize("kavi won't 5"), 'kahvee will not five');
+  assert.equal(second.normalize("kavi 5"), 'kavi five');
+  first.free();
+});
+
 test('reads a stream by lines', async () => {
-  const pieces = ['a 5\nb', new TextEncoder().encode(' é'), '\n\nc'];
+  const bytes = new TextEncoder().encode('a 5\nb é\r\n\nc\n\n');
   const lines = [];
-  for await (const {number, text, result} of small.lines(pieces)) {
-    lines.push([number, text, result.sentences.flatMap(s => s.words.map(w => w.word)).join(' ')]);
+  for await (const {number, text, result} of small.lines([...bytes].map(byte => Uint8Array.of(byte)))) {
+    lines.push([number, text, result.sentences.map(s => s.plain).join('')]);
   }
-  assert.deepEqual(lines, [[1, 'a 5', 'a five'], [2, 'b é', 'b'], [3, '', ''], [4, 'c', 'c']]);
+  assert.deepEqual(lines, [[1, 'a 5', 'a five'], [2, 'b é\r', 'b'], [3, '', ''], [4, 'c', 'c'], [5, '', '']]);
+  for await (const {text} of small.lines(['a', 'b'])) assert.equal(text, 'ab');
 });
 
 test('reads long texts', () => {
   const long = 'It is 10:30, and it costs $5. '.repeat(40000);
-  const spoken = small.normalize(long);
+  const spoken = small.normalize(long); // the memory grows
   assert.equal(spoken.length, small.normalize('It is 10:30, and it costs $5.').length * 40000 + 39999);
+  const {sentences, findings} = small.read('中'.repeat(100000) + ' 5');
+  assert.equal(sentences.at(-1).words.at(-1).offset, 100001);
+  assert.deepEqual(findings.map(f => [f.code, f.offset, f.length]), [['not-spoken', 0, 100000]]);
 });
 
 test('does what the pages show', async () => {

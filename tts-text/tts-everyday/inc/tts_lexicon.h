@@ -3,6 +3,8 @@
 #define KAVI_TTS_LEXICON_H
 
 #include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -11,43 +13,60 @@
 namespace kavi {
 
 // Lines "written<TAB>spoken", or "written<TAB>spoken<TAB>any case"; "#" begins a remark, empty
-// lines are passed over. What is written stands for whole words, numbers or marks, in UTF-8; what
-// is spoken is words of ASCII letters.
+// lines and blanks around each part are passed over, and so is a byte order mark. What is written
+// are whole words, numbers or marks, in UTF-8; what is spoken is words of ASCII letters.
 class Lexicon {
   public:
+    static constexpr std::size_t WRITTEN_MAX = 100;  // bytes
+    static constexpr std::size_t SPOKEN_MAX = 200;
+    static constexpr std::size_t ERRORS_MAX = 20;
+
     // One line: what is written there, and what is spoken for it.
     struct Entry {
-        std::string written;  // in lower case when any case is meant
         std::string spoken;
-        bool any_case;
+        std::shared_ptr<const std::string> file;
         std::size_t line_number;
     };
+    struct Match {
+        const Entry* entry = nullptr;  // the lexicon's; null for none
+        std::size_t length = 0;        // of the text
+    };
 
-    // Adds the lines of a file named `file`. False when one of them is wrong: `error` says which
-    // and how, as "FILE:LINE: text", and the lexicon has the lines before it.
+    // Adds the lines of a file named `file`, those that are right. False when one is wrong: `error`
+    // then says which and how, each as a line "FILE:LINE: text", and after ERRORS_MAX how many
+    // more there are. What an earlier call has added stays.
     bool add(const std::string& file, std::string_view bytes, std::string& error);
 
-    // The longest entry for what begins at `at` of a text, where a word, a number or a mark begins,
-    // or null; its length there is that of `written`.
-    const Entry* find(std::string_view text, std::size_t at) const;
+    // The longest entry for what begins at `at` of a text, where a word, a number or a mark begins.
+    // What belongs to an emoji after it, as a variation selector or a skin tone, is matched with
+    // it. Reads no more than WRITTEN_MAX bytes after the first word and what belongs to it.
+    Match find(std::string_view text, std::size_t at) const;
 
-    const std::string& file() const { return file_; }
     bool empty() const { return entries_.empty(); }
 
   private:
-    void index(std::size_t entry);
+    // What is written, token by token: each node is known by the one before it and its token.
+    struct Tree {
+        std::unordered_map<std::string, std::uint32_t> nodes;
+        std::vector<std::size_t> entries{NONE};  // by node; the first is the root
+
+        bool add(std::string_view written, std::size_t entry);
+        std::size_t find(std::string_view text, std::size_t at, bool any_case,
+                         std::size_t& length) const;
+    };
+    static constexpr std::size_t NONE = SIZE_MAX;
+
+    const char* add_line(std::string_view line, const std::shared_ptr<const std::string>& file,
+                         std::size_t number);
     void make_filter();
 
-    std::string file_;
     std::vector<Entry> entries_;
-    std::unordered_map<std::string, std::size_t> exact_;     // entries by what is written
-    std::unordered_map<std::string, std::size_t> any_case_;  // the same in lower case
+    Tree exact_;
+    Tree any_case_;  // in lower case
 
-    // For the first word, number or mark in lower case, how long the entries are that begin with
-    // it: each length once, the longest first.
-    std::unordered_map<std::string, std::vector<std::size_t>> lengths_;
-
-    // A bit for the hash of each of these: most words of a text are in none and are told so by it.
+    // The first word, number or mark of each entry, in lower case; and a bit for the hash of each:
+    // most words of a text are in none and are told so by it.
+    std::vector<std::size_t> hashes_;
     std::vector<bool> filter_;
 };
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
@@ -27,7 +26,7 @@ bool has_shape(const Place& place, std::string_view shape) {
         if (shape[i] == 'd' ? !is_digit(c) : c != shape[i]) return false;
     }
     const char after = place.peek(shape.size());
-    return !is_digit(after) && !is_of_word(after) &&
+    return !place.is_joined(shape.size()) &&
            !((after == '-' || after == '.') && is_digit(place.peek(shape.size() + 1)));
 }
 
@@ -38,10 +37,6 @@ void say_group(std::string_view digits, std::string& out) {
     }
     say_digits(digits, out);
 }
-
-// Of a name, so that a text that is nothing else is not looked at from each of its words to its
-// end.
-constexpr std::size_t LONGEST = 254;
 
 bool is_of_address(char c) {
     return is_letter(c) || is_digit(c) || c == '.' || c == '-' || c == '_' || c == '+' || c == '%';
@@ -119,14 +114,19 @@ void read_telephone(const Place& place, Found& found) {
 
 // Where an address may begin, with what no word of a sentence has in it.
 void read_address(const Place& place, Found& found) {
+    const char before = place.before();
+    const char last = place.before(2);
+    const bool is_inside =
+        (before == '@' || is_of_address(before)) && (is_letter(last) || is_digit(last));
+    if (is_inside) return;
     std::size_t scheme = 0;
     if (place.starts_with("https://")) scheme = 8;
     if (place.starts_with("http://")) scheme = 7;
-    std::string_view name = place.part(scheme, place.run(is_of_address, scheme, LONGEST));
+    std::string_view name = place.part(scheme, place.run(is_of_address, scheme));
     const bool is_mail = scheme == 0 && place.peek(name.size()) == '@';
     if (is_mail) {
-        const std::string_view host = trimmed(
-            place.part(name.size() + 1, place.run(is_of_address, name.size() + 1, LONGEST)));
+        const std::string_view host =
+            trimmed(place.part(name.size() + 1, place.run(is_of_address, name.size() + 1)));
         if (host.find('.') == std::string_view::npos) return;
         found.length = name.size() + 1 + host.size();
         return say_address(place.part(0, found.length), found.words);

@@ -33,8 +33,7 @@ constexpr std::string_view BEFORE_IS[] = {"it",    "he",    "she",  "that", "wha
 // The length of an apostrophe so far on; 0 for none.
 std::size_t apostrophe(const Place& place, std::size_t ahead) {
     if (place.peek(ahead) == '\'') return 1;
-    return place.starts_with("\xe2\x80\x99", ahead) || place.starts_with("\xe2\x80\x98", ahead) ? 3
-                                                                                                : 0;
+    return place.starts_with("’", ahead) || place.starts_with("‘", ahead) ? 3 : 0;
 }
 
 // The words as a sentence would begin with them.

@@ -1,7 +1,6 @@
 // Amounts of money with symbols or codes, before the number or after it, with scale words.
 
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
@@ -22,21 +21,22 @@ constexpr CurrencyRow BEFORE[] = {
     {"C$", "Canadian dollar", "Canadian dollars", "cent", "cents"},
     {"CA$", "Canadian dollar", "Canadian dollars", "cent", "cents"},
     {"$", "dollar", "dollars", "cent", "cents"},
-    {"\xe2\x82\xac", "euro", "euros", "cent", "cents"},     // €
-    {"\xc2\xa3", "pound", "pounds", "penny", "pence"},      // £
-    {"\xc2\xa5", "yen", "yen", nullptr, nullptr},           // ¥
-    {"\xe2\x82\xb9", "rupee", "rupees", "paisa", "paise"},  // ₹
+    {"€", "euro", "euros", "cent", "cents"},     // €
+    {"£", "pound", "pounds", "penny", "pence"},  // £
+    {"¥", "yen", "yen", nullptr, nullptr},       // ¥
+    {"₹", "rupee", "rupees", "paisa", "paise"},  // ₹
 };
 constexpr CurrencyRow AFTER[] = {
     {"USD", "US dollar", "US dollars", "cent", "cents"},
     {"EUR", "euro", "euros", "cent", "cents"},
     {"GBP", "pound", "pounds", "penny", "pence"},
+    {"$", "dollar", "dollars", "cent", "cents"},
     {"CHF", "Swiss franc", "Swiss francs", nullptr, nullptr},
     {"JPY", "yen", "yen", nullptr, nullptr},
-    {"\xe2\x82\xac", "euro", "euros", "cent", "cents"},
-    {"\xc2\xa3", "pound", "pounds", "penny", "pence"},
-    {"\xc2\xa2", "cent", "cents", nullptr, nullptr},  // ¢
-    {"\xc2\xa5", "yen", "yen", nullptr, nullptr},
+    {"€", "euro", "euros", "cent", "cents"},
+    {"£", "pound", "pounds", "penny", "pence"},
+    {"¢", "cent", "cents", nullptr, nullptr},  // ¢
+    {"¥", "yen", "yen", nullptr, nullptr},
     {"p", "penny", "pence", nullptr, nullptr},  // directly after the number
 };
 
@@ -65,26 +65,31 @@ const char* scale_at(const Place& place, std::size_t ahead, std::size_t& length)
     return nullptr;
 }
 
+// `symbol` is where the currency is written.
 void say_amount(const Number& number, const char* scale, const CurrencyRow& currency,
-                std::string& out) {
+                std::size_t symbol, Found& found) {
+    const auto say_currency = [&](bool is_one) {
+        found.say_name(symbol, currency.written.size(), is_one ? currency.one : currency.many);
+    };
     const bool has_hundredths =
         scale == nullptr && number.fraction.size() == 2 && currency.hundredth != nullptr;
     if (!has_hundredths) {
-        number.say(out);
-        if (scale != nullptr) say(scale, out);
-        say(number.is_one() && scale == nullptr ? currency.one : currency.many, out);
-        return;
+        number.say(found.words);
+        if (scale != nullptr) say(scale, found.words);
+        return say_currency(number.is_one() && scale == nullptr);
     }
     const bool is_whole = number.fraction == "00";
     const bool has_whole = number.whole.find_first_not_of('0') != std::string::npos;
     if (has_whole || is_whole) {
-        say_cardinal(number.whole, out);
-        say(number.whole == "1" ? currency.one : currency.many, out);
+        say_cardinal(number.whole, found.words);
+        say_currency(number.whole == "1");
+    } else {
+        found.name = {symbol, currency.written.size(), 0, 0};
     }
     if (is_whole) return;
-    if (has_whole) say("and", out);
-    say_cardinal(number.fraction, out);
-    say(number.fraction == "01" ? currency.hundredth : currency.hundredths, out);
+    if (has_whole) say("and", found.words);
+    say_cardinal(number.fraction, found.words);
+    say(number.fraction == "01" ? currency.hundredth : currency.hundredths, found.words);
 }
 
 }  // namespace
@@ -97,24 +102,22 @@ void read_currency(const Place& place, Found& found) {
         if (!place.starts_with(row.written, minus)) continue;
         if (is_letter(place.before())) return;
         const std::size_t begin = minus + row.written.size();
-        const Number number = number_at(place.rest(begin));
+        const Number number = number_at(place, begin);
         if (number.length == 0) continue;
         if (minus > 0) say("minus", found.words);
         std::size_t scale_length = 0;
         const std::size_t end = begin + number.length;
         // "$5-10 million": both are of the same.
-        const Place after = {place.text, place.at + end};
-        const std::size_t dash = after.dash(0);
+        const std::size_t dash = place.dash(end);
         const std::size_t second_symbol =
-            after.starts_with(row.written, dash) ? row.written.size() : 0;
-        const Number second =
-            dash > 0 ? number_at(place.rest(end + dash + second_symbol)) : Number{};
+            place.starts_with(row.written, end + dash) ? row.written.size() : 0;
+        const Number second = dash > 0 ? number_at(place, end + dash + second_symbol) : Number{};
         if (second.length > 0) {
             const std::size_t second_end = end + dash + second_symbol + second.length;
             const char* scale = scale_at(place, second_end, scale_length);
             number.say(found.words);
             say("to", found.words);
-            say_amount(second, scale, row, found.words);
+            say_amount(second, scale, row, minus, found);
             found.length = second_end + scale_length;
             return;
         }
@@ -123,16 +126,16 @@ void read_currency(const Place& place, Found& found) {
         if (number.fraction.size() != 2 && place.is_before_noun(found.length)) {
             number.say(found.words);
             if (scale != nullptr) say(scale, found.words);
-            say(row.one, found.words);
+            found.say_name(minus, row.written.size(), row.one);
         } else {
-            say_amount(number, scale, row, found.words);
+            say_amount(number, scale, row, minus, found);
         }
         return;
     }
 }
 
 void read_amount_after(const Place& place, Found& found) {
-    const Number number = number_at(place.rest(0));
+    const Number number = number_at(place, 0);
     std::size_t scale_length = 0;
     const char* scale = scale_at(place, number.length, scale_length);
     const std::size_t end = number.length + scale_length;
@@ -141,8 +144,8 @@ void read_amount_after(const Place& place, Found& found) {
         if (!place.starts_with(row.written, end + blank)) continue;
         if (row.written == "p" && (blank > 0 || scale != nullptr)) continue;
         const std::size_t after = end + blank + row.written.size();
-        if (is_of_word(place.peek(after)) || is_digit(place.peek(after))) continue;
-        say_amount(number, scale, row, found.words);
+        if (place.is_joined(after)) continue;
+        say_amount(number, scale, row, end + blank, found);
         found.length = after;
         return;
     }

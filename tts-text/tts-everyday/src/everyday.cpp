@@ -5,7 +5,8 @@
 #include <iterator>
 
 #include "for_everyday.h"
-#include "rules.h"
+#include "own_words.h"
+#include "tokens.h"
 #include "tts_everyday.h"
 
 namespace kavi {
@@ -16,7 +17,8 @@ using everyday::Found;
 using everyday::is_digit;
 using everyday::is_letter;
 using everyday::is_lower;
-using everyday::is_of_word;
+using everyday::is_outside_ascii;
+using everyday::OwnWords;
 using everyday::Place;
 
 struct RuleRow {
@@ -46,7 +48,6 @@ constexpr RuleRow WORD_RULES[] = {
     {EverydayClass::numbers, everyday::read_code, "everyday: numbers"},
     {EverydayClass::numbers, everyday::read_sign, "everyday: numbers"},
     {EverydayClass::letters, everyday::read_letters, "everyday: letters"},
-    {EverydayClass::letters, everyday::read_typography, "everyday: letters"},
 };
 constexpr RuleRow MARK_RULES[] = {
     {EverydayClass::addresses, everyday::read_telephone, "everyday: addresses"},
@@ -55,6 +56,7 @@ constexpr RuleRow MARK_RULES[] = {
     {EverydayClass::numbers, everyday::read_sign, "everyday: numbers"},
     {EverydayClass::contractions, everyday::read_contraction, "everyday: contractions"},
     {EverydayClass::shields, everyday::read_shield, "everyday: shields"},
+    {EverydayClass::letters, everyday::read_typography, "everyday: letters"},
 };
 
 constexpr const char* CLASS_NAMES[EVERYDAY_CLASSES] = {
@@ -66,9 +68,9 @@ struct Rules {
     const RuleRow* end;
 };
 
-Rules rules_for(char c) {
-    if (is_digit(c)) return {std::begin(DIGIT_RULES), std::end(DIGIT_RULES)};
-    if (is_of_word(c)) return {std::begin(WORD_RULES), std::end(WORD_RULES)};
+Rules rules_for(const Place& place) {
+    if (is_digit(place.peek())) return {std::begin(DIGIT_RULES), std::end(DIGIT_RULES)};
+    if (place.letter(0) > 0) return {std::begin(WORD_RULES), std::end(WORD_RULES)};
     return {std::begin(MARK_RULES), std::end(MARK_RULES)};
 }
 
@@ -92,42 +94,60 @@ bool is_plain_word(const Place& place) {
            after == '!' || after == ')' || after == '"' || after == '<';
 }
 
-// The first of the rules that are on and read what begins at a place, or null.
-const RuleRow* find_rule(const Place& place, unsigned classes, bool american_dates, Found& found) {
+// Whether a rule reads what begins at a place, within the bound of what it can see.
+bool has_found(everyday::Rule rule, const Place& place, Found& found) {
+    found.length = 0;
+    found.words.clear();
+    found.name = {};
+    rule(place, found);
+    return found.length > 0 && !place.has_met_bound();
+}
+
+struct Settings {
+    unsigned classes;
+    bool american_dates;
+};
+
+// The first of the rules that are on and read what begins at `at`, where the user's words allow it,
+// or null. `entry` is that of a word that the user has in its place, or null.
+const RuleRow* find_rule(std::string_view text, std::size_t at, const Settings& settings,
+                         OwnWords& own_words, Found& found, const Lexicon::Entry*& entry) {
+    const Place place(text, at);
     if (is_plain_word(place)) return nullptr;
-    const Rules rules = rules_for(place.peek());
+    const Rules rules = rules_for(place);
     for (const RuleRow* row = rules.begin; row != rules.end; ++row) {
-        if ((classes >> static_cast<unsigned>(row->everyday_class) & 1U) == 0) continue;
-        found.length = 0;
-        found.words.clear();
-        if (american_dates && row->rule == everyday::read_date) {
-            everyday::read_american_date(place, found);
-        }
-        if (found.length == 0) row->rule(place, found);
-        if (found.length > 0) return row;
+        if ((settings.classes >> static_cast<unsigned>(row->everyday_class) & 1U) == 0) continue;
+        const bool is_found = (settings.american_dates && row->rule == everyday::read_date &&
+                               has_found(everyday::read_american_date, Place(text, at), found)) ||
+                              has_found(row->rule, Place(text, at), found);
+        if (!is_found) continue;
+        // An address is one word, whatever is in it.
+        entry = nullptr;
+        if (row->everyday_class == EverydayClass::addresses) return row;
+        if (own_words.allow(at, found, entry)) return row;
     }
     return nullptr;
+}
+
+// A full stop after words must not make an abbreviation of the last of them.
+void shield(char after, std::string& words) {
+    if (after == '.' && everyday::ends_like_abbreviation(words)) words += ' ';
 }
 
 // Makes words be words of their own between two characters, with a blank where those are of a word
 // or a number; after "<", so that they do not make a markup tag.
 void set_apart(char before, char after, std::string& words) {
     if (words.empty()) words = " ";
-    const auto joins = [](char c) { return is_of_word(c) || is_digit(c); };
+    const auto joins = [](char c) { return is_letter(c) || is_outside_ascii(c) || is_digit(c); };
     if (is_letter(words[0]) && (joins(before) || before == '<')) words.insert(0, 1, ' ');
     if (is_letter(words.back()) && joins(after)) words += ' ';
 }
 
-// Where the next word, number or mark begins after that at a place, past blanks.
-std::size_t next_place(const Place& place) {
-    const char c = place.peek();
-    std::size_t length = 1;
-    if (is_of_word(c)) {
-        length = place.run(is_of_word);
-    } else if (is_digit(c)) {
-        length = place.run(is_digit);
-    }
-    return place.at + length + place.run([](char blank) { return blank == ' '; }, length);
+// Where the next word, number or mark begins after that at `at`, past blanks.
+std::size_t next_place(std::string_view text, std::size_t at) {
+    std::size_t next = at + everyday::cluster_length(text, at);
+    while (next < text.size() && text[next] == ' ') ++next;
+    return next;
 }
 
 }  // namespace
@@ -146,6 +166,10 @@ std::optional<EverydayClass> everyday_class_of(std::string_view name) {
 bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
     const std::size_t from = rewriting.source.offset + rewriting.source.length;
     const char last = !rewriting.words.empty() ? rewriting.words.back() : '\0';
+    // Words that end at a full stop have their shield.
+    const unsigned shields = 1U << static_cast<unsigned>(EverydayClass::shields);
+    const std::size_t words_end = rewriting.source.length > 0 ? from : text.size();
+    OwnWords own_words(lexicon_, text);
     Found found;
     found.words.swap(rewriting.words);  // for its memory
     for (std::size_t at = from; at < text.size();) {
@@ -153,21 +177,32 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
             at += tag;
             continue;
         }
-        const Place place = {text, at};
-        if (const Lexicon::Entry* entry =
-                lexicon_ != nullptr ? lexicon_->find(text, at) : nullptr) {
-            found.length = entry->written.size();
-            found.words = entry->spoken;
-            rewriting.by = {"lexicon", lexicon_->file().c_str(), entry->line_number};
-        } else if (const RuleRow* row = find_rule(place, classes_, american_dates_, found)) {
-            rewriting.by = {row->name};
-        } else {
-            at = next_place(place);
+        const unsigned classes = at == words_end ? classes_ & ~shields : classes_;
+        const Lexicon::Match own = own_words.at(at);
+        const Lexicon::Entry* entry = nullptr;
+        const RuleRow* row =
+            find_rule(text, at, {classes, american_dates_}, own_words, found, entry);
+        if (row == nullptr && own.entry == nullptr) {
+            at = next_place(text, at);
             continue;
+        }
+        if (row == nullptr) {
+            entry = own.entry;
+            found.length = own.length;
+            found.words = entry->spoken;
+        }
+        rewriting.by = {row != nullptr ? row->name : "lexicon"};
+        if (entry != nullptr) {
+            rewriting.by.file = entry->file->c_str();
+            rewriting.by.line_number = entry->line_number;
         }
         rewriting.source = {at, found.length};
         rewriting.words.swap(found.words);
-        set_apart(at == from ? last : place.before(), place.peek(found.length), rewriting.words);
+        const std::size_t end = at + found.length;
+        const char after = end < text.size() ? text[end] : '\0';
+        shield(after, rewriting.words);
+        const char before = at == from ? last : text[at - 1];
+        set_apart(before, after, rewriting.words);
         return true;
     }
     rewriting.words.swap(found.words);

@@ -2,8 +2,6 @@
 
 #include "fractions.h"
 
-#include "spoken_numbers.h"
-
 namespace kavi::everyday {
 
 namespace {
@@ -15,16 +13,16 @@ struct SignRow {
 
 // clang-format off
 constexpr SignRow SIGNS[] = {
-    {"\xc2\xbd",     "one half"},
-    {"\xc2\xbc",     "one quarter"},
-    {"\xc2\xbe",     "three quarters"},
-    {"\xe2\x85\x93", "one third"},
-    {"\xe2\x85\x94", "two thirds"},
-    {"\xe2\x85\x9b", "one eighth"},
-    {"\xe2\x85\x9c", "three eighths"},
-    {"\xe2\x85\x9d", "five eighths"},
-    {"\xe2\x85\x9e", "seven eighths"},
-    {"\xe2\x85\x95", "one fifth"},
+    {"½",     "one half"},
+    {"¼",     "one quarter"},
+    {"¾",     "three quarters"},
+    {"⅓", "one third"},
+    {"⅔", "two thirds"},
+    {"⅛", "one eighth"},
+    {"⅜", "three eighths"},
+    {"⅝", "five eighths"},
+    {"⅞", "seven eighths"},
+    {"⅕", "one fifth"},
 };
 // clang-format on
 
@@ -105,9 +103,9 @@ bool read_whole_and_slash(const Place& place, std::string_view whole, Found& fou
     return true;
 }
 
-// "1/2", which no other slash follows
+// "1/2", with no other slash before it or after it
 bool read_slash(const Place& place, std::string_view above, Found& found) {
-    if (place.peek(above.size()) != '/') return false;
+    if (place.peek(above.size()) != '/' || place.before() == '/') return false;
     const std::string_view below = place.digits(above.size() + 1);
     const std::size_t end = above.size() + 1 + below.size();
     if (place.peek(end) == '/' || !say_fraction(above, below, found.words)) return false;

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <functional>
 
 #include "place.h"
+#include "tokens.h"
 #include "tts_lexicon.h"
 
 namespace kavi {
@@ -12,8 +12,7 @@ namespace kavi {
 namespace {
 
 using everyday::in_lower_case;
-using everyday::is_digit;
-using everyday::is_of_word;
+using everyday::token_at;
 
 // Of the text in lower case; all of its bits count.
 std::size_t hash_of(std::string_view text) {
@@ -26,19 +25,10 @@ std::size_t hash_of(std::string_view text) {
     return static_cast<std::size_t>(hash ^ (hash >> 32U));
 }
 
-// The word, number or mark that begins at `at`.
-std::string_view token_at(std::string_view text, std::size_t at) {
-    const everyday::Place place = {text, at};
-    if (is_of_word(place.peek())) return place.part(0, place.run(is_of_word));
-    if (is_digit(place.peek())) return place.digits();
-    return place.part(0, 1);
-}
-
-// Whether a word or a number goes on from before a place to after it.
-bool is_inside_token(std::string_view text, std::size_t at) {
-    if (at == 0 || at >= text.size()) return false;
-    return (is_of_word(text[at - 1]) && is_of_word(text[at])) ||
-           (is_digit(text[at - 1]) && is_digit(text[at]));
+// The name of the node that comes after another by a token.
+std::string node_name(std::uint32_t node, std::string_view token) {
+    std::string name(reinterpret_cast<const char*>(&node), sizeof node);
+    return name += token;
 }
 
 bool is_words(std::string_view text) {
@@ -46,88 +36,129 @@ bool is_words(std::string_view text) {
                                         [](char c) { return everyday::is_letter(c) || c == ' '; });
 }
 
-// What is wrong with a line; null for nothing.
-const char* fault_of(std::string_view line, std::string_view written, std::string_view spoken,
-                     std::string_view third) {
-    if (line.find('\t') == std::string_view::npos) return "no tab after what is written";
+std::string_view without_blanks(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+// The next part of a line, up to the next such mark or to its end; it is taken from the line.
+std::string_view take_part(std::string_view& line, char end) {
+    const std::string_view part = line.substr(0, line.find(end));
+    line.remove_prefix(std::min(part.size() + 1, line.size()));
+    return part;
+}
+
+// What is wrong with the parts of a line; null for nothing.
+const char* fault_of(std::string_view written, std::string_view spoken, std::string_view third) {
+    static_assert(Lexicon::WRITTEN_MAX == 100 && Lexicon::SPOKEN_MAX == 200);
     if (written.empty()) return "nothing is written before the tab";
-    if (!utf8::is_valid(line.begin(), line.end())) return "not UTF-8";
+    if (!utf8::is_valid(written.begin(), written.end())) return "not UTF-8";
     if (written.find('<') != std::string_view::npos)
         return "\"<\" begins markup, which is not rewritten";
+    if (written.size() > Lexicon::WRITTEN_MAX) return "what is written is longer than 100 bytes";
     if (!is_words(spoken)) return "what is spoken must be words of the letters a to z";
+    if (spoken.size() > Lexicon::SPOKEN_MAX) return "what is spoken is longer than 200 letters";
     if (!third.empty() && third != "any case")
-        return "after the second tab stands \"any case\" or nothing";
+        return "after the second tab comes \"any case\" or nothing";
     return nullptr;
 }
 
 }  // namespace
 
-bool Lexicon::add(const std::string& file, std::string_view bytes, std::string& error) {
-    constexpr std::size_t BYTES_OF_LINE = 24;
-    file_ = file;
-    for (auto* map : {&exact_, &any_case_}) map->reserve(bytes.size() / BYTES_OF_LINE);
-    lengths_.reserve(bytes.size() / BYTES_OF_LINE);
-    std::size_t number = 0;
-    while (!bytes.empty()) {
-        std::string_view line = bytes.substr(0, bytes.find('\n'));
-        bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
-        ++number;
-        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-        if (line.empty() || line[0] == '#') continue;
-        const std::string_view written = line.substr(0, line.find('\t'));
-        std::string_view rest = line.substr(std::min(written.size() + 1, line.size()));
-        const std::string_view spoken = rest.substr(0, rest.find('\t'));
-        const std::string_view third = rest.substr(std::min(spoken.size() + 1, rest.size()));
-        const char* fault = fault_of(line, written, spoken, third);
-        const bool any_case = !third.empty();
-        std::string key = any_case ? in_lower_case(written) : std::string(written);
-        const bool is_known = (any_case ? any_case_ : exact_).count(key) > 0;
-        if (fault == nullptr && is_known) fault = "written in an earlier line too";
-        if (fault != nullptr) {
-            error = file + ":" + std::to_string(number) + ": " + fault;
-            return false;
-        }
-        entries_.push_back({std::move(key), std::string(spoken), any_case, number});
-        index(entries_.size() - 1);
+bool Lexicon::Tree::add(std::string_view written, std::size_t entry) {
+    std::uint32_t node = 0;
+    for (std::size_t at = 0; at < written.size();) {
+        const std::string_view token = token_at(written, at);
+        const auto next = static_cast<std::uint32_t>(entries.size());
+        const auto [place, is_new] = nodes.emplace(node_name(node, token), next);
+        if (is_new) entries.push_back(NONE);
+        node = place->second;
+        at += token.size();
     }
-    make_filter();
+    if (entries[node] != NONE) return false;
+    entries[node] = entry;
     return true;
 }
 
-void Lexicon::index(std::size_t entry) {
-    const std::string& written = entries_[entry].written;
-    (entries_[entry].any_case ? any_case_ : exact_).emplace(written, entry);
-    const std::string first = in_lower_case(token_at(written, 0));
-    std::vector<std::size_t>& lengths = lengths_[first];
-    const auto place =
-        std::lower_bound(lengths.begin(), lengths.end(), written.size(), std::greater<>());
-    if (place == lengths.end() || *place != written.size()) lengths.insert(place, written.size());
+std::size_t Lexicon::Tree::find(std::string_view text, std::size_t at, bool any_case,
+                                std::size_t& length) const {
+    const std::string_view here = text.substr(at, WRITTEN_MAX + everyday::CODE_POINT_BYTES);
+    std::size_t found = NONE;
+    std::uint32_t node = 0;
+    for (std::size_t end = 0; end < here.size();) {
+        const std::string_view token = token_at(here, end);
+        if (end + token.size() > WRITTEN_MAX) break;
+        const auto next = nodes.find(node_name(node, any_case ? in_lower_case(token) : token));
+        if (next == nodes.end()) break;
+        node = next->second;
+        end += token.size();
+        const std::size_t all = end + everyday::emoji_rest(text, token, at + end);
+        if (entries[node] == NONE || everyday::is_inside_token(text, at + all)) continue;
+        found = entries[node];
+        length = all;
+    }
+    return found;
+}
+
+const char* Lexicon::add_line(std::string_view line, const std::shared_ptr<const std::string>& file,
+                              std::size_t number) {
+    if (line.find('\t') == std::string_view::npos) return "no tab after what is written";
+    const std::string_view written = without_blanks(take_part(line, '\t'));
+    const std::string_view spoken = without_blanks(take_part(line, '\t'));
+    const std::string_view third = without_blanks(line);
+    if (const char* fault = fault_of(written, spoken, third)) return fault;
+    const bool is_new = third.empty() ? exact_.add(written, entries_.size())
+                                      : any_case_.add(in_lower_case(written), entries_.size());
+    if (!is_new) return "written in an earlier line too";
+    entries_.push_back({std::string(spoken), file, number});
+    hashes_.push_back(hash_of(token_at(written, 0)));
+    return nullptr;
+}
+
+bool Lexicon::add(const std::string& file, std::string_view bytes, std::string& error) {
+    constexpr std::string_view BYTE_ORDER_MARK = "\xef\xbb\xbf";
+    constexpr std::size_t BYTES_OF_LINE = 24;
+    error.clear();
+    if (bytes.substr(0, BYTE_ORDER_MARK.size()) == BYTE_ORDER_MARK)
+        bytes.remove_prefix(BYTE_ORDER_MARK.size());
+    for (Tree* tree : {&exact_, &any_case_}) tree->nodes.reserve(bytes.size() / BYTES_OF_LINE);
+    const auto shared_file = std::make_shared<const std::string>(file);
+    std::size_t n_faults = 0;
+    for (std::size_t number = 1; !bytes.empty(); ++number) {
+        std::string_view line = take_part(bytes, '\n');
+        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+        line = without_blanks(line);
+        if (line.empty() || line[0] == '#') continue;
+        const char* fault = add_line(line, shared_file, number);
+        if (fault == nullptr || ++n_faults > ERRORS_MAX) continue;
+        error += (n_faults > 1 ? "\n" : "") + file + ":" + std::to_string(number) + ": " + fault;
+    }
+    if (n_faults > ERRORS_MAX) {
+        error += "\n" + file + ": " + std::to_string(n_faults - ERRORS_MAX) + " more bad lines";
+    }
+    make_filter();
+    return n_faults == 0;
 }
 
 void Lexicon::make_filter() {
     constexpr std::size_t BITS_OF_EACH = 16;
     std::size_t bits = BITS_OF_EACH;
-    while (bits < BITS_OF_EACH * lengths_.size()) bits *= 2;
+    while (bits < BITS_OF_EACH * hashes_.size()) bits *= 2;
     filter_.assign(bits, false);
-    for (const auto& [first, lengths] : lengths_) filter_[hash_of(first) & (bits - 1)] = true;
+    for (const std::size_t hash : hashes_) filter_[hash & (bits - 1)] = true;
 }
 
-const Lexicon::Entry* Lexicon::find(std::string_view text, std::size_t at) const {
-    const std::string_view first = token_at(text, at);
-    if (filter_.empty() || !filter_[hash_of(first) & (filter_.size() - 1)]) return nullptr;
-    const auto lengths = lengths_.find(in_lower_case(first));
-    if (lengths == lengths_.end()) return nullptr;
-    for (const std::size_t length : lengths->second) {
-        if (at + length > text.size() || is_inside_token(text, at + length)) continue;
-        const std::string here(text.substr(at, length));
-        if (const auto found = exact_.find(here); found != exact_.end()) {
-            return &entries_[found->second];
-        }
-        if (const auto found = any_case_.find(in_lower_case(here)); found != any_case_.end()) {
-            return &entries_[found->second];
-        }
-    }
-    return nullptr;
+Lexicon::Match Lexicon::find(std::string_view text, std::size_t at) const {
+    if (filter_.empty()) return {};
+    if (!filter_[hash_of(token_at(text, at)) & (filter_.size() - 1)]) return {};
+    std::size_t exact_length = 0;
+    std::size_t any_case_length = 0;
+    const std::size_t exact = exact_.find(text, at, false, exact_length);
+    const std::size_t any_case = any_case_.find(text, at, true, any_case_length);
+    const bool is_exact = exact_length >= any_case_length;
+    const std::size_t found = is_exact ? exact : any_case;
+    if (found == NONE) return {};
+    return {&entries_[found], is_exact ? exact_length : any_case_length};
 }
 
 }  // namespace kavi

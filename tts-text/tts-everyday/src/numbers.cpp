@@ -2,21 +2,14 @@
 
 #include "fractions.h"
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
 namespace {
 
 // Letters of ordinals, on the line and above it.
-constexpr std::string_view SUFFIXES[] = {"st",
-                                         "nd",
-                                         "rd",
-                                         "th",
-                                         "\xcb\xa2\xe1\xb5\x97",
-                                         "\xe2\x81\xbf\xe1\xb5\x88",
-                                         "\xca\xb3\xe1\xb5\x88",
-                                         "\xe1\xb5\x97\xca\xb0"};
+constexpr std::string_view SUFFIXES[] = {"st", "nd", "rd", "th", "ST", "ND",
+                                         "RD", "TH", "ˢᵗ", "ⁿᵈ", "ʳᵈ", "ᵗʰ"};
 
 struct SignRow {
     std::string_view written;
@@ -26,40 +19,36 @@ struct SignRow {
 // clang-format off
 constexpr SignRow SIGNS_BEFORE_NUMBERS[] = {
     {"-",            "minus"},
-    {"\xe2\x88\x92", "minus"},
+    {"−", "minus"},
     {"#",            "number"},
-    {"\xe2\x84\x96", "number"},
+    {"№", "number"},
     {"~",            "about"},
     {"+",            "plus"},
-    {"\xc2\xb1",     "plus or minus"},
-    {"\xe2\x89\x88", "about"},
-    {"\xc2\xa7",     "section"},
+    {"±",     "plus or minus"},
+    {"≈", "about"},
+    {"§",     "section"},
 };
 
 constexpr SignRow SIGNS_ANYWHERE[] = {
     {"&",            "and"},
-    {"\xc3\x97",     "times"},
-    {"\xc2\xb2",     "squared"},
-    {"\xc2\xb3",     "cubed"},
-    {"\xc2\xb0",     "degrees"},
-    {"\xc2\xa9",     "copyright"},
-    {"\xe2\x82\xac", "euros"},
-    {"\xc2\xa3",     "pounds"},
-    {"\xcf\x80",     "pi"},
-    {"\xc2\xb5",     "micro"},
-    {"\xe2\x84\xa2", "trademark"},
+    {"×",     "times"},
+    {"²",     "squared"},
+    {"³",     "cubed"},
+    {"°",     "degrees"},
+    {"©",     "copyright"},
+    {"€", "euros"},
+    {"£",     "pounds"},
+    {"π",     "pi"},
+    {"µ",     "micro"},
+    {"™", "trademark"},
 };
 // clang-format on
-
-bool ends_word(const Place& place, std::size_t ahead) {
-    return !is_of_word(place.peek(ahead)) && !is_digit(place.peek(ahead));
-}
 
 bool read_ordinal(const Place& place, const Number& number, Found& found) {
     if (!number.fraction.empty()) return false;
     for (const std::string_view suffix : SUFFIXES) {
         if (!place.starts_with(suffix, number.length)) continue;
-        if (is_letter(place.peek(number.length + suffix.size()))) continue;
+        if (place.is_joined(number.length + suffix.size())) continue;
         say_ordinal(number.whole, found.words);
         found.length = number.length + suffix.size();
         return true;
@@ -71,7 +60,7 @@ bool read_ordinal(const Place& place, const Number& number, Found& found) {
 bool read_house_number(const Place& place, const Number& number, Found& found) {
     const std::size_t end = number.length;
     const bool is_one = number.whole.size() > 2 && number.whole.size() == end &&
-                        is_upper(place.peek(end)) && ends_word(place, end + 1);
+                        is_upper(place.peek(end)) && !place.is_joined(end + 1);
     if (!is_one) return false;
     say_digits(number.whole, found.words);
     found.length = end;
@@ -80,12 +69,14 @@ bool read_house_number(const Place& place, const Number& number, Found& found) {
 
 // ---- What may come after a number: how long it is, its words added ----
 
-// "10-20", "3–2"
+// "10-20", "3–2"; not "1-2-3"
 std::size_t say_range(const Place& place, std::size_t ahead, std::string& out) {
     const std::size_t dash = place.dash(ahead);
     if (dash == 0 || place.before() == '-') return 0;
-    const Number last = number_at(place.rest(ahead + dash));
-    if (last.length == 0) return 0;
+    const Number last = number_at(place, ahead + dash);
+    const std::size_t end = ahead + dash + last.length;
+    if (last.length == 0 || (place.dash(end) > 0 && is_digit(place.peek(end + place.dash(end)))))
+        return 0;
     say("to", out);
     last.say(out);
     return dash + last.length;
@@ -101,11 +92,11 @@ std::size_t say_percent(const Place& place, std::size_t ahead, std::string& out)
 
 // "3x", "3 x 4", "3×4", "3 × 4"; the blank after it is left
 std::size_t times_length(const Place& place, std::size_t ahead) {
-    constexpr std::string_view CROSS = "\xc3\x97";
+    constexpr std::string_view CROSS = "×";
     if (place.starts_with(CROSS, ahead)) return CROSS.size();
-    if (place.starts_with(" \xc3\x97 ", ahead)) return 1 + CROSS.size();
+    if (place.starts_with(" × ", ahead)) return 1 + CROSS.size();
     if (place.starts_with(" x ", ahead) && is_digit(place.peek(ahead + 3))) return 2;
-    return place.peek(ahead) == 'x' && ends_word(place, ahead + 1) ? 1 : 0;
+    return place.peek(ahead) == 'x' && !place.is_joined(ahead + 1) ? 1 : 0;
 }
 
 std::size_t say_times(const Place& place, std::size_t ahead, std::string& out) {
@@ -136,8 +127,11 @@ bool read_sign_before_number(const Place& place, Found& found) {
 
 void read_sign_anywhere(const Place& place, Found& found) {
     for (const SignRow& row : SIGNS_ANYWHERE) {
+        const std::size_t length = row.written.size();
         if (!place.starts_with(row.written)) continue;
-        found.length = row.written.size();
+        // "πr", but not the first letter of "πόλις".
+        if (place.letter(0) > 0 && place.letter(length) > 1) continue;
+        found.length = length;
         found.words = row.spoken;
         return;
     }
@@ -163,10 +157,10 @@ void read_code(const Place& place, Found& found) {
         digits.size() < LONGEST ? say_cardinal(digits, found.words)
                                 : say_digits(digits, found.words);
     }
-    if (!has_digits || !ends_word(place, end)) return;
+    if (!has_digits || !!place.is_joined(end)) return;
     // The second half of a postcode.
     const bool has_half = place.peek(end) == ' ' && is_digit(place.peek(end + 1)) &&
-                          place.run(is_upper, end + 2) == 2 && ends_word(place, end + 4);
+                          place.run(is_upper, end + 2) == 2 && !place.is_joined(end + 4);
     if (has_half) {
         say_digits(place.part(end + 1, 1), found.words);
         say(place.part(end + 2, 1), found.words);
@@ -177,7 +171,7 @@ void read_code(const Place& place, Found& found) {
 }
 
 void read_number(const Place& place, Found& found) {
-    const Number number = number_at(place.rest(0));
+    const Number number = number_at(place, 0);
     if (number.fraction.empty() && read_fraction(place, found)) return;
     if (read_ordinal(place, number, found) || read_house_number(place, number, found)) return;
     const bool is_code =

@@ -1,18 +1,44 @@
 #include "place.h"
 
-#include <algorithm>
 #include <iterator>
+
+#include "tokens.h"
 
 namespace kavi::everyday {
 
 namespace {
 
-// Words that do not make what stands before them a part of a name: "a 5 km from here".
+// Words that do not make what comes before them a part of a name: "a 5 km from here".
 constexpr std::string_view NO_NOUNS[] = {"a",    "an",   "and",  "at", "but", "by",  "for",
                                          "from", "in",   "is",   "of", "off", "on",  "or",
                                          "per",  "than", "that", "to", "was", "with"};
 
 }  // namespace
+
+std::size_t Place::letter(std::size_t ahead) const {
+    if (is_letter(peek(ahead))) return 1;
+    if (!is_outside_ascii(peek(ahead))) return 0;
+    const CodePoint c = code_point_at(part(ahead, CODE_POINT_BYTES));
+    return is_letter_of_any_script(c.value) ? c.length : 0;
+}
+
+std::size_t Place::word(std::size_t ahead) const {
+    std::size_t length = 0;
+    while (const std::size_t letter_length = letter(ahead + length)) length += letter_length;
+    return length;
+}
+
+std::string_view Place::letters_before(std::size_t back) const {
+    std::size_t begin = back;
+    while (is_letter(before(begin + 1))) ++begin;
+    if (begin >= behind_.size() && is_cut_behind_) return {};
+    return behind_.substr(behind_.size() - begin, begin - back);
+}
+
+std::string_view Place::word_before(std::size_t back) const {
+    while (before(back + 1) == ' ') ++back;
+    return letters_before(back);
+}
 
 bool Place::is_before_noun(std::size_t ahead) const {
     const std::string_view article = word_before();
@@ -20,6 +46,12 @@ bool Place::is_before_noun(std::size_t ahead) const {
     if (!has_article || peek(ahead) != ' ' || !is_lower(peek(ahead + 1))) return false;
     const std::string_view word = letters(ahead + 1);
     return std::find(std::begin(NO_NOUNS), std::end(NO_NOUNS), word) == std::end(NO_NOUNS);
+}
+
+bool Place::may_end_sentence(std::size_t ahead) const {
+    const std::size_t length = blanks(ahead);
+    const char next = peek(ahead + length);
+    return next == '\0' || next == '\n' || (length > 0 && is_upper(next));
 }
 
 }  // namespace kavi::everyday

@@ -1,7 +1,8 @@
-// A place in a text, and what stands around it.
+// A place in a text, and what is around it: all that a rule can read.
 #ifndef KAVI_EVERYDAY_PLACE_H
 #define KAVI_EVERYDAY_PLACE_H
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -20,79 +21,100 @@ inline bool is_outside_ascii(char c) {
     return static_cast<unsigned char>(c) > 127;
 }
 
-// What makes a word: letters, of ASCII or not.
-inline bool is_of_word(char c) {
-    return is_letter(c) || is_outside_ascii(c);
-}
-
 inline std::string in_lower_case(std::string_view text) {
     std::string lower(text);
     for (char& c : lower) c = to_lower(c);
     return lower;
 }
 
-struct Place {
-    std::string_view text;
-    std::size_t at;
+// How many bytes after the begin of a token a rule can read, and how many before it.
+constexpr std::size_t LOOK_AHEAD = 256;
+constexpr std::size_t LOOK_BACK = 64;
 
-    // The character so far on, or NUL outside the text.
+class Place {
+  public:
+    // `at` is at most the text's size. The text outlives the place.
+    Place(std::string_view text, std::size_t at)
+        : ahead_(text.substr(at, LOOK_AHEAD)),
+          behind_(text.substr(at - std::min(at, LOOK_BACK), std::min(at, LOOK_BACK))),
+          is_cut_(text.size() - at > LOOK_AHEAD),
+          is_cut_behind_(at > LOOK_BACK) {}
+
+    // Whether something would read what the text has further than LOOK_AHEAD. What it found cannot
+    // be relied upon then: a word or a number may be longer than it saw.
+    bool has_met_bound() const { return has_met_end_ && is_cut_; }
+
+    // The character that far ahead, or NUL outside the text.
     char peek(std::size_t ahead = 0) const {
-        return at + ahead < text.size() ? text[at + ahead] : '\0';
+        if (ahead < ahead_.size()) return ahead_[ahead];
+        has_met_end_ = true;
+        return '\0';
     }
-    char before() const { return at > 0 ? text[at - 1] : '\0'; }
+    // The character that far before the place, from 1, or NUL outside the text.
+    char before(std::size_t back = 1) const {
+        return back <= behind_.size() ? behind_[behind_.size() - back] : '\0';
+    }
 
     // `words` are not empty.
     bool starts_with(std::string_view words, std::size_t ahead = 0) const {
         return peek(ahead) == words[0] && part(ahead, words.size()) == words;
     }
 
-    // How many characters so far on belong together.
+    // How many characters belong together from that far ahead.
     template <typename Belongs>
-    std::size_t run(Belongs belongs, std::size_t ahead = 0,
-                    std::size_t most = std::string_view::npos) const {
-        std::size_t length = 0;
-        while (length < most && at + ahead + length < text.size() &&
-               belongs(text[at + ahead + length])) {
-            ++length;
-        }
-        return length;
+    std::size_t run(Belongs belongs, std::size_t ahead = 0) const {
+        std::size_t end = ahead;
+        while (end < ahead_.size() && belongs(ahead_[end])) ++end;
+        if (end >= ahead_.size()) has_met_end_ = true;
+        return end - ahead;
     }
     // Empty outside the text.
     std::string_view part(std::size_t ahead, std::size_t length) const {
-        return at + ahead < text.size() ? text.substr(at + ahead, length) : std::string_view();
+        if (ahead + length > ahead_.size()) has_met_end_ = true;
+        return ahead < ahead_.size() ? ahead_.substr(ahead, length) : std::string_view();
     }
-    std::string_view rest(std::size_t ahead) const { return part(ahead, text.size()); }
     std::string_view letters(std::size_t ahead = 0) const {
         return part(ahead, run(is_letter, ahead));
     }
     std::string_view digits(std::size_t ahead = 0) const {
         return part(ahead, run(is_digit, ahead));
     }
+    std::size_t blanks(std::size_t ahead) const {
+        return run([](char c) { return c == ' '; }, ahead);
+    }
 
-    // The length of a hyphen or an en dash so far on; 0 for none.
+    // The length of a letter of any script that far ahead, or of a mark upon one; 0 for none.
+    std::size_t letter(std::size_t ahead) const;
+    // The length of the word there, of letters of any script.
+    std::size_t word(std::size_t ahead = 0) const;
+    // Whether a letter or a digit is there.
+    bool is_joined(std::size_t ahead) const { return is_digit(peek(ahead)) || letter(ahead) > 0; }
+
+    // The length of a hyphen or an en dash that far ahead; 0 for none.
     std::size_t dash(std::size_t ahead) const {
-        if (starts_with("\xe2\x80\x93", ahead)) return 3;
+        if (starts_with("–", ahead)) return 3;
         return peek(ahead) == '-' ? 1 : 0;
     }
 
-    // The word before, past the blanks between; empty when something else stands there.
-    std::string_view word_before() const {
-        std::size_t end = at;
-        while (end > 0 && text[end - 1] == ' ') --end;
-        std::size_t begin = end;
-        while (begin > 0 && is_letter(text[begin - 1])) --begin;
-        return text.substr(begin, end - begin);
-    }
+    // The letters that end so many characters before the place; empty when LOOK_BACK does not show
+    // where they begin.
+    std::string_view letters_before(std::size_t back = 0) const;
+    // The word before what is so many characters before the place, past the blanks between; empty
+    // when something else is there.
+    std::string_view word_before(std::size_t back = 0) const;
 
-    // Whether what ends so far on is said as one with a word after it: "a $100 bill".
+    // Whether what ends that far ahead is said as one with a word after it: "a $100 bill".
     bool is_before_noun(std::size_t ahead) const;
 
-    // Whether a sentence may end so far on: nothing follows, or a blank and a capital letter.
-    bool may_end_sentence(std::size_t ahead) const {
-        const std::size_t blanks = run([](char c) { return c == ' '; }, ahead);
-        const char next = peek(ahead + blanks);
-        return next == '\0' || next == '\n' || (blanks > 0 && is_upper(next));
-    }
+    // Whether a sentence may end that far ahead: nothing follows, or a blank and a capital letter.
+    bool may_end_sentence(std::size_t ahead) const;
+
+  private:
+    std::string_view ahead_;
+    std::string_view behind_;
+    bool is_cut_;  // the text has more
+    bool is_cut_behind_;
+    mutable bool has_met_end_ = false;
 };
 
 }  // namespace kavi::everyday

@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
@@ -66,12 +65,12 @@ void read_roman(const Place& place, Found& found) {
     if (value_of(place.peek()) == 0) return;
     const int value = value_of(numeral);
     const char after = place.peek(numeral.size());
-    if (value == 0 || is_outside_ascii(after) || after == '\'') return;
+    if (value == 0 || place.letter(numeral.size()) > 0 || after == '\'') return;
     const std::string_view before = place.word_before();
     if (is_one_of(before, RULERS)) {
         say("the", found.words);
         say_ordinal(std::to_string(value), found.words);
-    } else if (is_one_of(before, COUNTED)) {
+    } else if (is_one_of(before, COUNTED) && !(is_lower(before[0]) && numeral == "I")) {
         say_cardinal(std::to_string(value), found.words);
     } else {
         return;

@@ -18,18 +18,23 @@ bool ends_alike(std::string_view word, std::string_view abbreviation) {
 
 }  // namespace
 
+bool ends_like_abbreviation(std::string_view words) {
+    for (const auto& row : s_spec_word_abbrevi) {
+        const std::string_view written = row[0];
+        if (ends_alike(words, written.substr(0, written.find('.')))) return true;
+    }
+    return false;
+}
+
 void read_shield(const Place& place, Found& found) {
     if (place.peek() != '.' || !is_letter(place.before())) return;
-    std::size_t begin = place.at;
-    while (begin > 0 && is_letter(place.text[begin - 1])) --begin;
-    const std::string_view word = place.text.substr(begin, place.at - begin);
+    const std::string_view word = place.letters_before();
     for (const auto& row : s_spec_word_abbrevi) {
         const std::string_view written = row[0];
         const std::string_view abbreviation = written.substr(0, written.find('.'));
         if (!ends_alike(word, abbreviation)) continue;
         // The abbreviation itself is left to the engine, but for words that are spelled alike.
-        const Place word_place = {place.text, begin};
-        const bool is_star = word == "Sun" && word_place.word_before() == "the";
+        const bool is_star = word == "Sun" && place.word_before(word.size()) == "the";
         const bool is_word = word.size() > abbreviation.size() || word == "May" || word == "may" ||
                              word == "mar" || word == "B" || is_star;
         if (!is_word) return;

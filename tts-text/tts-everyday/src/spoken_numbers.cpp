@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "for_everyday.h"
-#include "place.h"
 
 namespace kavi::everyday {
 
@@ -98,23 +97,23 @@ void say_decimal(std::string_view whole, std::string_view fraction, std::string&
     say_digits(fraction, out);
 }
 
-Number number_at(std::string_view text) {
-    const Place place = {text, 0};
+Number number_at(const Place& place, std::size_t ahead) {
+    constexpr std::size_t GROUP = 3;
     Number number;
-    number.whole = place.digits();
-    number.length = number.whole.size();
-    if (number.length == 0) return number;
-    while (number.whole.size() - (number.has_commas ? 3 : 0) <= 12 && number.length <= 15 &&
-           (number.has_commas || number.length <= 3) && place.peek(number.length) == ',' &&
-           place.digits(number.length + 1).size() == 3) {
-        number.whole += place.digits(number.length + 1);
-        number.length += 4;
+    number.whole = place.digits(ahead);
+    if (number.whole.empty()) return number;
+    std::size_t end = ahead + number.whole.size();
+    while ((number.has_commas || number.whole.size() <= GROUP) && place.peek(end) == ',' &&
+           place.digits(end + 1).size() == GROUP) {
+        number.whole += place.digits(end + 1);
+        end += 1 + GROUP;
         number.has_commas = true;
     }
-    if (place.peek(number.length) == '.' && is_digit(place.peek(number.length + 1))) {
-        number.fraction = place.digits(number.length + 1);
-        number.length += 1 + number.fraction.size();
+    if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) {
+        number.fraction = place.digits(end + 1);
+        end += 1 + number.fraction.size();
     }
+    number.length = end - ahead;
     return number;
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "place.h"
+
 namespace kavi::everyday {
 
 void say(std::string_view words, std::string& out);
@@ -30,7 +32,7 @@ struct Number {
     bool is_one() const { return whole == "1" && fraction.empty(); }
     void say(std::string& out) const { say_decimal(whole, fraction, out); }
 };
-Number number_at(std::string_view text);
+Number number_at(const Place& place, std::size_t ahead);
 
 // The number of a month's name or abbreviation, from 1; 0 for none. Its name, from 1.
 int month_number(std::string_view name);

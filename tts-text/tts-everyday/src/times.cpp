@@ -1,7 +1,6 @@
 // Times of day.
 
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
@@ -14,7 +13,7 @@ const char* half_of_day(const Place& place, std::size_t ahead, std::size_t& leng
     const char first = to_lower(place.peek(at));
     if (first != 'a' && first != 'p') return nullptr;
     const bool has_stops = place.peek(at + 1) == '.' && to_lower(place.peek(at + 2)) == 'm';
-    const bool has_none = to_lower(place.peek(at + 1)) == 'm' && !is_of_word(place.peek(at + 2));
+    const bool has_none = to_lower(place.peek(at + 1)) == 'm' && !place.is_joined(at + 2);
     if (!has_stops && !has_none) return nullptr;
     length = blank + (has_stops ? 3 : 2);
     if (has_stops && place.peek(at + 3) == '.' && !place.may_end_sentence(at + 4)) ++length;
@@ -95,7 +94,7 @@ void read_time(const Place& place, Found& found) {
         }
     }
     if (half == nullptr && first.minutes.empty()) return;
-    if (half == nullptr && is_of_word(place.peek(end))) return;
+    if (half == nullptr && place.letter(end) > 0) return;
     say_clock(first, half != nullptr, found.words);
     if (half != nullptr) {
         say(half, found.words);

@@ -1,7 +1,6 @@
 // Titles and abbreviations, with or without their full stop.
 
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
@@ -102,11 +101,11 @@ constexpr TitleRow LETTERS_WITH_STOPS[] = {
 void take(const Place& place, std::size_t length, const char* spoken, bool may_end, Found& found) {
     const bool keeps_stop = may_end && place.may_end_sentence(length + 1);
     found.length = length + (place.peek(length) == '.' && !keeps_stop ? 1 : 0);
-    found.words = spoken;
+    found.say_name(0, length, spoken);
 }
 
 bool is_before_number(const Place& place, std::size_t ahead) {
-    const std::size_t blanks = place.run([](char c) { return c == ' '; }, ahead);
+    const std::size_t blanks = place.blanks(ahead);
     return is_digit(place.peek(ahead + blanks));
 }
 

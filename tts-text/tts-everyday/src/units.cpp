@@ -1,7 +1,6 @@
 // Units of measurement after a number.
 
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
@@ -23,20 +22,20 @@ constexpr UnitRow UNITS[] = {
     {"mph",   "mile per hour",        "miles per hour"},
     {"m/s",   "metre per second",     "metres per second"},
     {"mpg",   "mile per gallon",      "miles per gallon"},
-    {"km\xc2\xb2", "square kilometre", "square kilometres"},
-    {"m\xc2\xb2", "square metre",     "square metres"},
-    {"m\xc2\xb3", "cubic metre",      "cubic metres"},
-    {"cm\xc2\xb3", "cubic centimetre", "cubic centimetres"},
+    {"km²", "square kilometre", "square kilometres"},
+    {"m²", "square metre",     "square metres"},
+    {"m³", "cubic metre",      "cubic metres"},
+    {"cm³", "cubic centimetre", "cubic centimetres"},
     {"sq ft", "square foot",          "square feet"},
     {"fl oz", "fluid ounce",          "fluid ounces"},
     {"km",    "kilometre",            "kilometres"},
     {"cm",    "centimetre",           "centimetres"},
     {"mm",    "millimetre",           "millimetres"},
     {"nm",    "nanometre",            "nanometres"},
-    {"\xc2\xb5m", "micrometre",       "micrometres"},
-    {"\xce\xbcm", "micrometre",       "micrometres"},
-    {"\xc2\xb5g", "microgram",        "micrograms"},
-    {"\xce\xbcg", "microgram",        "micrograms"},
+    {"µm", "micrometre",       "micrometres"},
+    {"μm", "micrometre",       "micrometres"},
+    {"µg", "microgram",        "micrograms"},
+    {"μg", "microgram",        "micrograms"},
     {"m",     "metre",                "metres"},
     {"kg",    "kilogram",             "kilograms"},
     {"mg",    "milligram",            "milligrams"},
@@ -90,28 +89,27 @@ constexpr UnitRow UNITS[] = {
     {"MeV",   "mega electron volt",   "mega electron volts"},
     {"GeV",   "giga electron volt",   "giga electron volts"},
     {"TeV",   "tera electron volt",   "tera electron volts"},
-    {"\xc2\xb0""C", "degree Celsius", "degrees Celsius"},
-    {"\xc2\xb0 C", "degree Celsius",  "degrees Celsius"},
-    {"\xc2\xb0""F", "degree Fahrenheit", "degrees Fahrenheit"},
-    {"\xc2\xb0",  "degree",           "degrees"},
+    {"°C", "degree Celsius", "degrees Celsius"},
+    {"° C", "degree Celsius",  "degrees Celsius"},
+    {"°F", "degree Fahrenheit", "degrees Fahrenheit"},
+    {"°",  "degree",           "degrees"},
 };
 // clang-format on
 
 // "2h 10m": after hours, these are minutes.
 bool is_after_hours(const Place& place) {
-    return place.at > 2 && place.before() == ' ' && place.text[place.at - 2] == 'h' &&
-           is_digit(place.text[place.at - 3]);
+    return place.before() == ' ' && place.before(2) == 'h' && is_digit(place.before(3));
 }
 
 // "5'4\"": feet and inches.
 bool read_height(const Place& place, Found& found) {
     const std::string_view feet = place.digits();
-    const std::size_t mark = place.starts_with("\xe2\x80\xb2", feet.size()) ? 3 : 1;
+    const std::size_t mark = place.starts_with("′", feet.size()) ? 3 : 1;
     if (feet.size() != 1 || (mark == 1 && place.peek(1) != '\'')) return false;
     const std::string_view inches = place.digits(1 + mark);
     if (inches.empty() || inches.size() > 2) return false;
     const std::size_t end = 1 + mark + inches.size();
-    const std::size_t end_mark = place.starts_with("\xe2\x80\xb3", end) ? 3 : 1;
+    const std::size_t end_mark = place.starts_with("″", end) ? 3 : 1;
     if (end_mark == 1 && place.peek(end) != '"') return false;
     say_cardinal(feet, found.words);
     say("foot", found.words);
@@ -124,17 +122,17 @@ bool read_height(const Place& place, Found& found) {
 
 void read_unit(const Place& place, Found& found) {
     if (read_height(place, found)) return;
-    const Number number = number_at(place.rest(0));
+    const Number number = number_at(place, 0);
     std::size_t end = number.length;
     Number second;  // of a range
     const std::size_t dash = place.dash(end);
-    if (dash > 0) second = number_at(place.rest(end + dash));
+    if (dash > 0) second = number_at(place, end + dash);
     if (second.length > 0) end += dash + second.length;
     const std::size_t blank = place.peek(end) == ' ' || place.peek(end) == '-' ? 1 : 0;
     for (const UnitRow& row : UNITS) {
         if (!place.starts_with(row.written, end + blank)) continue;
         const std::size_t after = end + blank + row.written.size();
-        if (is_letter(place.peek(after)) || is_digit(place.peek(after))) continue;
+        if (place.is_joined(after)) continue;
         const bool may_be_plural = blank == 0 && number.fraction.empty();
         if (row.written == "s" && may_be_plural) continue;  // "the 5s"
         number.say(found.words);
@@ -143,11 +141,11 @@ void read_unit(const Place& place, Found& found) {
             second.say(found.words);
         }
         const bool is_adjective = place.peek(end) == '-' || place.is_before_noun(after);
+        const bool is_one = (number.is_one() && second.length == 0) || is_adjective;
         if (row.written == "m" && is_after_hours(place)) {
             say(number.is_one() ? "minute" : "minutes", found.words);
         } else {
-            say((number.is_one() && second.length == 0) || is_adjective ? row.one : row.many,
-                found.words);
+            found.say_name(end + blank, row.written.size(), is_one ? row.one : row.many);
         }
         const bool has_stop = place.peek(after) == '.' && !place.may_end_sentence(after + 1);
         found.length = after + (has_stop ? 1 : 0);

@@ -1,7 +1,6 @@
 // Years, decades, ranges of years, and dates.
 
 #include "rules.h"
-#include "spoken_numbers.h"
 
 namespace kavi::everyday {
 
@@ -31,52 +30,66 @@ int value_of(std::string_view digits) {
 }
 
 // "nineties" for "90".
-void say_decade(std::string_view tens, std::string& out) {
+void say_tens(std::string_view tens, std::string& out) {
     if (tens == "00") return say("hundreds", out);
     if (tens == "10") return say("tens", out);
     say_cardinal(tens, out);
     out.replace(out.size() - 1, 1, "ies");
 }
 
-// "1990s", "90s", "'90s" after the apostrophe.
+// The length of a decade that far ahead, "1990s", "90s" or "1990's", and its digits; 0 for none.
+std::size_t decade_at(const Place& place, std::size_t ahead, std::string_view& digits) {
+    digits = place.digits(ahead);
+    if ((digits.size() != 2 && digits.size() != 4) || digits.back() != '0') return 0;
+    const std::size_t end = ahead + digits.size();
+    const std::size_t s = end + (place.peek(end) == '\'' ? 1 : 0);
+    return place.peek(s) == 's' && !place.is_joined(s + 1) ? s + 1 - ahead : 0;
+}
+
+void say_decade(std::string_view digits, std::string& out) {
+    if (digits == "2000") return say("two thousands", out);
+    if (digits.size() == 4) say_cardinal(digits.substr(0, 2), out);
+    say_tens(digits.substr(digits.size() - 2), out);
+}
+
+// A decade, or two of them: "1980s-90s".
 bool read_decade(const Place& place, std::size_t begin, Found& found) {
-    const std::string_view digits = place.digits(begin);
-    if (digits.size() != 2 && digits.size() != 4) return false;
-    std::size_t end = begin + digits.size();
-    if (place.peek(end) == '\'') ++end;
-    if (digits.back() != '0' || place.peek(end) != 's' || is_of_word(place.peek(end + 1)))
-        return false;
-    if (digits == "2000") {
-        say("two thousands", found.words);
-    } else {
-        if (digits.size() == 4) say_cardinal(digits.substr(0, 2), found.words);
-        say_decade(digits.substr(digits.size() - 2), found.words);
-    }
-    found.length = end + 1;
-    // "1980s-90s"
-    Found last;
-    const std::size_t dash = place.dash(end + 1);
-    const Place after = {place.text, place.at + end + 1 + dash};
-    if (dash > 0 && is_digit(after.peek()) && digits.size() == 4 && read_decade(after, 0, last)) {
-        say("to", found.words);
-        say(last.words, found.words);
-        found.length += dash + last.length;
-    }
+    std::string_view digits;
+    const std::size_t length = decade_at(place, begin, digits);
+    if (length == 0) return false;
+    say_decade(digits, found.words);
+    found.length = begin + length;
+    if (digits.size() != 4 || place.before() == '-') return true;
+    const std::size_t dash = place.dash(found.length);
+    const std::size_t last = dash > 0 ? decade_at(place, found.length + dash, digits) : 0;
+    if (last == 0) return true;
+    say("to", found.words);
+    say_decade(digits, found.words);
+    found.length += dash + last;
     return true;
 }
 
-void say_day_first(std::string_view day, int month, std::string_view year, std::string& out) {
-    say("the", out);
-    say_ordinal(day, out);
-    say("of", out);
-    say(month_word(month), out);
-    if (!year.empty()) say_year(year, out);
+// Of a date, as it is written: the name of the month from `at`, none of it in a date of numbers.
+struct Month {
+    int number;
+    std::size_t at = 0;
+    std::size_t length = 0;
+
+    void say(Found& found) const { found.say_name(at, length, month_word(number)); }
+};
+
+void say_day_first(std::string_view day, const Month& month, std::string_view year, Found& found) {
+    say_ordinal(day, found.words);
+    say("of", found.words);
+    month.say(found);
+    if (!year.empty()) say_year(year, found.words);
 }
 
-void say_month_first(int month, std::string_view day, std::string_view year, std::string& out) {
-    say(month_word(month), out);
-    say_ordinal(day, out);
-    if (!year.empty()) say_year(year, out);
+void say_month_first(const Month& month, std::string_view day, std::string_view year,
+                     Found& found) {
+    month.say(found);
+    say_ordinal(day, found.words);
+    if (!year.empty()) say_year(year, found.words);
 }
 
 std::string full_year(std::string_view year) {
@@ -96,17 +109,20 @@ void read_numeric_date(const Place& place, bool month_first, Found& found) {
     const bool is_whole = year.size() == 4 || (year.size() == 2 && mark == '/');
     const std::string_view day = month_first ? second : first;
     const std::string_view month = month_first ? first : second;
-    if (!is_whole || !is_value(day, 1, 31)) return;
+    const std::size_t end = second_end + 1 + year.size();
+    if (!is_whole || place.peek(end) == '/' || place.is_joined(end)) return;
+    if (place.before() == '/' || !is_value(day, 1, 31)) return;
     if (!is_value(month, 1, 12)) {
         // Only the other order makes a date of it.
         if (!is_value(month, 13, 31) || !is_value(day, 1, 12)) return;
-        say_month_first(value_of(day), month, full_year(year), found.words);
+        say_month_first({value_of(day)}, month, full_year(year), found);
     } else if (month_first) {
-        say_month_first(value_of(month), day, full_year(year), found.words);
+        say_month_first({value_of(month)}, day, full_year(year), found);
     } else {
-        say_day_first(day, value_of(month), full_year(year), found.words);
+        say("the", found.words);
+        say_day_first(day, {value_of(month)}, full_year(year), found);
     }
-    found.length = second_end + 1 + year.size();
+    found.length = end;
 }
 
 // "2020-03-01".
@@ -117,7 +133,10 @@ bool read_iso_date(const Place& place, Found& found) {
     if (month.size() != 2 || place.peek(7) != '-' || !is_value(month, 1, 12)) return false;
     const std::string_view day = place.digits(8);
     if (day.size() != 2 || !is_value(day, 1, 31)) return false;
-    say_month_first(value_of(month), day, year, found.words);
+    const bool has_time = place.peek(10) == 'T' && is_digit(place.peek(11));
+    const bool goes_on = place.peek(10) == '-' || (place.is_joined(10) && !has_time);
+    if (goes_on) return false;
+    say_month_first({value_of(month)}, day, year, found);
     found.length = 10;
     return true;
 }
@@ -144,22 +163,24 @@ std::string_view year_after(const Place& place, std::size_t ahead, std::size_t& 
 // "May 5, 2021", "Jan. 5", "March 2020".
 void read_month_first(const Place& place, Found& found) {
     const std::string_view name = place.letters();
-    const int month = month_number(name);
-    if (month == 0) return;
+    const Month month = {month_number(name), 0, name.size()};
+    if (month.number == 0) return;
     std::size_t at = name.size();
     if (place.peek(at) == '.') ++at;
     if (place.peek(at) != ' ') return;
     const std::string_view digits = place.digits(at + 1);
     const std::size_t digits_end = at + 1 + digits.size();
-    if (is_year(digits) && !is_of_word(place.peek(digits_end))) {
-        say(month_word(month), found.words);
+    if (is_year(digits) && place.letter(digits_end) == 0) {
+        month.say(found);
         say_year(digits, found.words);
         found.length = digits_end;
         return;
     }
     const std::size_t suffix = ordinal_suffix(place, digits_end);
     const char after = place.peek(digits_end + suffix);
-    if (!is_value(digits, 1, 31) || is_of_word(after) || after == ':' || after == '%') return;
+    if (!is_value(digits, 1, 31) || place.letter(digits_end + suffix) > 0 || after == ':' ||
+        after == '%')
+        return;
     if (after == '.' && is_digit(place.peek(digits_end + suffix + 1))) return;
     std::size_t end = 0;
     const std::string_view year = year_after(place, digits_end + suffix, end);
@@ -167,7 +188,7 @@ void read_month_first(const Place& place, Found& found) {
     const std::size_t dash = year.empty() ? place.dash(end) : 0;
     const std::string_view last = dash > 0 ? place.digits(end + dash) : std::string_view();
     if (is_value(last, 1, 31)) {
-        say_month_first(month, digits, {}, found.words);
+        say_month_first(month, digits, {}, found);
         say("to", found.words);
         say_ordinal(last, found.words);
         std::size_t all = 0;
@@ -176,7 +197,7 @@ void read_month_first(const Place& place, Found& found) {
         found.length = all;
         return;
     }
-    say_month_first(month, digits, year, found.words);
+    say_month_first(month, digits, year, found);
     found.length = end;
 }
 
@@ -187,15 +208,14 @@ void read_day_first(const Place& place, Found& found) {
     if (!is_value(day, 1, 31) || place.peek(at) != ' ') return;
     if (place.starts_with(" of ", at)) at += 3;
     const std::string_view name = place.letters(at + 1);
-    const int month = month_number(name);
-    if (month == 0) return;
+    const Month month = {month_number(name), at + 1, name.size()};
+    if (month.number == 0) return;
     std::size_t end = at + 1 + name.size();
     if (name.size() < 4 && name != "May" && place.peek(end) == '.') ++end;
     const std::string_view year = year_after(place, end, end);
     const bool has_article = place.word_before() == "the" || place.word_before() == "The";
-    std::string words;
-    say_day_first(day, month, year, words);
-    found.words = has_article ? words.substr(4) : words;
+    if (!has_article) say("the", found.words);
+    say_day_first(day, month, year, found);
     found.length = end;
 }
 
@@ -224,14 +244,13 @@ bool is_after_year_word(const Place& place) {
 }  // namespace
 
 void read_year(const Place& place, Found& found) {
-    if (place.peek() == '\'' || place.starts_with("\xe2\x80\x99") ||
-        place.starts_with("\xe2\x80\x98")) {
+    if (place.peek() == '\'' || place.starts_with("’") || place.starts_with("‘")) {
         read_decade(place, place.peek() == '\'' ? 1 : 3, found);
         return;
     }
     const std::string_view digits = place.digits();
     if (read_decade(place, 0, found) || read_range(place, digits, found)) return;
-    if (!is_year(digits) || is_of_word(place.peek(4)) || place.peek(4) == '%') return;
+    if (!is_year(digits) || place.letter(4) > 0 || place.peek(4) == '%') return;
     if (is_digit(place.peek(5)) && place.peek(4) != ' ') return;  // part of another number
     const bool is_era = place.starts_with(" BC", 4) || place.starts_with(" AD", 4);
     const bool is_recent = digits[1] == '9' || digits[0] == '2';

@@ -27,8 +27,7 @@ void OwnWords::look_from(std::size_t begin, std::size_t end) {
     }
 }
 
-Lexicon::Match OwnWords::at(std::size_t at) {
-    if (lexicon_ == nullptr) return {};
+Lexicon::Match OwnWords::match_at(std::size_t at) {
     look_from(at, at + 1);
     return !words_.empty() && words_[0].at == at ? words_[0].match : Lexicon::Match{};
 }

@@ -15,10 +15,13 @@ namespace kavi::everyday {
 class OwnWords {
   public:
     // The lexicon may be null.
-    OwnWords(const Lexicon* lexicon, std::string_view text) : lexicon_(lexicon), text_(text) {}
+    OwnWords(const Lexicon* lexicon, std::string_view text)
+        : lexicon_(lexicon != nullptr && !lexicon->empty() ? lexicon : nullptr), text_(text) {}
 
     // The entry for what begins at a place, or none.
-    Lexicon::Match at(std::size_t at);
+    Lexicon::Match at(std::size_t at) {
+        return lexicon_ != nullptr ? match_at(at) : Lexicon::Match();
+    }
 
     // Whether a rule may read what it found at a place: there is no entry in it, but for one for
     // the name that it found, which gets the user's word in its place. `entry` is that one, or
@@ -33,9 +36,10 @@ class OwnWords {
 
     // Finds the entries that begin before `end` and forgets those before `begin`.
     void look_from(std::size_t begin, std::size_t end);
+    Lexicon::Match match_at(std::size_t at);
     bool is_part_of_word(const OwnWord& word) const;
 
-    const Lexicon* lexicon_;
+    const Lexicon* lexicon_;  // null for one without entries
     std::string_view text_;
     std::vector<OwnWord> words_;  // in order, not overlapping
     std::size_t looked_to_ = 0;

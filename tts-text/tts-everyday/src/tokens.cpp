@@ -98,6 +98,7 @@ std::string_view token_at(std::string_view text, std::size_t at) {
     std::size_t end = at;
     while (end < text.size() && is_digit(text[end])) ++end;
     if (end > at) return text.substr(at, end - at);
+    while (end < text.size() && is_letter(text[end])) ++end;
     while (const std::size_t length = letter_length(text, end)) end += length;
     if (end > at) return text.substr(at, end - at);
     return text.substr(at, code_point_at(text.substr(at)).length);
@@ -113,6 +114,7 @@ std::size_t emoji_rest(std::string_view text, std::string_view token, std::size_
 std::size_t cluster_length(std::string_view text, std::size_t at) {
     std::string_view token = token_at(text, at);
     std::size_t end = at + token.size();
+    if (end >= text.size() || !is_outside_ascii(text[end])) return token.size();
     if (length_in(FLAG_LETTERS, text, at) > 0) end += length_in(FLAG_LETTERS, text, end);
     end += emoji_rest(text, token, end);
     while (const std::size_t joiner = joiner_length(text, end)) {

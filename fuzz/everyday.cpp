@@ -66,16 +66,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Everyday none(nullptr);
     if (data[1] < 64) is_as_without(none, text);
 
-    // Lines up to an empty one are a lexicon; without one, the first line is what is written there.
+    // Lines up to an empty one are a lexicon; without one, the first word is written there.
     const std::size_t empty_line = unit.find("\n\n");
     const std::string lines = empty_line != std::string::npos
                                   ? unit.substr(0, empty_line)
-                                  : unit.substr(0, unit.find('\n')) + "\tspoken";
+                                  : unit.substr(0, unit.find_first_of(" \n")) + "\tspoken";
     Lexicon lexicon;
     std::string error;
     const bool is_good = lexicon.add("fuzz", lines, error);
     require(is_good ? error.empty() : error.compare(0, 5, "fuzz:") == 0, "told");
-    Everyday everyday(&lexicon);
+    Everyday everyday(data[0] % 4 == 0 ? nullptr : &lexicon);
     everyday.set_all(true);
     everyday.set(static_cast<EverydayClass>(data[0] % EVERYDAY_CLASSES), data[0] > 127);
     everyday.set_american_dates((data[1] & 1U) != 0);

@@ -247,7 +247,7 @@ const Layer LAYERS[] = {
          std::set<std::string> lost;
          return read_everyday(text, [&](const HostSentence& sentence) {
              return measured([&] {
-                        static_cast<void>(ssml(sentence, true, lost));
+                        static_cast<void>(ssml(sentence, text, true, lost));
                         return 1;
                     }) == 1;
          });

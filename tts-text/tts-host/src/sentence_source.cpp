@@ -13,6 +13,12 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
 
 }  // namespace
 
+const SourcePiece* PieceCursor::piece_at(const std::vector<SourcePiece>& pieces, std::size_t at) {
+    const auto after = std::partition_point(pieces.begin() + 1, pieces.end(),
+                                            [=](const SourcePiece& p) { return p.at <= at; });
+    return &*(after - 1);
+}
+
 // The first of the bytes is in `piece`. No cursor is changed, so that it can stay in registers.
 TextRange PieceCursor::source_of_any(const SourcePiece* piece, const SourcePiece* last,
                                      std::size_t at, std::size_t length) {

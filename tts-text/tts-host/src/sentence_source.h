@@ -16,9 +16,10 @@ namespace kavi::host {
 // Which pieces stand for what, asked for one place after the other.
 class PieceCursor {
   public:
-    // Of the pieces of a sentence that is not empty.
-    explicit PieceCursor(const std::vector<SourcePiece>& pieces)
-        : piece_(pieces.data()), last_(&pieces.back()) {
+    // Of the pieces of a sentence that is not empty; the first question is about `at` or a place
+    // after it.
+    explicit PieceCursor(const std::vector<SourcePiece>& pieces, std::size_t at = 0)
+        : piece_(piece_at(pieces, at)), last_(&pieces.back()) {
         look_at_piece();
     }
 
@@ -46,6 +47,7 @@ class PieceCursor {
   private:
     void look_at_piece() { after_copy_ = piece_->is_copy ? piece_->at + piece_->length + 1 : 0; }
 
+    static const SourcePiece* piece_at(const std::vector<SourcePiece>& pieces, std::size_t at);
     static TextRange source_of_any(const SourcePiece* piece, const SourcePiece* last,
                                    std::size_t at, std::size_t length);
 

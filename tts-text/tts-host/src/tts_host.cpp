@@ -244,7 +244,7 @@ const WordPlace* TtsHost::State::words() {
 }
 
 TextRange SentencePlaces::source_of(std::size_t at, std::size_t length) {
-    return host::PieceCursor(pieces()).source_of(at, length);
+    return host::PieceCursor(pieces(), at).source_of(at, length);
 }
 
 // The arena is taken over even when there is no memory for the rest.

@@ -24,47 +24,47 @@ bool is_zero_number(const tn::Token& token) {
 
 // Whether a zero among the numbers of a step is said, or not said by English either: the last ones
 // of "10:00" and "1,000", the first of "0.5", either of "$0.50" and "$5.00".
-bool is_zero_read(const tn::SectionDispatcher& step, const tn::Token* zero) {
-    if (step.reading().text().find("zero") != std::string_view::npos) return true;
-    switch (step.rule()) {
+bool is_zero_read(const tn::ReadingStep& step, const tn::Token* zero) {
+    if (step.reading.text().find("zero") != std::string_view::npos) return true;
+    switch (step.rule) {
         case tn::ReadingRule::decimal: return true;
         case tn::ReadingRule::money:
-            return std::any_of(step.first(), step.end(), [](const tn::Token& token) {
+            return std::any_of(step.first, step.end, [](const tn::Token& token) {
                 return tn::is_number(&token) && !is_zero(token.text());
             });
         case tn::ReadingRule::clock_time:
-        case tn::ReadingRule::separated_number: return zero != step.first();
+        case tn::ReadingRule::separated_number: return zero != step.first;
         default: return false;
     }
 }
 
-bool is_read(const tn::SectionDispatcher& step, const tn::Token* number) {
+bool is_read(const tn::ReadingStep& step, const tn::Token* number) {
     if (is_zero_number(*number)) return is_zero_read(step, number);
-    return step.reading().digits_read(number->text()) == number->length;
+    return step.reading.digits_read(number->text()) == number->length;
 }
 
 }  // namespace
 
-void ReadingFindings::add_step(const tn::SectionDispatcher& step) {
-    const tn::Token* longest = step.first();  // number, of which the first
+void ReadingFindings::add_step(const tn::ReadingStep& step) {
+    const tn::Token* longest = step.first;  // number, of which the first
     std::size_t longest_length = 0;
-    if (step.end() - step.first() == 1 && step.first()->length == 1) {
-        add_mark(step.first()->text(), step.output_length());
+    if (step.end - step.first == 1 && step.first->length == 1) {
+        add_mark(step.first->text(), step.output_length);
     }
-    for (const tn::Token* token = step.first(); token != step.end(); ++token) {
+    for (const tn::Token* token = step.first; token != step.end; ++token) {
         if (tn::is_number(token)) {
             if (!is_read(step, token)) report(token->text(), Finding::digits_not_read);
             if (token->length > longest_length) {
                 longest = token;
                 longest_length = token->length;
             }
-        } else if (is_telephone_number(step.rule()) && tn::is_tag(token)) {
+        } else if (is_telephone_number(step.rule) && tn::is_tag(token)) {
             report(token->text(), Finding::tag_in_telephone_number);
         }
     }
-    if (step.reading().is_cut()) report(longest->text(), Finding::reading_cut);
-    speakable_length_ = step.output_length();
-    is_after_money_ = step.rule() == tn::ReadingRule::money;
+    if (step.reading.is_cut()) report(longest->text(), Finding::reading_cut);
+    speakable_length_ = step.output_length;
+    is_after_money_ = step.rule == tn::ReadingRule::money;
 }
 
 // A sign for which the speakable text has no letter is told once in a text.

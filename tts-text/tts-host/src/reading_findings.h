@@ -33,7 +33,7 @@ class ReadingFindings {
         speakable_length_ = speakable_length;
         is_after_money_ = false;
     }
-    void add_step(const tn::SectionDispatcher& step);
+    void add_step(const tn::ReadingStep& step);
 
     // Those of the sentence, which are told now: marks that are among them are not told again.
     const std::vector<Diagnostic>& tell() {

@@ -4,12 +4,12 @@
 
 namespace kavi::host {
 
-void ReadingPlaces::add_step(const tn::SectionDispatcher& step) {
-    if (step.rule() == tn::ReadingRule::silent) return;
-    const char* begin = step.first()->begin;
-    const std::string_view last = step.end()[-1].text();
+void ReadingPlaces::add_step(const tn::ReadingStep& step) {
+    if (step.rule == tn::ReadingRule::silent) return;
+    const char* begin = step.first->begin;
+    const std::string_view last = step.end[-1].text();
     add({begin, static_cast<std::size_t>(last.data() + last.size() - begin)},
-        static_cast<std::size_t>(step.output_length()), false);
+        static_cast<std::size_t>(step.output_length), false);
 }
 
 // The source of the word at `offset` of copied words that the text has something left out among.

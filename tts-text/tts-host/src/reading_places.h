@@ -30,7 +30,7 @@ class ReadingPlaces {
         const bool is_copy = target_end - target_end_ == source.size() + 1;
         add(source, target_end, is_copy && tn::is_letter(source[0]));
     }
-    void add_step(const tn::SectionDispatcher& step);
+    void add_step(const tn::ReadingStep& step);
 
     // After that, once: where each of the words comes from that the builder has listed, all of them
     // views of the speakable text, to a place for each record; record 0 is the head record. A word

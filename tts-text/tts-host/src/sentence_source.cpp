@@ -30,7 +30,7 @@ TextRange PieceCursor::source_of_any(const SourcePiece* piece, const SourcePiece
     return {begin.offset, end.offset + end.length - begin.offset};
 }
 
-void SentenceSource::find_pieces(TextWindow& window, const tn::SentenceCutter& cutter) {
+void SentenceSource::find_pieces(TextWindow& window, const tn::CutSentence& cut) {
     map_.clear();
     const char* from = window.text();
     for (const Replacement& r : replacements_) {
@@ -39,9 +39,9 @@ void SentenceSource::find_pieces(TextWindow& window, const tn::SentenceCutter& c
                       {r.length > 0 ? "abbreviation" : nullptr});
         from = r.source.data() + r.source.size();
     }
-    window.append_sources(from, cutter.end(), map_);
-    const auto closing = static_cast<std::size_t>(cutter.length() - cutter.length_before_closing());
-    if (closing > 0) map_.replaced(closing, {window.source_offset(cutter.end()), 0});
+    window.append_sources(from, cut.end, map_);
+    const auto closing = static_cast<std::size_t>(cut.length - cut.length_before_closing);
+    if (closing > 0) map_.replaced(closing, {window.source_offset(cut.end), 0});
 }
 
 }  // namespace kavi::host

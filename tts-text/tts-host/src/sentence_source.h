@@ -57,18 +57,22 @@ class PieceCursor {
 };
 
 // Looks on while a sentence is cut, and tells then what its pieces stand for.
-class SentenceSource : public tn::CutObserver {
+class SentenceSource {
   public:
     // Before a sentence is cut from what the window holds.
     void begin() { replacements_.clear(); }
 
-    void on_replaced(std::string_view source, int target_at, int length) override {
-        replacements_.push_back(
-            {source, static_cast<std::size_t>(target_at), static_cast<std::size_t>(length)});
+    tn::CutObserver observer() {
+        return {[](void* context, std::string_view source, int target_at, int length) {
+                    static_cast<SentenceSource*>(context)->replacements_.push_back(
+                        {source, static_cast<std::size_t>(target_at),
+                         static_cast<std::size_t>(length)});
+                },
+                this};
     }
 
     // After it was cut, and before the window moves on.
-    void find_pieces(TextWindow& window, const tn::SentenceCutter& cutter);
+    void find_pieces(TextWindow& window, const tn::CutSentence& cut);
 
     const std::vector<SourcePiece>& pieces() const { return map_.pieces(); }
 

@@ -11,7 +11,7 @@ namespace {
 
 using tn::Outcome;
 using tn::ReadingRule;
-using tn::SectionDispatcher;
+using tn::ReadingStep;
 
 struct RuleName {
     ReadingRule rule;
@@ -52,10 +52,10 @@ constexpr bool are_in_order() {
 }
 static_assert(are_in_order());
 
-const char* name_of(const SectionDispatcher& step, bool is_written) {
-    if (step.outcome() == Outcome::full) return "output full";
-    const bool incomplete = step.outcome() == Outcome::ended && !is_written;
-    return incomplete ? "incomplete, not read" : RULE_NAMES[static_cast<int>(step.rule())].name;
+const char* name_of(const ReadingStep& step, bool is_written) {
+    if (step.outcome == Outcome::full) return "output full";
+    const bool incomplete = step.outcome == Outcome::ended && !is_written;
+    return incomplete ? "incomplete, not read" : RULE_NAMES[static_cast<int>(step.rule)].name;
 }
 
 // Two views of one text, the second directly after the first.
@@ -72,8 +72,8 @@ bool continues_character(const ExplainedRun& run, std::string_view section) {
 }
 
 // Adds the sections of a step to a run.
-void add_sections(const SectionDispatcher& step, ExplainedRun& run) {
-    for (const tn::Token* token = step.first(); token != step.end(); ++token) {
+void add_sections(const ReadingStep& step, ExplainedRun& run) {
+    for (const tn::Token* token = step.first; token != step.end; ++token) {
         const std::string_view section = token->text();
         run.source.length += section.size();
         if (!run.sections.empty() && continues_character(run, section)) {
@@ -86,16 +86,13 @@ void add_sections(const SectionDispatcher& step, ExplainedRun& run) {
 
 // Makes runs of the steps by which a sentence is read to `output`.
 template <typename OnRun>
-class RunsOfSentence final : public tn::ReadingObserver {
+class RunsOfSentence {
   public:
     RunsOfSentence(const char* sentence, tn::BoundedText& output, OnRun& on_run)
         : sentence_(sentence), output_(output), on_run_(on_run) {}
 
-    // There is none: all is read step by step.
-    void on_plain_text(std::string_view /*source*/, int /*output_length*/) override {}
-
-    void on_step(const SectionDispatcher& step) override {
-        if (run_.sections.empty() || !continues_character(run_, step.first()->text())) {
+    void add_step(const ReadingStep& step) {
+        if (run_.sections.empty() || !continues_character(run_, step.first->text())) {
             end();
             begin(step);
         }
@@ -109,12 +106,12 @@ class RunsOfSentence final : public tn::ReadingObserver {
     }
 
   private:
-    void begin(const SectionDispatcher& step) {
-        run_.source = {static_cast<std::size_t>(step.first()->begin - sentence_), 0};
+    void begin(const ReadingStep& step) {
+        run_.source = {static_cast<std::size_t>(step.first->begin - sentence_), 0};
         run_.sections.clear();
         run_.reading_at = read_to_;
         run_.rule = name_of(step, static_cast<std::size_t>(output_.length()) > read_to_);
-        run_.is_word = step.rule() == ReadingRule::word;
+        run_.is_word = step.rule == ReadingRule::word;
     }
 
     const char* sentence_;
@@ -131,7 +128,13 @@ void walk(const char* sentence, char* speakable, OnRun on_run) {
     speakable[0] = '\0';
     tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
     RunsOfSentence runs(sentence, output, on_run);
-    tn::read_step_by_step(sentence, output, runs);
+    const tn::ReadingObserver observer = {
+        nullptr,  // there is no plain text: all is read step by step
+        [](void* context, const ReadingStep& step) {
+            static_cast<RunsOfSentence<OnRun>*>(context)->add_step(step);
+        },
+        &runs};
+    tn::read_step_by_step(sentence, output, observer);
     runs.end();
 }
 

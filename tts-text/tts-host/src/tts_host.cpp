@@ -22,7 +22,7 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
 
 }  // namespace
 
-class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
+class TtsHost::State final : SentencePlaces {
   public:
     // cppcheck-suppress uninitMemberVar ; of the places, those of a sentence's words are set
     State(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
@@ -63,14 +63,18 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     void collect_diagnostics(bool done);
     bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
-    // While a sentence is read.
-    void on_plain_text(std::string_view source, int output_length) override {
-        reading_places_.add_plain_text(source, output_length);
-        findings_.add_plain_text(source, output_length);
-    }
-    void on_step(const tn::SectionDispatcher& step) override {
-        reading_places_.add_step(step);
-        findings_.add_step(step);
+    // Looks on while a sentence is read.
+    tn::ReadingObserver reading_observer() {
+        return {[](void* context, std::string_view source, int output_length) {
+                    static_cast<State*>(context)->reading_places_.add_plain_text(source,
+                                                                                 output_length);
+                    static_cast<State*>(context)->findings_.add_plain_text(source, output_length);
+                },
+                [](void* context, const tn::ReadingStep& step) {
+                    static_cast<State*>(context)->reading_places_.add_step(step);
+                    static_cast<State*>(context)->findings_.add_step(step);
+                },
+                this};
     }
 
     // While it is handed over, and before the window moves on.
@@ -85,7 +89,7 @@ class TtsHost::State final : tn::ReadingObserver, SentencePlaces {
     host::SentenceSource source_;
     host::ReadingFindings findings_;
     std::optional<tn::AbbreviationSearch> abbreviations_;  // of what is in the window
-    std::optional<tn::SentenceCutter> cutter_;             // of the last sentence
+    tn::CutSentence cut_ = {};                             // the last sentence
     const char* rest_ = nullptr;                           // in the window, after that
     std::vector<Diagnostic> diagnostics_;                  // of that
     host::ReadingPlaces reading_places_;
@@ -117,17 +121,16 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
             all_read = false;
             begin = end;
         } else if (normalized_[0] != '\0') {
-            const HostSentence sentence = {
-                {begin, end - begin},
-                {normalized_, static_cast<std::size_t>(cutter_->length())},
-                speakable_,
-                utt_,
-                n_utt_,
-                *this};
+            const HostSentence sentence = {{begin, end - begin},
+                                           {normalized_, static_cast<std::size_t>(cut_.length)},
+                                           speakable_,
+                                           utt_,
+                                           n_utt_,
+                                           *this};
             if (on_sentence && !on_sentence(sentence)) return false;
             begin = end;
         }
-        window_.consume(rest_, cutter_->open_tags());
+        window_.consume(rest_, cut_.open_tags);
     }
     diagnostics_.clear();
     window_.report_open_spans();
@@ -159,15 +162,16 @@ bool TtsHost::State::read_sentence(std::size_t cut) {
     text[cut] = '\0';
     source_.begin();
     if (!abbreviations_) abbreviations_.emplace();
-    cutter_.emplace(std::string_view(text, cut), normalized_, *abbreviations_, &source_);
-    const bool well_formed = cutter_->cut();
-    rest_ = cutter_->rest().data();
+    const tn::CutObserver cut_observer = source_.observer();
+    tn::cut_sentence({text, cut}, normalized_, *abbreviations_, &cut_observer, cut_);
+    rest_ = cut_.rest.data();
     text[cut] = after;
     are_pieces_known_ = are_words_known_ = false;
     findings_.begin(normalized_, speakable_);
     reading_places_.begin(normalized_, speakable_);
-    return well_formed && cutter_->length() <= SENTENCE_MAX &&
-           tn::tokenize(normalized_, speakable_, this) == 0 &&
+    const tn::ReadingObserver observer = reading_observer();
+    return cut_.is_well_formed && cut_.length <= SENTENCE_MAX &&
+           tn::tokenize(normalized_, speakable_, &observer) == 0 &&
            tn::build_utterance(speakable_, arena_, utt_, n_utt_, events_) == 0;
 }
 
@@ -229,7 +233,7 @@ bool TtsHost::State::report(std::size_t end, const DiagnosticHandler& on_diagnos
 
 const std::vector<SourcePiece>& TtsHost::State::pieces() {
     if (!are_pieces_known_) {
-        source_.find_pieces(window_, *cutter_);
+        source_.find_pieces(window_, cut_);
         are_pieces_known_ = true;
     }
     return source_.pieces();

@@ -8,7 +8,6 @@
 #include "common/limits.h"              // IWYU pragma: export
 #include "markup/markup_tags.h"         // IWYU pragma: export
 #include "sentence/sentence_cutter.h"   // IWYU pragma: export
-#include "tokenize/dispatcher.h"        // IWYU pragma: export
 #include "tokenize/reading_observer.h"  // IWYU pragma: export
 #include "tokenize/tokenize.h"          // IWYU pragma: export
 #include "utterance/builder.h"          // IWYU pragma: export

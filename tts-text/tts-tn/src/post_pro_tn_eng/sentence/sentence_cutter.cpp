@@ -5,7 +5,11 @@
 #include <cstring>
 
 #include "../common/ascii.h"
+#include "../common/bounded_text.h"
+#include "../common/limits.h"
 #include "../common/runs.h"
+#include "../markup/markup_tags.h"
+#include "../markup/tag_ends.h"
 #include "post_pro_tn_eng.h"
 
 namespace kavi {
@@ -27,189 +31,233 @@ constexpr bool is_blank(char c) {
     return c == ' ' || c == '\t';
 }
 
-}  // namespace
-
-bool SentenceCutter::cut() {
-    drop_leading_blank();
-    while (*next_ != '\0' && !stop_ && target_.length() <= FULL_SENTENCE) {
-        if (!take_next()) return false;
+// One scan of a source text, from its start to the end of its first sentence.
+class SentenceCutter {
+  public:
+    SentenceCutter(std::string_view source, char* target, AbbreviationSearch& abbreviations,
+                   const CutObserver* observer, SsmlTagArr& tags)
+        : next_(source.data()),
+          source_end_(next_ + source.size()),
+          stretch_(next_),
+          target_(target, SZ_TEXT_MAX_LEN),
+          abbreviations_(abbreviations),
+          observer_(observer),
+          tags_(tags) {
+        tags_.begin_arr_len = 0;
     }
-    return close_open_spans();
-}
 
-std::string_view SentenceCutter::rest() const {
-    const char* rest = next_;
-    while (is_blank(*rest) || *rest == '\'' || *rest == '"') ++rest;
-    while (*rest == '\r' || *rest == '\n') ++rest;
-    return {rest, static_cast<std::size_t>(source_end_ - rest)};
-}
-
-// Tells the observer what became of `source`: all that the target has from `target_at` on.
-void SentenceCutter::report(std::string_view source, int target_at) {
-    if (observer_ == nullptr) return;
-    observer_->on_replaced(source, target_at, target_.length() - target_at);
-}
-
-// ---- characters ----
-
-bool SentenceCutter::take_next() {
-    switch (*next_) {
-        case '.': full_stop(); return true;
-        case '<': return markup();
-        case ':':
-        case ',': mark(!between_digits()); return true;
-        case '?':
-        case ';':
-        case '!': mark(true); return true;
-        default: run(); return true;
+    // Writes the sentence, and closes its spans at its end. False when malformed markup stops the
+    // pass.
+    bool cut() {
+        drop_leading_blank();
+        while (*next_ != '\0' && !stop_ && target_.length() <= FULL_SENTENCE) {
+            if (!take_next()) return false;
+        }
+        return close_open_spans();
     }
-}
 
-void SentenceCutter::drop_leading_blank() {
-    if (!is_blank(*next_)) return;
-    report({next_, 1}, target_.length());
-    previous_ = *next_;
-    ++next_;
-}
-
-bool SentenceCutter::between_digits() const {
-    return is_digit(previous_) && is_digit(next_[1]);
-}
-
-void SentenceCutter::mark(bool ends_sentence) {
-    previous_ = *next_;
-    target_.append({next_, 1});
-    ++next_;
-    stop_ = ends_sentence;
-}
-
-// Copies characters up to the next that needs a decision, with marks that join digits, or until the
-// sentence is full. A run of blanks that ends the source loses its last.
-void SentenceCutter::run() {
-    const char* begin = next_;
-    const char* end = begin;
-    do {
-        if (*end == '.') begin_stretch(end + 1);
-        end = skip_copied(end + 1, source_end_);
-    } while (joins_digits(end));
-    const std::ptrdiff_t room = FULL_SENTENCE + 1 - target_.length();
-    const std::ptrdiff_t length = std::min(end - begin, room);
-    next_ += length;
-    target_.append({begin, static_cast<std::size_t>(length)});
-    const char before = previous_;
-    previous_ = next_[-1];
-    if (*next_ == '\0' && is_blank(previous_) && (length > 1 ? next_[-2] : before) == ' ') {
-        target_.cut(1);
-        report({next_ - 1, 1}, target_.length());
+    // After cut(): where the next sentence begins, once what is silent has been passed over.
+    std::string_view rest() const {
+        const char* rest = next_;
+        while (is_blank(*rest) || *rest == '\'' || *rest == '"') ++rest;
+        while (*rest == '\r' || *rest == '\n') ++rest;
+        return {rest, static_cast<std::size_t>(source_end_ - rest)};
     }
-}
 
-void SentenceCutter::full_stop() {
-    const bool decimal_point = between_digits();
-    if (!decimal_point && expand_abbreviation()) return;
-    mark(!decimal_point);
-    if (decimal_point) begin_stretch(next_);
-}
+    int length() const { return target_.length(); }
+    int length_before_closing() const { return length_before_closing_; }
+    const char* end() const { return next_; }
 
-// Searches for abbreviations go no further back than here.
-void SentenceCutter::begin_stretch(const char* text) {
-    stretch_ = text;
-    hides_full_stop_ = false;
-}
+  private:
+    // Tells the observer what became of `source`: all that the target has from `target_at` on.
+    void report(std::string_view source, int target_at) {
+        if (observer_ == nullptr) return;
+        observer_->on_replaced(observer_->context, source, target_at, target_.length() - target_at);
+    }
 
-// Whether the full stop ended an abbreviation, whose expansion stands in the target now. A full
-// stop inside a tag that was passed hides the abbreviations after it. One whose expansion has no
-// room ends the sentence.
-bool SentenceCutter::expand_abbreviation() {
-    if (hides_full_stop_) return false;
-    const int row = abbreviations_.find(stretch_, next_);
-    if (row == NO_ABBREVIATION) return false;
-    const auto& [written, expansion] = s_spec_word_abbrevi[row];
-    target_.cut(static_cast<int>(dot_offset(row)));
-    const int target_at = target_.length();
-    if (!target_.append(expansion) || !target_.append(" ")) return false;
-    const std::string_view source(next_ - dot_offset(row), std::strlen(written));
-    report(source, target_at);
-    previous_ = '.';
-    next_ = stretch_ = source.data() + source.size();
-    return true;
-}
+    // ---- characters ----
 
-// ---- markup ----
+    bool take_next() {
+        switch (*next_) {
+            case '.': full_stop(); return true;
+            case '<': return markup();
+            case ':':
+            case ',': mark(!between_digits()); return true;
+            case '?':
+            case ';':
+            case '!': mark(true); return true;
+            default: run(); return true;
+        }
+    }
 
-// False when the markup is malformed and the pass must stop.
-bool SentenceCutter::markup() {
-    const MarkupTag* tag = find_markup_tag(next_);
-    const std::string_view text = tag != nullptr ? tag_ends_.tag_at(next_) : std::string_view();
-    if (tag == nullptr || text.empty()) {
-        mark(false);
+    void drop_leading_blank() {
+        if (!is_blank(*next_)) return;
+        report({next_, 1}, target_.length());
+        previous_ = *next_;
+        ++next_;
+    }
+
+    bool between_digits() const { return is_digit(previous_) && is_digit(next_[1]); }
+
+    void mark(bool ends_sentence) {
+        previous_ = *next_;
+        target_.append({next_, 1});
+        ++next_;
+        stop_ = ends_sentence;
+    }
+
+    // Copies characters up to the next that needs a decision, with marks that join digits, or until
+    // the sentence is full. A run of blanks that ends the source loses its last.
+    void run() {
+        const char* begin = next_;
+        const char* end = begin;
+        do {
+            if (*end == '.') begin_stretch(end + 1);
+            end = skip_copied(end + 1, source_end_);
+        } while (joins_digits(end));
+        const std::ptrdiff_t room = FULL_SENTENCE + 1 - target_.length();
+        const std::ptrdiff_t length = std::min(end - begin, room);
+        next_ += length;
+        target_.append({begin, static_cast<std::size_t>(length)});
+        const char before = previous_;
+        previous_ = next_[-1];
+        if (*next_ == '\0' && is_blank(previous_) && (length > 1 ? next_[-2] : before) == ' ') {
+            target_.cut(1);
+            report({next_ - 1, 1}, target_.length());
+        }
+    }
+
+    void full_stop() {
+        const bool decimal_point = between_digits();
+        if (!decimal_point && expand_abbreviation()) return;
+        mark(!decimal_point);
+        if (decimal_point) begin_stretch(next_);
+    }
+
+    // Searches for abbreviations go no further back than here.
+    void begin_stretch(const char* text) {
+        stretch_ = text;
+        hides_full_stop_ = false;
+    }
+
+    // Whether the full stop ended an abbreviation, whose expansion stands in the target now. A full
+    // stop inside a tag that was passed hides the abbreviations after it. One whose expansion has
+    // no room ends the sentence.
+    bool expand_abbreviation() {
+        if (hides_full_stop_) return false;
+        const int row = abbreviations_.find(stretch_, next_);
+        if (row == NO_ABBREVIATION) return false;
+        const auto& [written, expansion] = s_spec_word_abbrevi[row];
+        target_.cut(static_cast<int>(dot_offset(row)));
+        const int target_at = target_.length();
+        if (!target_.append(expansion) || !target_.append(" ")) return false;
+        const std::string_view source(next_ - dot_offset(row), std::strlen(written));
+        report(source, target_at);
+        previous_ = '.';
+        next_ = stretch_ = source.data() + source.size();
         return true;
     }
-    switch (tag->kind) {
-        case TagKind::removed:
-            report(text, target_.length());
-            pass(text);
+
+    // ---- markup ----
+
+    // False when the markup is malformed and the pass must stop.
+    bool markup() {
+        const MarkupTag* tag = find_markup_tag(next_);
+        const std::string_view text = tag != nullptr ? tag_ends_.tag_at(next_) : std::string_view();
+        if (tag == nullptr || text.empty()) {
+            mark(false);
             return true;
-        case TagKind::kept: keep(text); return true;
-        case TagKind::span_open: return open_span(text);
-        default: return close_span(*tag);
+        }
+        switch (tag->kind) {
+            case TagKind::removed:
+                report(text, target_.length());
+                pass(text);
+                return true;
+            case TagKind::kept: keep(text); return true;
+            case TagKind::span_open: return open_span(text);
+            default: return close_span(*tag);
+        }
     }
-}
 
-void SentenceCutter::keep(std::string_view tag) {
-    if (tag.size() > WORD_LENGTH_MAX) {
-        mark(false);
-    } else {
-        copy_tag(tag);
+    void keep(std::string_view tag) {
+        if (tag.size() > WORD_LENGTH_MAX) {
+            mark(false);
+        } else {
+            copy_tag(tag);
+        }
     }
-}
 
-void SentenceCutter::pass(std::string_view tag) {
-    if (tag.find('.') != std::string_view::npos) hides_full_stop_ = true;
-    next_ += tag.size();
-}
-
-// A tag that has no room any more begins the next sentence. Where the sentence begins with tags
-// that hide no full stop, the search for abbreviations begins after them: a host may have written
-// them over text that has been searched.
-bool SentenceCutter::copy_tag(std::string_view tag) {
-    stop_ = !target_.append(tag);
-    if (stop_) return false;
-    const bool begins_stretch = stretch_ == next_;
-    pass(tag);
-    if (begins_stretch && !hides_full_stop_) stretch_ = next_;
-    return true;
-}
-
-bool SentenceCutter::open_span(std::string_view tag) {
-    if (tags_.begin_arr_len == OPEN_TAGS_MAX) return false;
-    if (tag.size() > SAVED_TAG_MAX) {
-        target_.append(tag.substr(0, SAVED_TAG_MAX + 1));  // as far as the entry took it
-        return false;
+    void pass(std::string_view tag) {
+        if (tag.find('.') != std::string_view::npos) hides_full_stop_ = true;
+        next_ += tag.size();
     }
-    if (!copy_tag(tag)) return true;
-    char* entry = tags_.begin_tag_arr[tags_.begin_arr_len++];
-    std::memcpy(entry, tag.data(), tag.size());
-    entry[tag.size()] = '\0';
-    return true;
-}
 
-bool SentenceCutter::close_span(const MarkupTag& tag) {
-    if (tags_.begin_arr_len == 0) return false;
-    char* innermost = tags_.begin_tag_arr[tags_.begin_arr_len - 1];
-    if (!begins_with(innermost, tag.partner) || !target_.append(tag.prefix)) return false;
-    next_ += tag.prefix.size();
-    innermost[0] = '\0';
-    --tags_.begin_arr_len;
-    return true;
-}
-
-bool SentenceCutter::close_open_spans() {
-    length_before_closing_ = target_.length();
-    for (int i = tags_.begin_arr_len - 1; i >= 0; --i) {
-        if (!target_.append(find_markup_tag(tags_.begin_tag_arr[i])->partner)) return false;
+    // A tag that has no room any more begins the next sentence. Where the sentence begins with tags
+    // that hide no full stop, the search for abbreviations begins after them: a host may have
+    // written them over text that has been searched.
+    bool copy_tag(std::string_view tag) {
+        stop_ = !target_.append(tag);
+        if (stop_) return false;
+        const bool begins_stretch = stretch_ == next_;
+        pass(tag);
+        if (begins_stretch && !hides_full_stop_) stretch_ = next_;
+        return true;
     }
-    return true;
+
+    bool open_span(std::string_view tag) {
+        if (tags_.begin_arr_len == OPEN_TAGS_MAX) return false;
+        if (tag.size() > SAVED_TAG_MAX) {
+            target_.append(tag.substr(0, SAVED_TAG_MAX + 1));  // as far as the entry took it
+            return false;
+        }
+        if (!copy_tag(tag)) return true;
+        char* entry = tags_.begin_tag_arr[tags_.begin_arr_len++];
+        std::memcpy(entry, tag.data(), tag.size());
+        entry[tag.size()] = '\0';
+        return true;
+    }
+
+    bool close_span(const MarkupTag& tag) {
+        if (tags_.begin_arr_len == 0) return false;
+        char* innermost = tags_.begin_tag_arr[tags_.begin_arr_len - 1];
+        if (!begins_with(innermost, tag.partner) || !target_.append(tag.prefix)) return false;
+        next_ += tag.prefix.size();
+        innermost[0] = '\0';
+        --tags_.begin_arr_len;
+        return true;
+    }
+
+    bool close_open_spans() {
+        length_before_closing_ = target_.length();
+        for (int i = tags_.begin_arr_len - 1; i >= 0; --i) {
+            if (!target_.append(find_markup_tag(tags_.begin_tag_arr[i])->partner)) return false;
+        }
+        return true;
+    }
+    const char* next_;  // the read position
+    const char* source_end_;
+    const char* stretch_;           // where the next abbreviation search begins
+    bool hides_full_stop_ = false;  // a tag that was passed since has one inside
+    BoundedText target_;
+    AbbreviationSearch& abbreviations_;
+    const CutObserver* observer_;
+    char previous_ = 0;  // the last character that the scan recorded; tags do not count
+    bool stop_ = false;  // the sentence has ended
+    int length_before_closing_ = 0;
+    SsmlTagArr& tags_;  // the open spans
+    TagEnds tag_ends_;
+};
+
+}  // namespace
+
+void cut_sentence(std::string_view source, char* target, AbbreviationSearch& abbreviations,
+                  const CutObserver* observer, CutSentence& sentence) {
+    SentenceCutter cutter(source, target, abbreviations, observer, sentence.open_tags);
+    sentence.is_well_formed = cutter.cut();
+    sentence.end = cutter.end();
+    sentence.rest = cutter.rest();
+    sentence.length = cutter.length();
+    sentence.length_before_closing = cutter.length_before_closing();
 }
 
 }  // namespace tn
@@ -218,16 +266,15 @@ bool SentenceCutter::close_open_spans() {
 int PostProTnEng::eng_text_normalize(char* sz_source_text, char* sz_target_text,
                                      char* sz_next_text) {
     tn::AbbreviationSearch abbreviations;
-    tn::SentenceCutter cutter(sz_source_text, sz_target_text, abbreviations, nullptr);
-    if (!cutter.cut()) return 0;
-    const std::string_view rest = cutter.rest();
-    if (rest.empty()) return 0;
+    tn::CutSentence sentence;
+    tn::cut_sentence(sz_source_text, sz_target_text, abbreviations, nullptr, sentence);
+    if (!sentence.is_well_formed || sentence.rest.empty()) return 0;
     tn::BoundedText next_text(sz_next_text, SZ_TEXT_MAX_LEN);
-    const SsmlTagArr& tags = cutter.open_tags();
+    const SsmlTagArr& tags = sentence.open_tags;
     for (int i = 0; i < tags.begin_arr_len; ++i) {
         if (!next_text.append(tags.begin_tag_arr[i])) return 0;
     }
-    next_text.append(rest);
+    next_text.append(sentence.rest);
     return 0;
 }
 

@@ -27,7 +27,7 @@ bool number_may_follow(const char* after) {
 
 }  // namespace
 
-const char* PlainText::read(const char* text, ReadingObserver* observer) {
+const char* PlainText::read(const char* text, const ReadingObserver* observer) {
     for (;;) {
         while (*text == ' ') ++text;
         const char* end = text;
@@ -38,7 +38,8 @@ const char* PlainText::read(const char* text, ReadingObserver* observer) {
         }
         if (end == text || end == nullptr) return end;
         if (observer != nullptr) {
-            observer->on_plain_text({text, static_cast<std::size_t>(end - text)}, output_.length());
+            observer->on_plain_text(observer->context, {text, static_cast<std::size_t>(end - text)},
+                                    output_.length());
         }
         text = end;
     }

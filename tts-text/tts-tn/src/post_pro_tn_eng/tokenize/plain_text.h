@@ -24,7 +24,7 @@ class PlainText {
     // where a pattern may begin that a reader has to look at. Null when the output is full; it then
     // holds what fitted. `observer` is shown each word, or stretch of words, and mark; it may be
     // null.
-    const char* read(const char* text, ReadingObserver* observer);
+    const char* read(const char* text, const ReadingObserver* observer);
 
   private:
     // Each reads what begins at `text` and returns where that ends; `text` itself when a reader has

@@ -13,24 +13,24 @@ namespace tn {
 
 // Tokens are made only of what a reader has to look at: the plain text between goes straight to
 // the output.
-int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* observer) {
+int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObserver* observer) {
     BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
     if (output.length() == SZ_TEXT_MAX_LEN) return -1;  // no text: nothing terminates it
-    const bool was_empty = output.length() == 0;
+    bool is_all_words = output.length() == 0;
     TagEnds tag_ends;
     TextTokens tokens(TextTokens::Reach::plain_word, tag_ends);
     PlainText plain_text(sz_source_text + std::strlen(sz_source_text), tag_ends, tokens, output);
-    SectionDispatcher dispatcher(tokens, output);
     for (const char* text = sz_source_text;;) {
         text = plain_text.read(text, observer);
         if (text == nullptr) return -1;
         if (*text == '\0') break;
-        const Outcome outcome = dispatcher.walk(tokens.begin(text), observer);
-        if (outcome == Outcome::full) return -1;
-        if (outcome == Outcome::ended) break;
+        const WalkResult result = walk(tokens, tokens.begin(text), output, observer);
+        if (result.outcome == Outcome::full) return -1;
+        is_all_words = is_all_words && result.is_all_words;
+        if (result.outcome == Outcome::ended) break;
         text = tokens.end();
     }
-    if (was_empty && dispatcher.is_all_words()) {
+    if (is_all_words) {
         output.cut_blanks();  // readers write nothing but letters, blanks and tags
     } else {
         re_regular(sz_target_text);
@@ -38,10 +38,10 @@ int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* 
     return 0;
 }
 
-void read_step_by_step(const char* sentence, BoundedText& output, ReadingObserver& observer) {
+void read_step_by_step(const char* sentence, BoundedText& output, const ReadingObserver& observer) {
     TagEnds tag_ends;
     TextTokens tokens(TextTokens::Reach::text_end, tag_ends);
-    SectionDispatcher(tokens, output).walk(tokens.begin(sentence), &observer);
+    walk(tokens, tokens.begin(sentence), output, &observer);
 }
 
 void re_regular(char* sz_source_text) {
@@ -74,9 +74,8 @@ int PostProTnEng::eng_text_tokenize(char* sz_source_text, char* sz_target_text) 
 int PostProTnEng::section_process(Section* p_section, char* sz_target_text) {
     tn::BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
     tn::QueueTokens tokens(p_section);
-    tn::SectionDispatcher dispatcher(tokens, output);
-    const tn::Outcome outcome = dispatcher.walk(tokens.begin(), nullptr);
-    return outcome == tn::Outcome::full ? -1 : 0;
+    const tn::WalkResult result = tn::walk(tokens, tokens.begin(), output, nullptr);
+    return result.outcome == tn::Outcome::full ? -1 : 0;
 }
 
 }  // namespace kavi

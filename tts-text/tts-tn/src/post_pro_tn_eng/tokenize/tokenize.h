@@ -8,11 +8,11 @@
 namespace kavi::tn {
 
 // What PostProTnEng::eng_text_tokenize does; `observer` may be null.
-int tokenize(const char* sz_source_text, char* sz_target_text, ReadingObserver* observer);
+int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObserver* observer);
 
 // Appends what a sentence reads as to `output`, a text in a buffer of SZ_TEXT_MAX_LEN bytes, and
 // shows the observer all of it step by step. Blanks at its end stay.
-void read_step_by_step(const char* sentence, BoundedText& output, ReadingObserver& observer);
+void read_step_by_step(const char* sentence, BoundedText& output, const ReadingObserver& observer);
 
 // Leaves only letters and blanks outside tags, and no blank at the end.
 void re_regular(char* sz_source_text);

@@ -5,7 +5,7 @@
 #include "readers/months.h"
 #include "readers/readers.h"
 #include "readers/words.h"
-#include "tokenize/queue_tokens.h"
+#include "tokenize/token_window.h"
 #include "tokenize/tokenize.h"
 
 namespace kavi {
@@ -15,11 +15,11 @@ using namespace tn;
 namespace {
 
 int decide(bool (*test)(const Token*), Section* section) {
-    return test(QueueTokens(section).begin()) ? 1 : 0;
+    return test(TokenWindow(section).begin()) ? 1 : 0;
 }
 
 Section* append_from(Reader* read, Section* section, char* target) {
-    const QueueTokens tokens(section);
+    const TokenWindow tokens(section);
     Reading reading(target);
     return read(tokens.begin(), reading)->section;
 }
@@ -109,7 +109,7 @@ Section* PostProTnEng::decimal_number(Section* psection, char* sz_target_text) {
 }
 
 int PostProTnEng::currency_decide(Section* pSection) {
-    QueueTokens tokens(pSection);
+    TokenWindow tokens(pSection);
     return tokens.is_amount_before_dollar(tokens.begin()) ? 1 : 0;
 }
 
@@ -118,13 +118,13 @@ Section* PostProTnEng::currrency_read(Section* pSection, char* sz_target_text) {
 }
 
 int PostProTnEng::time_decide(Section* pSection) {
-    return tn::time_decide(QueueTokens(pSection).begin());
+    return tn::time_decide(TokenWindow(pSection).begin());
 }
 
 Section* PostProTnEng::time_number(Section* psection, char* sz_target_text) {
     const auto form = static_cast<TimeForm>(psection->m_nmark);
     if (form != SHORT_TIME && form != LONG_TIME) return nullptr;
-    const QueueTokens tokens(psection);
+    const TokenWindow tokens(psection);
     Reading reading(sz_target_text);
     return tn::time_number(tokens.begin(), form, reading)->section;
 }
@@ -146,7 +146,7 @@ int PostProTnEng::process_upper_case(Section* m_ptemp_section, char* sz_target) 
 }
 
 bool PostProTnEng::process_bracket(Section*& p_temp_section, char* sz_target) {
-    const QueueTokens tokens(p_temp_section);
+    const TokenWindow tokens(p_temp_section);
     const Token* bracket = tokens.begin();
     if (!is_number(bracket + 1)) return append_words("<punc=zuokuo>", sz_target);
     Section* last = append_mark(bracket_read, bracket, sz_target);
@@ -155,14 +155,14 @@ bool PostProTnEng::process_bracket(Section*& p_temp_section, char* sz_target) {
 }
 
 Section* PostProTnEng::process_plus(Section* p_temp_section, char* sz_target) {
-    const QueueTokens tokens(p_temp_section);
+    const TokenWindow tokens(p_temp_section);
     const Token* plus = tokens.begin();
     if (!is_number(plus - 1)) return append_mark(plus_read, plus, sz_target);
     return append_words("add ", sz_target) ? p_temp_section : nullptr;
 }
 
 Section* PostProTnEng::process_single_quote(Section* p_temp_section, char* /*sz_target*/) {
-    tn::process_single_quote(QueueTokens(p_temp_section).begin());
+    tn::process_single_quote(TokenWindow(p_temp_section).begin());
     return p_temp_section;
 }
 

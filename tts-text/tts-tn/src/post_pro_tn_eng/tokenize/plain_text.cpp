@@ -8,6 +8,7 @@
 #include "../readers/readers.h"
 #include "../readers/words.h"
 #include "mark_readings.h"
+#include "section_cut.h"
 
 namespace kavi::tn {
 

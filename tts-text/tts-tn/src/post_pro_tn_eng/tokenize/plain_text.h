@@ -7,7 +7,7 @@
 #include "../common/bounded_text.h"
 #include "../markup/tag_ends.h"
 #include "reading_observer.h"
-#include "text_tokens.h"
+#include "token_window.h"
 
 namespace kavi::tn {
 
@@ -17,7 +17,7 @@ class PlainText {
   public:
     // A NUL stands at `text_end`. `tag_ends` serves one pass over the text; `tokens` are asked for
     // what stands further on.
-    PlainText(const char* text_end, TagEnds& tag_ends, TextTokens& tokens, BoundedText& output)
+    PlainText(const char* text_end, TagEnds& tag_ends, TokenWindow& tokens, BoundedText& output)
         : text_end_(text_end), tag_ends_(tag_ends), tokens_(tokens), output_(output) {}
 
     // Appends the readings from `text` on and returns where they end: at the end of the text, or
@@ -38,7 +38,7 @@ class PlainText {
 
     const char* text_end_;
     TagEnds& tag_ends_;
-    TextTokens& tokens_;
+    TokenWindow& tokens_;
     BoundedText& output_;
 };
 

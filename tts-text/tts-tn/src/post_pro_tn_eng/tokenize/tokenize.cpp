@@ -5,7 +5,7 @@
 #include "../common/ascii.h"
 #include "dispatcher.h"
 #include "plain_text.h"
-#include "queue_tokens.h"
+#include "token_window.h"
 
 namespace kavi {
 
@@ -18,7 +18,7 @@ int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObse
     if (output.length() == SZ_TEXT_MAX_LEN) return -1;  // no text: nothing terminates it
     bool is_all_words = output.length() == 0;
     TagEnds tag_ends;
-    TextTokens tokens(TextTokens::Reach::plain_word, tag_ends);
+    TokenWindow tokens(TokenWindow::Reach::plain_word, tag_ends);
     PlainText plain_text(sz_source_text + std::strlen(sz_source_text), tag_ends, tokens, output);
     for (const char* text = sz_source_text;;) {
         text = plain_text.read(text, observer);
@@ -40,7 +40,7 @@ int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObse
 
 void read_step_by_step(const char* sentence, BoundedText& output, const ReadingObserver& observer) {
     TagEnds tag_ends;
-    TextTokens tokens(TextTokens::Reach::text_end, tag_ends);
+    TokenWindow tokens(TokenWindow::Reach::text_end, tag_ends);
     walk(tokens, tokens.begin(sentence), output, &observer);
 }
 
@@ -73,7 +73,7 @@ int PostProTnEng::eng_text_tokenize(char* sz_source_text, char* sz_target_text) 
 
 int PostProTnEng::section_process(Section* p_section, char* sz_target_text) {
     tn::BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
-    tn::QueueTokens tokens(p_section);
+    tn::TokenWindow tokens(p_section);
     const tn::WalkResult result = tn::walk(tokens, tokens.begin(), output, nullptr);
     return result.outcome == tn::Outcome::full ? -1 : 0;
 }

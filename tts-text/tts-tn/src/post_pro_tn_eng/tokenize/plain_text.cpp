@@ -26,100 +26,121 @@ bool number_may_follow(const char* after) {
     return is_digit(after[0]) || (after[0] != '\0' && is_digit(after[1])) || after[0] == '<';
 }
 
+class PlainText {
+  public:
+    PlainText(const char* text_end, TagEnds& tag_ends, TokenWindow& tokens, BoundedText& output)
+        : text_end_(text_end), tag_ends_(tag_ends), tokens_(tokens), output_(output) {}
+
+    const char* read(const char* text, const ReadingObserver* observer) {
+        for (;;) {
+            while (*text == ' ') ++text;
+            const char* end = text;
+            if (is_letter(*text)) {
+                end = word(text);
+            } else if (*text != '\0' && !is_digit(*text)) {
+                end = mark(text);
+            }
+            if (end == text || end == nullptr) return end;
+            if (observer != nullptr) {
+                observer->on_plain_text(observer->context,
+                                        {text, static_cast<std::size_t>(end - text)},
+                                        output_.length());
+            }
+            text = end;
+        }
+    }
+
+  private:
+    // Each reads what begins at `text` and returns where that ends; `text` itself when a reader has
+    // to look at it, null when the output is full.
+    const char* word(const char* text) {
+        const char* end = begins_plain_word(text) ? plain_words(text) : text;
+        return end != text ? end : other_word(text);
+    }
+
+    // Words in small letters but for a first capital, with one blank between each two, are copied
+    // as they are looked at; none when what follows makes the first another word, or when there is
+    // no room for it.
+    const char* plain_words(const char* text) {
+        constexpr std::ptrdiff_t LONGEST = WORD_LENGTH_MAX;
+        const std::ptrdiff_t room = std::min(LONGEST, output_.room() - 1);
+        const std::ptrdiff_t limit = std::min(text_end_ - text, room);
+        char* const target = output_.end();
+        std::ptrdiff_t length = 0;
+        do {
+            target[length] = text[length];
+            length = copy_small_words(text, length + 1, limit, target);
+        } while (text[length - 1] == ' ' && begins_plain_word(text + length));
+        if (is_letter(text[length]) || length > limit) {
+            while (length > 0 && is_letter(text[length - 1])) --length;
+        }
+        if (length == 0) {
+            *target = '\0';
+            return text;
+        }
+        if (text[length - 1] == ' ') --length;
+        output_.extend_spaced(static_cast<std::size_t>(length));
+        return text + length;
+    }
+
+    const char* other_word(const char* text) {
+        const std::string_view word = first_word(text);
+        const char* end = text + word.size();
+        switch (word_kind(word)) {
+            case WordKind::telephone_label:
+                if (*end == '.') return text;
+                return output_.append("telephone ") ? end : nullptr;
+            case WordKind::month:
+                if (number_may_follow(end)) return text;
+                return output_.append_spaced(month_name(word)) ? end : nullptr;
+            case WordKind::capitals: ask_lexicon(word); break;
+            default: break;
+        }
+        return output_.append_spaced(word) ? end : nullptr;
+    }
+
+    const char* mark(const char* text) {
+        const MarkReading* row = find_mark(*text);
+        if (row == nullptr) return text + 1;
+        const MarkWords words = words_of(*row, false, is_digit(text[1]));
+        if (words == READER) {
+            switch (row->mark) {
+                case '<': return smaller(text);
+                case '\'': return apostrophe(text);
+                default: return text;
+            }
+        }
+        return append_mark(words, row->spaced, output_) ? text + 1 : nullptr;
+    }
+
+    const char* smaller(const char* text) {
+        const std::string_view tag = first_section(text, tag_ends_);
+        if (tag.size() > 1) return output_.append_spaced(tag) ? text + tag.size() : nullptr;
+        const bool is_spoken = text[1] == '\0' || begins_with(text + 1, "punc");
+        const bool greater_follows = !is_spoken && tokens_.greater_follows(text + 1);
+        const MarkWords words = smaller_words(is_spoken, greater_follows);
+        return append_mark(words, false, output_) ? text + 1 : nullptr;
+    }
+
+    const char* apostrophe(const char* text) {
+        const std::string_view letters = first_word(text + 1);
+        const std::string_view word = find_contraction(letters);
+        if (word.empty()) return text + 1;
+        return output_.append_spaced(word) ? text + 1 + letters.size() : nullptr;
+    }
+
+    const char* text_end_;
+    TagEnds& tag_ends_;
+    TokenWindow& tokens_;
+    BoundedText& output_;
+};
+
 }  // namespace
 
-const char* PlainText::read(const char* text, const ReadingObserver* observer) {
-    for (;;) {
-        while (*text == ' ') ++text;
-        const char* end = text;
-        if (is_letter(*text)) {
-            end = word(text);
-        } else if (*text != '\0' && !is_digit(*text)) {
-            end = mark(text);
-        }
-        if (end == text || end == nullptr) return end;
-        if (observer != nullptr) {
-            observer->on_plain_text(observer->context, {text, static_cast<std::size_t>(end - text)},
-                                    output_.length());
-        }
-        text = end;
-    }
-}
-
-const char* PlainText::word(const char* text) {
-    const char* end = begins_plain_word(text) ? plain_words(text) : text;
-    return end != text ? end : other_word(text);
-}
-
-// Words in small letters but for a first capital, with one blank between each two, are copied as
-// they are looked at; none when what follows makes the first another word, or when there is no room
-// for it.
-const char* PlainText::plain_words(const char* text) {
-    constexpr std::ptrdiff_t LONGEST = WORD_LENGTH_MAX;
-    const std::ptrdiff_t room = std::min(LONGEST, output_.room() - 1);
-    const std::ptrdiff_t limit = std::min(text_end_ - text, room);
-    char* const target = output_.end();
-    std::ptrdiff_t length = 0;
-    do {
-        target[length] = text[length];
-        length = copy_small_words(text, length + 1, limit, target);
-    } while (text[length - 1] == ' ' && begins_plain_word(text + length));
-    if (is_letter(text[length]) || length > limit) {
-        while (length > 0 && is_letter(text[length - 1])) --length;
-    }
-    if (length == 0) {
-        *target = '\0';
-        return text;
-    }
-    if (text[length - 1] == ' ') --length;
-    output_.extend_spaced(static_cast<std::size_t>(length));
-    return text + length;
-}
-
-const char* PlainText::other_word(const char* text) {
-    const std::string_view word = first_word(text);
-    const char* end = text + word.size();
-    switch (word_kind(word)) {
-        case WordKind::telephone_label:
-            if (*end == '.') return text;
-            return output_.append("telephone ") ? end : nullptr;
-        case WordKind::month:
-            if (number_may_follow(end)) return text;
-            return output_.append_spaced(month_name(word)) ? end : nullptr;
-        case WordKind::capitals: ask_lexicon(word); break;
-        default: break;
-    }
-    return output_.append_spaced(word) ? end : nullptr;
-}
-
-const char* PlainText::mark(const char* text) {
-    const MarkReading* row = find_mark(*text);
-    if (row == nullptr) return text + 1;
-    const MarkWords words = words_of(*row, false, is_digit(text[1]));
-    if (words == READER) {
-        switch (row->mark) {
-            case '<': return smaller(text);
-            case '\'': return apostrophe(text);
-            default: return text;
-        }
-    }
-    return append_mark(words, row->spaced, output_) ? text + 1 : nullptr;
-}
-
-const char* PlainText::smaller(const char* text) {
-    const std::string_view tag = first_section(text, tag_ends_);
-    if (tag.size() > 1) return output_.append_spaced(tag) ? text + tag.size() : nullptr;
-    const bool is_spoken = text[1] == '\0' || begins_with(text + 1, "punc");
-    const bool greater_follows = !is_spoken && tokens_.greater_follows(text + 1);
-    const MarkWords words = smaller_words(is_spoken, greater_follows);
-    return append_mark(words, false, output_) ? text + 1 : nullptr;
-}
-
-const char* PlainText::apostrophe(const char* text) {
-    const std::string_view letters = first_word(text + 1);
-    const std::string_view word = find_contraction(letters);
-    if (word.empty()) return text + 1;
-    return output_.append_spaced(word) ? text + 1 + letters.size() : nullptr;
+const char* read_plain_text(const char* text, const char* text_end, TagEnds& tag_ends,
+                            TokenWindow& tokens, BoundedText& output,
+                            const ReadingObserver* observer) {
+    return PlainText(text_end, tag_ends, tokens, output).read(text, observer);
 }
 
 }  // namespace kavi::tn

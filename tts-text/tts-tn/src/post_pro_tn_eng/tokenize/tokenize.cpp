@@ -19,9 +19,9 @@ int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObse
     bool is_all_words = output.length() == 0;
     TagEnds tag_ends;
     TokenWindow tokens(TokenWindow::Reach::plain_word, tag_ends);
-    PlainText plain_text(sz_source_text + std::strlen(sz_source_text), tag_ends, tokens, output);
+    const char* const text_end = sz_source_text + std::strlen(sz_source_text);
     for (const char* text = sz_source_text;;) {
-        text = plain_text.read(text, observer);
+        text = read_plain_text(text, text_end, tag_ends, tokens, output, observer);
         if (text == nullptr) return -1;
         if (*text == '\0') break;
         const WalkResult result = walk(tokens, tokens.begin(text), output, observer);

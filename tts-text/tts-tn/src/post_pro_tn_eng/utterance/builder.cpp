@@ -15,38 +15,28 @@ namespace tn {
 namespace {
 
 struct WordCount {
-    int n_words;
-    bool is_listed;  // all of the text is in the one list
+    int n_words = 0;
+    int n_lists = 0;
 };
 
-// How many words the text has. `events` is left with the last list of it.
+// How many words the text has, in how many lists. `events` is left with the last of them.
 WordCount count_words(std::string_view text, mem_stack_handle arena, TextEvents& events) {
-    TextReader reader(text, arena);
-    reader.read(events);
-    WordCount count = {events.n_words(), reader.at_end()};
-    while (!reader.at_end()) {
-        reader.read(events);
-        count.n_words += events.n_words();
-    }
+    WordCount count;
+    const auto add = [](void* context, const TextEvents& list) {
+        auto& sum = *static_cast<WordCount*>(context);
+        sum.n_words += list.n_words();
+        ++sum.n_lists;
+        return true;
+    };
+    read_text(text, arena, events, add, &count);
     return count;
 }
 
 // Stores what is listed. False when the filler did not take something.
-bool store_words(const TextEvents& events, WordFiller& filler) {
+bool store_words(void* filler, const TextEvents& events) {
     for (const TextEvent& event : events) {
-        if (!filler.take(event)) return false;
+        if (!static_cast<WordFiller*>(filler)->take(event)) return false;
     }
-    return true;
-}
-
-// The same for a text.
-bool store_words(std::string_view text, mem_stack_handle arena, TextEvents& events,
-                 WordFiller& filler) {
-    TextReader reader(text, arena);
-    do {
-        reader.read(events);
-        if (!store_words(events, filler)) return false;
-    } while (!reader.at_end());
     return true;
 }
 
@@ -68,8 +58,8 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
     n_utt = word_num;
 
     WordFiller filler(arena, array + 1);
-    const bool stored =
-        count.is_listed ? store_words(events, filler) : store_words(text, arena, events, filler);
+    const bool stored = count.n_lists == 1 ? store_words(&filler, events)
+                                           : read_text(text, arena, events, store_words, &filler);
     if (!stored) return -1;
     assert(filler.record() == array + word_num);
     return 0;
@@ -88,7 +78,7 @@ bool PostProTnEng::insert_ssml_info(int& n, UtteranceSyllable* utt, const char* 
     tn::WordFiller filler(_mem_handle, utt + n);
     if (!filler.enter_span(tag_type, value_str)) return false;
     tn::TextEvents events;
-    const bool stored = tn::store_words(buffer_target, _mem_handle, events, filler);
+    const bool stored = tn::read_text(buffer_target, _mem_handle, events, tn::store_words, &filler);
     n = static_cast<int>(filler.record() - utt);
     return stored;
 }

@@ -4,10 +4,10 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
-#include "scanner.h"
+#include "MemoryStack.h"
+#include "post_pro_tn_eng.h"
 
 namespace kavi::tn {
 
@@ -67,48 +67,14 @@ class TextEvents {
     char characters_[CHARACTERS + 1];  // of words put together, and one that may be read
 };
 
-// Reads one text.
-class TextReader {
-  public:
-    // A NUL follows the text. The arena may be null.
-    // cppcheck-suppress uninitMemberVar ; of the spans, those entered are set
-    TextReader(std::string_view text, mem_stack_handle arena)
-        : at_(text.data()), arena_(arena), end_(at_ + text.size()) {
-        word_[0] = '\0';
-    }
-    TextReader(const TextReader&) = delete;
-    TextReader& operator=(const TextReader&) = delete;
+// Is handed each list; false when no more are wanted.
+using EventsHandler = bool(void* context, const TextEvents& events);
 
-    // Lists what comes next: all of it, or as much as the list holds.
-    void read(TextEvents& events);
-
-    bool at_end() const { return at_ == end_ && n_spans_ == 0; }
-
-  private:
-    inline void read_usual(TextEvents& events);
-    inline void read_step(TextEvents& events);
-    inline void read_tag(const Tag& tag, TextEvents& events);
-    inline void leave_span(TextEvents& events);
-
-    struct Span {
-        const char* after;  // where the text goes on
-        const char* outer_end;
-    };
-
-    // Spans nested deeper are not read: their words are never stored, since a chain of so many
-    // names is longer than any that can be.
-    static constexpr int SPANS_NESTED_MAX = 64;
-
-    // Not side by side: loaded as one, place and end would wait for the store of the place.
-    const char* at_;
-    mem_stack_handle arena_;
-    const char* end_;                   // of the innermost open span, or of the text
-    char word_[WORD_MAX_LEN];           // that the scanner is reading, or an empty one
-    std::optional<Scanner> scanner_;    // from the first step on
-    const char* usual_from_ = nullptr;  // up to there, the text is read step by step
-    int n_spans_ = 0;
-    Span spans_[SPANS_NESTED_MAX];  // the open ones
-};
+// Lists what stands in a text, which a NUL follows: in one list, which is left in `events`, or,
+// where that has no room for all, in several. False when the handler did not want all. The arena
+// may be null.
+bool read_text(std::string_view text, mem_stack_handle arena, TextEvents& events,
+               EventsHandler* on_list, void* context);
 
 }  // namespace kavi::tn
 

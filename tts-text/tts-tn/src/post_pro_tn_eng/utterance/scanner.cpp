@@ -84,25 +84,24 @@ Scanner::Met Scanner::meet_tag() {
     if (met_tag_ && !paired_tags_) paired_tags_.emplace(arena_);
     const bool closed = !met_tag_ || read_content(tag_, end_, *paired_tags_);
     at_ = tag_.after;
-    // After a tag that should have been closed, the word is not to be lost with the tags that end
-    // the text.
-    return !closed && has_word() && only_tags_follow() ? Met::word_end : Met::tag;
+    if (!closed && tag_.use != TagUse::span) keeps_last_word_ = true;
+    return keeps_last_word_ && has_word() && at_ == end_ ? Met::word_end : Met::tag;
 }
 
-// Whether the rest of the text is tags at which nothing is to be done. None of it is looked at for
-// a second time once there is something else.
-bool Scanner::only_tags_follow() {
-    if (at_ <= text_ahead_) return false;
-    TagEnds tag_ends;
-    Tag tag = {};
-    const char* text = at_;
-    while (text != end_ && *text == '<' && read_opening(text + 1, end_, tag_ends, tag) &&
-           tag.use == TagUse::none) {
-        text = tag.after;
+namespace {
+
+// What Scanner::keeps_last_word says at `at` of a text that is scanned from `text` on.
+bool keeps_last_word(const char* text, const char* at, const char* end) {
+    char word[WORD_MAX_LEN];
+    word[0] = '\0';
+    Scanner scanner(text, end, word, 0, nullptr);
+    while (scanner.at() < at) {
+        if (scanner.step()) scanner.clear_word();
     }
-    text_ahead_ = text;
-    return text == end_;
+    return scanner.keeps_last_word();
 }
+
+}  // namespace
 
 }  // namespace tn
 
@@ -125,7 +124,15 @@ bool PostProTnEng::filter_text(char* p_word_text, char* sz_char_buf, char* sz_ta
     const char* const end = p_word_text + i + std::strlen(p_word_text + i);
     tn::Scanner scanner(p_word_text + i, end, sz_char_buf, j, nullptr);
     mark = scanner.step() ? 1 : 0;
-    if (const tn::Tag* tag = scanner.tag()) tn::copy_parts(*tag, sz_tag, sz_value, sz_target);
+    if (const tn::Tag* tag = scanner.tag()) {
+        tn::copy_parts(*tag, sz_tag, sz_value, sz_target);
+        // A step does not know of those before it.
+        if (mark == 0 && scanner.at() == end && scanner.has_word() &&
+            tn::keeps_last_word(p_word_text, p_word_text + i, end)) {
+            sz_char_buf[j] = '\0';
+            mark = 1;
+        }
+    }
     i = static_cast<int>(scanner.at() - p_word_text);
     j = scanner.word_length();
     return true;

@@ -30,6 +30,11 @@ class Scanner {
         end_ = end;
     }
 
+    // Whether a paired tag that nothing closes has been passed over by itself. From then on a tag
+    // that ends the text completes the word before it, which is lost otherwise.
+    bool keeps_last_word() const { return keeps_last_word_; }
+    void keep_last_word(bool keeps) { keeps_last_word_ = keeps; }
+
     // Reads one character or one tag. True when that completed the word in the buffer.
     bool step();
 
@@ -51,9 +56,8 @@ class Scanner {
   private:
     enum class Met { no_tag, tag, word_end };
 
-    inline Met meet_tag();
-    inline bool advance();
-    inline bool only_tags_follow();
+    Met meet_tag();
+    bool advance();
 
     const char* at_;
     const char* end_;
@@ -61,9 +65,9 @@ class Scanner {
     int word_length_;
     const char* word_begin_ = nullptr;
     bool met_tag_ = false;
+    bool keeps_last_word_ = false;
     const char* tag_at_ = nullptr;  // where the last tag that was read begins
     Tag tag_;
-    const char* text_ahead_ = nullptr;  // up to here there are more than tags
     TagEnds tag_ends_;
     mem_stack_handle arena_;
     std::optional<PairedTags> paired_tags_;  // from the first paired tag on

@@ -72,6 +72,7 @@ class TextReader {
     struct Span {
         const char* after;  // where the text goes on
         const char* outer_end;
+        bool keeps_last_word;  // there
     };
 
     // Spans nested deeper are not read: their words are never stored, since a chain of so many
@@ -148,7 +149,8 @@ class TextReader {
                     events.add(TextEventKind::span_end, {});
                     break;
                 }
-                spans_[n_spans_++] = {tag.after, end_};
+                spans_[n_spans_++] = {tag.after, end_, scanner_->keeps_last_word()};
+                scanner_->keep_last_word(false);
                 at_ = tag.content.data();
                 end_ = at_ + tag.content.size();
                 break;
@@ -162,6 +164,7 @@ class TextReader {
         const Span& span = spans_[--n_spans_];
         events.add(TextEventKind::span_end, {});
         scanner_->clear_word();
+        scanner_->keep_last_word(span.keeps_last_word);
         at_ = span.after;
         end_ = span.outer_end;
     }

@@ -1,4 +1,5 @@
 #include "engine_peer.h"
+#include "table.h"
 
 namespace kavi {
 namespace {
@@ -70,21 +71,6 @@ TEST_F(Dispatcher, ReadsAQueueAsFarAsItFits) {
     EXPECT_EQ(target, words.substr(0, SZ_TEXT_MAX_LEN - 1));
     EXPECT_EQ(engine.section_process(nullptr, target), 0);
     release(head);
-    Section no_text = {};  // as only a host would make it
-    char empty[SZ_TEXT_MAX_LEN] = {};
-    EXPECT_EQ(engine.section_process(&no_text, empty), 0);
-    EXPECT_STREQ(empty, " ");
-    Section dollar = {"$", MARKSYMBOL, nullptr, nullptr};
-    Section no_digits = {"", NUMBERSYMBOL, nullptr, &dollar};
-    dollar.m_pnext = &no_digits;
-    EXPECT_EQ(engine.section_process(&dollar, empty), 0);
-    EXPECT_STREQ(empty, " dollars  ");
-    Section number_sign = {"#", MARKSYMBOL, nullptr, nullptr};
-    Section word = {" x", STRINGSYMBOL, nullptr, &number_sign};
-    number_sign.m_pnext = &word;
-    char spaced[SZ_TEXT_MAX_LEN] = {};
-    EXPECT_EQ(engine.section_process(&number_sign, spaced), 0);
-    EXPECT_STREQ(spaced, "  x ");
 }
 
 TEST_F(Dispatcher, ReadsAQueueFromWithinIt) {
@@ -100,21 +86,12 @@ TEST_F(Dispatcher, ReadsAQueueFromWithinIt) {
     release(head);
 }
 
-// A section that a host appends itself has the class of its first character, whatever follows that.
-TEST_F(Dispatcher, ReadsSectionsThatNoTextHas) {
-    struct Case {
-        std::vector<std::string> sections;
-        const char* expected;
-    };
-    for (const auto& [sections, expected] :
-         {Case{{"10", ":", "--", "a"}, " ten   a "},
-          Case{{"$", "1x", ".", "50"}, "  dollar  fifty  cents  "}, Case{{"1999x"}, " "}}) {
-        Section* head = nullptr;
-        for (std::string section : sections) EXPECT_EQ(engine.add_section(section.data(), head), 0);
-        char target[SZ_TEXT_MAX_LEN] = {};
-        EXPECT_EQ(engine.section_process(head, target), 0);
-        EXPECT_STREQ(target, expected) << sections.front();
-        release(head);
+// By class and text, as no text has them.
+TEST_F(Dispatcher, ReadsQueuesThatOnlyAHostMakes) {
+    for (TableRow row : read_table("queues")) {
+        const std::string expected = row.back();
+        row.pop_back();
+        EXPECT_EQ(process(row), expected) << testing::PrintToString(row);
     }
 }
 

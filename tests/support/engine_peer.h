@@ -78,6 +78,21 @@ class EngineTest : public testing::Test {
         return target;
     }
 
+    // What a queue reads as whose sections are written as class, a blank, and text.
+    std::string process(const std::vector<std::string>& written) {
+        std::vector<Section> sections(written.size());
+        for (std::size_t i = 0; i < written.size(); ++i) {
+            const std::size_t blank = written[i].find(' ');
+            std::strcpy(sections[i].sz_char, written[i].c_str() + blank + 1);
+            sections[i].m_nmark = std::stoi(written[i]);
+            if (i > 0) sections[i].m_pprevious = &sections[i - 1];
+            if (i + 1 < sections.size()) sections[i].m_pnext = &sections[i + 1];
+        }
+        char target[SZ_TEXT_MAX_LEN] = {};
+        EXPECT_EQ(engine.section_process(sections.data(), target), 0);
+        return target;
+    }
+
     // What a text-to-text operation leaves in a 500-byte buffer that held `before`.
     std::string call(PostProTnEngPeer::Text operation, std::string source,
                      const std::string& before = "") {

@@ -24,7 +24,8 @@ constexpr int SECTIONS_BEFORE = 2;
 
 using Reader = const Token*(const Token* pattern, Reading& reading);
 
-// ---- telephone: "area code ", then group by group, digit by digit; it begins with no word ----
+// ---- telephone: "area code ", then group by group, digit by digit, up to a word; one that begins
+// there is consumed all the same ----
 bool phone_number_decide(const Token* token);
 const Token* phone_number_read(const Token* first, Reading& reading);
 
@@ -77,7 +78,8 @@ MarkReader plus_read;
 // What the letters after an apostrophe stand for; empty when they are no contraction.
 std::string_view find_contraction(std::string_view letters);
 
-// The same of the token after an apostrophe; a host's section has it from then on.
+// The same of the token after an apostrophe, as far as that is a word; a host's section, of any
+// class, has it from then on.
 std::string_view process_single_quote(const Token* apostrophe);
 
 }  // namespace kavi::tn

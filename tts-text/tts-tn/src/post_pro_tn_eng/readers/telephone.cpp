@@ -26,7 +26,7 @@ const Token* phone_number_read(const Token* first, Reading& reading) {
             reading.append(" ");
         }
     }
-    return token - 1;
+    return token == first ? first : token - 1;
 }
 
 }  // namespace kavi::tn

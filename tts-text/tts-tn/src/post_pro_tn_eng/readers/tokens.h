@@ -11,7 +11,10 @@
 
 namespace kavi::tn {
 
-// The class of the token after the last section of a row.
+// Beside the three classes of Section::m_nmark: any other that a host may have given a section,
+// which readers take for neither word nor number nor mark; and the token after the last section of
+// a row.
+constexpr signed char OTHER_CLASS = 3;
 constexpr signed char NO_SECTION = -1;
 
 // A section: a piece of a text, or the text of a section that a host holds. A token belongs to a
@@ -19,7 +22,7 @@ constexpr signed char NO_SECTION = -1;
 struct Token {
     const char* begin;
     std::uint16_t length;
-    signed char kind;  // as in Section::m_nmark, or NO_SECTION
+    signed char kind;  // as in Section::m_nmark, OTHER_CLASS or NO_SECTION
     bool has_digits_only;
     Section* section;  // the host's, else null
 

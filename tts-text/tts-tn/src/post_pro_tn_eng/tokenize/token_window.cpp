@@ -11,12 +11,11 @@ namespace kavi::tn {
 
 namespace {
 
-// Of a class that there is not, it is a mark.
 Token token_of(Section* section) {
     const int kind = section->m_nmark;
-    const bool is_class = kind == STRINGSYMBOL || kind == NUMBERSYMBOL;
+    const bool is_class = kind == STRINGSYMBOL || kind == NUMBERSYMBOL || kind == MARKSYMBOL;
     return {section->sz_char, static_cast<std::uint16_t>(std::strlen(section->sz_char)),
-            static_cast<signed char>(is_class ? kind : MARKSYMBOL), is_digits(section->sz_char),
+            static_cast<signed char>(is_class ? kind : OTHER_CLASS), is_digits(section->sz_char),
             section};
 }
 

@@ -124,8 +124,11 @@ class SectionDispatcher {
 
     const Token* number() {
         const Token* next = first_ + 1;
-        switch (next->length == 1 ? next->first() : '\0') {
-            case ',': return read(ReadingRule::separated_number, str_number, first_);
+        const char mark = next->length == 1 ? next->first() : '\0';
+        if (mark == ',') return read(ReadingRule::separated_number, str_number, first_);
+        if (is_ordinal_suffix(next)) return read(ReadingRule::ordinal, turn, first_);
+        if (mark != '/' && tokens_.is_amount_before_dollar(first_)) return money(first_);
+        switch (mark) {
             case ':': return clock_time();
             case '/':
             case '-':
@@ -135,16 +138,11 @@ class SectionDispatcher {
                 }
                 break;
             case '.':
-                if (tokens_.is_amount_before_dollar(first_)) return money(first_);
-                if (decimal_decide(first_))
+                if (decimal_decide(first_)) {
                     return read(ReadingRule::decimal, decimal_number, first_);
+                }
                 break;
-            case '$': return money(first_);
-            default:
-                if (is_ordinal_suffix(next)) return read(ReadingRule::ordinal, turn, first_);
-                // After so many digits that they are two sections, it may be an amount.
-                if (is_number(next) && tokens_.is_amount_before_dollar(first_))
-                    return money(first_);
+            default: break;
         }
         return plain_number();
     }

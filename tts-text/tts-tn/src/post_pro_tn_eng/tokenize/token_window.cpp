@@ -128,7 +128,7 @@ bool TokenWindow::is_amount_before_dollar(const Token* number) {
         const Section* after = after_amount_.find(number->section, index_of(number));
         return after != nullptr && after->sz_char[0] == '$';
     }
-    const char* text = number->begin;
+    const char* text = number->begin + number->length;
     if (amount_end_ == nullptr || text >= amount_end_) {
         while (is_digit(*text) || *text == ',' || *text == '.') ++text;
         amount_end_ = text;

@@ -93,6 +93,7 @@ TEST_F(Readers, EachByItself) {
         {"str_number", Peer::str_number},
         {"turn", Peer::turn},
         {"time_number", Peer::time_number},
+        {"time_number, long", Peer::time_number},
         {"process_plus", Peer::process_plus}};
     for (const TableRow& row : read_table("readers_alone")) {
         std::string text = row[1];
@@ -102,6 +103,7 @@ TEST_F(Readers, EachByItself) {
         std::memset(target, 'g', sizeof target);
         target[0] = '\0';
         Section* last = head;
+        if (row[0] == "time_number, long") head->m_nmark = 2;
         if (row[0] == "process_bracket") {
             EXPECT_TRUE((engine.*Peer::process_bracket)(last, target));
         } else if (row[0] == "process_upper_case") {
@@ -154,16 +156,18 @@ TEST_F(Readers, MarksStopWhereTheOutputIsFull) {
 }
 
 TEST_F(Readers, LongReadingsAreCutAfterAWholeWord) {
-    char time[] = "0:0:0";
-    Section* head = nullptr;
-    EXPECT_EQ(engine.text_to_queue(time, head), 0);
-    head->m_nmark = 2;  // the long form
     const std::string held(489, 'x');
-    char target[WORD_MAX_LEN] = {};
-    std::strcpy(target, held.c_str());
-    EXPECT_NE((engine.*Peer::time_number)(head, target), nullptr);
-    EXPECT_EQ(target, held + "   zero");
-    release(head);
+    for (std::string time : {"0:0:0", "0:0:a", "0:a:0"}) {  // a word is left to others then
+        Section* head = nullptr;
+        EXPECT_EQ(engine.text_to_queue(time.data(), head), 0);
+        head->m_nmark = 2;  // the long form
+        char target[WORD_MAX_LEN] = {};
+        std::strcpy(target, held.c_str());
+        const Section* last = (engine.*Peer::time_number)(head, target);
+        EXPECT_STREQ(last->sz_char, time == "0:0:0" ? "0" : ":") << time;
+        EXPECT_EQ(target, held + "   zero");
+        release(head);
+    }
     for (const char* before : {"Tel.", "3."}) {
         const std::string reading = tokenize(before + std::string(100, '7') + "-x");
         EXPECT_NE(reading.find("seven seven"), std::string::npos);

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "ascii.h"
 #include "limits.h"
 #include "post_pro_tn_eng.h"
 #include "short_copy.h"
@@ -35,10 +36,10 @@ class Reading {
         extend(words.size());
     }
 
-    // Before anything was cut: appends a text that must not be broken, such as a word or a tag of
-    // the user's, and answers true; or nothing, and answers false.
+    // Appends a text that must not be broken, such as a word or a tag of the user's, and answers
+    // true; or nothing, and answers false: there is no room, or the reading has been cut.
     bool append_whole(std::string_view text) {
-        if (text.size() > ROOM - length_) return false;
+        if (!has_room(text.size())) return false;
         append(text);
         return true;
     }
@@ -50,6 +51,11 @@ class Reading {
     void extend(std::size_t length) {
         length_ += length;
         text_[length_] = '\0';
+    }
+
+    // Ends a word of the user's, which has no blank after it yet.
+    void end_word() {
+        if (length_ > 0 && is_letter(text_[length_ - 1])) append(" ");
     }
 
     // Appends a text that is no words, since there are none for it. This reading has not been all

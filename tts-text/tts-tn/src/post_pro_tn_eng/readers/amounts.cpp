@@ -40,8 +40,7 @@ static const Token* read_dollars(const Token* amount, Reading& reading) {
         return amount;
     }
     const Token* last = str_number(amount, reading);
-    const std::string_view text = reading.text();
-    if (!text.empty() && is_letter(text.back())) reading.append(" ");  // after a word of the user's
+    reading.end_word();
     reading.append("dollars ");
     return last;
 }
@@ -49,7 +48,7 @@ static const Token* read_dollars(const Token* amount, Reading& reading) {
 const Token* currrency_read(const Token* amount, Reading& reading) {
     const Token* last = read_dollars(amount, reading);
     const Token* cents = ahead(last, 2);
-    if (!is_mark(ahead(last, 1), '.') || !is_number(cents)) return last;
+    if (!is_mark(ahead(last, 1), '.') || !cents->has_digits_only) return last;
     append_cardinal(cents->text(), reading);
     reading.append(value_of(cents->text()) > 1 ? "cents " : "cent ");
     return cents;

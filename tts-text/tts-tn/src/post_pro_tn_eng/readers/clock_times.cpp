@@ -14,23 +14,28 @@ struct TimeUnit {
     const char* many;
 };
 
-constexpr TimeUnit HOURS = {" hour ", " zero hour ", " hours "};
-constexpr TimeUnit MINUTES = {" minute ", " zero minute ", " minutes "};
-constexpr TimeUnit SECONDS = {" second ", " zero second ", " seconds "};
+constexpr TimeUnit LONG_UNITS[] = {{" hour ", " zero hour ", " hours "},
+                                   {" minute ", " zero minute ", " minutes "},
+                                   {" second ", " zero second ", " seconds "}};
+constexpr TimeUnit SHORT_UNITS[] = {{" ", " ", " "}, {"", "", ""}};  // none
 
 const char* unit_word(const TimeUnit& unit, int value) {
     if (value == 1) return unit.one;
     return value == 0 ? unit.zero : unit.many;
 }
 
-void append_part(const Token* number, const TimeUnit& unit, Reading& reading) {
-    append_number(number->text(), reading);
-    reading.append(unit_word(unit, value_of(number->text())));
+void append_number_of(const TimeUnit& unit, const Token* part, Reading& reading) {
+    append_number(part->text(), reading);
+    reading.append(unit_word(unit, value_of(part->text())));
 }
 
-// The last part of a time need not be a number. What has no room is left to the dispatcher.
-const Token* end_at(const Token* part, Reading& reading) {
-    return append_no_number(part, reading) ? part : part - 1;
+// A part that is no number is appended as it stands. False when that has no room: it is left to the
+// dispatcher.
+bool append_part(const TimeUnit& unit, const Token* part, Reading& reading) {
+    if (!part->has_digits_only) return append_no_number(part, reading);
+    reading.end_word();
+    append_number_of(unit, part, reading);
+    return true;
 }
 
 }  // namespace
@@ -43,23 +48,15 @@ TimeForm time_decide(const Token* hours) {
 }
 
 const Token* time_number(const Token* hours, TimeForm form, Reading& reading) {
-    const Token* minutes = ahead(hours, 2);
-    const Token* last = form == LONG_TIME ? ahead(hours, 4) : minutes;
+    const bool is_long = form == LONG_TIME;
+    const Token* last = ahead(hours, is_long ? 4 : 2);
     if (!is_section(last)) return last;
-    if (form == LONG_TIME) {
-        append_part(hours, HOURS, reading);
-        append_part(minutes, MINUTES, reading);
-    } else {
-        append_number(hours->text(), reading);
-        reading.append(" ");
+    const TimeUnit* unit = is_long ? LONG_UNITS : SHORT_UNITS;
+    append_number_of(*unit, hours, reading);
+    for (const Token* part = hours + 2;; part += 2) {
+        if (!append_part(*++unit, part, reading)) return part - 1;
+        if (part == last) return last;
     }
-    if (!is_number(last)) return end_at(last, reading);
-    if (form == LONG_TIME) {
-        append_part(last, SECONDS, reading);
-    } else {
-        append_number(last->text(), reading);
-    }
-    return last;
 }
 
 }  // namespace kavi::tn

@@ -40,7 +40,7 @@ const Token* data_number(const Token* day, Reading& reading) {
     reading.append(" of ");
     append_month(month->text(), reading);
     reading.append(" ");
-    if (is_number(year)) {
+    if (year->has_digits_only) {
         year_read(year->text(), reading);
     } else {
         append_month(year->text(), reading);

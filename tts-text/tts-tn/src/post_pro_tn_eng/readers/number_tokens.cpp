@@ -33,7 +33,7 @@ NumberForm number_form(const Token* number) {
 // The last section of a number with separators, with mark and suffix when it is an ordinal. It
 // need not be a number.
 const Token* read_last(const Token* last, bool ordinal, Reading& reading) {
-    if (!is_number(last)) {
+    if (!last->has_digits_only) {
         if (!append_no_number(last, reading)) return last - 1;
     } else if (ordinal) {
         append_ordinal(last->text(), reading);

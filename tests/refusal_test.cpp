@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "engine_peer.h"
 #include "post_pro_tn_eng.h"
 #include "records.h"
 #include "strict_services.h"
@@ -62,18 +63,39 @@ TEST_F(Refusal, OfOneRequestOrOfAllFromOneOn) {
     }
 }
 
-TEST_F(Refusal, TheTokenizerNeedsNoArena) {
-    for (const TableRow& row : read_table("every_request")) {
-        std::string source = row[0];
-        char by_arena[SZ_TEXT_MAX_LEN] = {};
-        char unbound[SZ_TEXT_MAX_LEN] = {};
-        engine.init(&arena);
-        EXPECT_EQ(engine.eng_text_tokenize(source.data(), by_arena), 0);
-        engine.init(nullptr);
-        EXPECT_EQ(engine.eng_text_tokenize(source.data(), unbound), 0);
-        EXPECT_STREQ(unbound, by_arena);
+TEST_F(Refusal, OfASectionLeavesTheTargetUntouched) {
+    char target[SZ_TEXT_MAX_LEN] = "5";
+    char nothing[] = "";
+    char word[] = "a";
+    EXPECT_EQ(engine.eng_text_tokenize(word, target), -1) << "before init";
+    engine.init(&arena);
+    arena.first_refused = 0;
+    EXPECT_EQ(engine.eng_text_tokenize(word, target), -1);
+    EXPECT_STREQ(target, "5");
+    EXPECT_EQ(engine.eng_text_tokenize(nothing, target), 0);
+    EXPECT_EQ(arena.requests, 1);
+    arena.first_refused = 1000;
+    EXPECT_EQ(engine.eng_text_tokenize(word, target), 0);
+    EXPECT_STREQ(target, "a");
+    EXPECT_EQ(arena.requests, 2);
+    EXPECT_TRUE(arena.in_use.empty());
+}
+
+TEST_F(Refusal, OfATimesBufferLeavesTheTimeUnread) {
+    Section seconds[5] = {{"1", 2, &seconds[1], nullptr},
+                          {":", 2, &seconds[2], nullptr},
+                          {"2", 1, &seconds[3], nullptr},
+                          {":", 2, &seconds[4], nullptr},
+                          {"3", 1, nullptr, nullptr}};
+    char target[WORD_MAX_LEN] = "";
+    engine.init(&arena);
+    for (const bool refused : {true, false}) {
+        arena.first_refused = refused ? 0 : 1000;
+        const Section* last = (engine.*PostProTnEngPeer::time_number)(seconds, target);
+        EXPECT_EQ(last, refused ? nullptr : &seconds[4]);
+        EXPECT_EQ(target[0] == '\0', refused);
     }
-    EXPECT_EQ(arena.requests, 0);
+    EXPECT_TRUE(arena.in_use.empty());
 }
 
 TEST_F(Refusal, OfAWordInASpanLeavesTheNumberOfThoseStored) {

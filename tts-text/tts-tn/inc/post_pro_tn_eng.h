@@ -177,15 +177,16 @@ inline constexpr char s_number_to_turn[27][2][15] = {
 // The object holds nothing but the arena it takes its memory from. Working memory goes back before
 // the call that took it returns; the records of an utterance pass to the host. The object owns no
 // memory, keeps nothing between calls and takes no lock; calls that share an arena must not
-// overlap. No argument may be null, and every text is NUL-terminated; any bytes may stand in it.
+// overlap. Scratch buffers of readers, number words and builder are on the stack: no request of
+// theirs can be refused. No argument may be null, and every text is NUL-terminated; any bytes may
+// stand in it.
 class PostProTnEng {
   public:
     PostProTnEng();
     ~PostProTnEng() = default;
 
     // Binds the engine to the host's arena, which must outlive its use here. May be called again.
-    // Needed before an operation that makes sections or records; eng_text_normalize and
-    // eng_text_tokenize take no memory.
+    // Needed before eng_text_tokenize and every operation that makes sections or records.
     void init(mem_stack_handle mem_handle);
 
     // ---- Raw text to one sentence: sentence/ ----
@@ -214,7 +215,8 @@ class PostProTnEng {
 
     // Appends the speakable text of one sentence to `sz_target_text` (4096 bytes holding a text,
     // normally ""). 0 when done, -1 when the text did not fit; the target then keeps what was
-    // written.
+    // written. For a sentence that is not empty, the arena must have room for a Section: -1, and
+    // the target as it was, when it refuses that, or before init.
     int eng_text_tokenize(char* sz_source_text, char* sz_target_text);
 
     // Cuts a text into sections, appended in text order to the queue with head `sz_section`. 0, or
@@ -305,7 +307,7 @@ class PostProTnEng {
     // ---- readers/telephone ----
     // Whether a telephone number may begin here: digits, "(", "-" or a blank.
     int phone_number_decide(Section* p_section);
-    // "area code " and at most nine sections; ends before a word. `p_section` is no word.
+    // "area code " and at most nine sections; ends before a word, but consumes one that is first.
     Section* phone_number_read(Section* p_section, char* sz_target_text);
 
     // ---- readers/dates, readers/months ----
@@ -331,7 +333,7 @@ class PostProTnEng {
     // ---- readers/clock_times ----
     // 0 for no time; 1 for a short form, 2 for a long one, which time_number finds in m_nmark.
     int time_decide(Section* pSection);
-    // Null, and nothing appended, when the form is incomplete.
+    // Null, and nothing appended, when the form is incomplete, or the arena refuses 500 bytes.
     Section* time_number(Section* psection, char* sz_target_text);
 
     // ---- readers/number_tokens, readers/words ----

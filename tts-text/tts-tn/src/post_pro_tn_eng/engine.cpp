@@ -1,5 +1,6 @@
 // The object itself, and the readers one by one, as operations on NUL-terminated buffers.
 
+#include "common/arena.h"
 #include "numbers/number_words.h"
 #include "post_pro_tn_eng.h"
 #include "readers/months.h"
@@ -122,6 +123,7 @@ int PostProTnEng::time_decide(Section* pSection) {
 }
 
 Section* PostProTnEng::time_number(Section* psection, char* sz_target_text) {
+    if (!gives_block(_mem_handle, WORD_MAX_LEN)) return nullptr;
     const auto form = static_cast<TimeForm>(psection->m_nmark);
     if (form != SHORT_TIME && form != LONG_TIME) return nullptr;
     const TokenWindow tokens(psection);

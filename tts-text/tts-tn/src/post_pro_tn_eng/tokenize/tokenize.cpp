@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "../common/arena.h"
 #include "../common/ascii.h"
 #include "dispatcher.h"
 #include "plain_text.h"
@@ -67,7 +68,9 @@ void re_regular(char* sz_source_text) {
 
 }  // namespace tn
 
+// No section is made: tokens are views of the text. The host layer calls tokenize itself.
 int PostProTnEng::eng_text_tokenize(char* sz_source_text, char* sz_target_text) {
+    if (*sz_source_text != '\0' && !tn::gives_block(_mem_handle, sizeof(Section))) return -1;
     return tn::tokenize(sz_source_text, sz_target_text, nullptr);
 }
 

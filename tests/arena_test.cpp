@@ -118,6 +118,27 @@ TEST(Arena, AFreeBlockServesNoneOfAnotherClass) {
     }
 }
 
+TEST(Arena, NoPool_IsRefused) {
+    mem_stack_handle arena = mem_stack_create(0);
+    for (const int no_pool : {-1, 1000, static_cast<int>(MEM_MAX_CNT)}) {
+        EXPECT_EQ(mem_stack_request_buf(8, static_cast<tag_mem_type>(no_pool), arena), nullptr);
+    }
+    mem_stack_destroy(arena);
+}
+
+#ifndef NDEBUG
+TEST(Arena, ABlockIsGivenBackOnceAndToItsArena) {
+    mem_stack_handle arena = mem_stack_create(0);
+    mem_stack_handle other = mem_stack_create(0);
+    void* block = mem_stack_request_buf(8, MEM_COMMON, arena);
+    EXPECT_DEATH(mem_stack_release_buf(block, 0, MEM_COMMON, other), "owner");
+    mem_stack_release_buf(block, 0, MEM_COMMON, arena);
+    EXPECT_DEATH(mem_stack_release_buf(block, 0, MEM_COMMON, arena), "owner");
+    mem_stack_destroy(arena);
+    mem_stack_destroy(other);
+}
+#endif
+
 TEST(Arena, ThatIsNoneHasNothing) {
     RefusedMalloc refused;
     EXPECT_EQ(mem_stack_create(0), nullptr);

@@ -73,6 +73,17 @@ TEST_F(Utterance, PauseCharacters) {
     }
 }
 
+#ifndef NDEBUG
+TEST_F(Utterance, AssertionsHaveTheTextsThatHostsKnow) {
+    char no_tag[] = "a";
+    char part[8];
+    UtteranceSyllable record = {};
+    EXPECT_DEATH(Peer::parse_tag(engine, no_tag, part, part, part), "\\*sz_text == '<'");
+    EXPECT_DEATH((engine.*Peer::insert_pause)(1, &record, 'x'),
+                 "ch == '&' \\|\\| ch == ' ' \\|\\| ch == '\\|' \\|\\| ch == '#' .* ch == '\\+'");
+}
+#endif
+
 TEST_F(Utterance, AttributesOneByOne) {
     UtteranceSyllable utt[1] = {};
     char pause[] = "5";

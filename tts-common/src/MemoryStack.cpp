@@ -10,6 +10,7 @@
 #include "MemoryStack.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <cstdlib>
 #include <iterator>
@@ -43,6 +44,9 @@ struct alignas(std::max_align_t) BlockHeader {
     std::uint16_t size_class;  // CLASSES for a large block
     std::uint16_t
         is_free;  // of regions; of blocks in a free list, only while neighbours are merged
+#ifndef NDEBUG
+    std::uint32_t owner = 0;  // of a block that is out: tells its arena from others
+#endif
 };
 
 // Stands in the bytes of a released block or a free region, which nobody uses now.
@@ -116,6 +120,29 @@ namespace {
 
 void unlink_first(FreeBlock** link) {
     *link = (*link)->next;
+}
+
+// Where assertions are on, a block that is given back twice, or to another arena, is noticed: it
+// would be handed out twice.
+#ifndef NDEBUG
+std::uint32_t owner_of(const tag_mem_stack_array& arena) {
+    return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(&arena) / ALIGNMENT);
+}
+#endif
+
+void* hand_out(void* block, [[maybe_unused]] const tag_mem_stack_array& arena) {
+#ifndef NDEBUG
+    if (block != nullptr) static_cast<BlockHeader*>(block)[-1].owner = owner_of(arena);
+#endif
+    return block;
+}
+
+void take_back([[maybe_unused]] BlockHeader& block,
+               [[maybe_unused]] const tag_mem_stack_array& arena) {
+#ifndef NDEBUG
+    assert(block.owner == owner_of(arena));
+    block.owner = 0;
+#endif
 }
 
 // Makes what is left of the region at hand one of the others.
@@ -323,15 +350,16 @@ __attribute__((noinline)) void* request_large(std::size_t size, tag_mem_stack_ar
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
     if (arena == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
     const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
-    if (index >= SMALL_CLASSES) return request_large(size, *arena);
+    if (index >= SMALL_CLASSES) return hand_out(request_large(size, *arena), *arena);
     void* block = take_free(*arena, index);
-    return block != nullptr ? block : serve(size, *arena);
+    return hand_out(block != nullptr ? block : serve(size, *arena), *arena);
 }
 
 int mem_stack_release_buf(void* p, std::size_t /*size*/, tag_mem_type /*type*/,
                           mem_stack_handle arena) {
     if (p == nullptr || arena == nullptr) return 0;
-    const BlockHeader& header = static_cast<BlockHeader*>(p)[-1];
+    BlockHeader& header = static_cast<BlockHeader*>(p)[-1];
+    take_back(header, *arena);
     FreeBlock*& free_list = arena->free_list[header.size_class];
     arena->below_peak += header.cost;
     free_list = new (p) FreeBlock{free_list};

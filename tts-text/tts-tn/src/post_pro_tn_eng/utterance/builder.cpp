@@ -61,7 +61,8 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
     const bool stored = count.n_lists == 1 ? store_words(&filler, events)
                                            : read_text(text, arena, events, store_words, &filler);
     if (!stored) return -1;
-    assert(filler.record() == array + word_num);
+    [[maybe_unused]] const auto curr_n_utt = filler.record() - array;
+    assert(word_num == curr_n_utt);
     return 0;
 }
 

@@ -59,7 +59,7 @@ std::string_view process_single_quote(const Token* apostrophe) {
     if (!word.empty() && letters->section != nullptr) {
         std::memcpy(letters->section->sz_char, word.data(), word.size() + 1);
     }
-    return letters->kind == STRINGSYMBOL ? word : std::string_view();
+    return word;
 }
 
 }  // namespace kavi::tn

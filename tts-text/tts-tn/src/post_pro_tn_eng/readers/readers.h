@@ -78,8 +78,7 @@ MarkReader plus_read;
 // What the letters after an apostrophe stand for; empty when they are no contraction.
 std::string_view find_contraction(std::string_view letters);
 
-// The same of the token after an apostrophe, as far as that is a word; a host's section, of any
-// class, has it from then on.
+// The same of the token after an apostrophe; a host's section has it from then on.
 std::string_view process_single_quote(const Token* apostrophe);
 
 }  // namespace kavi::tn

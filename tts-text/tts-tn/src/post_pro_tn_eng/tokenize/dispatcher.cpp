@@ -224,8 +224,13 @@ class SectionDispatcher {
         rule_ = ReadingRule::contraction;
         const std::string_view word = process_single_quote(first_);
         if (word.empty()) return first_;
+        const Token* letters = first_ + 1;
+        if (letters->kind != STRINGSYMBOL) {
+            tokens_.set_length(letters, word.size());
+            return first_;
+        }
         append_spaced(word);
-        return first_ + 1;
+        return letters;
     }
 
     TokenWindow& tokens_;

@@ -58,6 +58,11 @@ class TokenWindow {
     // stands around it. Where that makes the row slide, no other token of it is good any more.
     const Token* at(const Token* token) { return token < slide_at_ ? token : slide_to(token); }
 
+    // For a token of the row whose section has another text now.
+    void set_length(const Token* token, std::size_t length) {
+        tokens_[token - tokens_].length = static_cast<std::uint16_t>(length);
+    }
+
     // Whether a "$" follows the amount that begins with this number.
     bool is_amount_before_dollar(const Token* number);
 

@@ -31,8 +31,8 @@ typedef mem_stack_array* mem_stack_handle;
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena);
 
 // Gives a block of this arena back, in any order. `size` may be the requested size or 0: the block
-// is known by its pointer alone. A null `p` or a null arena does nothing. Always 0. Where assertions
-// are on, the arena below asserts that the block is out, and its own.
+// is known by its pointer alone. A null `p` or a null arena does nothing. Always 0. Where
+// assertions are on, the arena below asserts that the block is out, and its own.
 int mem_stack_release_buf(void* p, std::size_t size, tag_mem_type type, mem_stack_handle arena);
 
 // ---- The arena that comes with the engine. One arena serves one thread at a time. ----

@@ -55,7 +55,7 @@ TEST(Lexicon, BadLinesAreToldAndTheGoodOnesAreFound) {
 TEST(Lexicon, ItsWordsWinOverTheRules) {
     const Lexicon lexicon = lexicon_of(
         "km\tkilometers\n$\tbucks\n€\tbig euros\nMay\tmei\n°C\tcentigrade\ngr\tgift\nMr\tmester\n"
-        "m\tmetre\np\tpence\n30\thalf\n👍\tthumbs up\nZoë\tzo ee\n№\tnumber\n");
+        "m\tmetre\np\tpence\n30\thalf\n👍\tthumbs up\n🏽\ttone\nZoë\tzo ee\n№\tnumber\n");
     Everyday everyday(&lexicon);
     everyday.set_all(true);
     expect_table("own_words", [&](const std::string& text) {

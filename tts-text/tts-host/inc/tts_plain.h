@@ -19,7 +19,7 @@ namespace kavi {
 // and the end of the text.
 class PlainForm {
   public:
-    // Of a sentence that was read from `text`. What is handed out lives until the next call.
+    // Of the next sentence that was read from `text`. What is handed out lives until the next call.
     void read(const HostSentence& sentence, std::string_view text);
 
     std::string_view all() const { return all_; }
@@ -43,7 +43,8 @@ class PlainForm {
     void end_before(std::string_view text, bool is_last);
 
     std::string all_;
-    std::vector<Range> after_;  // of each record, in that
+    std::vector<Range> after_;    // of each record, in that
+    bool is_after_word_ = false;  // nothing follows the last word: its marks were read with it
 };
 
 }  // namespace kavi

@@ -95,13 +95,14 @@ void PlainForm::read(const HostSentence& sentence, std::string_view text) {
         if (i == 0) end_before(text.substr(0, begin_of_form), is_last);
         after_.push_back({begin, all_.size()});
     }
+    if (!all_.empty()) is_after_word_ = after_.back().begin == after_.back().end;
 }
 
 // All there is stands before the first word, and that is preceded by this text.
 void PlainForm::end_before(std::string_view text, bool is_last) {
     if (text.empty()) {
         all_.erase(0, all_.find_first_not_of(' '));
-    } else if (all_.empty() && !is_last && !ends_with_mark(text)) {
+    } else if (all_.empty() && !is_last && (is_after_word_ || !ends_with_mark(text))) {
         all_ = ' ';
     }
 }

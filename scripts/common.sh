@@ -40,16 +40,19 @@ need_compiler() {
     need g++ g++
 }
 
-# The packages of the npm registry that pages are tested with, in $browser.
-browser=$project/build/browser
 need_browser() {
     need chromium chromium
     need node nodejs
     need npm npm
 }
-install_browser_tests() {
-    [ -d "$browser/node_modules/axe-core" ] ||
-        npm install --silent --no-save --no-audit --no-fund --prefix "$browser" playwright-core@1 axe-core@4
+# What the npm registry has for tests, as tests/npm locks it, in $npm_packages. False without the network.
+npm_packages=$project/build/npm
+install_npm_packages() {
+    if cmp -s tests/npm/package-lock.json "$npm_packages/installed"; then return; fi
+    mkdir -p "$npm_packages"
+    cp tests/npm/package{,-lock}.json "$npm_packages"
+    (cd "$npm_packages" && npm ci --silent --no-audit --no-fund --fetch-retries 1) &&
+        cp tests/npm/package-lock.json "$npm_packages/installed"
 }
 
 # What the command line is built with.

@@ -4,6 +4,7 @@
 # Usage: speak_test.sh PATH-OF-SPEAK PATH-OF-SPEAK-BY-FLITE PATH-OF-KAVI-TN
 set -uo pipefail
 speak=$1 by_flite=$2 tool=$3
+command -v sox >/dev/null || { echo "sox is not installed: skipped"; exit 77; }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 failures=0

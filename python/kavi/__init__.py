@@ -12,7 +12,7 @@ import itertools
 import os
 import threading
 from collections import deque
-from typing import Deque, Iterable, Iterator, List, NamedTuple, Optional, Union
+from typing import Any, Deque, Iterable, Iterator, List, NamedTuple, Optional, Tuple, Union
 
 from kavi import _kavi
 from kavi._kavi import Result, Sentence
@@ -23,6 +23,24 @@ __all__ = ["Everyday", "Finding", "FindingCode", "Line", "Mark", "Pause", "Reade
 __version__ = _kavi.version
 
 _BATCH = 512  # texts that a thread is given at once
+
+
+_CLASSES = {str(one.name).lower(): one for one in Everyday if one not in (Everyday.NONE, Everyday.ALL)}
+
+
+def _classes(everyday: Union[bool, Everyday, str, Iterable[Union[str, Everyday]]]) -> Everyday:
+    if isinstance(everyday, bool):
+        return Everyday.ALL if everyday else Everyday.NONE
+    if isinstance(everyday, int):
+        if not 0 <= everyday <= Everyday.ALL:
+            raise ValueError(f"no classes of everyday English: {everyday:#x}")
+        return Everyday(everyday)
+    classes = Everyday.NONE
+    for one in [everyday] if isinstance(everyday, str) else everyday:
+        if isinstance(one, str) and one not in _CLASSES:
+            raise ValueError(f"no class of everyday English: {one}")
+        classes |= _CLASSES[one] if isinstance(one, str) else _classes(one)
+    return classes
 
 
 class Line(NamedTuple):
@@ -38,22 +56,39 @@ class Reader:
 
     capacity: the most bytes of memory that the records of a sentence may take; 0: no limit.
     lexicon: a file of readings of your own, lines of what is written, a tab, and what is spoken.
-    everyday: True for all classes of everyday English, or those that are wanted.
+    everyday: True for all classes of everyday English, or those that are wanted, also by name: "units".
     american_dates: with Everyday.YEARS, 3/1/2020 is March first.
 
-    Raises OSError for a lexicon that cannot be read, ValueError for one with a bad line.
+    Raises OSError for a lexicon that cannot be read, ValueError for one with a bad line, or for no such class.
+    Readers with the same settings are equal; a reader is pickled with the lexicon that it has read.
     """
 
     def __init__(self, capacity: int = 0, lexicon: Union[str, "os.PathLike[str]", None] = None,
-                 everyday: Union[bool, Everyday] = False, american_dates: bool = False) -> None:
-        classes = (Everyday.ALL if everyday else Everyday.NONE) if isinstance(everyday, bool) else everyday
+                 everyday: Union[bool, Everyday, str, Iterable[Union[str, Everyday]]] = False, american_dates: bool = False) -> None:
         name, lines = "", b""
         if lexicon is not None:
             name = os.fspath(lexicon)
             with open(name, "rb") as file:
                 lines = file.read()
-        self._settings = (capacity, name, lines, int(classes), american_dates)
-        self._reader = _kavi.Reader(*self._settings)
+        self.__setstate__((capacity, name, lines, int(_classes(everyday)), american_dates))
+
+    def __getstate__(self) -> Tuple[int, str, bytes, int, bool]:
+        return self._settings
+
+    def __setstate__(self, settings: Tuple[int, str, bytes, int, bool]) -> None:
+        self._settings = settings
+        self._reader = _kavi.reader(*settings)
+
+    def __eq__(self, other: object) -> bool:
+        return isinstance(other, Reader) and self._settings == other._settings
+
+    def __hash__(self) -> int:
+        return hash(self._settings)
+
+    def __repr__(self) -> str:
+        capacity, name, _, classes, american_dates = self._settings
+        return (f"Reader(capacity={capacity}, lexicon={name or None!r}, everyday={Everyday(classes)!r}, "
+                f"american_dates={american_dates})")
 
     def normalize(self, text: str) -> str:
         """Returns the words that are spoken, with punctuation and blanks as written.
@@ -69,12 +104,17 @@ class Reader:
     def normalize_many(self, texts: Iterable[str], jobs: int = 1) -> Iterator[str]:
         """Yields what normalize() returns for each text, in order, by so many threads at once.
 
-        Holds a few thousand texts at a time; `texts` is advanced in the calling thread.
+        Holds a few thousand texts at a time; `texts` is advanced in the calling thread. Raises TypeError for a str,
+        which is one text, ValueError for fewer jobs than one, and MemoryError as normalize().
         """
+        if isinstance(texts, str):
+            raise TypeError("texts is a str: one text is for normalize()")
         if jobs < 1:
             raise ValueError("jobs must be at least 1")
         source = iter(texts)
-        batches = iter(lambda: list(itertools.islice(source, _BATCH)), [])
+        return self._normalize_batches(iter(lambda: list(itertools.islice(source, _BATCH)), []), jobs)
+
+    def _normalize_batches(self, batches: Iterator[List[str]], jobs: int) -> Iterator[str]:
         if jobs == 1:
             for batch in batches:
                 yield from self._reader.normalize_batch(batch)
@@ -83,7 +123,7 @@ class Reader:
 
         def work(batch: List[str]) -> List[str]:
             if not hasattr(local, "reader"):
-                local.reader = _kavi.Reader(*self._settings)
+                local.reader = _kavi.reader(*self._settings)
             spoken: List[str] = local.reader.normalize_batch(batch)
             return spoken
 
@@ -102,6 +142,15 @@ class Reader:
             for number, line in enumerate(file, 1):
                 text = line[:-1] if line.endswith("\n") else line
                 yield Line(number, text, self.read(text, rules))
+
+
+# What pickles name; the module's own functions cannot be.
+def _sentence(*state: Any) -> Sentence:
+    return _kavi._sentence(*state)
+
+
+def _result(*state: Any) -> Result:
+    return _kavi._result(*state)
 
 
 _local = threading.local()

@@ -1,11 +1,11 @@
-from typing import List, Tuple
+from typing import Any, List, Tuple
 
 from kavi._types import Finding, Run, Word
 
 version: str
 
 class Sentence:
-    """One sentence. Offsets and lengths are code points of the text."""
+    """One sentence. Offsets and lengths are code points of the text. Can be compared, printed and pickled."""
 
     @property
     def source(self) -> str:
@@ -37,7 +37,7 @@ class Sentence:
         """Which rule has read what; empty unless it was asked for."""
 
 class Result:
-    """What a text was read as."""
+    """What a text was read as. Can be compared, printed and pickled."""
 
     @property
     def sentences(self) -> Tuple[Sentence, ...]: ...
@@ -48,12 +48,13 @@ class Result:
         """False when the capacity did not hold all of it."""
 
 class Reader:
-    def __init__(self, capacity: int, lexicon_name: str, lexicon: bytes, everyday: int,
-                 american_dates: bool) -> None: ...
     def normalize(self, text: str) -> str: ...
     def normalize_batch(self, texts: List[str]) -> List[str]: ...
     def read(self, text: str, rules: bool) -> Result: ...
 
+def reader(capacity: int, lexicon_name: str, lexicon: bytes, everyday: int, american_dates: bool) -> Reader: ...
 def run_tool(arguments: List[str]) -> int: ...
+def _sentence(*state: Any) -> Sentence: ...
+def _result(*state: Any) -> Result: ...
 def names() -> Tuple[List[str], List[str], List[str]]:
     """Pauses from the least, marks from 0, codes of findings: as the engine orders them."""

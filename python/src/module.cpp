@@ -17,6 +17,7 @@ namespace py = pybind11;
 namespace {
 
 int run_tool(std::vector<std::string> arguments) {
+    if (arguments.empty()) throw py::value_error("the first argument is the program's name");
     std::vector<char*> argv;
     for (std::string& argument : arguments) argv.push_back(argument.data());
     argv.push_back(nullptr);

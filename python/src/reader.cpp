@@ -1,5 +1,6 @@
 #include "reader.h"
 
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <vector>
@@ -20,6 +21,21 @@ py::str python_text(std::string_view text) {
     if (object == nullptr) throw py::error_already_set();
     return py::reinterpret_steal<py::str>(object);
 }
+
+// Lets the interpreter answer signals while a long text is read without its lock.
+class Signals {
+  public:
+    // After each sentence; throws what a handler has raised.
+    void look() {
+        constexpr unsigned SENTENCES = 16384;  // read in some ten milliseconds
+        if (++n_sentences_ % SENTENCES != 0) return;
+        const py::gil_scoped_acquire acquired;
+        if (PyErr_CheckSignals() != 0) throw py::error_already_set();
+    }
+
+  private:
+    unsigned n_sentences_ = 0;
+};
 
 [[noreturn]] void fail_for_capacity() {
     PyErr_SetString(PyExc_MemoryError, "the capacity does not hold what this text is read as");
@@ -60,11 +76,13 @@ Reader::Reader(std::size_t capacity, const std::string& lexicon_name, const py::
 }
 
 bool Reader::append_plain(std::string_view text, std::string& spoken) {
+    Signals signals;
     return host_.read(
         text,
         [&](const HostSentence& sentence) {
             plain_.read(sentence, text);
             spoken += plain_.all();
+            signals.look();
             return true;
         },
         nullptr);
@@ -122,6 +140,7 @@ Result Reader::read(const py::str& text, bool rules) {
     CodePoints of_findings(utf8.bytes(), utf8.is_ascii());
     Result result;
     result.text = text;
+    Signals signals;
     const Turn turn(*this);
     const py::gil_scoped_release released;
     result.complete = host_.read(
@@ -129,6 +148,7 @@ Result Reader::read(const py::str& text, bool rules) {
         [&](const HostSentence& sentence) {
             result.sentences.push_back(
                 std::make_shared<Sentence>(sentence, utf8.bytes(), rules, plain_, of_sentences));
+            signals.look();
             return true;
         },
         [&](const Diagnostic& found) {
@@ -142,8 +162,11 @@ Result Reader::read(const py::str& text, bool rules) {
 }
 
 void add_reader(py::module_& module) {
-    py::class_<Reader>(module, "Reader")
-        .def(py::init<std::size_t, const std::string&, const py::bytes&, unsigned, bool>())
+    module.def("reader", [](std::size_t capacity, const std::string& lexicon_name,
+                            const py::bytes& lexicon, unsigned everyday, bool american_dates) {
+        return std::make_unique<Reader>(capacity, lexicon_name, lexicon, everyday, american_dates);
+    });
+    py::class_<Reader>(module, "Reader", not_made_by_python())
         .def("normalize", &Reader::normalize)
         .def("normalize_batch", &Reader::normalize_batch)
         .def("read", &Reader::read);

@@ -33,10 +33,15 @@ constexpr const char* RUN = "Run";
 constexpr const char* FINDING = "Finding";
 constexpr const char* FINDING_CODE = "FindingCode";
 
-// Bytes that are no UTF-8 are the surrogates that Python has for them.
+// As Utf8 has made them: a surrogate is three bytes. Other bytes that are no UTF-8, those of a
+// character that was cut, are the surrogates that Python has for bytes.
 py::str shown(std::string_view text) {
-    PyObject* object =
-        PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "surrogateescape");
+    const auto size = static_cast<Py_ssize_t>(text.size());
+    PyObject* object = PyUnicode_DecodeUTF8(text.data(), size, "surrogatepass");
+    if (object == nullptr) {
+        PyErr_Clear();
+        object = PyUnicode_DecodeUTF8(text.data(), size, "surrogateescape");
+    }
     if (object == nullptr) throw py::error_already_set();
     return py::reinterpret_steal<py::str>(object);
 }
@@ -45,7 +50,7 @@ py::object word_of(const Word& word) {
     py::tuple marks(word.marks.size());
     for (std::size_t i = 0; i < word.marks.size(); ++i) marks[i] = python_type(MARK)(word.marks[i]);
     py::dict attributes;
-    for (const auto& [name, value] : word.attributes) attributes[name] = shown(value);
+    for (const auto& [name, value] : word.attributes) attributes[py::str(name)] = shown(value);
     return python_type(WORD)(shown(word.text), word.source.offset, word.source.length,
                              python_type(PAUSE)(word.pause), marks, shown(word.breaktime),
                              attributes, shown(word.after));
@@ -103,7 +108,107 @@ Word word_of(const UtteranceSyllable& record, std::string_view after, const Word
     return word;
 }
 
+// ---- all that a sentence or a result is, in Python's own types, and back ----
+
+py::tuple state_of(const SentenceOfText& of) {
+    const Sentence& sentence = *of.sentence;
+    return py::make_tuple(of.text, sentence.source.offset, sentence.source.length,
+                          shown(sentence.normalized), shown(sentence.speakable),
+                          shown(sentence.plain), shown(sentence.before), word_of(sentence.words[0]),
+                          words_of(of), runs_of(of));
+}
+
+py::tuple state_of(const Result& result) {
+    return py::make_tuple(result.text, sentences_of(result), findings_of(result), result.complete);
+}
+
+std::string bytes_of(const py::handle& text) {
+    return std::string(Utf8(text.cast<py::str>()).bytes());
+}
+
+Word word_from(const py::handle& object) {
+    const auto fields = object.cast<py::tuple>();
+    Word word = {bytes_of(fields[0]),
+                 bytes_of(fields[7]),
+                 {fields[1].cast<std::size_t>(), fields[2].cast<std::size_t>()},
+                 fields[3].cast<int>(),
+                 fields[4].cast<std::vector<int>>(),
+                 bytes_of(fields[5]),
+                 {}};
+    for (const auto& [name, value] : fields[6].cast<py::dict>()) {
+        word.attributes.emplace_back(bytes_of(name), bytes_of(value));
+    }
+    return word;
+}
+
+SentenceOfText sentence_from(const py::str& text, std::size_t offset, std::size_t length,
+                             const py::str& normalized, const py::str& speakable,
+                             const py::str& plain, const py::str& before, const py::tuple& head,
+                             const py::tuple& words, const py::tuple& runs) {
+    auto sentence = std::make_shared<Sentence>();
+    sentence->source = {offset, length};
+    sentence->normalized = bytes_of(normalized);
+    sentence->speakable = bytes_of(speakable);
+    sentence->plain = bytes_of(plain);
+    sentence->before = bytes_of(before);
+    sentence->words.push_back(word_from(head));
+    for (const py::handle word : words) sentence->words.push_back(word_from(word));
+    for (const py::handle object : runs) {
+        const auto run = object.cast<py::tuple>();
+        sentence->runs.push_back({{run[0].cast<std::size_t>(), run[1].cast<std::size_t>()},
+                                  bytes_of(run[2]),
+                                  bytes_of(run[3])});
+    }
+    return {sentence, text};
+}
+
+kavi::Finding finding_of(const std::string& code) {
+    for (int i = 0; i < FINDINGS; ++i) {
+        if (code == code_of(static_cast<kavi::Finding>(i))) return static_cast<kavi::Finding>(i);
+    }
+    throw py::value_error("no such finding: " + code);
+}
+
+Result result_from(const py::str& text, const py::tuple& sentences, const py::tuple& findings,
+                   bool complete) {
+    Result result = {text, {}, {}, complete};
+    for (const py::handle sentence : sentences) {
+        result.sentences.push_back(sentence.cast<const SentenceOfText&>().sentence);
+    }
+    for (const py::handle object : findings) {
+        const auto finding = object.cast<py::tuple>();
+        result.findings.push_back({finding_of(bytes_of(finding[0].attr("value"))),
+                                   {finding[2].cast<std::size_t>(), finding[3].cast<std::size_t>()},
+                                   finding[4].cast<std::size_t>()});
+    }
+    return result;
+}
+
+// Comparing, printing and pickling by the state. `made_by`: the function of the package that has it
+// back.
+template <typename Thing>
+void add_state(py::class_<Thing>& type, const char* name, const char* made_by) {
+    type.def(
+        "__eq__", [](const Thing& a, const Thing& b) { return state_of(a).equal(state_of(b)); },
+        py::is_operator());
+    type.def("__reduce__", [made_by](const Thing& thing) {
+        return py::make_tuple(py::module_::import("kavi").attr(made_by), state_of(thing));
+    });
+    type.def("__repr__", [name](const Thing& thing) {
+        return py::str("<kavi.{} {!r}>").format(name, state_of(thing));
+    });
+}
+
 }  // namespace
+
+py::custom_type_setup not_made_by_python() {
+    return py::custom_type_setup([](PyHeapTypeObject* type) {
+        type->ht_type.tp_new = [](PyTypeObject* made, PyObject*, PyObject*) -> PyObject* {
+            PyErr_Format(PyExc_TypeError, "%s is made by a reader alone", made->tp_name);
+            return nullptr;
+        };
+    });
+}
 
 Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs,
                    PlainForm& form, CodePoints& code_points)
@@ -128,7 +233,10 @@ Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wan
 }
 
 void add_results(py::module_& module) {
-    py::class_<SentenceOfText>(module, "Sentence", "One sentence.")
+    py::class_<SentenceOfText> sentence(module, "Sentence", "One sentence.", not_made_by_python());
+    add_state(sentence, "Sentence", "_sentence");
+    module.def("_sentence", sentence_from);
+    sentence
         .def_property_readonly(
             "source",
             [](const SentenceOfText& of) {
@@ -152,8 +260,10 @@ void add_results(py::module_& module) {
             "head", [](const SentenceOfText& of) { return word_of(of.sentence->words[0]); })
         .def_property_readonly("words", words_of)
         .def_property_readonly("runs", runs_of);
-    py::class_<Result>(module, "Result", "What a text was read as.")
-        .def_property_readonly("sentences", sentences_of)
+    py::class_<Result> result(module, "Result", "What a text was read as.", not_made_by_python());
+    add_state(result, "Result", "_result");
+    module.def("_result", result_from);
+    result.def_property_readonly("sentences", sentences_of)
         .def_property_readonly("findings", findings_of)
         .def_readonly("complete", &Result::complete);
 }

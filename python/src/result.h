@@ -27,7 +27,7 @@ struct Word {
     int pause;
     std::vector<int> marks;
     std::string breaktime;
-    std::vector<std::pair<const char*, std::string>> attributes;
+    std::vector<std::pair<std::string, std::string>> attributes;
 };
 
 struct Run {
@@ -37,6 +37,8 @@ struct Run {
 };
 
 struct Sentence {
+    Sentence() = default;
+
     // A copy of what is read from `text`, whose offsets these are. `form` is written anew.
     Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs, PlainForm& form,
              CodePoints& code_points);
@@ -70,6 +72,10 @@ struct SentenceOfText {
 };
 
 void add_results(pybind11::module_& module);
+
+// For a class of which the package makes all objects: Python's __new__ would leave one without what
+// is in it.
+pybind11::custom_type_setup not_made_by_python();
 
 }  // namespace kavi::python
 

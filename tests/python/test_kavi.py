@@ -4,6 +4,8 @@ import doctest
 import json
 import os
 import pathlib
+import pickle
+import signal
 import subprocess
 import sys
 import threading
@@ -104,7 +106,9 @@ def test_runs_are_told_on_request() -> None:
 
 def test_lone_surrogates_and_nul_lose_no_word() -> None:
     assert kavi.normalize("a \ud800 5 \0 b") == "a five b"
-    assert [word.offset for word in kavi.read("a \ud800 5 \0 b").sentences[0].words] == [0, 4, 8]
+    sentence = kavi.read("a \ud800 5 \0 b").sentences[0]
+    assert [word.offset for word in sentence.words] == [0, 4, 8]
+    assert sentence.normalized == "a \ud800 5   b"
 
 
 def test_what_is_no_str_is_refused() -> None:
@@ -112,8 +116,59 @@ def test_what_is_no_str_is_refused() -> None:
         kavi.normalize(5)  # type: ignore[arg-type]
     with pytest.raises(TypeError):
         list(kavi.normalize_many(["a", 5]))  # type: ignore[list-item]
-    with pytest.raises(ValueError):
-        list(kavi.normalize_many([], jobs=0))
+    with pytest.raises(TypeError, match="one text"):
+        kavi.normalize_many("5 cats")
+    with pytest.raises(ValueError, match="jobs"):
+        kavi.normalize_many([], jobs=0)
+    with pytest.raises(ValueError, match="program's name"):
+        _kavi.run_tool([])
+
+
+@pytest.mark.parametrize("made", [_kavi.Reader, kavi.Result, kavi.Sentence])
+def test_what_readers_make_is_made_by_nobody_else(made: type) -> None:
+    for make in (made, lambda: made.__new__(made)):
+        with pytest.raises(TypeError, match="made by a reader alone"):
+            make()
+
+
+def test_results_and_readers_are_compared_printed_and_pickled(tmp_path: pathlib.Path) -> None:
+    lexicon = tmp_path / "mine.txt"
+    lexicon.write_text("kavi\tkahvee\n")
+    reader = kavi.Reader(lexicon=lexicon, everyday="units")
+    lexicon.unlink()
+    copy = pickle.loads(pickle.dumps(reader))
+    assert (copy, hash(copy)) == (reader, hash(reader)) and copy != kavi.Reader()
+    assert copy.normalize("kavi 5 km") == "kahvee five kilometres"
+    assert repr(copy) == f"Reader(capacity=0, lexicon='{lexicon}', everyday={kavi.Everyday.UNITS!r}, american_dates=False)"
+    result = reader.read(TEXT + " \ud800", rules=True)
+    again = pickle.loads(pickle.dumps(result))
+    assert again == result and again.sentences[1] == result.sentences[1] != result.sentences[0]
+    assert again != reader.read(TEXT, rules=True) and again != 5
+    for one, other in zip((again, *again.sentences), (result, *result.sentences)):
+        assert repr(one) == repr(other)
+    assert "Word(text='doctor'" in repr(result)
+
+
+def test_signals_are_answered_inside_a_long_text() -> None:
+    calls = []
+
+    def on_alarm(*_: object) -> None:
+        calls.append(1)
+        if len(calls) == 3:  # signals that wait for the end of a call come as one
+            raise KeyboardInterrupt
+
+    before = signal.signal(signal.SIGALRM, on_alarm)
+    try:
+        for read in (kavi.normalize, kavi.read):
+            calls.clear()
+            signal.setitimer(signal.ITIMER_REAL, 0.01, 0.01)
+            with pytest.raises(KeyboardInterrupt):
+                read("It is 10:30. " * 600000)
+            signal.setitimer(signal.ITIMER_REAL, 0)
+    finally:
+        signal.setitimer(signal.ITIMER_REAL, 0)
+        signal.signal(signal.SIGALRM, before)
+    assert kavi.normalize("5") == "five"
 
 
 def test_capacity(tmp_path: pathlib.Path) -> None:
@@ -121,7 +176,7 @@ def test_capacity(tmp_path: pathlib.Path) -> None:
     with pytest.raises(MemoryError):
         small.normalize("a b")
     with pytest.raises(MemoryError):
-        list(small.normalize_many(["a"]))
+        list(small.normalize_many(["a", ""]))
     assert not small.read("a b").complete
 
 
@@ -130,8 +185,11 @@ def test_lexicon_and_everyday_english(tmp_path: pathlib.Path) -> None:
     lexicon.write_text("kavi\tkahvee\n")
     assert kavi.Reader(lexicon=lexicon).normalize("kavi won't") == kavi.normalize("kahvee won't")
     assert kavi.Reader(lexicon=lexicon, everyday=True).normalize("kavi won't") == "kahvee will not"
-    only = kavi.Reader(everyday=kavi.Everyday.UNITS)
-    assert only.normalize("5 km won't") == kavi.normalize("five kilometres won't")
+    for units in (kavi.Everyday.UNITS, "units", ["units", kavi.Everyday.NONE]):
+        assert kavi.Reader(everyday=units).normalize("5 km won't") == kavi.normalize("five kilometres won't")
+    for unknown in ("all", ["units", "unit"], 1 << 11, -1):
+        with pytest.raises(ValueError, match="everyday"):
+            kavi.Reader(everyday=unknown)
     dates = kavi.Reader(everyday=kavi.Everyday.YEARS, american_dates=True)
     assert dates.normalize("3/4/2020") == "March fourth twenty twenty"
     lexicon.write_text("ok\tokay\nbad\n")
@@ -189,6 +247,7 @@ def test_lines_of_a_file(tmp_path: pathlib.Path) -> None:
     lines = list(kavi.read_file(path))
     assert [(line.number, [word.text for s in line.result.sentences for word in s.words]) for line in lines] == [
         (1, ["a", "five"]), (2, ["b", "six"]), (3, []), (4, ["c"])]
+    assert [line.text for line in lines] == ["a 5\r", "b \udcff 6", "", "c"]
 
 
 @pytest.mark.parametrize("page", ["README.md", "docs/python.md"])
@@ -202,4 +261,6 @@ def test_voice_data(tmp_path: pathlib.Path) -> None:
     subprocess.run([sys.executable, PROJECT / "examples/voice_data.py", "metadata", "spoken", "report"], cwd=tmp_path,
                    check=True)
     assert (tmp_path / "spoken").read_text() == "a1|It's 5 km, ok|It is five kilometres, ok\na2|x ☃ y|z|x y z\n"
-    assert (tmp_path / "report").read_text() == "metadata:2:2: not-spoken: bytes outside ASCII are not spoken\n"
+    assert (tmp_path / "report").read_text() == (
+        "metadata:2:2: not-spoken: bytes outside ASCII are not spoken\n"
+        "metadata:2:5: mark-not-spoken: no word is said for this mark; it is told once in a text\n")

@@ -1,14 +1,17 @@
 """The Python package, installed from its wheel: the same answers as the tool, in Python's own terms."""
 
 import doctest
+import itertools
 import json
 import os
 import pathlib
 import pickle
+import re
 import signal
 import subprocess
 import sys
 import threading
+from typing import Any
 
 import kavi
 import pytest
@@ -77,6 +80,40 @@ SEEDS = " ".join(path.read_bytes().decode(errors="ignore").replace("\0", "")
                          ids=["markup", "empty", "outside ASCII", "sentences", "fuzz seeds"])
 def test_reads_as_the_tool_does(text: str) -> None:
     assert words_by_package(text) == words_by_tool(text)
+
+
+def listed(result: kavi.Result, text: str) -> str:
+    """What was read, as in tests/golden/answers.txt."""
+    pauses, marks, _ = _kavi.names()
+    ends = list(itertools.accumulate((len(c.encode()) for c in text), initial=0))
+
+    def span(thing: Any) -> str:
+        return f"{ends[thing.offset]}+{ends[thing.offset + thing.length] - ends[thing.offset]}"
+
+    def word(kind: str, w: kavi.Word) -> str:
+        set_ = [marks[m] for m in w.marks] + [f"breaktime={w.breaktime}"] * bool(w.breaktime)
+        set_ += [f"{name}={value}" for name, value in w.attributes.items()]
+        return " ".join([f"{kind} {w.text}|{w.after}| {span(w)} {pauses[w.pause + 2]}|", *set_])
+
+    lines, findings = [], list(result.findings)
+    for number, s in enumerate((*result.sentences, None)):
+        while findings and findings[0].sentence == number:
+            found = findings.pop(0)
+            lines.append(f"finding {found.code.value} {span(found)} {number} {found.message}")
+        if s is not None:
+            lines += [f"sentence {span(s)}|{s.normalized}|{s.speakable}|{s.plain}|{s.before}|", word("head", s.head)]
+            lines += [word("word", w) for w in s.words]
+            lines += [f"run {span(run)} {run.rule}|{run.reading}|" for run in s.runs]
+    return "".join(line + "\n" for line in lines)
+
+
+def test_answers_are_those_of_c() -> None:
+    golden = (PROJECT / "tests/golden/answers.txt").read_text()
+    answers = ""
+    for line in re.findall("^>.*", golden, re.M):
+        text = re.sub(r"\\{(\d+):(.*?)}", lambda m: int(m[1]) * m[2], line.lstrip(">")[1:])
+        answers += line + "\n" + listed(kavi.Reader(everyday=line[1] == ">").read(text, rules=len(text) < 1000), text)
+    assert answers == golden
 
 
 def test_sentences_have_their_source() -> None:

@@ -16,7 +16,7 @@ const large = await load({everyday: true});
 function byTool(text, ...options) {
   const bytes = Buffer.from(text);
   const out = execFileSync(process.env.KAVI_TN, ['--format', 'jsonl', '--fields',
-    'offset,length,normalized,speakable,words,findings,runs', '-0', ...options],
+    'offset,length,normalized,speakable,plain,before,words,findings,runs', '-0', ...options],
   {input: bytes, stdio: ['pipe', 'pipe', 'ignore'], maxBuffer: 1 << 30}).toString();
   // The units of the characters that begin before each byte.
   const unitsBefore = [0];
@@ -29,20 +29,47 @@ function byTool(text, ...options) {
   const sentences = out.split('\n').filter(Boolean).map(line => JSON.parse(line));
   return {
     sentences: sentences.filter(s => s.words).map(s => ({...range(s), normalized: s.normalized, speakable: s.speakable,
-      words: s.words.filter(w => w.word !== null).map(w => ({...w, ...range(w)})),
+      plain: s.plain, before: s.before, words: s.words.filter(w => w.word !== null).map(w => ({...w, ...range(w)})),
       runs: s.runs.map(r => ({...range(r), rule: r.rule, reading: r.reading}))})),
-    findings: sentences.flatMap(s => s.findings).map(f => ({code: f.code, offset: units(f.offset)})),
+    findings: sentences.flatMap(s => s.findings).map(f => ({code: f.code, ...range(f)})),
   };
 }
 
 function byPackage(reader, text) {
   const {sentences, findings} = reader.read(text, {rules: true});
   return {
-    sentences: sentences.map(({offset, length, normalized, speakable, words, runs}) =>
-      ({offset, length, normalized, speakable, words, runs})),
-    findings: findings.map(({code, offset}) => ({code, offset})),
+    sentences: sentences.map(({offset, length, normalized, speakable, plain, before, words, runs}) =>
+      ({offset, length, normalized, speakable, plain, before, words, runs})),
+    findings: findings.map(({code, offset, length}) => ({code, offset, length})),
   };
 }
+
+// What was read, as in tests/golden/answers.txt.
+function listed({sentences, findings}, text) {
+  const span = ({offset, length}) =>
+    `${Buffer.byteLength(text.slice(0, offset))}+${Buffer.byteLength(text.slice(offset, offset + length))}`;
+  const word = (kind, {word, after, offset, length, pause, marks = [], ...others}) =>
+    [`${kind} ${word}|${after}| ${span({offset, length})} ${pause}|`, ...marks,
+      ...Object.entries(others).map(([name, value]) => `${name}=${value}`)].join(' ');
+  const found = number => findings.filter(f => f.sentence === number).map(f =>
+    `finding ${f.code} ${span(f)} ${number} ${f.message}`);
+  return [...sentences.flatMap((s, number) => [...found(number),
+    `sentence ${span(s)}|${s.normalized}|${s.speakable}|${s.plain}|${s.before}|`, word('head', s.head),
+    ...s.words.map(w => word('word', w)), ...s.runs.map(run => `run ${span(run)} ${run.rule}|${run.reading}|`)]),
+  ...found(sentences.length)].map(line => `${line}\n`).join('');
+}
+
+test('answers as C does', () => {
+  const golden = readFileSync('tests/golden/answers.txt').toString();
+  const everyday = large.reader({everyday: true});
+  const answers = golden.match(/^>.*$/gm).map(line => {
+    const text = line.replace(/^>+ /, '').replace(/\\\{(\d+):(.*?)}/g, (_, n, piece) => piece.repeat(n));
+    const reader = line[1] === '>' ? everyday : small;
+    assert.deepEqual(byPackage(reader, text), byTool(text, ...(line[1] === '>' ? ['--everyday'] : [])), text);
+    return `${line}\n${listed(reader.read(text, {rules: text.length < 1000}), text)}`;
+  });
+  assert.equal(answers.join(''), golden);
+});
 
 const seeds = readdirSync('fuzz/seeds').map(name => readFileSync(`fuzz/seeds/${name}`).toString().replaceAll('\0', ''));
 

@@ -183,7 +183,7 @@ class JsonFormat : public Format {
             for (const Diagnostic& diagnostic : diagnostics) {
                 line_.object([&] {
                     line_.field("code", code_of(diagnostic.finding));
-                    line_.field("offset", diagnostic.offset);
+                    line_.range({diagnostic.offset, diagnostic.length});
                     line_.field("message", describe(diagnostic, place.text));
                 });
             }

@@ -1,5 +1,6 @@
 """The Python package, installed from its wheel: the same answers as the tool, in Python's own terms."""
 
+import concurrent.futures
 import doctest
 import itertools
 import json
@@ -183,7 +184,7 @@ def test_results_and_readers_are_compared_printed_and_pickled(tmp_path: pathlib.
     assert again != reader.read(TEXT, rules=True) and again != 5
     for one, other in zip((again, *again.sentences), (result, *result.sentences)):
         assert repr(one) == repr(other)
-    assert "Word(text='doctor'" in repr(result)
+    assert "Word(text='doctor'" in repr(result) and "lexicon=None" in repr(kavi.Reader())
 
 
 def test_signals_are_answered_inside_a_long_text() -> None:
@@ -278,10 +279,16 @@ def test_one_reader_is_for_one_thread() -> None:
     assert reader.normalize("a 5") == "a five"
 
 
+def test_the_functions_have_a_reader_for_each_thread() -> None:
+    with concurrent.futures.ThreadPoolExecutor(2) as threads:
+        assert len(set(threads.map(kavi.normalize, ["It is 10:30. " * 20000] * 8))) == 1
+
+
 def test_lines_of_a_file(tmp_path: pathlib.Path) -> None:
     path = tmp_path / "lines"
     path.write_bytes(b"a 5\r\nb \xff 6\n\nc")
-    lines = list(kavi.read_file(path))
+    lines = list(kavi.read_file(path, rules=True))
+    assert lines[0].result.sentences[0].runs
     assert [(line.number, [word.text for s in line.result.sentences for word in s.words]) for line in lines] == [
         (1, ["a", "five"]), (2, ["b", "six"]), (3, []), (4, ["c"])]
     assert [line.text for line in lines] == ["a 5\r", "b \udcff 6", "", "c"]

@@ -67,11 +67,32 @@ bool BlockReader::next_of_file(Block& block) {
         searched = block.bytes.size();
         if (searched >= LONG_TEXT && begin_long_text(block)) return read_long_text(block);
         if (!read_more(block.bytes)) break;
-        if (is_new_) block.notice = first_look(block.bytes, options_);
-        is_new_ = false;
+        if (!is_new_) continue;
+        if (!look(block)) return false;
+        searched = 0;
     }
+    is_new_ = false;
     number_ += count(block.bytes, options_.delimiter);
     return !block.bytes.empty();
+}
+
+// Looks at the first bytes of an input: a byte order mark is passed over. False, and the input is
+// closed, when it is not to be read.
+bool BlockReader::look(Block& block) {
+    constexpr std::string_view BYTE_ORDER_MARK = "\xef\xbb\xbf";
+    failure_ = other_than_text(block.bytes, options_.delimiter);
+    if (!failure_.empty()) {
+        block = {};
+        close();
+        return false;
+    }
+    const bool seems_binary = is_binary(block.bytes, options_.delimiter);
+    block.notice = seems_binary ? "seems to be binary, not text" : "";
+    is_new_ = block.bytes.size() < LONGEST_SIGNATURE;
+    if (block.bytes.compare(0, BYTE_ORDER_MARK.size(), BYTE_ORDER_MARK) == 0) {
+        block.bytes.erase(0, BYTE_ORDER_MARK.size());
+    }
+    return true;
 }
 
 // Leaves what is after the last delimiter for the next block. False when there is none from
@@ -158,6 +179,12 @@ void BlockReader::begin_part() {
     number_ = part_.number;
     at_ = part_.first_text;
     is_new_ = at_ == 0;
+    std::string begin(FIRST_LOOK, '\0');  // of the file, also where another part has it
+    const ssize_t n = ::pread(file_, begin.data(), begin.size(), 0);
+    if (n > 0 && failure_.empty()) {
+        begin.resize(static_cast<std::size_t>(n));
+        failure_ = other_than_text(begin, options_.delimiter);
+    }
     if (!failure_.empty() || part_.first_text >= part_.end) close();
 }
 

@@ -36,6 +36,7 @@ class BlockReader {
 
   private:
     bool next_of_file(Block& block);
+    bool look(Block& block);
     bool cut_after_last_text(std::string& bytes, std::size_t searched);
     bool begin_long_text(Block& block);
     bool read_long_text(Block& block);
@@ -52,7 +53,7 @@ class BlockReader {
     std::size_t input_number_ = 0;
     std::string name_;
     int file_ = -1;
-    bool is_new_ = false;  // nothing of it has been read
+    bool is_new_ = false;  // too little of it has been read to know what it is
     std::string failure_;
     FileParts parts_;
     FilePart part_;

@@ -7,8 +7,10 @@
 namespace kavi::tool {
 
 // Reads lines "text<TAB>words", with more tabs before other words that will do; "#" begins a
-// remark. Words are compared without regard to case. Writes where others are spoken, the words one
-// under the other, and how many are as expected. The exit status: 0 when all are.
+// remark. What --plain writes of the text is compared with them: words without regard to case,
+// marks only where they are expected. Writes where others are spoken, the words one under the
+// other, and how many are as expected; on standard error, which lines have no tab. The exit status:
+// 0 when all are as expected and all could be read.
 int run_check(const Options& options);
 
 }  // namespace kavi::tool

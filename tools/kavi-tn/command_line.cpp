@@ -11,6 +11,7 @@
 
 #include "kavi_version.h"
 #include "names.h"
+#include "output.h"
 
 namespace kavi::tool {
 
@@ -171,7 +172,7 @@ class Parser {
         try {
             app_.parse(argc, argv);
         } catch (const CLI::ExtrasError&) {
-            return "no such option: " + app_.remaining()[0];
+            return "no such option: " + shown(app_.remaining()[0]);
         } catch (const CLI::ArgumentMismatch& error) {
             const std::string text = error.what();
             const bool is_flag = text.find("flag override") != std::string::npos;
@@ -272,7 +273,7 @@ std::optional<Options> parse_command_line(int argc, char** argv, int& status) {
     } else if (parser.wants_version()) {
         std::cout << "kavi-tn " KAVI_VERSION "\n";
     } else if (!wrong.empty()) {
-        std::cerr << "kavi-tn: " << wrong << "\nTry \"kavi-tn --help\".\n";
+        write_messages("kavi-tn: " + wrong + "\nTry \"kavi-tn --help\".\n");
         status = WRONG_USAGE;
     } else {
         return options;

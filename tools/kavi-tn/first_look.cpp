@@ -7,22 +7,23 @@ namespace kavi::tool {
 namespace {
 
 struct Signature {
-    std::string_view begins_with;
-    const char* notice;
+    std::size_t at;
+    std::string_view bytes;
+    const char* what;
 };
 
+constexpr const char* UTF_32 = "UTF-32; type: iconv -f UTF-32 -t UTF-8 FILE | kavi-tn";
+
+// The first that fits counts.
 constexpr Signature SIGNATURES[] = {
-    {"\x1f\x8b", "seems to be compressed; read it by: gzip -dc FILE | kavi-tn"},
-    {"BZh", "seems to be compressed; read it by: bzip2 -dc FILE | kavi-tn"},
-    {std::string_view("\xfd"
-                      "7zXZ\0",
-                      6),
-     "seems to be compressed; read it by: xz -dc FILE | kavi-tn"},
-    {"\x28\xb5\x2f\xfd", "seems to be compressed; read it by: zstd -dc FILE | kavi-tn"},
-    {"PK\x03\x04", "seems to be an archive or a document; read it by: unzip -p FILE | kavi-tn"},
-    {"%PDF-", "seems to be a PDF document; read it by: pdftotext FILE - | kavi-tn"},
-    {"\xff\xfe", "seems to be UTF-16; read it by: iconv -f UTF-16 -t UTF-8 FILE | kavi-tn"},
-    {"\xfe\xff", "seems to be UTF-16; read it by: iconv -f UTF-16 -t UTF-8 FILE | kavi-tn"},
+    {0, "\x1f\x8b", "compressed; type: gzip -dc FILE | kavi-tn"},
+    {4, "1AY&SY", "compressed; type: bzip2 -dc FILE | kavi-tn"},
+    {0, "\xfd\x37zXZ", "compressed; type: xz -dc FILE | kavi-tn"},
+    {0, "\x28\xb5\x2f\xfd", "compressed; type: zstd -dc FILE | kavi-tn"},
+    {0, "PK\x03\x04", "an archive or a document; type: unzip -p FILE | kavi-tn"},
+    {0, "%PDF-", "a PDF document; type: pdftotext FILE - | kavi-tn"},
+    {0, {"\xff\xfe\0\0", 4}, UTF_32},
+    {0, {"\0\0\xfe\xff", 4}, UTF_32},
 };
 
 bool is_no_text(char c) {
@@ -30,20 +31,43 @@ bool is_no_text(char c) {
     return (byte < ' ' && (byte < '\t' || byte > '\r') && byte != '\x1b') || byte == 0x7f;
 }
 
+// How many NUL bytes there are at even or at odd offsets.
+std::size_t count_nuls(std::string_view bytes, std::size_t first) {
+    std::size_t n = 0;
+    for (std::size_t i = first; i < bytes.size(); i += 2) n += bytes[i] == '\0' ? 1 : 0;
+    return n;
+}
+
 }  // namespace
 
-std::string first_look(std::string_view bytes, const Options& options) {
-    constexpr std::size_t LOOK = 4096;
-    constexpr std::size_t ONE_IN = 32;
-    for (const Signature& signature : SIGNATURES) {
-        if (bytes.substr(0, signature.begins_with.size()) == signature.begins_with) {
-            return signature.notice;
-        }
+std::string other_than_text(std::string_view bytes, char delimiter) {
+    for (const auto& [at, signature, what] : SIGNATURES) {
+        if (bytes.size() > at && bytes.substr(at, signature.size()) == signature) return what;
     }
-    const std::string_view look = bytes.substr(0, LOOK);
+    // UTF-16 has a NUL byte beside each letter of English.
+    const std::string_view look = bytes.substr(0, FIRST_LOOK);
+    const std::size_t even = count_nuls(look, 0);
+    const std::size_t odd = count_nuls(look, 1);
+    const std::string_view mark = look.substr(0, 2);
+    if ((mark == "\xff\xfe" || mark == "\xfe\xff") && even + odd > 0) {
+        return "UTF-16; type: iconv -f UTF-16 -t UTF-8 FILE | kavi-tn";
+    }
+    if (look.size() < LONGEST_SIGNATURE || delimiter == '\0') return {};
+    if (even == 0 && odd > look.size() / 3) {
+        return "UTF-16; type: iconv -f UTF-16LE -t UTF-8 FILE | kavi-tn";
+    }
+    if (odd == 0 && even > look.size() / 3) {
+        return "UTF-16; type: iconv -f UTF-16BE -t UTF-8 FILE | kavi-tn";
+    }
+    return {};
+}
+
+bool is_binary(std::string_view bytes, char delimiter) {
+    constexpr std::size_t ONE_IN = 32;
+    const std::string_view look = bytes.substr(0, FIRST_LOOK);
     const auto n = std::count_if(look.begin(), look.end(),
-                                 [&](char c) { return is_no_text(c) && c != options.delimiter; });
-    return static_cast<std::size_t>(n) > look.size() / ONE_IN ? "seems to be binary, not text" : "";
+                                 [&](char c) { return is_no_text(c) && c != delimiter; });
+    return static_cast<std::size_t>(n) > look.size() / ONE_IN;
 }
 
 }  // namespace kavi::tool

@@ -1,17 +1,23 @@
-// Whether an input is text at all.
+// Whether an input is text at all, by its first bytes.
 #ifndef KAVI_TOOL_FIRST_LOOK_H
 #define KAVI_TOOL_FIRST_LOOK_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
-#include "options.h"
-
 namespace kavi::tool {
 
-// What an input that begins with these bytes seems to be instead of text, and how to read it; empty
-// for text. It is read all the same.
-std::string first_look(std::string_view bytes, const Options& options);
+// How many of them are looked at, and how few tell what is told by a signature.
+constexpr std::size_t FIRST_LOOK = 4096;
+constexpr std::size_t LONGEST_SIGNATURE = 10;
+
+// What an input is instead of UTF-8, which is not read, and the line to type; empty for all others.
+std::string other_than_text(std::string_view bytes, char delimiter);
+
+// Whether there are so many control characters that it is no text, as it seems. It is read all the
+// same.
+bool is_binary(std::string_view bytes, char delimiter);
 
 }  // namespace kavi::tool
 

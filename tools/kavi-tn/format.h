@@ -2,6 +2,7 @@
 #ifndef KAVI_TOOL_FORMAT_H
 #define KAVI_TOOL_FORMAT_H
 
+#include <iterator>
 #include <memory>
 #include <set>
 #include <string>
@@ -22,6 +23,14 @@ struct Place {
     std::string_view text;     // all of it
 };
 
+// One more than are told.
+constexpr std::size_t LOST_MAX = 21;
+
+// Leaves the least `n` of a set.
+inline void keep_least(std::size_t n, std::set<std::string>& names) {
+    while (names.size() > n) names.erase(std::prev(names.end()));
+}
+
 class Format {
   public:
     virtual ~Format() = default;
@@ -38,7 +47,8 @@ class Format {
     virtual void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
                           std::string& /*out*/) {}
 
-    // What the format has no word for, in the sentences since the last call.
+    // What the format has no word for, in the sentences since the last call: the least by name, up
+    // to LOST_MAX.
     virtual std::set<std::string> take_lost() { return {}; }
 };
 

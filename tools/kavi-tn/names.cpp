@@ -39,8 +39,23 @@ constexpr bool are_in_order() {
 }
 static_assert(are_in_order());
 
-bool is_control(char c) {
-    return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
+// Unicode's Cc but for line ends and tabs, Bidi_Control, and the separators of lines and
+// paragraphs.
+bool is_hidden(char32_t c) {
+    if (c == '\n' || c == '\t') return false;
+    const bool is_control = c < ' ' || (c >= 0x7f && c <= 0x9f);
+    const bool turns = c == 0x61c || c == 0x200e || c == 0x200f || (c >= 0x202a && c <= 0x202e) ||
+                       (c >= 0x2066 && c <= 0x2069);
+    return is_control || turns || c == 0x2028 || c == 0x2029;
+}
+
+// As in \x1b of a byte, or \u202e.
+void append_escape(char32_t c, bool is_byte, std::string& out) {
+    constexpr const char* DIGITS = "0123456789abcdef";
+    out += is_byte ? "\\x" : "\\u";
+    for (unsigned bits = is_byte ? 8 : 16; bits > 0; bits -= 4) {
+        out += DIGITS[c >> (bits - 4) & 0xfU];
+    }
 }
 
 }  // namespace
@@ -73,29 +88,37 @@ void append_attributes(const CssmlTag& tag, TextBuffer& out) {
     }
 }
 
-std::string in_quotes(std::string_view text) {
-    constexpr const char* DIGITS = "0123456789abcdef";
-    std::string result = "\"";
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        const bool is_escaped =
-            is_control(c) || (byte > 127 && !utf8::is_valid(text.begin(), text.end()));
-        if (c == '\n') {
-            result += "\\n";
-        } else if (is_escaped) {
-            result.append("\\x").append(1, DIGITS[byte / 16]).append(1, DIGITS[byte % 16]);
-        } else {
-            if (c == '"' || c == '\\') result += '\\';
-            result += c;
+std::string visible(std::string_view text) {
+    std::string result;
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data(); at != end;) {
+        for (const char* const invalid = utf8::find_invalid(at, end); at != invalid;) {
+            const char* const begin = at;
+            const char32_t c = utf8::unchecked::next(at);
+            if (is_hidden(c)) {
+                append_escape(c, c < 0x80, result);
+            } else {
+                result.append(begin, at);
+            }
         }
+        if (at != end) append_escape(static_cast<unsigned char>(*at++), true, result);
     }
-    return result + "\"";
+    return result;
+}
+
+std::string in_quotes(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        if (c == '"' || c == '\\') result += '\\';
+        c == '\n' ? result += "\\n" : c == '\t' ? result += "\\t" : result += c;
+    }
+    return '"' + visible(result) + '"';
 }
 
 std::string shown(std::string_view name) {
-    bool is_plain = !name.empty() && name.front() != ' ' && name.back() != ' ' &&
-                    utf8::is_valid(name.begin(), name.end());
-    for (const char c : name) is_plain = is_plain && !is_control(c);
+    const bool is_plain = !name.empty() && name.front() != ' ' && name.back() != ' ' &&
+                          name.find_first_of("\n\t") == std::string_view::npos &&
+                          visible(name) == name;
     return is_plain ? std::string(name) : in_quotes(name);
 }
 

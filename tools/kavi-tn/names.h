@@ -37,11 +37,16 @@ inline bool has_marks(const UtteranceSyllable& record) {
     return record.n_punc > 0 || record.cssml_tag.breaktime[0] != '\0';
 }
 
-// A name or a value of the user's for a message: in quotation marks, with control characters and
-// bytes that are no UTF-8 escaped, when it has any or blanks at its ends; so that it cannot pass
-// for another line.
+// The same text with escapes, such as \x1b or \u202e, for what a terminal obeys or nobody sees:
+// control characters but for line ends and tabs, characters that turn the direction of writing, and
+// bytes that are no UTF-8.
+std::string visible(std::string_view text);
+
+// A name or a value of the user's for a message, visible and in quotation marks, so that it cannot
+// pass for another line.
 std::string in_quotes(std::string_view text);
-std::string shown(std::string_view name);  // quoted only where it must be
+std::string shown(
+    std::string_view name);  // quoted only where it must be: or with blanks at its ends
 
 // The same text with U+FFFD for what is not UTF-8.
 std::string valid_utf8(std::string_view text);

@@ -12,6 +12,8 @@
 #include <iomanip>
 #include <iostream>
 
+#include "names.h"
+
 namespace kavi::tool {
 
 namespace {
@@ -19,7 +21,7 @@ namespace {
 constexpr const char* CLEAR_TO_END = "\033[K";
 
 // Whether messages go to a terminal that can do more than write lines.
-bool is_terminal() {
+bool has_terminal() {
     const char* terminal = std::getenv("TERM");
     const bool is_dumb = terminal == nullptr || std::string_view(terminal) == "dumb";
     return !is_dumb && isatty(STDERR_FILENO) != 0;
@@ -28,7 +30,7 @@ bool is_terminal() {
 // As no-color.org has it: set, and not to the empty text.
 bool wants_colour() {
     const char* no_colour = std::getenv("NO_COLOR");
-    return is_terminal() && (no_colour == nullptr || *no_colour == '\0');
+    return has_terminal() && (no_colour == nullptr || *no_colour == '\0');
 }
 
 }  // namespace
@@ -73,6 +75,10 @@ int Output::write(std::string_view piece) {
     return 0;
 }
 
+bool Output::is_terminal() const {
+    return ::isatty(descriptor_) != 0;
+}
+
 int Output::commit() {
     const std::lock_guard lock(renaming_);
     const bool closed = ::close(descriptor_) == 0;
@@ -93,7 +99,7 @@ bool Output::abandon() {
 }
 
 Progress::Progress(const Options& options) {
-    if (!is_terminal()) return;
+    if (!has_terminal()) return;
     for (const std::string& file : options.files) {
         std::error_code error;
         const std::uintmax_t size = std::filesystem::file_size(file, error);
@@ -129,7 +135,7 @@ void Progress::clear() {
 void write_messages(std::string_view messages) {
     static const bool in_colour = wants_colour();
     if (messages.empty()) return;
-    std::cerr << (in_colour ? "\033[33m" : "") << messages << (in_colour ? "\033[0m" : "");
+    std::cerr << (in_colour ? "\033[33m" : "") << visible(messages) << (in_colour ? "\033[0m" : "");
 }
 
 void announce_terminal(const Options& options) {

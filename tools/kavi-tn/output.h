@@ -25,6 +25,7 @@ class Output {
 
     int open(const std::string& path);  // "": standard output
     int write(std::string_view piece);
+    bool is_terminal() const;
 
     // All is written.
     int commit();
@@ -60,7 +61,8 @@ class Progress {
     Clock::time_point last_ = begin_;
 };
 
-// Messages, in colour on a terminal that has any, unless NO_COLOR says not to.
+// Messages, visible as in names.h, in colour on a terminal that has any, unless NO_COLOR says not
+// to.
 void write_messages(std::string_view messages);
 
 // On a terminal, that standard input is read from it, if the options ask for that.

@@ -40,8 +40,12 @@ class Run {
     int all() {
         had_pipe_signal_ = std::signal(SIGPIPE, SIG_IGN) != SIG_IGN;
         take_interrupts([this] { leave_interrupted(); });
-        if (const std::string error = readings_.load(options_); !error.empty()) fail(error);
+        if (const std::string faults = readings_.load(options_); !faults.empty()) {
+            write_messages(faults);
+            return EXIT_FAILURE;
+        }
         require_written(output_.open(options_.output));
+        is_shown_ = options_.format == FormatName::text && output_.is_terminal();
         announce_terminal(options_);
         require_written(output_.write(format_->prologue()));
         try {
@@ -107,24 +111,32 @@ class Run {
             rendered.notice + findings_.take(rendered.findings) + rendered.failure;
         if (!messages.empty()) progress_.clear();
         write_messages(messages);
-        require_written(output_.write(rendered.output));
+        require_written(output_.write(is_shown_ ? visible(rendered.output) : rendered.output));
         progress_.advance(rendered.bytes);
         lost_.insert(rendered.lost.begin(), rendered.lost.end());
+        keep_least(LOST_MAX, lost_);
         texts_ += rendered.texts;
         all_read_ = all_read_ && rendered.all_read;
     }
 
     int end() {
         write_messages(findings_.not_written());
-        for (const std::string& name : lost_) {
-            write_messages("kavi-tn: SSML has nothing for " + in_quotes(name) +
-                           "; it is left out\n");
-        }
+        write_lost();
         if (options_.summary) write_messages(findings_.summary());
         if (!all_read_ && !options_.output.empty()) fail("not all could be read");
         require_written(output_.write(format_->epilogue()));
         require_written(output_.commit());
         return all_read_ && !(options_.strict && !findings_.empty()) ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+
+    void write_lost() const {
+        std::size_t n = 0;
+        for (const std::string& name : lost_) {
+            const bool is_told = ++n < LOST_MAX;
+            write_messages("kavi-tn: SSML has nothing for " +
+                           (is_told ? in_quotes(name) + "; it is" : "others either; they are") +
+                           " left out\n");
+        }
     }
 
     // Says what became of the file that was to be written, too.
@@ -156,6 +168,7 @@ class Run {
     JobWindow window_;
     std::vector<std::thread> threads_;
     Output output_;
+    bool is_shown_ = false;  // the output is for people, who look at it on a terminal
     Readings readings_;
     Progress progress_;
     FindingsReport findings_;

@@ -17,11 +17,17 @@ std::string Readings::load(const Options& options) {
     if (options.lexicon.empty()) return {};
     std::ifstream file(options.lexicon, std::ios::binary);
     std::ostringstream bytes;
-    if (!file || !(bytes << file.rdbuf())) {
-        return shown(options.lexicon) + ": cannot be read: " + std::strerror(errno);
+    if (file) errno = 0;  // an empty file, too, is one of which nothing comes
+    if (!file || (!(bytes << file.rdbuf()) && errno != 0)) {
+        return "kavi-tn: " + shown(options.lexicon) + ": cannot be read: " + std::strerror(errno) +
+               "\n";
     }
     std::string error;
-    return lexicon_.add(shown(options.lexicon), bytes.str(), error) ? "" : error;
+    if (lexicon_.add(shown(options.lexicon), bytes.str(), error)) return {};
+    std::istringstream faults(error);
+    std::string lines;
+    for (std::string line; std::getline(faults, line);) lines += "kavi-tn: " + line + "\n";
+    return lines;
 }
 
 }  // namespace kavi::tool

@@ -11,7 +11,7 @@ namespace kavi::tool {
 
 class Readings {
   public:
-    // Why they cannot be had, or nothing.
+    // Why they cannot be used, in whole lines, or nothing.
     std::string load(const Options& options);
 
     // Null when nothing is to be rewritten. Lives as long as this.

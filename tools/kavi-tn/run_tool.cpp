@@ -4,10 +4,11 @@
 #include <unistd.h>
 
 #include <exception>
-#include <iostream>
+#include <string>
 
 #include "check.h"
 #include "command_line.h"
+#include "output.h"
 #include "pipeline.h"
 
 namespace kavi::tool {
@@ -34,7 +35,7 @@ int run_tool(int argc, char** argv) {
         if (!options) return status;
         return options->check ? run_check(*options) : run_pipeline(*options);
     } catch (const std::exception& error) {
-        std::cerr << "kavi-tn: " << error.what() << '\n';
+        write_messages("kavi-tn: " + std::string(error.what()) + "\n");
         return 1;
     }
 }

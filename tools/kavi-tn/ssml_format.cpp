@@ -17,6 +17,7 @@ class SsmlFormat : public Format {
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out += ssml(sentence, place.text, marks_, lost_);
+        keep_least(LOST_MAX, lost_);
     }
 
     std::set<std::string> take_lost() override {

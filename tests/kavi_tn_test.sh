@@ -90,16 +90,22 @@ expect 'a page' "$(wc -l <single)" "$("$tool" --format html corpus 2>/dev/null |
 (while cat "$sample"; do :; done) 2>/dev/null | timeout -s INT 1 "$tool" -j 2 >cut.out 2>/dev/null
 expect 'an interrupt leaves whole lines' 0 "$(tail -c 1 cut.out | od -An -c | tr -d ' ' | grep -vc '\\n')"
 echo a >out
-for signal in INT TERM; do
+echo a >all
+for signal in INT TERM HUP QUIT ALRM USR1 USR2 XCPU; do
     # A shell script has its background commands ignore SIGINT.
-    mkfifo pipe && { env --default-signal=INT "$tool" pipe -o out 2>err & } &&
+    mkfifo pipe && { env --default-signal=$signal "$tool" pipe -o out --findings all 2>err & } &&
         exec 3>pipe && echo a >&3 && sleep 0.2 && echo b >&3
-    sleep 0.4 && kill -$signal $! && { wait $!; ended=$?; }
+    sleep 0.4 && kill -$signal $! && { wait $!; ended=$?; } 2>/dev/null
     exec 3>&- && rm pipe
     expect "the exit status of an interrupt by $signal" $((128 + $(kill -l $signal))) "$ended"
-    expect "a file that was to be written, after $signal" 'a' "$(cat out)"
-    expect "what is said of it" 'kavi-tn: interrupted after 2 texts; out is as it was' "$(cat err)"
+    expect "files that were to be written, after $signal" 'all out a a' "$(echo all* out*) $(cat all out | xargs)"
+    expect 'what is said of them' 'kavi-tn: interrupted after 2 texts; out is as it was; all is as it was' "$(cat err)"
 done
+# A file that is mounted cannot be replaced.
+if unshare -m mount --bind all out 2>/dev/null; then
+    expect 'a mounted file is written' 'cannot write out: it is an input|a|b' "$(unshare -m sh -c "
+        mount --bind all out; '$tool' out -o out; cat out; '$tool' -t b -o out; cat out" 2>&1 | sed 's/^kavi-tn: //' | paste -sd'|')"
+fi
 # The output blocks, and the program ends all the same.
 mkfifo pipe && exec 3<>pipe
 "$tool" corpus >pipe 2>/dev/null & sleep 0.3

@@ -29,6 +29,13 @@ extern "C" __attribute__((used)) ssize_t __wrap_write(int file, const void* byte
     return __real_write(file, bytes, n < 7 ? n : 7);
 }
 
+// Says how often a file was flushed to the disk.
+static int flushed = 0;
+extern "C" __attribute__((used)) int __wrap_fsync(int /*file*/) {
+    ++flushed;
+    return 0;
+}
+
 namespace kavi::tool {
 namespace {
 
@@ -178,6 +185,7 @@ TEST_F(Files, OutputTakesItsNameWhenAllIsWritten) {
             EXPECT_EQ(output.commit(), 0);
         }
         EXPECT_EQ(output.abandon(), !commits);
+        EXPECT_EQ(flushed, commits ? 1 : 0);
     }
     EXPECT_EQ(read_file(path), bytes);
     EXPECT_TRUE(fs::is_symlink(folder_ / "link"));

@@ -147,7 +147,9 @@ bool BlockReader::read_more(std::string& bytes) {
     bytes.resize(size + BLOCK_BYTES);
     ssize_t n = 0;
     do {
-        n = ::read(file_, &bytes[size], BLOCK_BYTES);
+        n = options_.parts == 1
+                ? ::read(file_, &bytes[size], BLOCK_BYTES)
+                : ::pread(file_, &bytes[size], BLOCK_BYTES, static_cast<off_t>(part_.origin + at_));
     } while (n < 0 && errno == EINTR);
     bytes.resize(size + static_cast<std::size_t>(n > 0 ? n : 0));
     if (n > 0 && options_.parts > 1) {
@@ -180,7 +182,7 @@ void BlockReader::begin_part() {
     at_ = part_.first_text;
     is_new_ = at_ == 0;
     std::string begin(FIRST_LOOK, '\0');  // of the file, also where another part has it
-    const ssize_t n = ::pread(file_, begin.data(), begin.size(), 0);
+    const ssize_t n = ::pread(file_, begin.data(), begin.size(), static_cast<off_t>(part_.origin));
     if (n > 0 && failure_.empty()) {
         begin.resize(static_cast<std::size_t>(n));
         failure_ = other_than_text(begin, options_.delimiter);

@@ -114,7 +114,7 @@ class Check {
         write(std::to_string(as_expected_) + " of " + std::to_string(lines_) + " as expected\n");
         if (error_ != 0) {
             write_messages(std::string("kavi-tn: cannot write standard output: ") +
-                           std::strerror(error_) + "\n");
+                           Output::describe(error_) + "\n");
         }
         const bool all = error_ == 0 && all_read_ && no_cases_ == 0 && as_expected_ == lines_;
         return all ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -51,6 +51,7 @@ With other readings than the engine's:
 
 What is told beside it, on standard error, as NAME:LINE: byte OFFSET: text:
   --strict             exit with 1 when there is any finding
+  --findings FILE      all of them to FILE, a JSON object a line; here the first 20 of a kind
   --summary            say in the end how many findings of each kind there were
 
   -h, --help           show this
@@ -150,6 +151,7 @@ class Parser {
         add_flag("-0,--null", null_);
         add_flag("--strict", options.strict);
         add_flag("--summary", options.summary);
+        app_.add_option("--findings", options.findings)->take_last();
         add_value("-j,--jobs", set_jobs);
         add_value("--format", set_format);
         add_flag("--marks", options.marks);
@@ -205,9 +207,13 @@ class Parser {
             }
         }
         const bool writes_sentences = !stages_.empty() || options_.format != FormatName::text ||
-                                      !options_.output.empty() || null_;
+                                      !options_.output.empty() || !options_.findings.empty() ||
+                                      null_;
         if (options_.check && writes_sentences) {
             return "--check goes with files of lines and with --lexicon and --everyday alone";
+        }
+        if (!options_.findings.empty() && options_.findings == options_.output) {
+            return "--findings and --output name the same file";
         }
         options_.has_text = text_->count() > 0;
         if (null_) options_.delimiter = '\0';

@@ -18,6 +18,10 @@ std::size_t end_of_part(std::size_t bytes, std::size_t part, std::size_t parts) 
     return bytes / parts * part + bytes % parts * part / parts;
 }
 
+off_t at_of(int file) {
+    return std::max<off_t>(::lseek(file, 0, SEEK_CUR), 0);
+}
+
 // Counts the texts that end in these bytes, which stand at `at` of the file, until the next begins
 // in the part. False when none does.
 bool count_texts(std::string_view bytes, std::size_t at, char delimiter, FilePart& part) {
@@ -34,13 +38,19 @@ bool count_texts(std::string_view bytes, std::size_t at, char delimiter, FilePar
 
 // The sizes of all files; standard input may be one.
 std::string FileParts::measure() {
+    bool has_standard_input = false;  // which has nothing more the second time
     for (const std::string& name : options_.files) {
         struct stat status = {};
         const int result =
             name == "-" ? ::fstat(STDIN_FILENO, &status) : ::stat(name.c_str(), &status);
         const bool is_file = result == 0 && S_ISREG(status.st_mode);
         if (result == 0 && !is_file) return "only a regular file has parts";
-        sizes_.push_back(is_file ? static_cast<std::size_t>(status.st_size) : 0);
+        off_t size = is_file ? status.st_size : 0;
+        if (is_file && name == "-") {
+            size = has_standard_input ? 0 : std::max<off_t>(size - at_of(STDIN_FILENO), 0);
+            has_standard_input = true;
+        }
+        sizes_.push_back(static_cast<std::size_t>(size));
     }
     return {};
 }
@@ -60,17 +70,19 @@ std::string FileParts::find(int file, std::size_t n, FilePart& part) {
     part.end = in_file(end_of_part(all, options_.part, options_.parts));
     part.first_text = part.begin;
     part.number = 1;
+    part.origin = file == STDIN_FILENO ? static_cast<std::size_t>(at_of(file)) : 0;
     if (part.begin == 0 || part.begin >= part.end) return {};
     const int error = find_first_text(file, part);
     return error == 0 ? "" : std::strerror(error);
 }
 
-// Counts the texts before the part, and goes to its first, which begins after a delimiter; that may
+// Counts the texts before the part, and finds its first, which begins after a delimiter; that may
 // be the last byte before the part. An error number, or 0.
 int FileParts::find_first_text(int file, FilePart& part) const {
     std::string buffer(std::size_t{1} << 18U, '\0');
     for (std::size_t at = 0;;) {
-        const ssize_t got = ::pread(file, buffer.data(), buffer.size(), static_cast<off_t>(at));
+        const ssize_t got =
+            ::pread(file, buffer.data(), buffer.size(), static_cast<off_t>(part.origin + at));
         if (got < 0 && errno == EINTR) continue;
         if (got < 0) return errno;
         if (got == 0) {
@@ -78,10 +90,7 @@ int FileParts::find_first_text(int file, FilePart& part) const {
             return 0;
         }
         const std::string_view bytes(buffer.data(), static_cast<std::size_t>(got));
-        if (count_texts(bytes, at, options_.delimiter, part)) {
-            const auto offset = static_cast<off_t>(part.first_text);
-            return ::lseek(file, offset, SEEK_SET) < 0 ? errno : 0;
-        }
+        if (count_texts(bytes, at, options_.delimiter, part)) return 0;
         at += bytes.size();
     }
 }

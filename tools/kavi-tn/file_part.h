@@ -15,6 +15,7 @@ struct FilePart {
     std::size_t begin = 0;
     std::size_t end = 0;
     std::size_t first_text = 0;  // its offset; not before `end`: there is none
+    std::size_t origin = 0;      // where the input begins in its file: others count from there
     std::size_t number = 1;      // of that, from 1
 };
 
@@ -25,8 +26,8 @@ class FileParts {
     explicit FileParts(const Options& options) : options_(options) {}
 
     // The part of an open file, the `n`-th of the files from 0; the texts before it are counted.
-    // Leaves the file at the first text. What is wrong with it, or nothing; only files that stay as
-    // they are have parts.
+    // Standard input begins where it is, and stays there: bytes of parts are read by offset. What
+    // is wrong with it, or nothing; only files that stay as they are have parts.
     std::string find(int file, std::size_t n, FilePart& part);
 
   private:

@@ -1,9 +1,13 @@
 #include "findings_report.h"
 
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 #include <utf8.h>
 
 #include <iterator>
 #include <set>
+
+#include "names.h"
 
 namespace kavi::tool {
 
@@ -25,8 +29,11 @@ void append_character(char32_t c, std::string& list) {
 std::string describe(const Diagnostic& diagnostic, std::string_view text) {
     if (diagnostic.finding != Finding::not_spoken) return kavi::describe(diagnostic.finding);
     const std::string_view bytes = text.substr(diagnostic.offset, diagnostic.length);
-    if (!utf8::is_valid(bytes.begin(), bytes.end()))
-        return "bytes that are not UTF-8 are not spoken";
+    if (!utf8::is_valid(bytes.begin(), bytes.end())) {
+        return bytes.size() == 1
+                   ? "a byte that is not UTF-8 is not spoken"
+                   : std::to_string(bytes.size()) + " bytes, not all of them UTF-8, are not spoken";
+    }
     std::set<char32_t> characters;
     for (const auto* at = bytes.begin(); at != bytes.end();) {
         characters.insert(utf8::next(at, bytes.end()));
@@ -37,6 +44,30 @@ std::string describe(const Diagnostic& diagnostic, std::string_view text) {
         append_character(c, list);
     }
     return list + (characters.size() == 1 ? " is not spoken" : " are not spoken");
+}
+
+std::string json_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
+                      const std::string& message) {
+    rapidjson::StringBuffer buffer;
+    rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
+    const auto add_text = [&](const char* key, std::string_view value) {
+        const std::string valid = valid_utf8(value);
+        writer.Key(key);
+        writer.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
+    };
+    const auto add_number = [&](const char* key, std::size_t value) {
+        writer.Key(key);
+        writer.Uint64(value);
+    };
+    writer.StartObject();
+    add_text("input", input);
+    add_number("line", line);
+    add_number("offset", diagnostic.offset);
+    add_number("length", diagnostic.length);
+    add_text("code", code_of(diagnostic.finding));
+    add_text("message", message);
+    writer.EndObject();
+    return std::string(buffer.GetString(), buffer.GetSize()) + "\n";
 }
 
 std::string FindingsReport::take(const std::vector<FindingMessage>& messages) {

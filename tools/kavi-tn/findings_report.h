@@ -15,11 +15,17 @@ namespace kavi::tool {
 // A finding in one clear sentence, with the characters that it is about.
 std::string describe(const Diagnostic& diagnostic, std::string_view text);
 
-// A finding and the line to write about it.
+// A finding, the line to write about it, and the same as an object in a line of JSON, if that is
+// wanted.
 struct FindingMessage {
     Finding finding;
     std::string text;
+    std::string json = {};
 };
+
+// An object of input, line, offset, length, code and message.
+std::string json_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
+                      const std::string& message);
 
 // Counts the findings of all inputs. The first of each kind are written, the others only counted.
 class FindingsReport {

@@ -26,7 +26,8 @@ void take_interrupts(std::function<void()> give_up) {
     sigset_t signals;
     sigemptyset(&signals);
     bool any = false;
-    for (const int signal : {SIGINT, SIGTERM}) {
+    for (const int signal :
+         {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGALRM, SIGUSR1, SIGUSR2, SIGXCPU}) {
         if (is_ignored(signal)) continue;
         sigaddset(&signals, signal);
         any = true;

@@ -36,9 +36,10 @@ struct Options {
     bool marks = false;              // of SSML: a mark before each word
     std::vector<std::string> files;  // "-" is standard input
     bool has_text = false;
-    std::string text;     // read before the files
-    std::string output;   // empty: standard output
-    std::string lexicon;  // a file; empty: none
+    std::string text;      // read before the files
+    std::string output;    // empty: standard output
+    std::string findings;  // a file; empty: none
+    std::string lexicon;   // a file; empty: none
     bool everyday = false;
     std::vector<EverydayClass> without;  // classes of everyday English that stay off
     bool american_dates = false;

@@ -6,11 +6,16 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
+#include <optional>
+#include <utility>
 
 #include "names.h"
 
@@ -33,37 +38,118 @@ bool wants_colour() {
     return has_terminal() && (no_colour == nullptr || *no_colour == '\0');
 }
 
+// Of a name such as /dev/fd/1.
+std::optional<int> number_of_open_file(const std::string& path) {
+    for (const std::string_view folder : {"/dev/fd/", "/proc/self/fd/"}) {
+        if (path.compare(0, folder.size(), folder) != 0) continue;
+        int number = 0;
+        const char* end = path.data() + path.size();
+        const auto [rest, error] = std::from_chars(path.data() + folder.size(), end, number);
+        if (error == std::errc() && rest == end) return number;
+    }
+    return {};
+}
+
+// The file that a name stands for, whether it is there or not: links are followed, but not into the
+// open files of this process.
+std::string end_of_links(std::filesystem::path path) {
+    constexpr int LINKS_MAX = 40;
+    for (int i = 0; i < LINKS_MAX && !number_of_open_file(path); ++i) {
+        std::error_code error;
+        const std::filesystem::path next = std::filesystem::read_symlink(path, error);
+        if (error) break;
+        path = path.parent_path() / next;
+    }
+    return path;
+}
+
+// What is bound over a file cannot be replaced by renaming.
+bool is_mounted(const std::string& path) {
+#ifdef STATX_ATTR_MOUNT_ROOT
+    struct statx status = {};
+    return ::statx(AT_FDCWD, path.c_str(), 0, STATX_BASIC_STATS, &status) == 0 &&
+           (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
+#else
+    return false;
+#endif
+}
+
+// Whether one of the inputs, "-" for standard input, is this file.
+bool is_any(const struct stat& file, const std::vector<std::string>& inputs) {
+    return std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
+        struct stat status = {};
+        const int result =
+            input == "-" ? ::fstat(STDIN_FILENO, &status) : ::stat(input.c_str(), &status);
+        return result == 0 && status.st_dev == file.st_dev && status.st_ino == file.st_ino;
+    });
+}
+
+// A name for mkostemp beside `target`, which may have as many bytes as a name can. It is not cut
+// within a character.
+std::string name_beside(const std::string& target) {
+    constexpr std::string_view ENDING = ".XXXXXX";
+    constexpr std::size_t LONGEST = NAME_MAX - ENDING.size();
+    const std::size_t begin = target.rfind('/') + 1;
+    std::size_t size = std::min(target.size() - begin, LONGEST);
+    const auto is_inside = [&](std::size_t at) {
+        return at < target.size() && (static_cast<unsigned char>(target[at]) & 0xC0U) == 0x80;
+    };
+    while (size > 0 && is_inside(begin + size)) --size;
+    return target.substr(0, begin + size).append(ENDING);
+}
+
 }  // namespace
 
-int Output::open(const std::string& path) {
-    constexpr mode_t PERMISSIONS = 07777;
-    if (path.empty()) {
-        descriptor_ = STDOUT_FILENO;
-        return 0;
-    }
+Output::~Output() {
+    abandon();
+    close();
+}
+
+std::string Output::describe(int error) {
+    return error == IS_INPUT ? "it is an input" : std::strerror(error);
+}
+
+int Output::open(const std::string& path, const std::vector<std::string>& inputs) {
+    constexpr mode_t NEW_FILE = 0666;
+    constexpr mode_t PERMISSIONS = 0777;
+    const std::string target = end_of_links(path);
     struct stat status = {};
-    if (::stat(path.c_str(), &status) != 0) {
-        constexpr mode_t NEW_FILE = 0666;
-        const mode_t mask = ::umask(0);
-        ::umask(mask);
-        return open_beside(path, NEW_FILE & ~mask);
+    if (path.empty() || number_of_open_file(target)) return open_directly(target, inputs);
+    if (::stat(target.c_str(), &status) == 0) {
+        const bool is_replaced = S_ISREG(status.st_mode) && !is_mounted(target);
+        return is_replaced ? open_beside(target, status.st_mode & PERMISSIONS)
+                           : open_directly(target, inputs);
     }
-    if (S_ISREG(status.st_mode)) {
-        // A link stays one: the file that it names is replaced.
-        return open_beside(std::filesystem::canonical(path), status.st_mode & PERMISSIONS);
-    }
-    descriptor_ = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
-    return descriptor_ < 0 ? errno : 0;
+    if (errno != ENOENT) return errno;
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return open_beside(target, NEW_FILE & ~mask);
+}
+
+int Output::open_directly(const std::string& path, const std::vector<std::string>& inputs) {
+    const std::optional<int> number = path.empty() ? STDOUT_FILENO : number_of_open_file(path);
+    descriptor_ =
+        number ? ::fcntl(*number, F_DUPFD_CLOEXEC, 0) : ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+    struct stat status = {};
+    if (descriptor_ < 0 || ::fstat(descriptor_, &status) != 0) return errno;
+    const bool is_file = S_ISREG(status.st_mode);
+    if (is_file && status.st_size > 0 && is_any(status, inputs)) return IS_INPUT;
+    return is_file && !number && ::ftruncate(descriptor_, 0) != 0 ? errno : 0;
 }
 
 int Output::open_beside(const std::string& target, unsigned mode) {
     const std::lock_guard lock(renaming_);
-    std::string name = target + ".XXXXXX";
+    std::string name = name_beside(target);
     descriptor_ = ::mkostemp(name.data(), O_CLOEXEC);
     if (descriptor_ < 0) return errno;
     target_ = target;
     temporary_ = name;
     return ::fchmod(descriptor_, mode) != 0 ? errno : 0;
+}
+
+int Output::close() {
+    const int descriptor = std::exchange(descriptor_, -1);
+    return descriptor >= 0 && ::close(descriptor) != 0 ? errno : 0;
 }
 
 int Output::write(std::string_view piece) {
@@ -81,11 +167,9 @@ bool Output::is_terminal() const {
 
 int Output::commit() {
     const std::lock_guard lock(renaming_);
-    const bool closed = ::close(descriptor_) == 0;
-    descriptor_ = -1;
-    const bool renamed =
-        closed && (target_.empty() || std::rename(temporary_.c_str(), target_.c_str()) == 0);
-    if (!renamed) return errno;
+    if (!target_.empty() && ::fsync(descriptor_) != 0) return errno;
+    if (const int error = close(); error != 0 || target_.empty()) return error;
+    if (std::rename(temporary_.c_str(), target_.c_str()) != 0) return errno;
     target_.clear();
     return 0;
 }

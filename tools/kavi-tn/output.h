@@ -7,23 +7,30 @@
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "options.h"
 
 namespace kavi::tool {
 
 // Standard output or a file, written in whole pieces. A file is written under another name beside
-// its own, which it takes when all is written: until then the file there is as it was, and may be
-// an input. What cannot be renamed, such as a pipe or a device, is written directly. Operations
-// answer the system's error number, or 0.
+// its own, which it takes when all is on the disk: until then the file there is as it was, and may
+// be an input. A link stays one: the file that it names is written. What cannot be renamed is
+// written directly: a pipe, a device, a file that is mounted, or one of this process's open files,
+// such as /dev/stdout, which goes on where it is. Operations answer the system's error number,
+// IS_INPUT, or 0.
 class Output {
   public:
+    static constexpr int IS_INPUT = -1;
+    static std::string describe(int error);
+
     Output() = default;
-    ~Output() { abandon(); }
+    ~Output();
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
-    int open(const std::string& path);  // "": standard output
+    // "": standard output. IS_INPUT when writing would change one of the inputs while it is read.
+    int open(const std::string& path, const std::vector<std::string>& inputs = {});
     int write(std::string_view piece);
     bool is_terminal() const;
 
@@ -36,7 +43,9 @@ class Output {
     bool abandon();
 
   private:
+    int open_directly(const std::string& path, const std::vector<std::string>& inputs);
     int open_beside(const std::string& target, unsigned mode);
+    int close();
 
     int descriptor_ = -1;
     std::mutex renaming_;    // of what follows

@@ -39,12 +39,16 @@ class Run {
 
     int all() {
         had_pipe_signal_ = std::signal(SIGPIPE, SIG_IGN) != SIG_IGN;
+        std::signal(SIGXFSZ, SIG_IGN);  // the write fails, and is told
         take_interrupts([this] { leave_interrupted(); });
         if (const std::string faults = readings_.load(options_); !faults.empty()) {
             write_messages(faults);
             return EXIT_FAILURE;
         }
-        require_written(output_.open(options_.output));
+        require_written(output_.open(options_.output, options_.files));
+        if (!options_.findings.empty()) {
+            require_findings_written(findings_file_.open(options_.findings, options_.files));
+        }
         is_shown_ = options_.format == FormatName::text && output_.is_terminal();
         announce_terminal(options_);
         require_written(output_.write(format_->prologue()));
@@ -111,6 +115,9 @@ class Run {
             rendered.notice + findings_.take(rendered.findings) + rendered.failure;
         if (!messages.empty()) progress_.clear();
         write_messages(messages);
+        std::string lines;
+        for (const FindingMessage& finding : rendered.findings) lines += finding.json;
+        require_findings_written(findings_file_.write(lines));
         require_written(output_.write(is_shown_ ? visible(rendered.output) : rendered.output));
         progress_.advance(rendered.bytes);
         lost_.insert(rendered.lost.begin(), rendered.lost.end());
@@ -125,6 +132,7 @@ class Run {
         if (options_.summary) write_messages(findings_.summary());
         if (!all_read_ && !options_.output.empty()) fail("not all could be read");
         require_written(output_.write(format_->epilogue()));
+        if (!options_.findings.empty()) require_findings_written(findings_file_.commit());
         require_written(output_.commit());
         return all_read_ && !(options_.strict && !findings_.empty()) ? EXIT_SUCCESS : EXIT_FAILURE;
     }
@@ -139,11 +147,12 @@ class Run {
         }
     }
 
-    // Says what became of the file that was to be written, too.
+    // Says what became of the files that were to be written, too.
     void say_last(const std::string& message) {
-        const std::string file =
-            output_.abandon() ? "; " + shown(options_.output) + " is as it was" : "";
-        write_messages("kavi-tn: " + message + file + "\n");
+        std::string files;
+        if (output_.abandon()) files += "; " + shown(options_.output) + " is as it was";
+        if (findings_file_.abandon()) files += "; " + shown(options_.findings) + " is as it was";
+        write_messages("kavi-tn: " + message + files + "\n");
         std::cerr.flush();
     }
 
@@ -156,11 +165,17 @@ class Run {
         if (error == 0) return;
         if (error == EPIPE && had_pipe_signal_) {
             output_.abandon();
+            findings_file_.abandon();
             die_by(SIGPIPE);
         }
         const std::string name =
             options_.output.empty() ? "standard output" : shown(options_.output);
-        fail("cannot write " + name + ": " + std::strerror(error));
+        fail("cannot write " + name + ": " + Output::describe(error));
+    }
+
+    void require_findings_written(int error) {
+        if (error == 0) return;
+        fail("cannot write " + shown(options_.findings) + ": " + Output::describe(error));
     }
 
     const Options& options_;
@@ -169,6 +184,7 @@ class Run {
     std::vector<std::thread> threads_;
     Output output_;
     bool is_shown_ = false;  // the output is for people, who look at it on a terminal
+    Output findings_file_;
     Readings readings_;
     Progress progress_;
     FindingsReport findings_;

@@ -7,7 +7,9 @@
 namespace kavi::tool {
 
 Renderer::Renderer(const Options& options, const Everyday* everyday)
-    : delimiter_(options.delimiter), format_(make_format(options)) {
+    : delimiter_(options.delimiter),
+      writes_findings_(!options.findings.empty()),
+      format_(make_format(options)) {
     host_.rewrite_by(everyday);
 }
 
@@ -57,10 +59,13 @@ void Renderer::render_text(Place place, After after) {
         },
         [&](const Diagnostic& diagnostic) {
             diagnostics_.push_back(diagnostic);
+            const std::string message = describe(diagnostic, place.text);
             piece_.findings.push_back(
                 {diagnostic.finding, shown(place.input) + ":" + std::to_string(place.line) +
                                          ": byte " + std::to_string(diagnostic.offset) + ": " +
-                                         describe(diagnostic, place.text) + "\n"});
+                                         message + "\n"});
+            if (!writes_findings_) return true;
+            piece_.findings.back().json = json_line(diagnostic, place.input, place.line, message);
             return true;
         });
     format_->end_text(place, diagnostics_, piece_.output);

@@ -43,6 +43,7 @@ class Renderer {
     void hand_over_if_large(std::size_t end, const Take& take);
 
     char delimiter_;
+    bool writes_findings_;
     Rendered piece_;         // the one at hand
     std::size_t taken_ = 0;  // bytes of the block that the pieces before it stand for
     TtsHost host_;

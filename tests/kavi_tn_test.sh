@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
 # The command line as a user types it. Usage: kavi_tn_test.sh PATH-OF-KAVI-TN SAMPLE
 set -uo pipefail
-tool=$(realpath "$1") sample=$(realpath "$2") table=$(realpath "$(dirname "$0")/tables/command_line.txt")
+tool=$(realpath "$1")
+sample=$(realpath "$2")
+table=$(realpath "$(dirname "$0")/tables/command_line.txt")
+slurm=$(realpath "$(dirname "$0")/../scripts/cluster/slurm")
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'rm -rf "$work" "$work".*' EXIT
 cd "$work" || exit 1
 failures=0
 # expect NAME EXPECTED ACTUAL
@@ -15,6 +18,18 @@ expect() {
 # said COMMAND...: its first message
 said() { "$@" 2>&1 >/dev/null | head -n 1; }
 
+# Slurm that does a job at once, and a PATH with little in it.
+mkdir "$work.path" "$work.bare"
+cat >"$work.path/sbatch" <<'SCRIPT'
+#!/usr/bin/env bash
+while [ "$1" != --output ]; do [ "$1" = --array ] && parts=$2; shift; done
+for SLURM_ARRAY_TASK_ID in ${parts//,/ }; do export SLURM_ARRAY_TASK_ID; "${@:3}"; done
+echo 1
+SCRIPT
+ln -s /bin/true "$work.path/squeue"
+chmod +x "$work.path/sbatch"
+for program in env bash realpath sed head stat mkdir diff cat mv; do ln -s "$(command -v $program)" "$work.bare"; done
+slurm() { PATH=${folders:-$work.path:$PATH} "$slurm" "$@" 2>&1 | sed "s#$work/##g"; }
 # The table's rows.
 at_terminal() { TERM=dumb python3 -c 'import pty, sys; pty.spawn(sys.argv[1:])' "$@" | tr -d '\r'; }
 PATH=$(dirname "$tool"):$PATH
@@ -24,7 +39,7 @@ while IFS= read -r line; do
     name=${BASH_REMATCH[1]} command=${BASH_REMATCH[2]} expected=${BASH_REMATCH[3]}
     written=$(eval "$command" 2>&1 </dev/null; ended=$?; [ $ended = 0 ] || echo "[$ended]")
     written=${written//$'\n['/[}
-    expect "$name: $command" "$expected" "${written//$'\n'/|}"
+    expect "$name: $command" "${expected//\$work/$work}" "${written//$'\n'/|}"
 done <"$table"
 
 # The parts of files, however many, are the run over all of them.

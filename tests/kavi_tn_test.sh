@@ -118,8 +118,8 @@ for signal in INT TERM HUP QUIT ALRM USR1 USR2 XCPU; do
 done
 # A file that is mounted cannot be replaced.
 if unshare -m mount --bind all out 2>/dev/null; then
-    expect 'a mounted file is written' 'cannot write out: it is an input|a|b' "$(unshare -m sh -c "
-        mount --bind all out; '$tool' out -o out; cat out; '$tool' -t b -o out; cat out" 2>&1 | sed 's/^kavi-tn: //' | paste -sd'|')"
+    expect 'a mounted file is written' 'cannot write out: it is an input|a b|c' "$(unshare -m sh -c "
+        echo a b >all; mount --bind all out; '$tool' out -o out; cat out; '$tool' -t c -o out; cat out" 2>&1 | sed 's/^kavi-tn: //' | paste -sd'|')"
 fi
 # The output blocks, and the program ends all the same.
 mkfifo pipe && exec 3<>pipe

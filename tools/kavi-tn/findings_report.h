@@ -12,9 +12,6 @@
 
 namespace kavi::tool {
 
-// A finding in one clear sentence, with the characters that it is about.
-std::string describe(const Diagnostic& diagnostic, std::string_view text);
-
 // A finding, the line to write about it, and the same as an object in a line of JSON, if that is
 // wanted.
 struct FindingMessage {

@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "findings_report.h"
+#include "finding_text.h"
 #include "format.h"
 #include "html_page.h"
 #include "names.h"

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "findings_report.h"
+#include "finding_text.h"
 #include "format.h"
 #include "names.h"
 #include "text_buffer.h"

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "block_reader.h"
+#include "finding_text.h"
 #include "findings_report.h"
 #include "format.h"
 

@@ -1,0 +1,17 @@
+// A finding as people read it.
+#ifndef KAVI_TOOL_FINDING_TEXT_H
+#define KAVI_TOOL_FINDING_TEXT_H
+
+#include <string>
+#include <string_view>
+
+#include "tts_findings.h"
+
+namespace kavi::tool {
+
+// One clear sentence, with the characters that the finding is about.
+std::string describe(const Diagnostic& diagnostic, std::string_view text);
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_FINDING_TEXT_H

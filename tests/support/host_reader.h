@@ -105,6 +105,9 @@ inline ReadText read_by_layer(TtsHost& host, std::string_view text) {
         },
         [&](const Diagnostic& diagnostic) {
             result.diagnostics.push_back(diagnostic);
+            if (diagnostic.offset + diagnostic.length > text.size()) {
+                result.fault = "a finding after the end of the text";
+            }
             return true;
         });
     return result;

@@ -36,7 +36,9 @@ const char* describe(Finding finding);
 struct Diagnostic {
     std::size_t offset;  // of the first byte it is about, in the text given to read()
     Finding finding;
-    std::size_t length = 1;  // in bytes, of what is not spoken or a foreign tag; else 1
+    // In bytes, of what is not spoken or of a foreign tag; else 1, or 0 where nothing is written: a
+    // tag that closes a span where the text was cut.
+    std::size_t length = 1;
 };
 
 }  // namespace kavi

@@ -50,7 +50,7 @@ void SourceMap::drop_before(std::size_t position) {
 }
 
 void SourceMap::detach_at(std::size_t position) {
-    if (is_joint(position)) return;
+    if (JointCursor(*this, position).is_joint(position)) return;
     SourcePiece& piece = pieces_[static_cast<std::size_t>(piece_at(position) - pieces_.begin())];
     piece.length = piece.at + piece.length - position;
     piece.at = position;
@@ -75,11 +75,6 @@ TextRange SourceMap::source_of(std::size_t begin, std::size_t end) const {
     const std::size_t source_end = last->is_copy ? last->source.offset + (end - last->at)
                                                  : last->source.offset + last->source.length;
     return {offset, source_end - offset};
-}
-
-bool SourceMap::is_joint(std::size_t position) const {
-    const Iterator piece = piece_at(position);
-    return piece == pieces_.end() || piece->is_copy || position <= piece->at;
 }
 
 SourceMap::Iterator SourceMap::piece_at(std::size_t position) const {

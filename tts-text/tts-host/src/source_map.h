@@ -49,8 +49,23 @@ class SourceMap {
     // an empty range, an empty one.
     TextRange source_of(std::size_t begin, std::size_t end) const;
 
-    // Whether the text may be parted at `position`: in a copy, or between two pieces.
-    bool is_joint(std::size_t position) const;
+    // Tells of one position after the other whether the text may be parted there: in a copy, or
+    // between two pieces.
+    class JointCursor {
+      public:
+        JointCursor(const SourceMap& map, std::size_t position)
+            : piece_(map.piece_at(position)), end_(map.pieces_.end()) {}
+
+        // For a position that is not before the last one.
+        bool is_joint(std::size_t position) {
+            while (piece_ != end_ && piece_->at + piece_->length <= position) ++piece_;
+            return piece_ == end_ || piece_->is_copy || position <= piece_->at;
+        }
+
+      private:
+        std::vector<SourcePiece>::const_iterator piece_;
+        std::vector<SourcePiece>::const_iterator end_;
+    };
 
     const std::vector<SourcePiece>& pieces() const { return pieces_; }
     std::size_t end() const { return end_; }

@@ -355,8 +355,9 @@ bool TextWindow::leave_out(std::size_t length) {
 std::size_t TextWindow::cut_position(std::size_t size, bool inside_rewritings) const {
     const std::string_view text(buffer_ + begin_, length());
     const std::size_t limit = prefix_ + size;
+    SourceMap::JointCursor joints(map_, origin_ + begin_ + prefix_);
     const auto may_cut = [&](std::size_t at) {
-        return inside_rewritings || map_.is_joint(origin_ + begin_ + at);
+        return inside_rewritings || joints.is_joint(origin_ + begin_ + at);
     };
     std::size_t after_blank = 0;
     std::size_t between = 0;  // words, numbers, characters or tags

@@ -58,6 +58,7 @@ class TtsHost::State final : SentencePlaces {
     };
 
     bool read_piece();
+    bool read_shorter(std::size_t size, bool inside_rewritings);
     bool read_sentence(std::size_t cut);
     void release_records();
     void collect_diagnostics(bool done);
@@ -95,6 +96,7 @@ class TtsHost::State final : SentencePlaces {
     host::ReadingPlaces reading_places_;
     tn::TextEvents events_;                            // in the speakable text
     WordPlace places_[tn::TextEvents::WORDS_MAX + 1];  // of its records
+    bool was_passed_over_ = false;  // the last piece, since the arena did not hold it
     bool are_pieces_known_ = false;
     bool are_words_known_ = false;
     char normalized_[SZ_TEXT_MAX_LEN] = {};
@@ -110,6 +112,7 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
     bool all_read = true;
     std::size_t begin = 0;  // of the next sentence's source
     window_.begin(text, rewriter_);
+    was_passed_over_ = false;
     findings_.begin_text();
     for (bool moved = false; window_.fill(moved);) {
         if (moved) abbreviations_.reset();
@@ -139,16 +142,26 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
 
 // The first sentence of the window, or of a shorter and shorter piece of it until the engine's
 // buffers and the arena hold what it reads as: as a last resort inside the words of a rewriting.
-// False when not even the shortest was read.
+// False when not even the shortest was read: of what follows that, only the shortest is tried, so
+// that a text that an arena does not hold at all costs no more than others.
 bool TtsHost::State::read_piece() {
-    bool done = read_sentence(window_.length());
+    const bool is_hopeless = was_passed_over_;
+    bool done = !is_hopeless && read_sentence(window_.length());
     if (rest_ == window_.text() + window_.length() && !window_.holds_rest()) done = false;
-    for (const bool inside_rewritings : {false, true}) {
-        for (std::size_t size = LONG_PIECE; !done && size >= SHORTEST_PIECE; size /= 2) {
-            abbreviations_.reset();  // what it remembers is of another piece
-            done = read_sentence(window_.cut_position(size, inside_rewritings));
-            abbreviations_.reset();
-        }
+    done = done || read_shorter(is_hopeless ? SHORTEST_PIECE : LONG_PIECE, false);
+    const bool is_in_rewriting = !done && window_.cut_position(SHORTEST_PIECE, true) !=
+                                              window_.cut_position(SHORTEST_PIECE, false);
+    if (is_in_rewriting) done = read_shorter(is_hopeless ? SHORTEST_PIECE : LONG_PIECE, true);
+    was_passed_over_ = !done;
+    return done;
+}
+
+bool TtsHost::State::read_shorter(std::size_t size, bool inside_rewritings) {
+    bool done = false;
+    for (; !done && size >= SHORTEST_PIECE; size /= 2) {
+        abbreviations_.reset();  // what it remembers is of another piece
+        done = read_sentence(window_.cut_position(size, inside_rewritings));
+        abbreviations_.reset();
     }
     return done;
 }
@@ -199,7 +212,9 @@ void TtsHost::State::collect_diagnostics(bool done) {
     }
     // They come nearly in the order of their offsets.
     for (const Diagnostic& finding : findings_.tell()) {
-        const Diagnostic found = {source_of(finding.offset, 1).offset, finding.finding};
+        const TextRange source = source_of(finding.offset, 1);  // empty for a tag of the cut
+        const Diagnostic found = {source.offset, finding.finding,
+                                  std::min<std::size_t>(source.length, 1)};
         const bool is_told = finding.finding == Finding::mark_not_spoken &&
                              window_.has_finding_at(found.offset);  // of a "<"
         if (is_told) continue;

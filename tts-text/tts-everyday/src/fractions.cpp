@@ -13,16 +13,24 @@ struct SignRow {
 
 // clang-format off
 constexpr SignRow SIGNS[] = {
-    {"½",     "one half"},
-    {"¼",     "one quarter"},
-    {"¾",     "three quarters"},
+    {"½", "one half"},
+    {"¼", "one quarter"},
+    {"¾", "three quarters"},
     {"⅓", "one third"},
     {"⅔", "two thirds"},
+    {"⅕", "one fifth"},
+    {"⅖", "two fifths"},
+    {"⅗", "three fifths"},
+    {"⅘", "four fifths"},
+    {"⅙", "one sixth"},
+    {"⅚", "five sixths"},
+    {"⅐", "one seventh"},
     {"⅛", "one eighth"},
     {"⅜", "three eighths"},
     {"⅝", "five eighths"},
     {"⅞", "seven eighths"},
-    {"⅕", "one fifth"},
+    {"⅑", "one ninth"},
+    {"⅒", "one tenth"},
 };
 // clang-format on
 

@@ -182,6 +182,13 @@ TEST(Rewriter, LongWordsWithMarkup_AreReadWithoutIt) {
     }));
 }
 
+TEST(Rewriter, WordsThatWouldMakeATag_MakeNone) {
+    const ReadText read = read_with(all_classes(), "<poem=a>x</pro'sody>y</poem> <9 z");
+    EXPECT_EQ(read.fault, "");
+    EXPECT_TRUE(read.all_read);
+    EXPECT_EQ(read.words, (std::vector<std::string>{"x", "prosody", "larger", "y", "nine", "z"}));
+}
+
 TEST(Everyday, ReadsNoMoreThanItShould) {
     const Everyday everyday = all_classes();
     expect_table("everyday_left", [&](const std::string& text) {

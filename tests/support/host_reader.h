@@ -30,7 +30,10 @@ inline std::string fault_of_places(const HostSentence& sentence, std::string_vie
         if (piece.source.offset + piece.source.length > end)
             return "a piece is not of this sentence";
         std::string copy(text.substr(piece.source.offset, piece.source.length));
-        std::replace(copy.begin(), copy.end(), '\0', ' ');
+        for (std::size_t i = 0; piece.is_copy && i < copy.size(); ++i) {
+            const bool is_blank = copy[i] == '\0' || copy[i] == '<';  // may be read as one
+            if (is_blank && sentence.normalized[piece.at + i] == ' ') copy[i] = ' ';
+        }
         if (piece.is_copy && sentence.normalized.substr(piece.at, piece.length) != copy)
             return "a piece is no copy";
     }

@@ -135,11 +135,11 @@ void shield(char after, std::string& words) {
 }
 
 // Makes words be words of their own between two characters, with a blank where those are of a word
-// or a number; after "<", so that they do not make a markup tag.
+// or a number.
 void set_apart(char before, char after, std::string& words) {
     if (words.empty()) words = " ";
     const auto joins = [](char c) { return is_letter(c) || is_outside_ascii(c) || is_digit(c); };
-    if (is_letter(words[0]) && (joins(before) || before == '<')) words.insert(0, 1, ' ');
+    if (is_letter(words[0]) && joins(before)) words.insert(0, 1, ' ');
     if (is_letter(words.back()) && joins(after)) words += ' ';
 }
 

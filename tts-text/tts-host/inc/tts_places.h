@@ -27,7 +27,8 @@ struct SourcePiece {
     std::size_t at;  // in the normalised sentence
     std::size_t length;
     TextRange source;
-    bool is_copy;  // byte for byte
+    bool
+        is_copy;  // byte for byte; a NUL, and a "<" that words must not make a tag with, is a blank
     RuleId by;
 };
 

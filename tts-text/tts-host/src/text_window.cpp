@@ -57,6 +57,17 @@ bool is_boundary(char before, char after) {
            !(tn::is_digit(before) && tn::is_digit(after)) && !is_continuation(after);
 }
 
+// Whether a markup tag may begin as `text` does, of which the beginning alone is none.
+bool may_make_tag(std::string_view beginning, std::string_view text) {
+    return !beginning.empty() &&
+           std::any_of(std::begin(tn::MARKUP_TAGS), std::end(tn::MARKUP_TAGS),
+                       [=](const tn::MarkupTag& tag) {
+                           const std::size_t size = tag.prefix.size();
+                           return beginning.size() < size &&
+                                  tn::begins_with(tag.prefix, text.substr(0, size));
+                       });
+}
+
 bool is_removed_tag(std::string_view text, std::size_t tag_length) {
     return tag_length > 0 && tn::find_markup_tag(text)->kind == tn::TagKind::removed;
 }
@@ -192,11 +203,15 @@ bool TextWindow::feed() {
     }
 }
 
-// As many of the words as there is room for. Where those before were cut off, the rest has no
-// source.
+// As many of the words as there is room for. They must not make a tag with what is before them.
+// Where those before were cut off, the rest has no source.
 bool TextWindow::feed_rewriting() {
     const std::string_view words = std::string_view(rewriting_.words).substr(words_fed_, room());
     std::memcpy(buffer_ + end_, words.data(), words.size());
+    const std::string_view before = tag_beginning();
+    if (may_make_tag(before, {before.data(), before.size() + words.size()})) {
+        buffer_[before.data() - buffer_] = ' ';
+    }
     const std::vector<SourcePiece>& fed = map_.pieces();
     const bool goes_on = words_fed_ > 0 && !fed.empty() && fed.back().source.length > 0;
     const std::size_t source_end = rewriting_.source.offset + rewriting_.source.length;
@@ -273,23 +288,19 @@ bool TextWindow::feed_as_text(Finding finding, bool keep) {
 
 // The engine takes it out, and what stood before and after it could make a tag together.
 bool TextWindow::feed_removed(std::string_view tag) {
-    const bool joins = ends_in_tag_beginning();
+    const std::string_view before = tag_beginning();
+    const bool joins = may_make_tag(before, before);
     const bool too_long = tag.size() > REMOVED_TAG_MAX && text_.size() >= SZ_TEXT_MAX_LEN;
     if (!joins && !too_long) return copy_without_nuls(tag);
     if (joins) report(Finding::tag_inside_tag);
     return leave_out(tag.size());
 }
 
-bool TextWindow::ends_in_tag_beginning() const {
+std::string_view TextWindow::tag_beginning() const {
     constexpr std::size_t LONGEST = std::string_view("</quill_effect").size();
     const std::size_t length = std::min(end_, LONGEST);
     const std::string_view end(buffer_ + end_ - length, length);
-    const std::string_view beginning = end.substr(std::min(end.rfind('<'), end.size()));
-    return !beginning.empty() && std::any_of(std::begin(tn::MARKUP_TAGS), std::end(tn::MARKUP_TAGS),
-                                             [=](const tn::MarkupTag& tag) {
-                                                 return beginning.size() < tag.prefix.size() &&
-                                                        tn::begins_with(tag.prefix, beginning);
-                                             });
+    return end.substr(std::min(end.rfind('<'), end.size()));
 }
 
 // A tag that is left out takes its closing tag with it.

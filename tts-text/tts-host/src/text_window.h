@@ -140,7 +140,8 @@ class TextWindow {
     bool copy_without_nuls(std::string_view piece);
     bool leave_out(std::size_t length);
 
-    bool ends_in_tag_beginning() const;
+    // From the last "<" on, where that is so near that a tag's name may not have ended yet.
+    std::string_view tag_beginning() const;
     void report(Finding finding) { findings_.push_back({next_, finding}); }
 
     std::deque<Diagnostic> findings_;

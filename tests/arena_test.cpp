@@ -81,7 +81,7 @@ class Steps {
         char* end = nullptr;
         std::size_t i = number(step.c_str() + 1, &end);
         do {
-            if (in_use_.erase(blocks_[i]) > 0) {
+            if (i < blocks_.size() && in_use_.erase(blocks_[i]) > 0) {
                 mem_stack_release_buf(blocks_[i], 0, MEM_COMMON, arena_);
             }
         } while (*end == '+' && ++i < blocks_.size());

@@ -14,7 +14,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 FOLDERS = ["tts-common/src", "tts-text/tts-tn/src", "tts-text/tts-host/src", "tools/kavi-tn"]
 WORKERS = os.cpu_count() or 1
-SECONDS = 20  # a fault that makes the tests run longer is noticed
+SECONDS = 60  # a fault that makes the tests run longer is noticed
 
 # The programs that must notice a fault, the quickest first. They are built with -O1: the compiler takes
 # a little longer, the tests a quarter of their time.

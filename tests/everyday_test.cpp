@@ -138,7 +138,7 @@ TEST(Everyday, LongSentence_IsCutBetweenRewritings) {
     for (int i = 0; i < 200; ++i) text += "It cost $1,234,567 and ";
     const std::vector<std::string> words = read_with(everyday, text).words;
     EXPECT_EQ(words.size(), 200U * 17);
-    for (const std::size_t capacity : {0, 30000, 15000}) {
+    for (const std::size_t capacity : {0U, 30000U, 15000U}) {
         TtsHost host(capacity);
         host.rewrite_by(&everyday);
         const ReadText read = read_by_layer(host, text);

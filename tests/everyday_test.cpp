@@ -172,7 +172,7 @@ class BadRewriter final : public TextRewriter {
 
 TEST(Rewriter, LongWordsWithMarkup_AreReadWithoutIt) {
     const BadRewriter bad;
-    const ReadText read = read_with(bad, "<poem=x>x y x</poem>");
+    const ReadText read = read_with(bad, "<poem=xx>x y x</poem>");
     EXPECT_TRUE(read.all_read);
     EXPECT_EQ(read.fault, "");
     EXPECT_EQ(read.words.size(), 2U * (6000 * 2 + 4) + 1);

@@ -19,7 +19,7 @@ bool is_zero(std::string_view digits) {
 }
 
 bool is_zero_number(const tn::Token& token) {
-    return tn::is_number(&token) && is_zero(token.text());
+    return is_zero(token.text());
 }
 
 // Whether a zero among the numbers of a step is said, or not said by English either: the last ones

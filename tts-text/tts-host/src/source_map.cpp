@@ -5,10 +5,10 @@
 namespace kavi::host {
 
 void SourceMap::copied(std::size_t offset, std::size_t length) {
-    if (length == 0) return;
+    source_end_ = offset + length;
     if (!pieces_.empty()) {
         SourcePiece& last = pieces_.back();
-        if (last.is_copy && last.source.offset + last.source.length == offset) {
+        if (last.is_copy) {
             last.length += length;
             last.source.length += length;
             end_ += length;
@@ -21,6 +21,7 @@ void SourceMap::copied(std::size_t offset, std::size_t length) {
 
 void SourceMap::replaced(std::size_t length, TextRange source, const RuleId& by) {
     end_ += length;
+    source_end_ = source.offset + source.length;
     if (!pieces_.empty() && source.length > 0) {
         SourcePiece& last = pieces_.back();
         const bool is_same = !last.is_copy && last.source.offset == source.offset &&
@@ -59,16 +60,13 @@ void SourceMap::detach_at(std::size_t position) {
 
 std::size_t SourceMap::offset_of(std::size_t position) const {
     const Iterator piece = piece_at(position);
-    if (piece == pieces_.end()) {
-        return pieces_.empty() ? 0 : pieces_.back().source.offset + pieces_.back().source.length;
-    }
+    if (piece == pieces_.end()) return source_end_;
     if (piece->is_copy) return piece->source.offset + (position - piece->at);
     return piece->source.offset + (position > piece->at ? piece->source.length : 0);
 }
 
 TextRange SourceMap::source_of(std::size_t begin, std::size_t end) const {
     const Iterator first = piece_at(begin);
-    if (begin == end || first == pieces_.end()) return {offset_of(begin), 0};
     const std::size_t offset =
         first->is_copy ? first->source.offset + (begin - first->at) : first->source.offset;
     const Iterator last = piece_at(end - 1);

@@ -16,12 +16,12 @@ class SourceMap {
   public:
     void clear() {
         pieces_.clear();
-        end_ = 0;
+        end_ = source_end_ = 0;
     }
 
     // ---- the made text goes on with ----
 
-    // A copy of `length` bytes at `offset`.
+    // A copy of `length` bytes at `offset`, where the source of a copy before it ends.
     void copied(std::size_t offset, std::size_t length);
 
     // `length` bytes that stand for `source` as a whole, or go on with what does; without a length:
@@ -45,8 +45,8 @@ class SourceMap {
     // its source. At the end, where the source of the last piece ends.
     std::size_t offset_of(std::size_t position) const;
 
-    // The source of the bytes from `begin` to `end`: all of what was replaced for any of them. Of
-    // an empty range, an empty one.
+    // The source of the bytes from `begin` to `end`: all of what was replaced for any of
+    // them. At least one byte.
     TextRange source_of(std::size_t begin, std::size_t end) const;
 
     // Tells of one position after the other whether the text may be parted there: in a copy, or
@@ -78,6 +78,7 @@ class SourceMap {
 
     std::vector<SourcePiece> pieces_;
     std::size_t end_ = 0;
+    std::size_t source_end_ = 0;  // of the last piece
 };
 
 }  // namespace kavi::host

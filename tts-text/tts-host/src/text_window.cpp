@@ -213,7 +213,10 @@ bool TextWindow::feed_rewriting() {
         buffer_[before.data() - buffer_] = ' ';
     }
     const std::vector<SourcePiece>& fed = map_.pieces();
-    const bool goes_on = words_fed_ > 0 && !fed.empty() && fed.back().source.length > 0;
+    const bool goes_on =
+        words_fed_ > 0 &&
+        std::any_of(fed.end() - std::min<std::ptrdiff_t>(1, std::distance(fed.begin(), fed.end())),
+                    fed.end(), [](const SourcePiece& last) { return last.source.length > 0; });
     const std::size_t source_end = rewriting_.source.offset + rewriting_.source.length;
     const bool has_source = words_fed_ == 0 || goes_on;
     map_.replaced(words.size(), has_source ? rewriting_.source : TextRange{source_end, 0},

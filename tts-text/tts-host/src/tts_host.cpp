@@ -145,13 +145,13 @@ bool TtsHost::State::read(std::string_view text, const SentenceHandler& on_sente
 // False when not even the shortest was read: of what follows that, only the shortest is tried, so
 // that a text that an arena does not hold at all costs no more than others.
 bool TtsHost::State::read_piece() {
-    const bool is_hopeless = was_passed_over_;
-    bool done = !is_hopeless && read_sentence(window_.length());
+    const std::size_t longest = was_passed_over_ ? SHORTEST_PIECE : LONG_PIECE;
+    bool done = !was_passed_over_ && read_sentence(window_.length());
     if (rest_ == window_.text() + window_.length() && !window_.holds_rest()) done = false;
-    done = done || read_shorter(is_hopeless ? SHORTEST_PIECE : LONG_PIECE, false);
+    done = done || read_shorter(longest, false);
     const bool is_in_rewriting = !done && window_.cut_position(SHORTEST_PIECE, true) !=
                                               window_.cut_position(SHORTEST_PIECE, false);
-    if (is_in_rewriting) done = read_shorter(is_hopeless ? SHORTEST_PIECE : LONG_PIECE, true);
+    if (is_in_rewriting) done = read_shorter(longest, true);
     was_passed_over_ = !done;
     return done;
 }

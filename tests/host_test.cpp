@@ -7,6 +7,7 @@
 
 #include "expect_table.h"
 #include "host_reader.h"
+#include "refused_malloc.h"
 
 namespace kavi {
 namespace {
@@ -344,6 +345,11 @@ TEST(Host, ReadsOnAnArenaThatIsHandedInAndLeavesNothingThere) {
     }
     EXPECT_NE(mem_stack_request_buf(1, MEM_COMMON, arena), nullptr);
     mem_stack_destroy(arena);
+}
+
+TEST(Host, ArenaThatIsRefused_Throws) {
+    RefusedMalloc refused;
+    EXPECT_THROW(TtsHost(), std::bad_alloc);
 }
 
 TEST(Host, OneTextLeavesNothingToTheNext) {

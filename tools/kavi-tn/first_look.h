@@ -15,7 +15,7 @@ constexpr std::size_t LONGEST_SIGNATURE = 10;
 // What an input is instead of UTF-8, which is not read, and the line to type; empty for all others.
 std::string other_than_text(std::string_view bytes, char delimiter);
 
-// Whether there are so many control characters that it is no text, as it seems. It is read all the
+// Whether it seems to be binary, by its share of control characters. It is read all the
 // same.
 bool is_binary(std::string_view bytes, char delimiter);
 

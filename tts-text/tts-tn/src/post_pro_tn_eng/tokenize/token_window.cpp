@@ -70,7 +70,7 @@ const Token* TokenWindow::begin(const char* text) {
 
 // ---- the row ----
 
-// A row whose first token is what comes next. Nothing stands before it.
+// A row whose first token is the next one, with none before it.
 const Token* TokenWindow::begin_row() {
     tokens_[0] = NO_TOKEN;
     tokens_[1] = NO_TOKEN;  // not copied from the first: loading it would wait for its stores

@@ -45,7 +45,7 @@ class TokenWindow {
     TokenWindow(const TokenWindow&) = delete;
     TokenWindow& operator=(const TokenWindow&) = delete;
 
-    // The token at `text`, a place in the text. Nothing stands before it.
+    // The token at `text`, a place in the text. It has none before it.
     const Token* begin(const char* text);
 
     // The token of the queue's head.

@@ -122,9 +122,9 @@ await page.evaluate(text => {
   const area = document.getElementById('text');
   area.value = text; // as a paste does; to type it by script takes the browser minutes
   area.dispatchEvent(new Event('input'));
-}, 'We paid $5.50 to Dr. Lee on 3/1/2020, ok?\n'.repeat(25000));
+}, 'We paid $5.50 to Dr. Lee on 3/1/2020, ok?\n'.repeat(5000));
 await settled(page);
-await page.waitForFunction(() => document.querySelectorAll('#rows section').length === 25001);
-console.log(`1 MB pasted: ${((Date.now() - begin) / 1000).toFixed(1)} s until all of it is read`);
-assert.equal(await page.$$eval('#rows article', all => all.length), 50000);
+await page.waitForFunction(() => document.querySelectorAll('#rows section').length === 5001);
+console.log(`200 KB pasted: ${((Date.now() - begin) / 1000).toFixed(1)} s until all of it is read`);
+assert.equal(await page.$$eval('#rows article', all => all.length), 10000);
 await browser.close();

@@ -1,6 +1,7 @@
 #include "source_map.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace kavi::host {
 
@@ -9,6 +10,7 @@ void SourceMap::copied(std::size_t offset, std::size_t length) {
     if (!pieces_.empty()) {
         SourcePiece& last = pieces_.back();
         if (last.is_copy) {
+            assert(last.source.offset + last.source.length == offset);
             last.length += length;
             last.source.length += length;
             end_ += length;
@@ -32,6 +34,12 @@ void SourceMap::replaced(std::size_t length, TextRange source, const RuleId& by)
         }
     }
     pieces_.push_back({end_ - length, length, source, false, by});
+}
+
+void SourceMap::extended(std::size_t length) {
+    assert(!pieces_.empty() && !pieces_.back().is_copy);
+    pieces_.back().length += length;
+    end_ += length;
 }
 
 void SourceMap::append(const SourceMap& map, std::size_t begin, std::size_t end) {
@@ -66,6 +74,7 @@ std::size_t SourceMap::offset_of(std::size_t position) const {
 }
 
 TextRange SourceMap::source_of(std::size_t begin, std::size_t end) const {
+    assert(begin < end);
     const Iterator first = piece_at(begin);
     const std::size_t offset =
         first->is_copy ? first->source.offset + (begin - first->at) : first->source.offset;

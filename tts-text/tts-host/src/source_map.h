@@ -29,6 +29,9 @@ class SourceMap {
     // them.
     void replaced(std::size_t length, TextRange source, const RuleId& by = {});
 
+    // `length` more bytes of the piece at the end, which is no copy.
+    void extended(std::size_t length);
+
     // What `map` has from `begin` to `end`.
     void append(const SourceMap& map, std::size_t begin, std::size_t end);
 

@@ -204,7 +204,6 @@ bool TextWindow::feed() {
 }
 
 // As many of the words as there is room for. They must not make a tag with what is before them.
-// Where those before were cut off, the rest has no source.
 bool TextWindow::feed_rewriting() {
     const std::string_view words = std::string_view(rewriting_.words).substr(words_fed_, room());
     std::memcpy(buffer_ + end_, words.data(), words.size());
@@ -212,19 +211,15 @@ bool TextWindow::feed_rewriting() {
     if (may_make_tag(before, {before.data(), before.size() + words.size()})) {
         buffer_[before.data() - buffer_] = ' ';
     }
-    const std::vector<SourcePiece>& fed = map_.pieces();
-    const bool goes_on =
-        words_fed_ > 0 &&
-        std::any_of(fed.end() - std::min<std::ptrdiff_t>(1, std::distance(fed.begin(), fed.end())),
-                    fed.end(), [](const SourcePiece& last) { return last.source.length > 0; });
-    const std::size_t source_end = rewriting_.source.offset + rewriting_.source.length;
-    const bool has_source = words_fed_ == 0 || goes_on;
-    map_.replaced(words.size(), has_source ? rewriting_.source : TextRange{source_end, 0},
-                  rewriting_.by);
+    if (words_fed_ == 0) {
+        map_.replaced(words.size(), rewriting_.source, rewriting_.by);
+    } else {
+        map_.extended(words.size());
+    }
     end_ += words.size();
     words_fed_ += words.size();
     if (words_fed_ == rewriting_.words.size()) {
-        next_ = source_end;
+        next_ = rewriting_.source.offset + rewriting_.source.length;
         find_rewriting();
     }
     return true;

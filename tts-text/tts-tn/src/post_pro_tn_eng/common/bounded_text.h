@@ -30,15 +30,6 @@ class BoundedText {
         return true;
     }
 
-    // Appends the NUL-terminated text of a buffer, all of which may be copied.
-    template <std::size_t Size>
-    bool append_padded(const char (&buffer)[Size], std::size_t length) {
-        if (!has_room(Size)) return append({buffer, length});
-        std::memcpy(end_, buffer, Size);
-        end_ += length;
-        return true;
-    }
-
     // Appends the words, and then a blank. False when that has no room, or neither has.
     bool append_spaced(std::string_view words) {
         if (!has_room(words.size() + 1)) {

@@ -91,11 +91,6 @@ constexpr Eight no_digit(Eight c) {
     return from_colon | ~c << 1;
 }
 
-// A bit of each below "@", as are a blank, a "<" and what stands after a text.
-constexpr Eight below_letters(Eight c) {
-    return ~c & EACH * '@';
-}
-
 // Which of the eight the first marked one is.
 inline std::size_t first_of(Eight marked) {
     return static_cast<unsigned>(__builtin_ctzll(marked)) / 8;

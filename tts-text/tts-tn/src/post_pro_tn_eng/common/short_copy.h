@@ -8,11 +8,8 @@
 namespace kavi::tn {
 
 // Copies `n` characters. Up to 16 go as two pieces that may overlap, which is less than a call of
-// memcpy: for words. Compiled for size, all are one call.
+// memcpy: for words.
 inline void copy_short(char* target, const char* source, std::size_t n) {
-#ifdef __OPTIMIZE_SIZE__
-    std::memcpy(target, source, n);
-#else
     const auto copy_ends = [=](std::size_t piece) {
         std::memcpy(target, source, piece);
         std::memcpy(target + n - piece, source + n - piece, piece);
@@ -26,7 +23,6 @@ inline void copy_short(char* target, const char* source, std::size_t n) {
     } else {
         std::memcpy(target, source, n);
     }
-#endif
 }
 
 }  // namespace kavi::tn

@@ -13,9 +13,8 @@ namespace {
 constexpr std::size_t OPENING = 1;  // characters before the name
 constexpr std::size_t CLOSING = 2;
 
-// By name, and where the name is the same, by place. Out of line: three copies cost more than
-// calls.
-__attribute__((noinline)) bool is_before(std::string_view a, std::string_view b) {
+// By name, and where the name is the same, by place.
+bool is_before(std::string_view a, std::string_view b) {
     const int order = a.compare(b);
     return order != 0 ? order < 0 : a.data() < b.data();
 }
@@ -50,19 +49,8 @@ void SortedNames::add(std::string_view name) {
     new (end_++) std::string_view(name);
 }
 
-// By Shell's method: a few lines of code, and for the texts that a call is given as good as any.
 void SortedNames::sort() {
-    constexpr std::ptrdiff_t STEP = 3;
-    std::ptrdiff_t gap = 1;
-    while (gap < (end_ - begin_) / STEP) gap = gap * STEP + 1;
-    for (; gap > 0; gap /= STEP) {
-        for (std::string_view* next = begin_ + gap; next < end_; ++next) {
-            const std::string_view name = *next;
-            std::string_view* at = next;
-            for (; at - begin_ >= gap && is_before(name, at[-gap]); at -= gap) *at = at[-gap];
-            *at = name;
-        }
-    }
+    std::sort(begin_, end_, is_before);
 }
 
 const std::string_view* SortedNames::find(std::string_view name, const char* place) const {

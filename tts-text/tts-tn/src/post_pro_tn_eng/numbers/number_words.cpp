@@ -102,10 +102,8 @@ char* put_group(char* end, std::string_view text, bool ordinal) {
 
 constexpr std::size_t GROUP_MAX = 80;  // "seventeen hundred  and seventy seventeenth " and a row
 
-// Where there may be no room for all of the words. Out of line, so that the others do not pay for
-// its frame.
-__attribute__((noinline)) void append_last_group(std::string_view text, bool ordinal,
-                                                 Reading& reading) {
+// Where there may be no room for all of the words.
+void append_last_group(std::string_view text, bool ordinal, Reading& reading) {
     char words[GROUP_MAX];
     const char* end = put_group(words, text, ordinal);
     reading.append({words, static_cast<std::size_t>(end - words)});

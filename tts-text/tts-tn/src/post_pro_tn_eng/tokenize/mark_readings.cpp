@@ -32,40 +32,30 @@ constexpr MarkReading MARK_READINGS[25] = {
 };
 // clang-format on
 
-namespace {
-
-constexpr MarkText text(std::string_view words) {
-    MarkText text{};
-    for (const char c : words) text.text[text.length++] = c;
-    return text;
-}
-
-}  // namespace
-
 // clang-format off
-constexpr MarkText MARK_TEXTS[] = {
-    text(""),               // SILENT
-    text(" "),              // BLANK
-    text("<punc=dou> "),    // DOU
-    text("<punc=ju> "),     // JU
-    text("<punc=mao> "),    // MAO
-    text("<punc=fen> "),    // FEN
-    text("<punc=zuoyin> "), // ZUOYIN
-    text("<punc=wen>"),     // WEN
-    text("<punc=zuokuo>"),  // ZUOKUO
-    text("<punc=youkuo>"),  // YOUKUO
-    text("add "),           // ADD
-    text("subtract "),      // SUBTRACT
-    text("minus "),         // MINUS
-    text("multiply "),      // MULTIPLY
-    text("asterisk "),      // ASTERISK
-    text("divide "),        // DIVIDE
-    text("percent "),       // PERCENT
-    text("equal "),         // EQUAL
-    text("arrive "),        // ARRIVE
-    text("larger "),        // LARGER
-    text("at "),            // AT
-    text("smaller "),       // SMALLER
+constexpr std::string_view MARK_TEXTS[] = {
+    "",               // SILENT
+    " ",              // BLANK
+    "<punc=dou> ",    // DOU
+    "<punc=ju> ",     // JU
+    "<punc=mao> ",    // MAO
+    "<punc=fen> ",    // FEN
+    "<punc=zuoyin> ", // ZUOYIN
+    "<punc=wen>",     // WEN
+    "<punc=zuokuo>",  // ZUOKUO
+    "<punc=youkuo>",  // YOUKUO
+    "add ",           // ADD
+    "subtract ",      // SUBTRACT
+    "minus ",         // MINUS
+    "multiply ",      // MULTIPLY
+    "asterisk ",      // ASTERISK
+    "divide ",        // DIVIDE
+    "percent ",       // PERCENT
+    "equal ",         // EQUAL
+    "arrive ",        // ARRIVE
+    "larger ",        // LARGER
+    "at ",            // AT
+    "smaller ",       // SMALLER
 };
 // clang-format on
 

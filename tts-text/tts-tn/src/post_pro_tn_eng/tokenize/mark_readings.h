@@ -38,21 +38,14 @@ enum MarkWords : unsigned char {
     SMALLER,
 };
 
-struct MarkText {
-    char text[15];
-    unsigned char length;
-
-    operator std::string_view() const { return {text, length}; }
-};
-
 // In the order of MarkWords, from SILENT on.
-extern const MarkText MARK_TEXTS[SMALLER - SILENT + 1];
+extern const std::string_view MARK_TEXTS[SMALLER - SILENT + 1];
 
 // Appends words that are not READER, and then a blank when they are `spaced`. False when there is
 // no room.
 inline bool append_mark(MarkWords words, bool spaced, BoundedText& output) {
-    const MarkText& text = MARK_TEXTS[words - SILENT];
-    return spaced ? output.append_spaced(text) : output.append_padded(text.text, text.length);
+    const std::string_view text = MARK_TEXTS[words - SILENT];
+    return spaced ? output.append_spaced(text) : output.append(text);
 }
 
 // A mark's words after a number section, else before one, and otherwise. A mark that is in no row

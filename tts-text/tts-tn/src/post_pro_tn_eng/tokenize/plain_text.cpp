@@ -3,9 +3,6 @@
 #include <algorithm>
 
 #include "../common/runs.h"
-#include "../markup/markup_tags.h"
-#include "../readers/months.h"
-#include "../readers/readers.h"
 #include "../readers/words.h"
 #include "mark_readings.h"
 #include "section_cut.h"
@@ -20,16 +17,10 @@ std::string_view first_word(const char* text) {
     return {text, length};
 }
 
-// Whether a number may stand so near after a word that it is read with regard to it: there is at
-// most one section between them.
-bool number_may_follow(const char* after) {
-    return is_digit(after[0]) || (after[0] != '\0' && is_digit(after[1])) || after[0] == '<';
-}
-
 class PlainText {
   public:
-    PlainText(const char* text_end, TagEnds& tag_ends, TokenWindow& tokens, BoundedText& output)
-        : text_end_(text_end), tag_ends_(tag_ends), tokens_(tokens), output_(output) {}
+    PlainText(const char* text_end, TagEnds& tag_ends, BoundedText& output)
+        : text_end_(text_end), tag_ends_(tag_ends), output_(output) {}
 
     const char* read(const char* text, const ReadingObserver* observer) {
         for (;;) {
@@ -85,18 +76,13 @@ class PlainText {
 
     const char* other_word(const char* text) {
         const std::string_view word = first_word(text);
-        const char* end = text + word.size();
         switch (word_kind(word)) {
             case WordKind::telephone_label:
-                if (*end == '.') return text;
-                return output_.append("telephone ") ? end : nullptr;
-            case WordKind::month:
-                if (number_may_follow(end)) return text;
-                return output_.append_spaced(month_name(word)) ? end : nullptr;
+            case WordKind::month: return text;
             case WordKind::capitals: ask_lexicon(word); break;
             default: break;
         }
-        return output_.append_spaced(word) ? end : nullptr;
+        return output_.append_spaced(word) ? text + word.size() : nullptr;
     }
 
     const char* mark(const char* text) {
@@ -104,43 +90,23 @@ class PlainText {
         if (row == nullptr) return text + 1;
         const MarkWords words = words_of(*row, false, is_digit(text[1]));
         if (words == READER) {
-            switch (row->mark) {
-                case '<': return smaller(text);
-                case '\'': return apostrophe(text);
-                default: return text;
-            }
+            const std::string_view tag = first_section(text, tag_ends_);
+            if (tag.size() == 1) return text;
+            return output_.append_spaced(tag) ? text + tag.size() : nullptr;
         }
         return append_mark(words, row->spaced, output_) ? text + 1 : nullptr;
     }
 
-    const char* smaller(const char* text) {
-        const std::string_view tag = first_section(text, tag_ends_);
-        if (tag.size() > 1) return output_.append_spaced(tag) ? text + tag.size() : nullptr;
-        const bool is_spoken = text[1] == '\0' || begins_with(text + 1, "punc");
-        const bool greater_follows = !is_spoken && tokens_.greater_follows(text + 1);
-        const MarkWords words = smaller_words(is_spoken, greater_follows);
-        return append_mark(words, false, output_) ? text + 1 : nullptr;
-    }
-
-    const char* apostrophe(const char* text) {
-        const std::string_view letters = first_word(text + 1);
-        const std::string_view word = find_contraction(letters);
-        if (word.empty()) return text + 1;
-        return output_.append_spaced(word) ? text + 1 + letters.size() : nullptr;
-    }
-
     const char* text_end_;
     TagEnds& tag_ends_;
-    TokenWindow& tokens_;
     BoundedText& output_;
 };
 
 }  // namespace
 
 const char* read_plain_text(const char* text, const char* text_end, TagEnds& tag_ends,
-                            TokenWindow& tokens, BoundedText& output,
-                            const ReadingObserver* observer) {
-    return PlainText(text_end, tag_ends, tokens, output).read(text, observer);
+                            BoundedText& output, const ReadingObserver* observer) {
+    return PlainText(text_end, tag_ends, output).read(text, observer);
 }
 
 }  // namespace kavi::tn

@@ -137,11 +137,10 @@ bool TokenWindow::is_amount_before_dollar(const Token* number) {
 }
 
 bool TokenWindow::greater_follows(const Token* token) {
-    if (token->section == nullptr) return greater_follows(token->begin + token->length);
-    return greater_.find(token->section->m_pnext, index_of(token) + 1) != nullptr;
-}
-
-bool TokenWindow::greater_follows(const char* text) {
+    if (token->section != nullptr) {
+        return greater_.find(token->section->m_pnext, index_of(token) + 1) != nullptr;
+    }
+    const char* const text = token->begin + token->length;
     if (searched_ == nullptr || searched_ < text) searched_ = text;
     if (tags_ahead_.tag_at(searched_).empty()) return false;
     while (*searched_ != '\0' && *searched_ != '>') {

@@ -66,10 +66,8 @@ class TokenWindow {
     // Whether a "$" follows the amount that begins with this number.
     bool is_amount_before_dollar(const Token* number);
 
-    // Whether a section that begins with ">" comes after this one, or, in a text, from a place on
-    // where a section begins.
+    // Whether a section that begins with ">" comes after this one.
     bool greater_follows(const Token* token);
-    bool greater_follows(const char* text);
 
   private:
     static constexpr std::size_t CAPACITY = 31;

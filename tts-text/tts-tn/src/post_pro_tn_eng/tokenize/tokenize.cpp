@@ -22,7 +22,7 @@ int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObse
     TokenWindow tokens(TokenWindow::Reach::plain_word, tag_ends);
     const char* const text_end = sz_source_text + std::strlen(sz_source_text);
     for (const char* text = sz_source_text;;) {
-        text = read_plain_text(text, text_end, tag_ends, tokens, output, observer);
+        text = read_plain_text(text, text_end, tag_ends, output, observer);
         if (text == nullptr) return -1;
         if (*text == '\0') break;
         const WalkResult result = walk(tokens, tokens.begin(text), output, observer);

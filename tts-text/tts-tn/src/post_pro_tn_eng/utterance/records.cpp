@@ -7,7 +7,6 @@
 #include <cstring>
 #include <string_view>
 
-#include "../common/runs.h"
 #include "post_pro_tn_eng.h"
 #include "word_filler.h"
 
@@ -43,14 +42,6 @@ constexpr std::uint64_t key_of(std::string_view name) {
         key = key << 8 | static_cast<unsigned char>(name[i]);
     }
     return key;
-}
-
-// The same of a name that stands in its tag, after "<punc=": none of those below is shorter than
-// two characters, so eight that end with it stand in the text.
-std::uint64_t key_of_mark(std::string_view name) {
-    constexpr std::size_t MOST = sizeof(std::uint64_t);
-    if (name.size() < 2 || name.size() > MOST) return 0;
-    return tn::eight_of(name.data() + name.size() - MOST) >> (8 * (MOST - name.size()));
 }
 
 struct PuncName {
@@ -130,7 +121,7 @@ static void add_punc(UtteranceSyllable& record, std::uint64_t key) {
 bool tn::WordFiller::take_tag(const TextEvent& event) {
     const std::string_view text = event.text();
     if (event.kind == TextEventKind::punc) {  // the usual one
-        add_punc(record_[-1], key_of_mark(text));
+        add_punc(record_[-1], key_of(text));
         return true;
     }
     switch (event.kind) {

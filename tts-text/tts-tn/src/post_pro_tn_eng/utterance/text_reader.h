@@ -15,7 +15,6 @@ enum class TextEventKind : std::uint8_t { word, punc, breaktime, span_begin, spa
 
 // A piece of the text and what it is: a word; the name of a mark; a break time's value; the inside
 // of the tag that opens a span, name, "=" and value. A longer piece than any that counts is cut.
-// The character after it may be read.
 struct TextEvent {
     const char* begin;
     std::uint16_t length;
@@ -64,7 +63,7 @@ class TextEvents {
     int n_others_;  // than words
     char* characters_end_;
     TextEvent events_[WORDS_MAX];
-    char characters_[CHARACTERS + 1];  // of words put together, and one that may be read
+    char characters_[CHARACTERS];  // of words put together
 };
 
 // Is handed each list; false when no more are wanted.

@@ -40,8 +40,7 @@ class WordFiller {
         return spans_.enter(name, value);
     }
 
-    // At the default pause. A character that may be read stands after the word. False when the
-    // arena refused its storage: nothing is kept.
+    // At the default pause. False when the arena refused its storage: nothing is kept.
     bool store(std::string_view word) {
         constexpr std::size_t ZHUYIN_MIN = 128;
         constexpr std::size_t ZHUYIN_PER_CHARACTER = 10;
@@ -55,7 +54,7 @@ class WordFiller {
             record_->syllable = nullptr;
             return false;
         }
-        copy_short(syllable, word.data(), size);  // so that most words are not below four
+        copy_short(syllable, word.data(), word.size());
         syllable[word.size()] = '\0';
         // By pieces that become plain stores: of all of it, compilers make a string instruction,
         // which is slow to start.

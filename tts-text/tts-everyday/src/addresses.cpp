@@ -1,25 +1,12 @@
 // Telephone numbers, e-mail and web addresses.
 
-#include <algorithm>
-
 #include "rules.h"
 
 namespace kavi::everyday {
 
 namespace {
 
-// Telephone numbers as people write them: "d" is a digit. The longest first of those that begin
-// alike.
-constexpr std::string_view SHAPES[] = {
-    "+d (ddd) ddd-dddd", "+d-ddd-ddd-dddd",  "+d ddd-ddd-dddd",  "+d ddd ddd dddd",
-    "+dd dddd dddddd",   "+dd dd dddd dddd", "+dd ddd ddd dddd", "(ddd) ddd-dddd",
-    "d-ddd-ddd-dddd",    "ddd-ddd-dddd",     "ddd.ddd.dddd",     "ddd dddd dddd",
-    "ddd-dddd",
-};
-
-constexpr std::string_view DOMAINS[] = {"com", "org",  "net", "edu", "gov", "io", "uk", "de",
-                                        "co",  "info", "ie",  "ca",  "au",  "fr", "eu", "us"};
-
+// "d" in a shape is any digit.
 bool has_shape(const Place& place, std::string_view shape) {
     for (std::size_t i = 0; i < shape.size(); ++i) {
         const char c = place.peek(i);
@@ -42,15 +29,6 @@ bool is_of_address(char c) {
     return is_letter(c) || is_digit(c) || c == '.' || c == '-' || c == '_' || c == '+' || c == '%';
 }
 
-struct MarkRow {
-    char mark;
-    const char* spoken;
-};
-constexpr MarkRow MARKS[] = {
-    {'.', "dot"},   {'-', "dash"},    {'_', "underscore"}, {'+', "plus"},          {'@', "at"},
-    {'/', "slash"}, {'%', "percent"}, {'~', "tilde"},      {'?', "question mark"}, {'=', "equals"},
-    {'&', "and"},   {'#', "hash"},    {':', "colon"}};
-
 // An address, piece by piece: words as they are, digits one by one, marks by name.
 void say_address(std::string_view address, std::string& out) {
     while (!address.empty()) {
@@ -67,9 +45,8 @@ void say_address(std::string_view address, std::string& out) {
             length = place.digits().size();
             say_digits(address.substr(0, length), out);
         } else {
-            for (const MarkRow& row : MARKS) {
-                if (row.mark == address[0]) say(row.spoken, out);
-            }
+            const Row* mark = find(ADDRESS_MARKS, address.substr(0, 1));
+            if (mark != nullptr) say(mark->spoken, out);
         }
         address.remove_prefix(length);
     }
@@ -87,8 +64,7 @@ std::string_view trimmed(std::string_view address) {
 bool ends_in_domain(std::string_view host) {
     const std::size_t dot = host.rfind('.');
     if (dot == std::string_view::npos || dot == 0) return false;
-    const std::string_view last = host.substr(dot + 1);
-    return std::find(std::begin(DOMAINS), std::end(DOMAINS), last) != std::end(DOMAINS);
+    return find(DOMAINS, host.substr(dot + 1)) != nullptr;
 }
 
 }  // namespace
@@ -97,18 +73,18 @@ void read_telephone(const Place& place, Found& found) {
     const char c = place.peek();
     if (!is_digit(c) && c != '+' && c != '(') return;
     if (place.before() == '-' || place.before() == '.' || is_digit(place.before())) return;
-    for (const std::string_view shape : SHAPES) {
-        if (!has_shape(place, shape)) continue;
-        if (shape == "ddd dddd dddd" && c != '0') continue;
-        found.length = shape.size();
-        if (c == '+') say("plus", found.words);
-        for (std::size_t at = 0; at < shape.size(); ++at) {
-            if (!is_digit(place.peek(at))) continue;
-            const std::string_view group = place.digits(at);
-            say_group(group, found.words);
-            at += group.size() - 1;
-        }
-        return;
+    std::string_view shape;
+    // Of those that begin alike, the longest comes last.
+    for (const Row& row : TELEPHONE_SHAPES) {
+        if (has_shape(place, row.written)) shape = row.written;
+    }
+    found.length = shape.size();
+    if (c == '+' && !shape.empty()) say("plus", found.words);
+    for (std::size_t at = 0; at < shape.size(); ++at) {
+        if (!is_digit(place.peek(at))) continue;
+        const std::string_view group = place.digits(at);
+        say_group(group, found.words);
+        at += group.size() - 1;
     }
 }
 

@@ -1,40 +1,10 @@
 // Apostrophes, straight and curly.
 
-#include <iterator>
-
 #include "rules.h"
 
 namespace kavi::everyday {
 
 namespace {
-
-struct ContractionRow {
-    std::string_view written;
-    const char* spoken;
-};
-
-// Of these, all of the word is another.
-constexpr ContractionRow WHOLE[] = {
-    {"won't", "will not"}, {"can't", "cannot"},   {"shan't", "shall not"}, {"ain't", "aint"},
-    {"let's", "let us"},   {"o'clock", "oclock"}, {"ma'am", "maam"},       {"y'all", "yall"},
-    {"'n'", "and"},        {"'tis", "it is"},     {"'twas", "it was"},     {"'em", "them"},
-    {"'cause", "because"},
-};
-
-// These stand after the apostrophe; the words before it stay.
-constexpr ContractionRow ENDINGS[] = {
-    {"m", "am"}, {"ve", "have"}, {"ll", "will"}, {"re", "are"}, {"d", "would"},
-};
-
-// After these, "'s" is a verb; after others the genitive.
-constexpr std::string_view BEFORE_IS[] = {"it",    "he",    "she",  "that", "what", "who",
-                                          "where", "there", "here", "how",  "when", "why"};
-
-// The length of an apostrophe so far on; 0 for none.
-std::size_t apostrophe(const Place& place, std::size_t ahead) {
-    if (place.peek(ahead) == '\'') return 1;
-    return place.starts_with("’", ahead) || place.starts_with("‘", ahead) ? 3 : 0;
-}
 
 // The words as a sentence would begin with them.
 void capitalise(std::string& words) {
@@ -47,7 +17,7 @@ std::string word_with_apostrophes(const Place& place, std::size_t& length) {
     constexpr std::size_t LONGEST = 64;  // so that a chain of apostrophes is not read from each
     length = 0;
     while (length < LONGEST) {
-        const std::size_t mark = apostrophe(place, length);
+        const std::size_t mark = place.apostrophe(length);
         if (mark > 0 && (is_letter(place.peek(length + mark)) || word == "'n")) {
             word += '\'';
             length += mark;
@@ -65,14 +35,13 @@ std::string word_with_apostrophes(const Place& place, std::size_t& length) {
 
 void read_contraction(const Place& place, Found& found) {
     const std::string_view stem = place.letters();
-    const std::size_t mark = apostrophe(place, stem.size());
+    const std::size_t mark = place.apostrophe(stem.size());
     if (mark == 0) return;
     std::size_t length = 0;
     const std::string word = word_with_apostrophes(place, length);
-    for (const ContractionRow& row : WHOLE) {
-        if (word != row.written) continue;
+    if (const Row* row = find(CONTRACTIONS, word)) {
         found.length = length;
-        found.words = row.spoken;
+        found.words = row->spoken;
         if (is_upper(place.peek())) capitalise(found.words);
         return;
     }
@@ -90,20 +59,14 @@ void read_contraction(const Place& place, Found& found) {
         found.words = std::string(stem.substr(0, stem.size() - 1)) + " not";
         return;
     }
-    for (const ContractionRow& row : ENDINGS) {
-        if (lower != row.written) continue;
-        found.words = std::string(stem) + " " + row.spoken;
-        return;
+    found.words = stem;
+    if (const Row* row = find(CONTRACTION_ENDINGS, lower)) {
+        say(row->spoken, found.words);
+    } else if (lower == "s" && find(BEFORE_IS, in_lower_case(stem)) != nullptr) {
+        say("is", found.words);
+    } else {
+        found.words += ending;  // "Tom's", "O'Brien"
     }
-    if (lower == "s") {
-        const std::string before = in_lower_case(stem);
-        for (const std::string_view pronoun : BEFORE_IS) {
-            if (before != pronoun) continue;
-            found.words = std::string(stem) + " is";
-            return;
-        }
-    }
-    found.words = std::string(stem) + std::string(ending);  // "Tom's", "O'Brien"
 }
 
 }  // namespace kavi::everyday

@@ -2,6 +2,8 @@
 // rules that may read what begins with such a character.
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <iterator>
 
 #include "for_everyday.h"
@@ -24,44 +26,58 @@ using everyday::Place;
 struct RuleRow {
     EverydayClass everyday_class;
     everyday::Rule rule;
-    const char* name;
 };
 
 // The rules for what begins with a digit, a letter or another mark, in the order in which they are
 // tried. American dates are tried where the option says so.
 constexpr RuleRow DIGIT_RULES[] = {
-    {EverydayClass::addresses, everyday::read_telephone, "everyday: addresses"},
-    {EverydayClass::years, everyday::read_date, "everyday: years"},
-    {EverydayClass::times, everyday::read_time, "everyday: times"},
-    {EverydayClass::currencies, everyday::read_amount_after, "everyday: currencies"},
-    {EverydayClass::units, everyday::read_unit, "everyday: units"},
-    {EverydayClass::years, everyday::read_year, "everyday: years"},
-    {EverydayClass::numbers, everyday::read_number, "everyday: numbers"},
+    {EverydayClass::addresses, everyday::read_telephone},
+    {EverydayClass::years, everyday::read_date},
+    {EverydayClass::times, everyday::read_time},
+    {EverydayClass::currencies, everyday::read_amount_after},
+    {EverydayClass::units, everyday::read_unit},
+    {EverydayClass::years, everyday::read_year},
+    {EverydayClass::numbers, everyday::read_number},
 };
 constexpr RuleRow WORD_RULES[] = {
-    {EverydayClass::addresses, everyday::read_address, "everyday: addresses"},
-    {EverydayClass::currencies, everyday::read_currency, "everyday: currencies"},
-    {EverydayClass::titles, everyday::read_title, "everyday: titles"},
-    {EverydayClass::years, everyday::read_date, "everyday: years"},
-    {EverydayClass::roman, everyday::read_roman, "everyday: roman"},
-    {EverydayClass::contractions, everyday::read_contraction, "everyday: contractions"},
-    {EverydayClass::numbers, everyday::read_code, "everyday: numbers"},
-    {EverydayClass::numbers, everyday::read_sign, "everyday: numbers"},
-    {EverydayClass::letters, everyday::read_letters, "everyday: letters"},
+    {EverydayClass::addresses, everyday::read_address},
+    {EverydayClass::currencies, everyday::read_currency},
+    {EverydayClass::titles, everyday::read_title},
+    {EverydayClass::years, everyday::read_date},
+    {EverydayClass::roman, everyday::read_roman},
+    {EverydayClass::contractions, everyday::read_contraction},
+    {EverydayClass::numbers, everyday::read_code},
+    {EverydayClass::numbers, everyday::read_sign},
+    {EverydayClass::letters, everyday::read_letters},
 };
 constexpr RuleRow MARK_RULES[] = {
-    {EverydayClass::addresses, everyday::read_telephone, "everyday: addresses"},
-    {EverydayClass::currencies, everyday::read_currency, "everyday: currencies"},
-    {EverydayClass::years, everyday::read_year, "everyday: years"},
-    {EverydayClass::numbers, everyday::read_sign, "everyday: numbers"},
-    {EverydayClass::contractions, everyday::read_contraction, "everyday: contractions"},
-    {EverydayClass::shields, everyday::read_shield, "everyday: shields"},
-    {EverydayClass::letters, everyday::read_typography, "everyday: letters"},
+    {EverydayClass::addresses, everyday::read_telephone},
+    {EverydayClass::currencies, everyday::read_currency},
+    {EverydayClass::years, everyday::read_year},
+    {EverydayClass::numbers, everyday::read_sign},
+    {EverydayClass::contractions, everyday::read_contraction},
+    {EverydayClass::shields, everyday::read_shield},
+    {EverydayClass::letters, everyday::read_typography},
 };
 
-constexpr const char* CLASS_NAMES[EVERYDAY_CLASSES] = {
-    "titles",    "contractions", "currencies", "units",   "years",  "times",
-    "addresses", "roman",        "numbers",    "letters", "shields"};
+// What an explanation says: the name of the class, after a prefix.
+constexpr std::string_view PREFIX = "everyday: ";
+const char* rule_name_of(EverydayClass everyday_class) {
+    switch (everyday_class) {
+        case EverydayClass::titles: return "everyday: titles";
+        case EverydayClass::contractions: return "everyday: contractions";
+        case EverydayClass::currencies: return "everyday: currencies";
+        case EverydayClass::units: return "everyday: units";
+        case EverydayClass::years: return "everyday: years";
+        case EverydayClass::times: return "everyday: times";
+        case EverydayClass::addresses: return "everyday: addresses";
+        case EverydayClass::roman: return "everyday: roman";
+        case EverydayClass::numbers: return "everyday: numbers";
+        case EverydayClass::letters: return "everyday: letters";
+        case EverydayClass::shields: return "everyday: shields";
+    }
+    return "";
+}
 
 struct Rules {
     const RuleRow* begin;
@@ -82,13 +98,26 @@ std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& tag_e
     return tag_end < text.size() ? tag_end + 1 - at : 0;
 }
 
-// Most words: in small letters, with nothing after them that any rule reads; and none of the
-// abbreviations that are written without a full stop, "vs" and "tsp".
+// The first two letters of the abbreviations that are written without a full stop, "vs" and "tsp":
+// for each first one, by its last five bits, a bit for each second one.
+using Beginnings = std::array<std::uint32_t, 32>;
+constexpr unsigned bits_of(char letter) {
+    return static_cast<unsigned>(letter) & 31U;
+}
+constexpr Beginnings BEGINNINGS = [] {
+    Beginnings beginnings{};
+    for (const everyday::Row& row : everyday::TITLES) {
+        if (row.kind != everyday::Kind::never || !is_lower(row.written[0])) continue;
+        const bool is_one_letter = row.written.size() == 1;
+        beginnings[bits_of(row.written[0])] |= is_one_letter ? ~0U : 1U << bits_of(row.written[1]);
+    }
+    return beginnings;
+}();
+
+// Most words: in small letters, with nothing after them that any rule reads, and no abbreviations.
 bool is_plain_word(const Place& place) {
-    const char first = place.peek();
-    const char second = place.peek(1);
-    if (!is_lower(first)) return false;
-    if ((first == 'v' || first == 't') && (second == 's' || second == 'b')) return false;
+    if (!is_lower(place.peek())) return false;
+    if ((BEGINNINGS[bits_of(place.peek())] >> bits_of(place.peek(1)) & 1U) != 0) return false;
     const char after = place.peek(place.run(is_letter));
     return after == ' ' || after == ',' || after == '\0' || after == ';' || after == '?' ||
            after == '!' || after == ')' || after == '"' || after == '<';
@@ -153,12 +182,13 @@ std::size_t next_place(std::string_view text, std::size_t at) {
 }  // namespace
 
 const char* name_of(EverydayClass everyday_class) {
-    return CLASS_NAMES[static_cast<int>(everyday_class)];
+    return rule_name_of(everyday_class) + PREFIX.size();
 }
 
 std::optional<EverydayClass> everyday_class_of(std::string_view name) {
     for (int i = 0; i < EVERYDAY_CLASSES; ++i) {
-        if (name == CLASS_NAMES[i]) return static_cast<EverydayClass>(i);
+        const auto everyday_class = static_cast<EverydayClass>(i);
+        if (name == name_of(everyday_class)) return everyday_class;
     }
     return {};
 }
@@ -191,7 +221,7 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
             found.length = own.length;
             found.words = entry->spoken;
         }
-        rewriting.by = {row != nullptr ? row->name : "lexicon"};
+        rewriting.by = {row != nullptr ? rule_name_of(row->everyday_class) : "lexicon"};
         if (entry != nullptr) {
             rewriting.by.file = entry->file->c_str();
             rewriting.by.line_number = entry->line_number;

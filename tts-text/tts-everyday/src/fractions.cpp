@@ -6,52 +6,11 @@ namespace kavi::everyday {
 
 namespace {
 
-struct SignRow {
-    std::string_view sign;
-    const char* spoken;
-};
-
-// clang-format off
-constexpr SignRow SIGNS[] = {
-    {"½", "one half"},
-    {"¼", "one quarter"},
-    {"¾", "three quarters"},
-    {"⅓", "one third"},
-    {"⅔", "two thirds"},
-    {"⅕", "one fifth"},
-    {"⅖", "two fifths"},
-    {"⅗", "three fifths"},
-    {"⅘", "four fifths"},
-    {"⅙", "one sixth"},
-    {"⅚", "five sixths"},
-    {"⅐", "one seventh"},
-    {"⅛", "one eighth"},
-    {"⅜", "three eighths"},
-    {"⅝", "five eighths"},
-    {"⅞", "seven eighths"},
-    {"⅑", "one ninth"},
-    {"⅒", "one tenth"},
-};
-// clang-format on
-
-struct NoFractionRow {
-    std::string_view above;
-    std::string_view below;
-    const char* spoken;
-};
-
-// What only looks like one.
-constexpr NoFractionRow NO_FRACTIONS[] = {
-    {"24", "7", "twenty four seven"},
-    {"9", "11", "nine eleven"},
-};
-
 // "1/2", "3/4", "24/7": up to two digits above, three below.
 bool say_fraction(std::string_view above, std::string_view below, std::string& out) {
     if (above.size() > 2 || below.empty() || below.size() > 3 || below[0] == '0') return false;
-    for (const auto& known : NO_FRACTIONS) {
-        if (above != known.above || below != known.below) continue;
-        say(known.spoken, out);
+    if (const Row* row = find(FRACTIONS, std::string(above) + "/" + std::string(below))) {
+        say(row->spoken, out);
         return true;
     }
     if (below == "1") return false;
@@ -82,17 +41,16 @@ void say_whole_and(std::string_view whole, std::string& out) {
 bool read_whole_and_sign(const Place& place, std::string_view whole, Found& found) {
     constexpr std::string_view ONE = "one ";
     const std::size_t at = whole.size() + (place.peek(whole.size()) == ' ' ? 1 : 0);
-    std::size_t length = 0;
-    const char* sign = fraction_sign_at(place, at, length);
+    const Row* sign = fraction_sign_at(place, at);
     if (sign == nullptr) return false;
     say_whole_and(whole, found.words);
-    std::string_view part = sign;
+    std::string_view part = sign->spoken;
     if (part.substr(0, ONE.size()) == ONE) {
         say("a", found.words);
         part.remove_prefix(ONE.size());
     }
     say(part, found.words);
-    found.length = at + length;
+    found.length = at + sign->written.size();
     return true;
 }
 
@@ -123,13 +81,9 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
 
 }  // namespace
 
-const char* fraction_sign_at(const Place& place, std::size_t ahead, std::size_t& length) {
-    for (const SignRow& row : SIGNS) {
-        if (!place.starts_with(row.sign, ahead)) continue;
-        length = row.sign.size();
-        return row.spoken;
-    }
-    return nullptr;
+const Row* fraction_sign_at(const Place& place, std::size_t ahead) {
+    if (!is_outside_ascii(place.peek(ahead))) return nullptr;
+    return place.find_row(FRACTIONS, ahead);
 }
 
 bool read_fraction(const Place& place, Found& found) {

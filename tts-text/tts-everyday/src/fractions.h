@@ -6,8 +6,8 @@
 
 namespace kavi::everyday {
 
-// The words for the sign of a fraction so far on, "½", and its length; null for none.
-const char* fraction_sign_at(const Place& place, std::size_t ahead, std::size_t& length);
+// The sign of a fraction that far ahead, "½", or null.
+const Row* fraction_sign_at(const Place& place, std::size_t ahead);
 
 // A fraction, by itself or after a whole number, that begins with the digits at a place.
 bool read_fraction(const Place& place, Found& found);

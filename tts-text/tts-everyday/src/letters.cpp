@@ -5,26 +5,6 @@
 
 namespace kavi::everyday {
 
-namespace {
-
-constexpr char32_t ELLIPSIS = 0x2026;
-
-struct MarkRow {
-    char32_t mark;
-    const char* text;
-};
-
-// Marks that are written in ASCII otherwise. A dash is a pause, as a comma is. A blank before a
-// full stop keeps the word before from being an abbreviation.
-constexpr MarkRow MARKS[] = {
-    {0x2018, "'"}, {0x2019, "'"},    {0x201C, "\""}, {0x201D, "\""}, {0x201E, "\""},
-    {0xAB, "\""},  {0xBB, "\""},     {0x2013, " "},  {0x2014, " "},  {ELLIPSIS, " ."},
-    {0xA0, " "},   {0x2009, " "},    {0x202F, " "},  {0x2011, "-"},  {0x2010, "-"},
-    {0x2022, " "}, {0x2192, " to "}, {0x200B, " "},  {0x2212, "-"},
-};
-
-}  // namespace
-
 // "café", "Nguyễn": Latin letters as those of ASCII, without what is upon them. Letters of other
 // scripts stay.
 void read_letters(const Place& place, Found& found) {
@@ -50,15 +30,13 @@ void read_letters(const Place& place, Found& found) {
 void read_typography(const Place& place, Found& found) {
     if (!is_outside_ascii(place.peek())) return;
     const CodePoint c = code_point_at(place.part(0, CODE_POINT_BYTES));
-    for (const MarkRow& row : MARKS) {
-        if (c.value != row.mark) continue;
-        found.length = c.length;
-        found.words = row.text;
-        // In a sentence, an ellipsis is a pause.
-        const std::size_t next = c.length + place.blanks(c.length);
-        if (c.value == ELLIPSIS && is_lower(place.peek(next))) found.words = ", ";
-        return;
-    }
+    const Row* row = find(TYPOGRAPHY, place.part(0, c.length));
+    if (row == nullptr) return;
+    found.length = c.length;
+    found.words = row->spoken;
+    // In a sentence, an ellipsis is a pause.
+    const std::size_t next = c.length + place.blanks(c.length);
+    if (row->written == "…" && is_lower(place.peek(next))) found.words = ", ";
 }
 
 }  // namespace kavi::everyday

@@ -7,53 +7,15 @@ namespace kavi::everyday {
 
 namespace {
 
-// Letters of ordinals, on the line and above it.
-constexpr std::string_view SUFFIXES[] = {"st", "nd", "rd", "th", "ST", "ND",
-                                         "RD", "TH", "ˢᵗ", "ⁿᵈ", "ʳᵈ", "ᵗʰ"};
-
-struct SignRow {
-    std::string_view written;
-    const char* spoken;
-};
-
-// clang-format off
-constexpr SignRow SIGNS_BEFORE_NUMBERS[] = {
-    {"-",            "minus"},
-    {"−", "minus"},
-    {"#",            "number"},
-    {"№", "number"},
-    {"~",            "about"},
-    {"+",            "plus"},
-    {"±",     "plus or minus"},
-    {"≈", "about"},
-    {"§",     "section"},
-};
-
-constexpr SignRow SIGNS_ANYWHERE[] = {
-    {"&",            "and"},
-    {"×",     "times"},
-    {"²",     "squared"},
-    {"³",     "cubed"},
-    {"°",     "degrees"},
-    {"©",     "copyright"},
-    {"€", "euros"},
-    {"£",     "pounds"},
-    {"π",     "pi"},
-    {"µ",     "micro"},
-    {"™", "trademark"},
-};
-// clang-format on
-
 bool read_ordinal(const Place& place, const Number& number, Found& found) {
     if (!number.fraction.empty()) return false;
-    for (const std::string_view suffix : SUFFIXES) {
-        if (!place.starts_with(suffix, number.length)) continue;
-        if (place.is_joined(number.length + suffix.size())) continue;
-        say_ordinal(number.whole, found.words);
-        found.length = number.length + suffix.size();
-        return true;
-    }
-    return false;
+    const Row* suffix = place.find_row(ORDINAL_SUFFIXES, number.length, [&](const Row& row) {
+        return !place.is_joined(number.length + row.written.size());
+    });
+    if (suffix == nullptr) return false;
+    say_ordinal(number.whole, found.words);
+    found.length = number.length + suffix->written.size();
+    return true;
 }
 
 // "221B": three digits and more before a letter are said one by one.
@@ -108,33 +70,15 @@ std::size_t say_times(const Place& place, std::size_t ahead, std::string& out) {
 // ---- Signs ----
 
 // "-5", "+3", "№ 5"
-bool read_sign_before_number(const Place& place, Found& found) {
+void read_sign_before_number(const Place& place, const Row& sign, Found& found) {
     const char before = place.before();
     const bool may_begin =
         before == '\0' || before == ' ' || before == '(' || before == '\n' || before == ':';
-    if (!may_begin) return false;
-    for (const SignRow& row : SIGNS_BEFORE_NUMBERS) {
-        if (!place.starts_with(row.written)) continue;
-        const std::size_t length = row.written.size();
-        const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
-        if (!is_digit(place.peek(length + blank))) continue;
-        found.length = length + blank;
-        found.words = std::string(row.spoken) + " ";
-        return true;
-    }
-    return false;
-}
-
-void read_sign_anywhere(const Place& place, Found& found) {
-    for (const SignRow& row : SIGNS_ANYWHERE) {
-        const std::size_t length = row.written.size();
-        if (!place.starts_with(row.written)) continue;
-        // "πr", but not the first letter of "πόλις".
-        if (place.letter(0) > 0 && place.letter(length) > 1) continue;
-        found.length = length;
-        found.words = row.spoken;
-        return;
-    }
+    const std::size_t length = sign.written.size();
+    const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
+    if (!may_begin || !is_digit(place.peek(length + blank))) return;
+    found.length = length + blank;
+    found.words = std::string(sign.spoken) + " ";
 }
 
 }  // namespace
@@ -186,16 +130,18 @@ void read_number(const Place& place, Found& found) {
 
 // "-5", "+3", "#5", "№ 5", "½", "&", "~5", "2²" and the like.
 void read_sign(const Place& place, Found& found) {
-    const char first = place.peek();
-    if (!is_outside_ascii(first) && first != '-' && first != '#' && first != '~' && first != '+' &&
-        first != '&') {
+    if (const Row* fraction = fraction_sign_at(place, 0)) {
+        found.words = fraction->spoken;
+        found.length = fraction->written.size();
         return;
     }
-    if (const char* words = fraction_sign_at(place, 0, found.length)) {
-        found.words = words;
-    } else if (!read_sign_before_number(place, found)) {
-        read_sign_anywhere(place, found);
-    }
+    const Row* sign = place.find_row(SIGNS, 0);
+    if (sign == nullptr) return;
+    if (sign->kind == Kind::before_number) return read_sign_before_number(place, *sign, found);
+    // "πr", but not the first letter of "πόλις".
+    if (place.letter(0) > 0 && place.letter(sign->written.size()) > 1) return;
+    found.length = sign->written.size();
+    found.words = sign->spoken;
 }
 
 }  // namespace kavi::everyday

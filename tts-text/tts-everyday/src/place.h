@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "for_everyday.h"
+#include "tables.h"
 
 namespace kavi::everyday {
 
@@ -102,6 +103,23 @@ class Place {
     // The word before what is so many characters before the place, past the blanks between; empty
     // when something else is there.
     std::string_view word_before(std::size_t back = 0) const;
+
+    // The length of an apostrophe that far ahead, straight or curly; 0 for none.
+    std::size_t apostrophe(std::size_t ahead) const {
+        if (peek(ahead) == '\'') return 1;
+        return starts_with("’", ahead) || starts_with("‘", ahead) ? 3 : 0;
+    }
+
+    // The longest row of a table that is written that far ahead and fits, or null.
+    const Row* find_row(Table table, std::size_t ahead) const {
+        return find_longest(table, [&](std::size_t at) { return peek(ahead + at); });
+    }
+    template <typename Fits>
+    const Row* find_row(Table table, std::size_t ahead, Fits fits) const {
+        const Row* row = find_row(table, ahead);
+        while (row != nullptr && !fits(*row)) row = find_shorter(table, *row);
+        return row;
+    }
 
     // Whether what ends that far ahead is said as one with a word after it: "a $100 bill".
     bool is_before_noun(std::size_t ahead) const;

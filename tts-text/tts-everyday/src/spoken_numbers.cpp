@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "for_everyday.h"
+#include "post_pro_tn_eng.h"
 
 namespace kavi::everyday {
 
@@ -17,24 +18,6 @@ void say_reading(const tn::Reading& reading, std::string& out) {
         rest.remove_prefix(std::min(word.size() + 1, rest.size()));
     }
 }
-
-struct OrdinalRow {
-    std::string_view cardinal;
-    std::string_view ordinal;
-};
-
-// The last words of cardinals that do not just get a "th".
-constexpr OrdinalRow ORDINALS[] = {
-    {"one", "first"},    {"two", "second"}, {"three", "third"},    {"five", "fifth"},
-    {"eight", "eighth"}, {"nine", "ninth"}, {"twelve", "twelfth"},
-};
-
-constexpr const char* MONTHS[] = {"January",   "February", "March",    "April",
-                                  "May",       "June",     "July",     "August",
-                                  "September", "October",  "November", "December"};
-
-constexpr std::string_view DIGITS[] = {"zero", "one", "two",   "three", "four",
-                                       "five", "six", "seven", "eight", "nine"};
 
 }  // namespace
 
@@ -68,16 +51,16 @@ void say_ordinal(std::string_view digits, std::string& out) {
     say_cardinal(digits, out);
     const std::size_t begin = out.rfind(' ') + 1;
     const std::string last = out.substr(begin);
-    for (const OrdinalRow& row : ORDINALS) {
-        if (last == row.cardinal)
-            return static_cast<void>(out.replace(begin, last.size(), row.ordinal));
+    if (const Row* row = find(ORDINALS, last)) {
+        out.replace(begin, last.size(), row->spoken);
+        return;
     }
     if (out.back() == 'y') out.replace(out.size() - 1, 1, "ie");
     out += "th";
 }
 
 void say_digits(std::string_view digits, std::string& out) {
-    for (const char c : digits) say(DIGITS[c - '0'], out);
+    for (const char c : digits) say(s_number_to_char[c - '0'][1], out);
 }
 
 void say_year(std::string_view year, std::string& out) {
@@ -121,16 +104,18 @@ int month_number(std::string_view name) {
     constexpr std::size_t SHORTEST = 3;
     if (name.size() < SHORTEST || !is_upper(name[0])) return 0;
     for (int i = 0; i < 12; ++i) {
-        if (MONTHS[i][0] != name[0]) continue;
-        const std::string_view month = MONTHS[i];
-        const bool is_short = name.size() == SHORTEST || name == "Sept";
-        if (name == month || (is_short && month.substr(0, name.size()) == name)) return i + 1;
+        const auto& [abbreviation, full_name] = s_string_to_month[i];
+        if (full_name[0] != name[0]) continue;
+        const std::string_view month = full_name;
+        const bool is_short =
+            name == abbreviation || (name.size() == SHORTEST && month.substr(0, SHORTEST) == name);
+        if (is_short || name == month) return i + 1;
     }
     return 0;
 }
 
 const char* month_word(int number) {
-    return MONTHS[number - 1];
+    return s_string_to_month[number - 1][1];
 }
 
 }  // namespace kavi::everyday

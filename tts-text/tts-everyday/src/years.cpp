@@ -6,27 +6,15 @@ namespace kavi::everyday {
 
 namespace {
 
-// Before these, four digits are a year.
-constexpr std::string_view BEFORE_YEAR[] = {
-    "in",     "In",     "since",  "Since",  "until", "by",    "By",  "from",   "From",   "of",
-    "after",  "After",  "before", "Before", "year",  "circa", "to",  "and",    "during", "spring",
-    "summer", "autumn", "fall",   "winter", "early", "late",  "mid", "around", "Around", "about"};
-
-bool is_year(std::string_view digits) {
+// Four digits of the years 1000 to 2099.
+bool may_be_year(std::string_view digits) {
     return digits.size() == 4 && (digits[0] == '1' || digits.substr(0, 2) == "20");
 }
 
 bool is_value(std::string_view digits, int least, int most) {
     if (digits.empty() || digits.size() > 2) return false;
-    int value = 0;
-    for (const char c : digits) value = 10 * value + (c - '0');
+    const int value = tn::value_of(digits);
     return value >= least && value <= most;
-}
-
-int value_of(std::string_view digits) {
-    int value = 0;
-    for (const char c : digits) value = 10 * value + (c - '0');
-    return value;
 }
 
 // "nineties" for "90".
@@ -115,12 +103,12 @@ void read_numeric_date(const Place& place, bool month_first, Found& found) {
     if (!is_value(month, 1, 12)) {
         // Only the other order makes a date of it.
         if (!is_value(month, 13, 31) || !is_value(day, 1, 12)) return;
-        say_month_first({value_of(day)}, month, full_year(year), found);
+        say_month_first({tn::value_of(day)}, month, full_year(year), found);
     } else if (month_first) {
-        say_month_first({value_of(month)}, day, full_year(year), found);
+        say_month_first({tn::value_of(month)}, day, full_year(year), found);
     } else {
         say("the", found.words);
-        say_day_first(day, {value_of(month)}, full_year(year), found);
+        say_day_first(day, {tn::value_of(month)}, full_year(year), found);
     }
     found.length = end;
 }
@@ -136,14 +124,15 @@ bool read_iso_date(const Place& place, Found& found) {
     const bool has_time = place.peek(10) == 'T' && is_digit(place.peek(11));
     const bool goes_on = place.peek(10) == '-' || (place.is_joined(10) && !has_time);
     if (goes_on) return false;
-    say_month_first({value_of(month)}, day, year, found);
+    say_month_first({tn::value_of(month)}, day, year, found);
     found.length = 10;
     return true;
 }
 
 std::size_t ordinal_suffix(const Place& place, std::size_t ahead) {
     const std::string_view letters = place.letters(ahead);
-    return letters == "st" || letters == "nd" || letters == "rd" || letters == "th" ? 2 : 0;
+    const bool is_small = !letters.empty() && is_lower(letters[0]);
+    return is_small && find(ORDINAL_SUFFIXES, letters) != nullptr ? letters.size() : 0;
 }
 
 // A year so far on, past a comma and a blank; its end.
@@ -152,7 +141,7 @@ std::string_view year_after(const Place& place, std::size_t ahead, std::size_t& 
     if (place.peek(begin) == ',') ++begin;
     if (place.peek(begin) == ' ') ++begin;
     const std::string_view year = place.digits(begin);
-    if (begin == ahead || !is_year(year)) {
+    if (begin == ahead || !may_be_year(year)) {
         end = ahead;
         return {};
     }
@@ -170,7 +159,7 @@ void read_month_first(const Place& place, Found& found) {
     if (place.peek(at) != ' ') return;
     const std::string_view digits = place.digits(at + 1);
     const std::size_t digits_end = at + 1 + digits.size();
-    if (is_year(digits) && place.letter(digits_end) == 0) {
+    if (may_be_year(digits) && place.letter(digits_end) == 0) {
         month.say(found);
         say_year(digits, found.words);
         found.length = digits_end;
@@ -222,10 +211,10 @@ void read_day_first(const Place& place, Found& found) {
 // "2010-2015", "1914–18".
 bool read_range(const Place& place, std::string_view year, Found& found) {
     const std::size_t dash = place.dash(year.size());
-    if (dash == 0 || !is_year(year)) return false;
+    if (dash == 0 || !may_be_year(year)) return false;
     const std::string_view last = place.digits(year.size() + dash);
     const bool is_short = last.size() == 2 && last > year.substr(2);
-    if (!is_short && !is_year(last)) return false;
+    if (!is_short && !may_be_year(last)) return false;
     say_year(year, found.words);
     say("to", found.words);
     is_short ? say_cardinal(last, found.words) : say_year(last, found.words);
@@ -233,29 +222,21 @@ bool read_range(const Place& place, std::string_view year, Found& found) {
     return true;
 }
 
-bool is_after_year_word(const Place& place) {
-    const std::string_view before = place.word_before();
-    for (const std::string_view word : BEFORE_YEAR) {
-        if (word == before) return true;
-    }
-    return false;
-}
-
 }  // namespace
 
 void read_year(const Place& place, Found& found) {
-    if (place.peek() == '\'' || place.starts_with("’") || place.starts_with("‘")) {
-        read_decade(place, place.peek() == '\'' ? 1 : 3, found);
+    if (const std::size_t mark = place.apostrophe(0); mark > 0) {
+        read_decade(place, mark, found);
         return;
     }
     const std::string_view digits = place.digits();
     if (read_decade(place, 0, found) || read_range(place, digits, found)) return;
-    if (!is_year(digits) || place.letter(4) > 0 || place.peek(4) == '%') return;
+    if (!may_be_year(digits) || place.letter(4) > 0 || place.peek(4) == '%') return;
     if (is_digit(place.peek(5)) && place.peek(4) != ' ') return;  // part of another number
     const bool is_era = place.starts_with(" BC", 4) || place.starts_with(" AD", 4);
     const bool is_recent = digits[1] == '9' || digits[0] == '2';
     const bool stands_alone = is_recent || (place.peek(4) != ' ' && digits[1] != '0');
-    if (!is_era && !is_after_year_word(place) && !stands_alone) return;
+    if (!is_era && find(BEFORE_YEAR, place.word_before()) == nullptr && !stands_alone) return;
     say_year(digits, found.words);
     found.length = 4;
 }

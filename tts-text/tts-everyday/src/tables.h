@@ -1,0 +1,79 @@
+// The tables of everyday English. They are the text files in tables/, which say what their columns
+// hold; make_tables.cmake makes everyday_tables.h of them.
+#ifndef KAVI_EVERYDAY_TABLES_H
+#define KAVI_EVERYDAY_TABLES_H
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <string_view>
+
+namespace kavi::everyday {
+
+// Where a row is read, or how; the head of each table says what its kinds mean.
+enum class Kind {
+    none,
+    never,
+    needed,
+    may_end,
+    before_number,
+    before,
+    after,
+    both,
+    glued,
+    anywhere,
+};
+
+// A column that a table does not have is empty, and its kind is none.
+struct Row {
+    std::string_view written;  // not empty; no two of a table are the same
+    const char* spoken;
+    const char* many;
+    Kind kind;
+};
+
+// All rows of a table, in the order of what is written.
+struct Table {
+    const Row* first;
+    const Row* end;
+
+    template <std::size_t N>
+    constexpr Table(const Row (&rows)[N]) : first(std::begin(rows)), end(std::end(rows)) {}
+};
+
+// The longest row that a text begins with, or null. `byte_at` gives the text's byte at an offset,
+// NUL after its end; it is asked for no byte after the first that no row has there.
+template <typename ByteAt>
+const Row* find_longest(Table table, ByteAt byte_at) {
+    const Row* longest = nullptr;
+    // Those that have the first `length` bytes of the text, the shortest of them first.
+    auto [first, end] = table;
+    for (std::size_t length = 0; first != end; ++length) {
+        if (first->written.size() == length) {
+            longest = first++;
+            if (first == end) break;
+        }
+        const auto byte = static_cast<unsigned char>(byte_at(length));
+        const auto byte_of = [length](const Row& row) {
+            return static_cast<unsigned char>(row.written[length]);
+        };
+        first =
+            std::partition_point(first, end, [&](const Row& row) { return byte_of(row) < byte; });
+        if (first == end || byte_of(*first) != byte) break;
+        end =
+            std::partition_point(first, end, [&](const Row& row) { return byte_of(row) == byte; });
+    }
+    return longest;
+}
+
+// The row for all of what is written, or null.
+const Row* find(Table table, std::string_view written);
+
+// The longest row that is shorter than one, and that it begins with; or null.
+const Row* find_shorter(Table table, const Row& row);
+
+#include "everyday_tables.h"
+
+}  // namespace kavi::everyday
+
+#endif  // KAVI_EVERYDAY_TABLES_H

@@ -41,7 +41,7 @@ class Calls {
         return sentence_[0];
     }
 
-    // The result stands until the next call.
+    // The result is valid until the next call.
     char* tokenize(char* sentence) {
         speakable_[0] = '\0';
         engine_.eng_text_tokenize(sentence, speakable_);

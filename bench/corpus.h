@@ -8,7 +8,7 @@
 
 namespace kavi::bench {
 
-// A kind of text: a sentence of it of at most so many bytes, none of which ends it early.
+// A kind of text: a sentence of it of at most `size` bytes, none of which ends it early.
 struct Kind {
     const char* name;
     std::string (*sentence)(std::size_t bytes, unsigned seed);
@@ -26,7 +26,7 @@ extern const Kind LICENCES;
 extern const std::vector<Kind> WORST;
 
 // Paragraphs of about half a kilobyte, of sentences as long as people write them; those of
-// LICENCES are as they stand.
+// LICENCES are as they are.
 std::vector<std::string> paragraphs(const Kind& kind, std::size_t bytes);
 
 }  // namespace kavi::bench

@@ -1,4 +1,4 @@
-"""Builds the extension with the project's own CMake files. All else stands in pyproject.toml."""
+"""Builds the extension with the project's own CMake files. All else is in pyproject.toml."""
 
 import pathlib
 import subprocess

@@ -91,7 +91,7 @@ def bible():
 
 
 class Paragraphs(html.parser.HTMLParser):
-    """The handbook's running text: what stands in <div class="para">, without listings."""
+    """The handbook's running text: the text of <div class="para">, without listings."""
 
     def __init__(self):
         super().__init__()

@@ -108,7 +108,7 @@ class Memory {
   text(at) {
     return decoder.decode(this.bytes(this.u32(at), this.u32(at + 4)));
   }
-  // NUL-terminated, at the address that stands there.
+  // NUL-terminated, at the address stored there.
   chars(at) {
     return this.charsAt(this.u32(at));
   }

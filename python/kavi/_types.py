@@ -7,7 +7,7 @@ from typing import Dict, NamedTuple, Tuple
 
 
 class Pause(enum.IntEnum):
-    """How strong the pause after a word is, weakest first. Forced ones stand where the text asks for them."""
+    """How strong the pause after a word is, weakest first. Forced ones are where the text asks for them."""
 
     SYL = -2
     PHONE = -1

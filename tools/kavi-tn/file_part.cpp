@@ -13,7 +13,7 @@ namespace kavi::tool {
 
 namespace {
 
-// Where the `part`-th of `parts` ends, of so many bytes in all.
+// Where the `part`-th of `parts` ends, of `size` bytes in all.
 std::size_t end_of_part(std::size_t bytes, std::size_t part, std::size_t parts) {
     return bytes / parts * part + bytes % parts * part / parts;
 }
@@ -22,7 +22,7 @@ off_t at_of(int file) {
     return std::max<off_t>(::lseek(file, 0, SEEK_CUR), 0);
 }
 
-// Counts the texts that end in these bytes, which stand at `at` of the file, until the next begins
+// Counts the texts that end in these bytes, which are at `at` of the file, until the next begins
 // in the part. False when none does.
 bool count_texts(std::string_view bytes, std::size_t at, char delimiter, FilePart& part) {
     for (std::size_t end = bytes.find(delimiter); end != std::string_view::npos;

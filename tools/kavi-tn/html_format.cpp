@@ -106,7 +106,7 @@ class SentenceWriter {
         return place_.text.substr(source.offset, source.length);
     }
 
-    // What stands before the first word.
+    // The text before the first word.
     void write_head(const UtteranceSyllable& head) {
         if (*head.cssml_tag.breaktime == '\0' && *strokes(head.pause_type) == '\0') return;
         out_ << "<u><i>";
@@ -155,7 +155,7 @@ class SentenceWriter {
         out_ << "<br>";
     }
 
-    // The number of the first word that stands there in the speakable text, or after that.
+    // The number of the first word at that offset of the speakable text, or after it.
     int words_before(std::size_t speakable_end) const {
         int end = next_;
         while (end < sentence_.n_records && sentence_.places.of_record(end).at < speakable_end)

@@ -1,4 +1,4 @@
-// What stands around the sentences of a page.
+// The parts of a page around its sentences.
 #ifndef KAVI_TOOL_HTML_PAGE_H
 #define KAVI_TOOL_HTML_PAGE_H
 
@@ -19,7 +19,7 @@ inline constexpr std::pair<std::string_view, std::string_view> MARK_GLYPHS[] = {
     {"tan", "!"},    {"mao", ":"},   {"zuoyin", "\""},   {"youyin", "\""}, {"zuokuo", "("},
     {"youkuo", ")"}, {"pozhe", "-"}, {"shenglue", "..."}};
 
-// Where a sentence stands on the page.
+// The position of a sentence on the page.
 inline std::string anchor(const Place& place) {
     return std::to_string(place.input_number) + "." + std::to_string(place.line) + "." +
            std::to_string(place.sentence);

@@ -45,7 +45,7 @@ struct Options {
     bool american_dates = false;
     bool check = false;  // the files hold texts and the words that are expected
     char delimiter = '\n';
-    unsigned part = 1;  // of the files, of so many parts, cut at the ends of texts
+    unsigned part = 1;  // of the files, of `parts`, cut at the ends of texts
     unsigned parts = 1;
     unsigned jobs = 1;
     bool strict = false;   // a finding makes the exit status 1

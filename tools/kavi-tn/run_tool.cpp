@@ -16,7 +16,7 @@ namespace kavi::tool {
 namespace {
 
 // A closed standard descriptor would be given to the next file that is opened, and messages would
-// go into the output. In its place stands one that cannot be used for what it is for, so that this
+// go into the output. It is replaced by one that cannot be used for what it is for, so that this
 // is still a failure.
 void open_standard_descriptors() {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {

@@ -12,7 +12,7 @@
 
 namespace kavi::tool {
 
-// The characters that stand in a format as they are: ASCII, but for control characters and
+// The characters that a format has unescaped: ASCII, but for control characters and
 // `special` ones.
 class PlainCharacters {
   public:
@@ -68,7 +68,7 @@ class TextBuffer {
     }
 
   private:
-    // The end, with room for so many characters.
+    // The end, with room for `size` characters.
     char* end_with(std::size_t room) {
         if (room > bytes_.size() - end_) bytes_.resize(2 * (end_ + room));
         return bytes_.data() + end_;

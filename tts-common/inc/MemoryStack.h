@@ -26,7 +26,7 @@ typedef mem_stack_array* mem_stack_handle;
 // ---- What the engine calls. A host with an arena of its own defines these two. ----
 
 // A block of at least `size` bytes, aligned for any type, its contents unspecified. Null when the
-// arena is null, `type` is no pool, or the block cannot be had; the arena is then as it was.
+// arena is null, `type` is no pool, or the block is refused; the arena is then as it was.
 // A request of 0 bytes yields a block of its own that holds nothing.
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena);
 
@@ -38,9 +38,10 @@ int mem_stack_release_buf(void* p, std::size_t size, tag_mem_type type, mem_stac
 // ---- The arena that comes with the engine. One arena serves one thread at a time. ----
 
 // A new arena whose blocks in use never total more than `n_capacity` bytes, book-keeping included
-// (0: no limit). The caller owns it. Null when it cannot be had. What it takes from the system, in
-// few pieces, it keeps until its end: at most twice the capacity and 64 KB. When what is free there
-// lies in pieces that are too small, a request may be refused before the capacity is reached.
+// (0: no limit). The caller owns it. Null when the system refuses it. What it takes from the
+// system, in few pieces, it keeps until its end: at most twice the capacity and 64 KB. When what is
+// free there lies in pieces that are too small, a request may be refused before the capacity is
+// reached.
 mem_stack_handle mem_stack_create(std::size_t n_capacity);
 
 // Ends the arena and every block still out. Null does nothing.

@@ -3,9 +3,9 @@
 // A block is a header and its bytes. A released block goes to the free list of its class, so a
 // request and a release are a few instructions in any order. A class without a free block has one
 // carved from the current region of a chunk. When that is used up, and half of all chunks is free
-// or no further chunk may be had, free neighbours are merged into regions again: so a block of one
-// class can become one of another, and what is taken from the system stays in proportion to what
-// is in use.
+// or no further chunk may be taken, free neighbours are merged into regions again: so a block of
+// one class can become one of another, and what is taken from the system stays in proportion to
+// what is in use.
 
 #include "MemoryStack.h"
 
@@ -38,7 +38,7 @@ static_assert(std::size_t{4} << SMALL_SHIFT == SMALL_MAX);
 static_assert(SMALL_MAX << 5 == CLASS_MAX, "five doublings of four classes each");
 static_assert(SMALL_STEP % ALIGNMENT == 0, "every class keeps the alignment");
 
-// Stands in front of every piece of a chunk, whether it is in use or not.
+// In front of every piece of a chunk, whether it is in use or not.
 struct alignas(std::max_align_t) BlockHeader {
     std::size_t cost;          // the bytes of the piece, this header included
     std::uint16_t size_class;  // CLASSES for a large block
@@ -49,7 +49,7 @@ struct alignas(std::max_align_t) BlockHeader {
 #endif
 };
 
-// Stands in the bytes of a released block or a free region, which nobody uses now.
+// In the bytes of a released block or a free region, which nobody uses now.
 struct FreeBlock {
     FreeBlock* next;
 
@@ -99,7 +99,7 @@ struct tag_mem_stack_array {
     FreeBlock* free_list[CLASSES + 1];  // the last one is that of large blocks, of any size
     std::size_t capacity;               // at most NO_LIMIT
     std::size_t peak;                   // the most bytes that have been in use
-    std::size_t below_peak;             // so many fewer are in use now
+    std::size_t below_peak;             // the peak less the bytes in use now
     Chunk* chunks;
     std::size_t taken;  // from the system, for chunks
     char* carve_begin;  // the region at hand

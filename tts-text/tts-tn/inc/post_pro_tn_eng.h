@@ -132,7 +132,7 @@ inline constexpr char s_number_to_char[29][2][15] = {
     {"00", " "},
 };
 
-// Ordinal words. "forth", "twelvth" and "ninteenth" are meant as they stand.
+// Ordinal words. "forth", "twelvth" and "ninteenth" are meant.
 inline constexpr char s_number_to_turn[27][2][15] = {
     {"1",  "first"},
     {"2",  "second"},
@@ -251,7 +251,7 @@ class PostProTnEng {
     // are cut to 19 characters.
 
     // Stores a word of at most 499 characters in record `n`, at the default pause. False when its
-    // storage could not be had: the record's `syllable` is null, and nothing is kept.
+    // storage was refused: the record's `syllable` is null, and nothing is kept.
     bool insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf);
 
     // Set one attribute of record `n` - 1: true. An effect is appended to the effects there: false
@@ -270,7 +270,7 @@ class PostProTnEng {
                              const char* tag_type);
 
     // Stores the words of the span `buffer_target` in the records from `n` on, with the attributes
-    // of the chain, and moves `n` past them. False when a word's storage could not be had or the
+    // of the chain, and moves `n` past them. False when a word's storage was refused or the
     // chain outgrew 199 characters; the words stored so far stay.
     bool insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
                           char* buffer_target, const char* tag_type);

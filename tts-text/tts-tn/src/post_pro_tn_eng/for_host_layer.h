@@ -1,5 +1,5 @@
 // What the host layer may use of the engine's inside, and nothing else: how a sentence is cut and
-// from what, how it is read step by step, where its words stand, and the markup tags of raw text.
+// from what, how it is read step by step, the places of its words, and the markup tags of raw text.
 #ifndef KAVI_TN_FOR_HOST_LAYER_H
 #define KAVI_TN_FOR_HOST_LAYER_H
 

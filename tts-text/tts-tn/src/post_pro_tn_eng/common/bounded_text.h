@@ -45,7 +45,7 @@ class BoundedText {
     std::ptrdiff_t room() const { return limit_ - end_ - 1; }
     char* end() { return end_; }
 
-    // Takes so many characters that have been written there. A blank comes after them, and must
+    // Takes `length` characters that have been written there. A blank comes after them, and must
     // fit.
     void extend_spaced(std::size_t length) {
         char* end = end_ + length;

@@ -106,7 +106,7 @@ class Reading {
         std::size_t length;
     };
 
-    // What stands there already stays as it is: it may end in a tag, which holds blanks.
+    // What is there already stays: it may end in a tag, which holds blanks.
     void append_cut(std::string_view words) {
         cut_ = true;
         std::string_view kept = words.substr(0, ROOM - length_);

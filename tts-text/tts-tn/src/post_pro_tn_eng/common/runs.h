@@ -97,7 +97,7 @@ inline std::size_t first_of(Eight marked) {
 }
 
 // Copies small letters, and a blank after each run of them, to the same places of `target`, from
-// `at` on, where a letter stands before, and up to `limit`. Where they end; what comes after them
+// `at` on, after a letter, and up to `limit`. Where they end; what comes after them
 // may be copied too.
 inline std::ptrdiff_t copy_small_words(const char* text, std::ptrdiff_t at, std::ptrdiff_t limit,
                                        char* target) {

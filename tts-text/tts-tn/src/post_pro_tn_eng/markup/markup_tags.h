@@ -10,7 +10,7 @@ namespace kavi::tn {
 
 enum class TagKind {
     removed,     // never reaches a sentence
-    kept,        // copied as it stands
+    kept,        // copied as it is
     span_open,   // opens a span: saved, closed at the end of the sentence, opened again after it
     span_close,  // closes the innermost span
 };

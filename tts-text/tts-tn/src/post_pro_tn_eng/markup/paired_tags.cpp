@@ -29,7 +29,7 @@ std::size_t name_length(const char* name) {
     return length;
 }
 
-// Whether the name stands at `text`, with `end` after it.
+// Whether the name is at `text`, with `end` after it.
 bool is_name(const char* text, std::string_view name, char end) {
     return std::strncmp(text, name.data(), name.size()) == 0 && text[name.size()] == end;
 }

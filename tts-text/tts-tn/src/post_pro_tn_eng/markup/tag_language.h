@@ -20,7 +20,7 @@ enum class TagRole : unsigned char {
 // What the builder does at a tag.
 enum class TagUse : unsigned char { none, punc, breaktime, span };
 
-// A tag, as it stands in the text.
+// A tag, as it is written in the text.
 struct Tag {
     TagRole role;
     TagUse use;

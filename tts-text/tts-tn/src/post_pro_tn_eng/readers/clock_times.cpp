@@ -29,7 +29,7 @@ void append_number_of(const TimeUnit& unit, const Token* part, Reading& reading)
     reading.append(unit_word(unit, value_of(part->text())));
 }
 
-// A part that is no number is appended as it stands. False when that has no room: it is left to the
+// A part that is no number is appended as it is. False when that has no room: it is left to the
 // dispatcher.
 bool append_part(const TimeUnit& unit, const Token* part, Reading& reading) {
     if (!part->has_digits_only) return append_no_number(part, reading);

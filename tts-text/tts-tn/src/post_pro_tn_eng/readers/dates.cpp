@@ -14,7 +14,7 @@ bool is_part_of_date(const Token* token) {
     return token->has_digits_only || is_month(token);
 }
 
-// A month or, for what names none, the text as it stands.
+// A month or, for what names none, the text as it is.
 void append_month(std::string_view text, Reading& reading) {
     const char* name = month_name(text);
     if (name == nullptr) {

@@ -3,7 +3,7 @@
 // where there are too few, the one after the last section.
 //
 // What the tokenizer's speed rests on: no reader looks past a plain word that is followed neither
-// by a digit nor by "." and a digit, or that stands after a blank, and none looks back past one.
+// by a digit nor by "." and a digit, or that comes after a blank, and none looks back past one.
 #ifndef KAVI_TN_READERS_H
 #define KAVI_TN_READERS_H
 
@@ -40,7 +40,7 @@ void year_read(std::string_view digits, Reading& reading);
 constexpr std::size_t YEAR_DIGITS = 4;
 bool is_year(std::string_view digits);
 
-// Whether a plain number is the day of a month that stands beside it.
+// Whether a plain number is the day of a month beside it.
 bool is_day_of_month(const Token* number);
 
 // ---- amounts: fractions, decimals, money in dollars ----
@@ -62,7 +62,7 @@ const Token* str_number(const Token* number, Reading& reading);
 const Token* turn(const Token* number, Reading& reading);
 
 // A token that a pattern consumes where a number was expected: a word or a tag is appended whole,
-// since the word is the user's and the tag's partner stands elsewhere; a mark says nothing. False
+// since the word is the user's and the tag's partner is elsewhere; a mark says nothing. False
 // when there is no room: the reading then ends before the token.
 bool append_no_number(const Token* token, Reading& reading);
 

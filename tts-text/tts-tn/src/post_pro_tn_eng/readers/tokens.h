@@ -18,7 +18,7 @@ constexpr signed char OTHER_CLASS = 3;
 constexpr signed char NO_SECTION = -1;
 
 // A section: a piece of a text, or the text of a section that a host holds. A token belongs to a
-// row: SECTIONS_BEFORE more stand before it, and nobody looks past one that is no section.
+// row: SECTIONS_BEFORE more are before it, and nobody looks past one that is no section.
 struct Token {
     const char* begin;
     std::uint16_t length;

@@ -10,10 +10,10 @@
 namespace kavi::tn {
 
 enum class WordKind {
-    plain,            // spoken as it stands
+    plain,            // spoken as it is
     month,            // its full name is spoken
     telephone_label,  // "Tel", which may have a number after it
-    capitals,         // spoken as it stands, too, but the lexicon is asked
+    capitals,         // spoken as it is, too, but the lexicon is asked
 };
 
 // The kind of a section of letters, which something else or a NUL follows.

@@ -72,7 +72,7 @@ bool has_case_form(const char* text, const char* abbreviation, std::size_t form)
     return true;
 }
 
-// Whether the abbreviation of a row has room before `dot`, and its first letter stands there, in
+// Whether the abbreviation of a row has room before `dot`, and its first letter is there, in
 // whatever case: most texts that end alike are told from it by that.
 bool begins_alike(int row, const char* stretch, const char* dot) {
     const auto offset = static_cast<std::ptrdiff_t>(dot_offset(row));

@@ -13,7 +13,7 @@ namespace kavi::tn {
 
 constexpr int NO_ABBREVIATION = -1;
 
-// Where the first "." stands in the abbreviation of a row.
+// The offset of the first "." in the abbreviation of a row.
 std::size_t dot_offset(int row);
 
 // Serves one scan of one source text: remembers which case forms lie ahead, so that even a text

@@ -18,7 +18,7 @@ namespace tn {
 
 namespace {
 
-// Whether what stands here, after some other character, is a mark that only joins digits.
+// Whether the character here, after some other, is a mark that only joins digits.
 constexpr bool joins_digits(const char* mark) {
     const bool may_join = *mark == '.' || *mark == ',' || *mark == ':';
     return may_join && is_digit(mark[-1]) && is_digit(mark[1]);
@@ -140,7 +140,7 @@ class SentenceCutter {
         hides_full_stop_ = false;
     }
 
-    // Whether the full stop ended an abbreviation, whose expansion stands in the target now. A full
+    // Whether the full stop ended an abbreviation, whose expansion is in the target now. A full
     // stop inside a tag that was passed hides the abbreviations after it. One whose expansion has
     // no room ends the sentence.
     bool expand_abbreviation() {

@@ -151,7 +151,7 @@ class SectionDispatcher {
         return read(ReadingRule::money, currrency_read, amount);
     }
 
-    // In a host's queue, the form code stands in the place of the section's class from here on. An
+    // In a host's queue, the form code replaces the section's class from here on. An
     // incomplete time ends the walk without its words.
     const Token* clock_time() {
         const TimeForm form = time_decide(first_);

@@ -70,7 +70,7 @@ inline const MarkReading* find_mark(char mark) {
     return number != 0 ? &MARK_READINGS[number - 1] : nullptr;
 }
 
-// The words of a row for what stands before and after the mark, or READER.
+// The words of a row for what comes before and after the mark, or READER.
 constexpr MarkWords words_of(const MarkReading& row, bool after_number, bool before_number) {
     if (after_number) return row.after_number;
     return before_number ? row.before_number : row.otherwise;

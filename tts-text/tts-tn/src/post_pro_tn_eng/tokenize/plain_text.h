@@ -1,4 +1,4 @@
-// Text that reads the same wherever it stands, and is read without tokens.
+// Text that reads the same anywhere, and is read without tokens.
 #ifndef KAVI_TN_PLAIN_TEXT_H
 #define KAVI_TN_PLAIN_TEXT_H
 
@@ -11,7 +11,7 @@ namespace kavi::tn {
 // Appends the readings of words, tags and plain marks from `text` on and returns where they end: at
 // the end of the text, or before a number, a month, a telephone label or a mark that a reader looks
 // at: the dispatcher goes on there. Null when the output is full; it then holds what fitted. A NUL
-// stands at `text_end`. `tag_ends` serves one pass over the text. `observer` is shown each word, or
+// is at `text_end`. `tag_ends` serves one pass over the text. `observer` is shown each word, or
 // stretch of words, and mark; it may be null.
 const char* read_plain_text(const char* text, const char* text_end, TagEnds& tag_ends,
                             BoundedText& output, const ReadingObserver* observer);

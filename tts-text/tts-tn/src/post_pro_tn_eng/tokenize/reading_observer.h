@@ -54,7 +54,7 @@ struct ReadingStep {
 // Is shown what is read as what, in order: together it is the sentence, but for blanks. A reading
 // is written where the one before it ends.
 struct ReadingObserver {
-    // `source`, a word, a stretch of words or a mark that reads the same wherever it stands, was
+    // `source`, a word, a stretch of words or a mark that reads the same anywhere, was
     // written to the output, which is so long now.
     void (*on_plain_text)(void* context, std::string_view source, int output_length);
     void (*on_step)(void* context, const ReadingStep& step);

@@ -39,7 +39,7 @@ inline std::string_view first_section(const char* text, TagEnds& tag_ends) {
     return first_section(text, run_of(*text), tag_ends);
 }
 
-// Gives a section its text and class and no neighbours. What stands after the text is as it was.
+// Gives a section its text and class and no neighbours. The bytes after the text stay.
 inline void set_section(Section& section, std::string_view text) {
     copy_short(section.sz_char, text.data(), text.size());
     section.sz_char[text.size()] = '\0';

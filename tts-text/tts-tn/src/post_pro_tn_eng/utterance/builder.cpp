@@ -1,4 +1,4 @@
-// A text is read once to count its words and, when one list does not hold all that stands in it, a
+// A text is read once to count its words and, when one list does not hold all its items, a
 // second time to store them; so the array is had once and at its size.
 
 #include "builder.h"

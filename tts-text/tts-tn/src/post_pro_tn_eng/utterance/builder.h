@@ -10,7 +10,7 @@
 namespace kavi::tn {
 
 // What PostProTnEng::eng_text_to_utterance_syllable does. A NUL follows the text. `events` is room
-// for lists of what stands in it; the last one is left, with all of it when that has room.
+// for lists of its items; the last one is left, with all of it when that has room.
 int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyllable*& p_utt,
                     int& n_utt, TextEvents& events);
 

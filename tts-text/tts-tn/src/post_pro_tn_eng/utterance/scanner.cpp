@@ -72,7 +72,7 @@ bool Scanner::advance() {
 }
 
 // At a "<" that is not the last character. A tag at which something is to be done, and a closing
-// tag, end a word that stands directly before them; other tags do not.
+// tag, end a word directly before them; other tags do not.
 Scanner::Met Scanner::meet_tag() {
     const bool is_closing = at_[1] == '/';
     if (tag_at_ != at_) {  // or a word that it ends has been read before it

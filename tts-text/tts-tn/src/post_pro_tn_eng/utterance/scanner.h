@@ -16,7 +16,7 @@ namespace kavi::tn {
 // searched for once it does not search for again.
 class Scanner {
   public:
-    // The text ends at `end`, where a NUL stands. `word` holds WORD_MAX_LEN bytes, `word_length` of
+    // The text ends at `end`, where a NUL is. `word` holds WORD_MAX_LEN bytes, `word_length` of
     // them characters of the word at hand. The arena may be null.
     Scanner(const char* at, const char* end, char* word, int word_length, mem_stack_handle arena);
     Scanner(const Scanner&) = delete;

@@ -27,7 +27,7 @@ inline const char* find_word_end(const char* text, const char* no_eight, const c
 }
 
 // The name in the "<punc=" tag at `text`, where no word has begun; empty when there is none, or not
-// of letters alone. The scanner reads such tags too: this is less. At `end` stands a NUL or the "<"
+// of letters alone. The scanner reads such tags too: this is less. At `end` is a NUL or the "<"
 // of a closing tag, so no name goes past it.
 std::string_view mark_at(const char* text, const char* end) {
     constexpr std::string_view PREFIX = "<punc=";

@@ -1,4 +1,4 @@
-// Tagged text as a list of what stands in it: words, marks, break times and spans.
+// Tagged text as a list of its items: words, marks, break times and spans.
 #ifndef KAVI_TN_TEXT_READER_H
 #define KAVI_TN_TEXT_READER_H
 
@@ -48,7 +48,7 @@ class TextEvents {
         if (kind != TextEventKind::word) ++n_others_;
     }
 
-    // Adds a word that stands in pieces: its characters are kept here.
+    // Adds a word that is in pieces: its characters are kept here.
     void add_put_together(std::string_view word);
 
     int n_words() const { return static_cast<int>(end_ - events_) - n_others_; }
@@ -69,7 +69,7 @@ class TextEvents {
 // Is handed each list; false when no more are wanted.
 using EventsHandler = bool(void* context, const TextEvents& events);
 
-// Lists what stands in a text, which a NUL follows: in one list, which is left in `events`, or,
+// Lists the items of a text, which a NUL follows: in one list, which is left in `events`, or,
 // where that has no room for all, in several. False when the handler did not want all. The arena
 // may be null.
 bool read_text(std::string_view text, mem_stack_handle arena, TextEvents& events,

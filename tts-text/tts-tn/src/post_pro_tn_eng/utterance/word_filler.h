@@ -28,7 +28,7 @@ class WordFiller {
     // Where the next word goes.
     UtteranceSyllable* record() const { return record_; }
 
-    // Stores what stands in the text. False: a word's storage could not be had, or the chain of
+    // Stores the item. False: a word's storage was refused, or the chain of
     // spans has no room; the rest is not to be stored.
     bool take(const TextEvent& event) {
         if (event.kind == TextEventKind::word) return store(event.text());

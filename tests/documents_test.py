@@ -1,7 +1,8 @@
 """Every command of the documents does what they say.
 
 Each "$ command" of a console block in README.md and docs/*.md prints what stands under it; each example
-of the man page and of --help runs.
+of the man page and of --help runs. Whatever lists the classes of everyday English lists all of them, in the
+order of tts_everyday.h.
 
 Usage: documents_test.py PATH-OF-KAVI-TN PROJECT
 """
@@ -38,5 +39,12 @@ with tempfile.TemporaryDirectory() as folder:
             re.findall(r"^  (kavi-tn .*)$", run("kavi-tn --help", folder), re.M):
         run(example, folder)
         examples += 1
-assert commands >= 3 and examples >= 8, (commands, examples)
-print(commands, "commands and", examples, "examples do what is said")
+header = (project / "tts-text/tts-everyday/inc/tts_everyday.h").read_text()
+classes = re.findall(r"^    (\w+), +// ", header, re.M)
+for path in [*(project / "tools/kavi-tn/completions").iterdir(), *map(project.joinpath, (
+        "tools/kavi-tn/command_line.cpp", "tools/kavi-tn/kavi-tn.1", "tts-text/tts-c/inc/kavi.h", "web/kavi.js",
+        "python/kavi/_types.py", "docs/kavi-tn.schema.json", "docs/everyday.md"))]:
+    listed = re.findall(rf"(?<![a-z])(?:{'|'.join(classes)})(?![a-z])", path.read_text().lower())
+    assert " ".join(classes) in " ".join(listed), f"{path} does not list {classes}"
+assert commands >= 3 and examples >= 8 and len(classes) >= 11, (commands, examples, classes)
+print(commands, "commands and", examples, "examples do what is said;", len(classes), "classes are listed")

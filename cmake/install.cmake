@@ -45,17 +45,17 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kaviConfig.cmake
     DESTINATION ${KAVI_PACKAGE_DIR} COMPONENT development)
 
 # pkg-config: installed, where a file finds its prefix from its own place, and uninstalled. kavi is the
-# C++ libraries, kavi-c the one for C.
+# C++ libraries, kavi-c the one for C. Folders may have blanks in their names.
 file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 function(kavi_pkg_config name libraries installed_include build_includes)
     set(KAVI_PC_NAME ${name})
     set(KAVI_PC_LIBS ${libraries})
-    set(KAVI_PC_CFLAGS "-I\${pcfiledir}/${up}${installed_include}")
+    set(KAVI_PC_CFLAGS "\"-I\${pcfiledir}/${up}${installed_include}\"")
     set(KAVI_PC_LIBDIR "\${pcfiledir}/${up}${CMAKE_INSTALL_LIBDIR}")
     configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
-    list(TRANSFORM build_includes PREPEND -I)
+    list(TRANSFORM build_includes REPLACE "(.+)" "\"-I\\1\"")
     list(JOIN build_includes " " KAVI_PC_CFLAGS)
     set(KAVI_PC_LIBDIR ${CMAKE_CURRENT_BINARY_DIR})
     configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}-uninstalled.pc @ONLY)

@@ -39,18 +39,20 @@ TXT
 
 # pkg_config_host NAME: a host that knows nothing but pkg-config.
 pkg_config_host() {
-    # shellcheck disable=SC2046
-    $CXX -std=c++17 "$source/examples/link_the_engine.cpp" $(pkg-config --cflags --libs kavi) -o "$1"
+    local flags
+    mapfile -t flags < <(pkg-config --cflags --libs kavi | xargs printf '%s\n') # a blank has a backslash before it
+    $CXX -std=c++17 "$source/examples/link_the_engine.cpp" "${flags[@]}" -o "$1"
     says "$1" "./$1"
 }
 
 cmake --install "$build" --prefix "$work/prefix" >/dev/null
 cmake_host installed 'find_package(kavi 0.1 CONFIG REQUIRED)' "-DCMAKE_PREFIX_PATH=$work/prefix"
 cmake_host build-tree 'find_package(kavi 0.1 CONFIG REQUIRED)' "-Dkavi_DIR=$build"
-cmake_host subdirectory "add_subdirectory($source kavi)"
-cmake_host shared "add_subdirectory($source kavi)" -DBUILD_SHARED_LIBS=ON
+cmake_host subdirectory "add_subdirectory([=[$source]=] kavi)"
+cmake_host shared "add_subdirectory([=[$source]=] kavi)" -DBUILD_SHARED_LIBS=ON
+ln -s "$source" source # FetchContent has no brackets in a name
 cmake_host fetched "include(FetchContent)
-FetchContent_Declare(kavi SOURCE_DIR $source)
+FetchContent_Declare(kavi SOURCE_DIR $work/source)
 FetchContent_MakeAvailable(kavi)"
 PKG_CONFIG_PATH=$(dirname "$(find prefix -name kavi.pc)") pkg_config_host pkg-config-installed
 PKG_CONFIG_PATH=$build pkg_config_host pkg-config-build-tree

@@ -21,17 +21,18 @@ long allocations_left = -1;
 
 }  // namespace
 
-// NOLINTBEGIN: replaces the allocation of the whole program, the library under test included.
-void* operator new(std::size_t size) {
+// NOLINTBEGIN: replaces the allocation of the whole program, the library under test included. Where
+// one half is compiled inline, g++ takes the other for another allocator.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     if (allocations_left == 0) throw std::bad_alloc();
     if (allocations_left > 0) --allocations_left;
     if (void* block = std::malloc(size > 0 ? size : 1)) return block;
     throw std::bad_alloc();
 }
-void operator delete(void* block) noexcept {
+[[gnu::noinline]] void operator delete(void* block) noexcept {
     std::free(block);
 }
-void operator delete(void* block, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept {
     std::free(block);
 }
 // NOLINTEND

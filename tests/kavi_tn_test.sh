@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The command line as a user types it. Usage: kavi_tn_test.sh PATH-OF-KAVI-TN SAMPLE
+# The command line as a user types it.
+# Usage: kavi_tn_test.sh PATH-OF-KAVI-TN SAMPLE [HEADING]   the table's rows under that heading alone
 set -uo pipefail
 tool=$(realpath "$1")
 sample=$(realpath "$2")
@@ -33,14 +34,17 @@ slurm() { PATH=${folders:-$work.path:$PATH} "$slurm" "$@" 2>&1 | sed "s#$work/##
 # The table's rows.
 at_terminal() { TERM=dumb python3 -c 'import pty, sys; pty.spawn(sys.argv[1:])' "$@" | tr -d '\r'; }
 PATH=$(dirname "$tool"):$PATH
-row='^«(.*)» «(.*)» «(.*)»$'
+heading='' row='^«(.*)» «(.*)» «(.*)»$'
 while IFS= read -r line; do
+    [[ $line != '# ---- '* ]] || heading=${line//[# -]/}
+    [ "${3:-$heading}" = "$heading" ] || continue
     [[ $line =~ $row ]] || { case $line in '' | '#'*) continue ;; *) expect 'a row' '' "$line" ;; esac }
     name=${BASH_REMATCH[1]} command=${BASH_REMATCH[2]} expected=${BASH_REMATCH[3]}
     written=$(eval "$command" 2>&1 </dev/null; ended=$?; [ $ended = 0 ] || echo "[$ended]")
     written=${written//$'\n['/[}
     expect "$name: $command" "${expected//\$work/$work}" "${written//$'\n'/|}"
 done <"$table"
+[ -z "${3:-}" ] || exit $failures
 
 # The parts of files, however many, are the run over all of them.
 seq 3000 | sed 's/.*/Line & <\/poem> costs $&, and it is 10:30 in the garden & of the house now./' >long
@@ -97,7 +101,7 @@ for i in $(seq "${KAVI_TEST_TEXTS:-3000}"); do sed "s/paid/paid $i/" "$sample"; 
 for jobs in 2 5; do expect "-j $jobs" '' "$("$tool" -j $jobs corpus | cmp - single 2>&1)"; done
 if command -v parallel >/dev/null; then
     expect 'GNU parallel' '' \
-        "$(parallel --will-cite --pipe -k --block 200k -j 2 "$tool" <corpus | cmp - single 2>&1)"
+        "$(parallel --will-cite --pipe -k --block 200k -j 2 kavi-tn <corpus | cmp - single 2>&1)"
 fi
 expect 'a page' "$(wc -l <single)" "$("$tool" --format html corpus 2>/dev/null | grep -c '<article')"
 

@@ -132,12 +132,12 @@ def all_faults():
         for place in part.paths:
             for path in sorted((ROOT / place).rglob("*")) if (ROOT / place).is_dir() else [ROOT / place]:
                 if path.suffix in FAULTS and path.is_file():
-                    for fault in faults_of(path):
+                    for fault in dict.fromkeys(faults_of(path)):
                         yield Fault(part, path.relative_to(ROOT), *fault)
 
 
 def faults_of(path):
-    """Every fault of a file as (line number, what stands there, what is put there)."""
+    """Every fault of a file as (line number, what stands there, what is put there); some come twice."""
     lines = path.read_text().split("\n")
     is_document = False
     for number, line in enumerate(lines):

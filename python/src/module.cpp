@@ -25,11 +25,13 @@ int run_tool(std::vector<std::string> arguments) {
     return kavi::tool::run_tool(static_cast<int>(arguments.size()), argv.data());
 }
 
-// Pauses from the least, marks from 0, codes of findings: as the engine orders them.
+// Pauses from the least, marks from 0, codes of findings, classes of everyday English: in their
+// order.
 py::tuple names() {
     py::list pauses;
     py::list marks;
     py::list findings;
+    py::list classes;
     for (int i = kavi::PAUSE_SYL_FE; i <= kavi::PAUSE_PLRULE_INTONATION_PHRASE_FORCE_FE; ++i) {
         pauses.append(kavi::pause_name(static_cast<kavi::PAUSE_type>(i)));
     }
@@ -39,7 +41,10 @@ py::tuple names() {
     for (int i = 0; i < kavi::FINDINGS; ++i) {
         findings.append(kavi::code_of(static_cast<kavi::Finding>(i)));
     }
-    return py::make_tuple(pauses, marks, findings);
+    for (int i = 0; i < kavi::EVERYDAY_CLASSES; ++i) {
+        classes.append(kavi::name_of(static_cast<kavi::EverydayClass>(i)));
+    }
+    return py::make_tuple(pauses, marks, findings, classes);
 }
 
 }  // namespace

@@ -40,11 +40,13 @@ def test_the_tool_is_the_filter() -> None:
 
 
 def test_enumerations_are_the_engine_s() -> None:
-    pauses, marks, findings = _kavi.names()
+    pauses, marks, findings, classes = _kavi.names()
     assert [pause.name for pause in kavi.Pause] == [
         name.upper().replace(", ", " ").replace(" ", "_") for name in pauses]
     assert [mark.name for mark in kavi.Mark] == [name.upper() for name in marks]
     assert [code.value for code in kavi.FindingCode] == findings
+    assert [kavi.Everyday[name.upper()] for name in classes] == [1 << i for i in range(11)]
+    assert kavi.Reader(everyday=classes) == kavi.Reader(everyday=kavi.Everyday.ALL) == kavi.Reader(everyday=True)
 
 
 def words_by_tool(line: str) -> list:
@@ -66,7 +68,7 @@ def words_by_tool(line: str) -> list:
 
 
 def words_by_package(text: str) -> list:
-    pauses, marks, _ = _kavi.names()
+    pauses, marks, *_ = _kavi.names()
     return [(s.offset, s.length, s.speakable, s.plain,
              [(w.text, w.offset, w.length, pauses[w.pause + 2], [marks[m] for m in w.marks], w.breaktime,
                {name: w.attributes[name] for name in w.attributes if name not in ("spectrum", "quill_effect")})
@@ -85,7 +87,7 @@ def test_reads_as_the_tool_does(text: str) -> None:
 
 def listed(result: kavi.Result, text: str) -> str:
     """What was read, as in tests/golden/answers.txt."""
-    pauses, marks, _ = _kavi.names()
+    pauses, marks, *_ = _kavi.names()
     ends = list(itertools.accumulate((len(c.encode()) for c in text), initial=0))
 
     def span(thing: Any) -> str:

@@ -167,6 +167,10 @@ enum {
 };
 KAVI_API kavi_status kavi_reader_set_everyday(kavi_reader* reader, uint32_t classes);
 
+/* The class of a name that a user has written: "units" for KAVI_UNITS, and so on, as kavi-tn and
+ * the packages for Python and JavaScript have them. 0 for any other, and for null. */
+KAVI_API uint32_t kavi_everyday_class(const char* name);
+
 /* What was wrong with the last lexicon, as "NAME:LINE: fault"; "" when nothing was. Lives until the
  * next call with the reader. */
 KAVI_API const char* kavi_reader_error(const kavi_reader* reader);

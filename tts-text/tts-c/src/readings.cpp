@@ -44,6 +44,11 @@ kavi_status kavi_reader_set_lexicon(kavi_reader* reader, const char* name, const
     });
 }
 
+uint32_t kavi_everyday_class(const char* name) {
+    const auto found = kavi::everyday_class_of(name != nullptr ? name : "");
+    return found ? 1U << static_cast<unsigned>(*found) : 0;
+}
+
 kavi_status kavi_reader_set_everyday(kavi_reader* reader, uint32_t classes) {
     constexpr std::uint32_t ALL = KAVI_ALL_EVERYDAY | KAVI_AMERICAN_DATES;
     if (reader == nullptr || (classes & ~ALL) != 0) return KAVI_BAD_ARGUMENT;

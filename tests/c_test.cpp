@@ -225,6 +225,8 @@ TEST(C, ReadsByLexiconAndEverydayRules) {
     EXPECT_EQ(spoken("kavi won't"), "kavi will not");
     EXPECT_EQ(kavi_reader_set_everyday(r.reader, KAVI_YEARS | KAVI_AMERICAN_DATES), KAVI_OK);
     EXPECT_EQ(spoken("3/4/2020"), "March fourth twenty twenty");
+    EXPECT_EQ(kavi_reader_set_everyday(r.reader, KAVI_TITLES), KAVI_OK);
+    EXPECT_EQ(spoken("Prof. Lee"), "professor Lee");
 }
 
 TEST(C, StopsWhereAHandlerSaysSo) {

@@ -32,7 +32,6 @@ kavi_status kavi_reader_set_lexicon(kavi_reader* reader, const char* name, const
     if (reader == nullptr || (bytes == nullptr && length > 0)) return KAVI_BAD_ARGUMENT;
     if (reader->is_reading) return KAVI_BUSY;
     return kavi::c::guarded([&] {
-        reader->error.clear();
         auto lexicon = std::make_shared<kavi::Lexicon>();
         const std::string_view lines(length > 0 ? bytes : "", length);
         if (!lexicon->add(name != nullptr ? name : "lexicon", lines, reader->error)) {
@@ -54,7 +53,6 @@ kavi_status kavi_reader_set_everyday(kavi_reader* reader, uint32_t classes) {
     if (reader == nullptr || (classes & ~ALL) != 0) return KAVI_BAD_ARGUMENT;
     if (reader->is_reading) return KAVI_BUSY;
     return kavi::c::guarded([&] {
-        reader->error.clear();
         rewrite(*reader, reader->lexicon, classes);
         return KAVI_OK;
     });

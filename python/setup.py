@@ -15,7 +15,8 @@ class BuildByCMake(build_ext):
         module = pathlib.Path(self.get_ext_fullpath(ext.name)).resolve()
         build = PROJECT / "build" / "python"
         subprocess.run(["cmake", "-S", PROJECT, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
-                        "-DKAVI_HARDENED=ON", "-DKAVI_BUILD_TESTS=OFF", "-DKAVI_BUILD_PYTHON=ON",
+                        "-DKAVI_HARDENED=ON",
+                        "-DKAVI_BUILD_TESTS=OFF", "-DKAVI_BUILD_TOOLS=OFF", "-DKAVI_BUILD_PYTHON=ON",
                         f"-DPython3_EXECUTABLE={sys.executable}",
                         f"-DKAVI_PYTHON_MODULE_DIR={module.parent}"], check=True, stdout=subprocess.DEVNULL)
         subprocess.run(["cmake", "--build", build, "--target", "kavi_python", "--", "--quiet"], check=True)

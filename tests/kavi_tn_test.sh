@@ -24,18 +24,19 @@ is_there() { "${@:2}" >/dev/null 2>&1 || { echo "there is no $1: its tests are s
 terminals='' network=''
 is_there 'pseudo-terminal' python3 -c 'import os; os.openpty()' && terminals=yes
 is_there 'network of this machine alone' python3 -c 'import socket
-socket.create_connection(socket.create_server(("127.0.0.1", 0)).getsockname())' && network=yes
+server = socket.create_server(("127.0.0.1", 0))
+socket.create_connection(server.getsockname())' && network=yes
 
 # Slurm that does a job at once, and a PATH with little in it.
 mkdir "$work.path" "$work.bare"
 cat >"$work.path/sbatch" <<'SCRIPT'
 #!/usr/bin/env bash
 while [ "$1" != --output ]; do [ "$1" = --array ] && parts=$2; shift; done
-for SLURM_ARRAY_TASK_ID in ${parts//,/ }; do export SLURM_ARRAY_TASK_ID; "${@:3}"; done
+for SLURM_ARRAY_TASK_ID in ${parts//,/ }; do export SLURM_ARRAY_TASK_ID; "${@:3}" || echo "a task ended with $?" >&2; done
 echo 1
 SCRIPT
-ln -s /bin/true "$work.path/squeue"
-chmod +x "$work.path/sbatch"
+printf '#!/bin/sh\n[ -e "$0.asked" ] || { echo 1; touch "$0.asked"; }\n' >"$work.path/squeue" # the first job is waited for
+chmod +x "$work.path"/*
 for program in env bash realpath sed head stat mkdir diff cat mv; do ln -s "$(command -v $program)" "$work.bare"; done
 slurm() { PATH=${folders:-$work.path:$PATH} "$slurm" "$@" 2>&1 | sed "s#$work/##g"; }
 # The table's rows.

@@ -12,7 +12,13 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 /usr/bin/python3 -m venv --system-site-packages "$work/venv"
 pip() { "$work/venv/bin/python3" -m pip --quiet --disable-pip-version-check --no-cache-dir "$@"; }
+# One at a time, and with no module in the wheel that an earlier run has left.
+mkdir -p "$1/build"
+exec 9>"$1/build/python.lock"
+flock 9
+rm -rf "$1/python/build"
 pip wheel --no-build-isolation --no-deps --no-index --wheel-dir "$work" "$1/python"
+exec 9>&-
 pip install --no-deps --no-index "$work"/kavi-*.whl
 cd "$work"
 "$work/venv/bin/python3" -m pytest -q -p no:cacheprovider "$1/tests/python"

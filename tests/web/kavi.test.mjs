@@ -109,6 +109,7 @@ test('tells sources, heads and marks', () => {
   const {sentences} = small.read(text);
   assert.equal(sentences.map(s => s.source).join(''), text);
   assert.deepEqual(sentences[0].head.marks, ['dou']);
+  assert.equal(small.read('\ufeffa').sentences[0].normalized, '\ufeffa');
   const dollars = sentences[0].words.find(w => w.word === 'dollars');
   assert.equal(text.slice(dollars.offset, dollars.offset + dollars.length), '$5.50');
   const ok = sentences.flatMap(s => s.words).find(w => w.word === 'ok');

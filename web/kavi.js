@@ -83,8 +83,7 @@ class Memory {
       };
     }
     this.names = new Map();
-    this.room = 0;
-    this.size = 0;
+    this.room = this.size = 0;
     this.#isLost = false;
   }
   // Another instance in the place of one that is lost.
@@ -132,7 +131,7 @@ class Memory {
     const most = 3 * text.length;
     if (most > this.size) {
       this.exports.free(this.room);
-      this.size = 0;
+      this.room = this.size = 0;
       this.room = this.take(most);
       this.size = most;
     }

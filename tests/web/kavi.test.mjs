@@ -153,6 +153,8 @@ test('reads the next text when there was no memory for one', async () => {
   assert.throws(() => second.read('a '.repeat(200000)));
   assert.equal(first.normalize("kavi won't 5"), 'kahvee will not five');
   assert.equal(second.normalize("kavi 5"), 'kavi five');
+  for (let i = 0; i < 2; ++i) assert.throws(() => second.read('a'.repeat(3000000)), /^RangeError: not enough memory$/);
+  assert.equal(second.normalize("kavi 5"), 'kavi five');
   first.free();
 });
 

@@ -51,6 +51,8 @@ def test_convert_of_another_run_is_refused(folder):
         for parts_now, options_now in ((4, options), (3, ["--plain"]), (3, ["--plain", "--lexicon=lexicon"])):
             with pytest.raises(RuntimeError, match='OUT is of another run: ".*" there, ".*" now'):
                 kavi.dask.convert(client, ["in"], "OUT", parts_now, options_now)
+        with pytest.raises(RuntimeError, match="parts is a number from 1, not 0"):
+            kavi.dask.convert(client, ["in"], "OUT", 0)
         pathlib.Path("lexicon").write_text("a\tbb\n")
         with pytest.raises(RuntimeError, match='"lexicon 4 .*" there, "lexicon 5 .*" now'):
             kavi.dask.convert(client, ["in"], "OUT", 3, options)

@@ -121,7 +121,7 @@ test('refuses what has no meaning, and says so', async () => {
     [() => small.normalize(5), /^TypeError: a text/],
     [() => small.read('a', {rule: true}), /^TypeError: no such option: rule$/],
     [() => small.reader({american_dates: true}), /^TypeError: no such option: american_dates$/],
-    [() => small.reader({capacity: 2 ** 32}), /^TypeError: a capacity/],
+    ...[2 ** 32, -1, 1.5, '1'].map(capacity => [() => small.reader({capacity}), /^TypeError: a capacity/]),
     [() => small.reader({lexicon: 'a\tb'}), /^TypeError: .*load\({everyday: true}\)/],
     [() => small.reader().setLexicon('a\tb'), /^TypeError: .*load\({everyday: true}\)/],
     [() => small.reader({everyday: 'units'}), /^TypeError: .*load\({everyday: true}\)/],

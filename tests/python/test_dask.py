@@ -30,6 +30,13 @@ def test_main_with_wrong_arguments_says_so_in_a_line(folder, arguments, message,
     assert message in said and not pathlib.Path("OUT").exists()
 
 
+def test_main_with_parts_and_options_hands_them_on(folder, monkeypatch):
+    seen = []
+    monkeypatch.setattr(kavi.dask, "_main", lambda wanted, options: seen.append((wanted.parts, wanted.files, options)))
+    kavi.dask.main(["--parts", "12", "OUT", "in", "--", "--plain", "--"])
+    assert seen == [(12, ["in"], ["--plain", "--"])]
+
+
 def test_main_without_dask_names_it(folder, monkeypatch):
     monkeypatch.setitem(sys.modules, "dask.distributed", None)
     with pytest.raises(SystemExit, match="no dask.distributed: it comes with dask and distributed"):

@@ -66,7 +66,7 @@ class Memory {
 
   constructor(exports, instantiate) {
     this.#instantiate = instantiate;
-    this.generation = 1;
+    this.generation = Symbol();
     this.#adopt(exports);
   }
   #adopt(exports) {
@@ -77,7 +77,7 @@ class Memory {
           return value(...values);
         } catch (error) {
           this.#isLost = true;
-          ++this.generation;
+          this.generation = Symbol();
           throw error;
         }
       };
@@ -142,7 +142,7 @@ class Memory {
 
 class Reader {
   #memory;
-  #generation = 0; // of the instance that the reader is in
+  #generation; // of the instance that the reader is in
   #reader = 0;
   #out; // where functions leave what they give
   #capacity;

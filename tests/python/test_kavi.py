@@ -152,6 +152,12 @@ def test_lone_surrogates_and_nul_lose_no_word() -> None:
     assert sentence.normalized == "a \ud800 5   b"
 
 
+def test_a_character_that_was_cut_is_kept_by_its_bytes() -> None:
+    result = kavi.read("a<breaktime=éééééééééé>")
+    assert result.sentences[0].words[0].breaktime == 9 * "é" + "\udcc3"
+    assert pickle.loads(pickle.dumps(result)) == result
+
+
 def test_what_is_no_str_is_refused() -> None:
     with pytest.raises(TypeError):
         kavi.normalize(5)  # type: ignore[arg-type]

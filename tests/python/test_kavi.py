@@ -203,15 +203,15 @@ def test_signals_are_answered_inside_a_long_text() -> None:
         calls.append(1)
         if len(calls) == 3:  # signals that wait for the end of a call come as one
             raise KeyboardInterrupt
+        signal.setitimer(signal.ITIMER_REAL, 0.01)
 
     before = signal.signal(signal.SIGALRM, on_alarm)
     try:
         for read in (kavi.normalize, kavi.read):
             calls.clear()
-            signal.setitimer(signal.ITIMER_REAL, 0.01, 0.01)
+            signal.setitimer(signal.ITIMER_REAL, 0.01)
             with pytest.raises(KeyboardInterrupt):
                 read("It is 10:30. " * 600000)
-            signal.setitimer(signal.ITIMER_REAL, 0)
     finally:
         signal.setitimer(signal.ITIMER_REAL, 0)
         signal.signal(signal.SIGALRM, before)

@@ -132,7 +132,7 @@ done
 # A file that is mounted cannot be replaced.
 if is_there 'right to mount' unshare -m mount --bind all out; then
     expect 'a mounted file is written' 'cannot write out: it is an input|a b|c' "$(unshare -m sh -c "
-        echo a b >all; mount --bind all out; '$tool' out -o out; cat out; '$tool' -t c -o out; cat out" 2>&1 | sed 's/^kavi-tn: //' | paste -sd'|')"
+        echo a b >all; mount --bind all out; '$tool' out -o out; cat out; '$tool' -t c -o out; cat out; '$tool' -t '' -o out; cat out" 2>&1 | sed 's/^kavi-tn: //' | paste -sd'|')"
 fi
 # The output blocks, and the program ends all the same.
 mkfifo pipe && exec 3<>pipe

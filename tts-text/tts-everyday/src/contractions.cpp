@@ -31,6 +31,31 @@ std::string word_with_apostrophes(const Place& place, std::size_t& length) {
     return word;
 }
 
+bool is_participle(std::string_view word) {
+    if (find(PARTICIPLES, word) != nullptr) return true;
+    const bool ends_in_ed = word.size() > 4 && word.substr(word.size() - 2) == "ed";
+    return ends_in_ed && word[word.size() - 3] != 'e' && word != "embed";
+}
+
+// The word for "'d" before what is that far ahead, null where both could be meant: "I'd read".
+const char* had_or_would(const Place& place, std::size_t ahead) {
+    const auto next_word = [&](std::size_t at) {
+        return place.peek(at) == ' ' ? place.letters(at + 1) : std::string_view();
+    };
+    std::string_view next = next_word(ahead);
+    if (find(ADVERBS_AFTER_D, next) != nullptr) next = next_word(ahead + 1 + next.size());
+    if (next.empty()) return nullptr;
+    if (is_participle(next)) return "had";
+    return find(BASE_FORMS, next) != nullptr ? "would" : nullptr;
+}
+
+// "it's been", "she's got"
+bool is_has(const Place& place, std::size_t ahead) {
+    if (place.peek(ahead) != ' ') return false;
+    const std::string_view next = place.letters(ahead + 1);
+    return next == "been" || next == "got" || next == "had" || next == "become";
+}
+
 }  // namespace
 
 void read_contraction(const Place& place, Found& found) {
@@ -60,10 +85,17 @@ void read_contraction(const Place& place, Found& found) {
         return;
     }
     found.words = stem;
-    if (const Row* row = find(CONTRACTION_ENDINGS, lower)) {
+    if (lower == "d") {
+        const char* verb = had_or_would(place, found.length);
+        if (verb == nullptr) {
+            found.length = 0;
+        } else {
+            say(verb, found.words);
+        }
+    } else if (const Row* row = find(CONTRACTION_ENDINGS, lower)) {
         say(row->spoken, found.words);
     } else if (lower == "s" && find(BEFORE_IS, in_lower_case(stem)) != nullptr) {
-        say("is", found.words);
+        say(is_has(place, found.length) ? "has" : "is", found.words);
     } else {
         found.words += ending;  // "Tom's", "O'Brien"
     }

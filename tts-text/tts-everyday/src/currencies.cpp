@@ -45,16 +45,30 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
 
 }  // namespace
 
+namespace {
+
+// A code before its amount, "USD 10 million"; its row, or null.
+const Row* code_before(const Place& place) {
+    const std::string_view code = place.letters();
+    if (code.size() != 3 || place.peek(3) != ' ' || !is_digit(place.peek(4))) return nullptr;
+    const Row* row = find(CURRENCIES, code);
+    return row != nullptr && row->kind == Kind::after ? row : nullptr;
+}
+
+}  // namespace
+
 void read_currency(const Place& place, Found& found) {
     const std::size_t minus = place.peek() == '-' ? 1 : 0;
     if (is_letter(place.before())) return;
     const Row* row = place.find_row(CURRENCIES, minus, [&](const Row& candidate) {
         return (candidate.kind == Kind::before || candidate.kind == Kind::both) &&
-               is_digit(place.peek(minus + candidate.written.size()));
+               number_at(place, minus + candidate.written.size()).length > 0;
     });
+    const bool has_blank = row == nullptr && minus == 0;
+    if (has_blank) row = code_before(place);
     if (row == nullptr) return;
     if (minus > 0) say("minus", found.words);
-    const std::size_t begin = minus + row->written.size();
+    const std::size_t begin = minus + row->written.size() + (has_blank ? 1 : 0);
     const Number number = number_at(place, begin);
     const std::size_t end = begin + number.length;
     std::size_t scale_length = 0;
@@ -80,6 +94,7 @@ void read_currency(const Place& place, Found& found) {
         found.say_name(minus, row->written.size(), row->spoken);
     } else {
         say_amount(number, scale, *row, minus, found);
+        found.length += say_per(place, found.length, found.words);
     }
 }
 
@@ -97,6 +112,7 @@ void read_amount_after(const Place& place, Found& found) {
     if (row == nullptr) return;
     say_amount(number, scale, *row, end + blank, found);
     found.length = end + blank + row->written.size();
+    found.length += say_per(place, found.length, found.words);
 }
 
 }  // namespace kavi::everyday

@@ -29,6 +29,36 @@ bool read_house_number(const Place& place, const Number& number, Found& found) {
     return true;
 }
 
+// "3:1"; two digits after the colon and a blank before them are a time's
+bool read_ratio(const Place& place, const Number& number, Found& found) {
+    const std::size_t colon = number.length;
+    if (!number.fraction.empty() || place.peek(colon) != ':' || place.before() == ':') return false;
+    const std::string_view second = place.digits(colon + 1);
+    const std::size_t end = colon + 1 + second.size();
+    const bool is_ratio = second.size() == 1 && !place.is_joined(end) && place.peek(end) != ':' &&
+                          !(place.peek(end) == '.' && is_digit(place.peek(end + 1)));
+    if (!is_ratio) return false;
+    number.say(found.words);
+    say("to", found.words);
+    say_cardinal(second, found.words);
+    found.length = end;
+    return true;
+}
+
+// "an 8-10 record"
+bool read_record(const Place& place, const Number& number, Found& found) {
+    const std::size_t dash = place.dash(number.length);
+    const std::string_view lost = place.digits(number.length + dash);
+    const std::size_t end = number.length + dash + lost.size();
+    if (dash == 0 || lost.empty() || lost.size() > 3 || !place.starts_with(" record", end))
+        return false;
+    number.say(found.words);
+    say("and", found.words);
+    say_cardinal(lost, found.words);
+    found.length = end;
+    return true;
+}
+
 // ---- What may come after a number: how long it is, its words added ----
 
 // "10-20", "3–2"; not "1-2-3"
@@ -83,49 +113,39 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
 
 }  // namespace
 
-// "CO2", "BA249", "H2O", "SW3 4ND": capitals letter by letter; up to two digits as a number, more
-// one by one.
-void read_code(const Place& place, Found& found) {
-    constexpr std::size_t LONGEST = 3;
-    std::size_t end = 0;
-    bool has_digits = false;
-    for (std::size_t n_runs = 0; n_runs < LONGEST; ++n_runs) {
-        const std::size_t n_letters = place.run(is_upper, end);
-        const std::string_view digits = place.digits(end + n_letters);
-        if (n_letters > LONGEST || digits.size() > LONGEST + 1 || (end == 0 && n_letters == 0))
-            return;
-        for (std::size_t i = 0; i < n_letters; ++i) say(place.part(end + i, 1), found.words);
-        end += n_letters + digits.size();
-        if (digits.empty()) break;
-        has_digits = true;
-        digits.size() < LONGEST ? say_cardinal(digits, found.words)
-                                : say_digits(digits, found.words);
-    }
-    if (!has_digits || !!place.is_joined(end)) return;
-    // The second half of a postcode.
-    const bool has_half = place.peek(end) == ' ' && is_digit(place.peek(end + 1)) &&
-                          place.run(is_upper, end + 2) == 2 && !place.is_joined(end + 4);
-    if (has_half) {
-        say_digits(place.part(end + 1, 1), found.words);
-        say(place.part(end + 2, 1), found.words);
-        say(place.part(end + 3, 1), found.words);
-        end += 4;
-    }
-    found.length = end;
-}
-
 void read_number(const Place& place, Found& found) {
     const Number number = number_at(place, 0);
     if (number.fraction.empty() && read_fraction(place, found)) return;
+    if (read_record(place, number, found) || read_ratio(place, number, found)) return;
     if (read_ordinal(place, number, found) || read_house_number(place, number, found)) return;
     const bool is_code =
         number.whole.size() > 1 && number.whole[0] == '0' && number.fraction.empty();
     is_code ? say_digits(number.whole, found.words) : number.say(found.words);
     std::size_t end = number.length;
     end += say_range(place, end, found.words);
-    end += say_percent(place, end, found.words);
-    end += say_times(place, end, found.words);
+    const std::size_t percent = say_percent(place, end, found.words);
+    end += percent > 0 ? percent : say_times(place, end, found.words);
     found.length = end;
+}
+
+// ".35"; not "end.5", "...5"
+void read_point(const Place& place, Found& found) {
+    const char before = place.before();
+    const bool may_begin = before == '\0' || before == ' ' || before == '(' || before == '\n';
+    if (place.peek() != '.' || !may_begin) return;
+    const Number number = number_at(place, 0);
+    if (number.length == 0 || place.is_joined(number.length) || place.peek(number.length) == '-')
+        return;
+    const std::string_view verb = place.word_before();
+    const bool is_average =
+        verb == "bats" || verb == "batted" || verb == "batting" || verb == "hitting";
+    if (is_average && number.fraction.size() == 3) {
+        say_cardinal(number.fraction, found.words);
+    } else {
+        say("point", found.words);
+        say_digits(number.fraction, found.words);
+    }
+    found.length = number.length + say_percent(place, number.length, found.words);
 }
 
 // "-5", "+3", "#5", "№ 5", "½", "&", "~5", "2²" and the like.

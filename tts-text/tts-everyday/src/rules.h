@@ -34,6 +34,8 @@ struct Found {
 using Rule = void (*)(const Place& place, Found& found);
 
 void read_title(const Place& place, Found& found);         // titles.cpp
+void read_state(const Place& place, Found& found);         // states.cpp
+void read_scripture(const Place& place, Found& found);     // scripture.cpp
 void read_contraction(const Place& place, Found& found);   // contractions.cpp
 void read_currency(const Place& place, Found& found);      // currencies.cpp
 void read_amount_after(const Place& place, Found& found);  // the same, its symbol after the number
@@ -44,13 +46,26 @@ void read_american_date(const Place& place, Found& found);
 void read_time(const Place& place, Found& found);       // times.cpp
 void read_telephone(const Place& place, Found& found);  // addresses.cpp
 void read_address(const Place& place, Found& found);
-void read_roman(const Place& place, Found& found);   // roman.cpp
-void read_number(const Place& place, Found& found);  // numbers.cpp
-void read_sign(const Place& place, Found& found);
+void read_roman(const Place& place, Found& found);    // roman.cpp
+void read_version(const Place& place, Found& found);  // codes.cpp
+void read_numbered(const Place& place, Found& found);
+void read_plural_number(const Place& place, Found& found);
 void read_code(const Place& place, Found& found);
+void read_number(const Place& place, Found& found);  // numbers.cpp
+void read_point(const Place& place, Found& found);
+void read_sign(const Place& place, Found& found);
 void read_letters(const Place& place, Found& found);  // letters.cpp
 void read_typography(const Place& place, Found& found);
 void read_shield(const Place& place, Found& found);  // shields.cpp
+
+// "per" and what follows a slash that far ahead; the length of both, 0 for none; units.cpp.
+std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
+
+// The time of an ISO date, with "Z" or without, that far ahead; its length, 0 for none; times.cpp.
+std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out);
+
+// 0 for what is no Roman numeral as they are written; roman.cpp.
+int value_of_roman(std::string_view numeral);
 
 // Whether the last of some words ends like one of the engine's abbreviations: "gift", "ft.".
 bool ends_like_abbreviation(std::string_view words);

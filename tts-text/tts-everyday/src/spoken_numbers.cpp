@@ -84,10 +84,11 @@ Number number_at(const Place& place, std::size_t ahead) {
     constexpr std::size_t GROUP = 3;
     Number number;
     number.whole = place.digits(ahead);
-    if (number.whole.empty()) return number;
+    const bool has_no_zero = place.peek(ahead) == '.' && is_digit(place.peek(ahead + 1));  // ".35"
+    if (number.whole.empty() && !has_no_zero) return number;
     std::size_t end = ahead + number.whole.size();
-    while ((number.has_commas || number.whole.size() <= GROUP) && place.peek(end) == ',' &&
-           place.digits(end + 1).size() == GROUP) {
+    while (!has_no_zero && (number.has_commas || number.whole.size() <= GROUP) &&
+           place.peek(end) == ',' && place.digits(end + 1).size() == GROUP) {
         number.whole += place.digits(end + 1);
         end += 1 + GROUP;
         number.has_commas = true;

@@ -25,6 +25,7 @@ struct Clock {
     std::string_view hour;
     std::string_view minutes;
     std::string_view seconds;
+    bool has_stop = false;  // "4.15"
     std::size_t length = 0;
 };
 
@@ -35,25 +36,39 @@ Clock clock_at(const Place& place, std::size_t ahead) {
         clock.hour > (clock.hour.size() == 2 ? "24" : "9"))
         return {};
     std::size_t end = ahead + clock.hour.size();
-    const auto two_digits = [&]() -> std::string_view {
-        if (place.peek(end) != ':') return {};
+    const auto two_digits = [&](bool may_be_stop) -> std::string_view {
+        if (place.peek(end) != ':' && !(may_be_stop && place.peek(end) == '.')) return {};
         const std::string_view digits = place.digits(end + 1);
         if (digits.size() != 2 || digits > "59") return {};
         end += 3;
         return digits;
     };
-    clock.minutes = two_digits();
-    if (!clock.minutes.empty()) clock.seconds = two_digits();
+    clock.has_stop = place.peek(end) == '.';
+    clock.minutes = two_digits(true);
+    clock.has_stop = clock.has_stop && !clock.minutes.empty();
+    if (!clock.minutes.empty() && !clock.has_stop) clock.seconds = two_digits(false);
+    // "4.15" is a time only before "p.m.".
+    std::size_t half_length = 0;
+    if (clock.has_stop && half_of_day(place, end, half_length) == nullptr) return {};
     clock.length = end - ahead;
     return clock;
 }
 
+// The words of a time of day: its seconds come after.
 void say_clock(const Clock& clock, bool has_half, std::string& out) {
+    if (!clock.seconds.empty() && has_half) {
+        Clock minutes = clock;
+        minutes.seconds = {};
+        say_clock(minutes, true, out);
+        say("and", out);
+        say_cardinal(clock.seconds, out);
+        return say(clock.seconds == "01" ? "second" : "seconds", out);
+    }
     if (!clock.seconds.empty()) {
         say_cardinal(clock.hour, out);
         say(clock.hour == "1" ? "hour" : "hours", out);
         say_cardinal(clock.minutes, out);
-        say("minutes", out);
+        say(clock.minutes == "01" ? "minute" : "minutes", out);
         say_cardinal(clock.seconds, out);
         return say("seconds", out);
     }
@@ -65,9 +80,46 @@ void say_clock(const Clock& clock, bool has_half, std::string& out) {
     say_cardinal(clock.minutes, out);
 }
 
+// "at 1200 hours"; "for 1200 hours" is a length of time
+bool read_military(const Place& place, Found& found) {
+    const std::string_view digits = place.digits();
+    if (digits.size() != 4 || digits > "2400" || digits[2] > '5' || !place.starts_with(" hours", 4))
+        return false;
+    const std::string_view before = place.word_before();
+    const bool is_time = digits[0] == '0' || before == "at" || before == "At" || before == "by" ||
+                         before == "By" || before == "until" || before == "till";
+    if (!is_time) return false;
+    if (digits[0] == '0') say("oh", found.words);
+    say_cardinal(digits.substr(0, 2), found.words);
+    const std::string_view minutes = digits.substr(2);
+    if (minutes == "00") {
+        say("hundred", found.words);
+    } else {
+        if (minutes[0] == '0') say("oh", found.words);
+        say_cardinal(minutes, found.words);
+    }
+    found.length = digits.size();
+    return true;
+}
+
 }  // namespace
 
+std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out) {
+    const Clock clock = clock_at(place, ahead);
+    std::size_t end = ahead + clock.length;
+    const bool has_zone = place.peek(end) == 'Z' && !place.is_joined(end + 1);
+    if (clock.minutes.empty() || clock.has_stop || (place.is_joined(end) && !has_zone)) return 0;
+    if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return 0;
+    say_clock(clock, !clock.seconds.empty(), out);
+    if (has_zone) {
+        say("U T C", out);
+        ++end;
+    }
+    return end - ahead;
+}
+
 void read_time(const Place& place, Found& found) {
+    if (read_military(place, found)) return;
     const Clock first = clock_at(place, 0);
     if (first.length == 0) return;
     std::size_t end = first.length;

@@ -11,11 +11,33 @@ void take(const Place& place, std::size_t length, const char* spoken, bool may_e
     const bool keeps_stop = may_end && place.may_end_sentence(length + 1);
     found.length = length + (place.peek(length) == '.' && !keeps_stop ? 1 : 0);
     found.say_name(0, length, spoken);
+    const std::size_t mark = place.apostrophe(found.length);  // "Corp.'s"
+    const std::size_t end = found.length + mark + 1;
+    if (mark > 0 && place.peek(end - 1) == 's' && !place.is_joined(end)) {
+        found.words += 's';
+        found.length = end;
+    }
 }
 
+// A number, or a Roman numeral that is not "I".
 bool is_before_number(const Place& place, std::size_t ahead) {
-    const std::size_t blanks = place.blanks(ahead);
-    return is_digit(place.peek(ahead + blanks));
+    const std::size_t at = ahead + place.blanks(ahead);
+    if (is_digit(place.peek(at))) return true;
+    const std::string_view numeral = place.letters(at);
+    return numeral != "I" && value_of_roman(numeral) > 0;
+}
+
+// "Wed, Oct 02", "Sat 12 May", "(1.05am, Sat, BBC2)"
+bool is_date_part(const Place& place, std::size_t ahead) {
+    const bool has_comma = place.peek(ahead) == ',';
+    const std::size_t at = ahead + (has_comma ? 1 : 0);
+    if (has_comma && place.before(2) == ',' && place.peek(at) == ' ') return true;
+    if (place.peek(at) != ' ') return false;
+    return is_digit(place.peek(at + 1)) || month_number(place.letters(at + 1)) > 0;
+}
+
+bool ends_sentence(Kind kind) {
+    return kind == Kind::may_end || kind == Kind::before_date || kind == Kind::after_ordinal;
 }
 
 // "U.S.", "J. K. Rowling", "p.m.": single letters, each with a full stop.
@@ -27,8 +49,9 @@ void read_initials(const Place& place, Found& found) {
         say(place.part(length, 1), words);
         length += 2;
     }
+    const char next = place.peek(3);
     const bool is_initial = length == 2 && is_upper(place.peek()) && place.peek(2) == ' ' &&
-                            is_upper(place.peek(3)) && place.peek() != 'I';
+                            (is_upper(next) || next == '(') && place.peek() != 'I';
     if ((length < 4 && !is_initial) || is_letter(place.peek(length))) return;
     // The last full stop is the sentence's too where that may end; after an initial it does not.
     const bool ends =
@@ -51,12 +74,38 @@ bool read_saint_or_street(const Place& place, Found& found) {
     return true;
 }
 
+// "King Dr. across": after a name and before no other, a street.
+bool read_drive(const Place& place, Found& found) {
+    if (place.letters() != "Dr" || place.peek(2) != '.' || place.before() != ' ') return false;
+    const std::string_view name = place.word_before();
+    const bool is_street = name.size() > 3 && is_upper(name[0]) && is_lower(name[1]) &&
+                           (is_lower(place.peek(4)) || place.may_end_sentence(3)) &&
+                           !is_upper(place.peek(4));
+    if (!is_street) return false;
+    take(place, 2, "drive", true, found);
+    return true;
+}
+
+// "2nd ed."
+bool is_after_ordinal(const Place& place) {
+    if (place.before() != ' ') return false;
+    const std::string_view suffix = place.word_before();
+    return is_digit(place.before(2 + suffix.size())) && find(ORDINAL_SUFFIXES, suffix) != nullptr;
+}
+
 bool fits(const Place& place, const Row& row) {
     const std::size_t length = row.written.size();
     const char after = place.peek(length);
     if (row.written == "Sun" && place.word_before() == "the") return false;  // no day
-    if (after == '.') return row.kind != Kind::before_number || is_before_number(place, length + 1);
-    return row.kind == Kind::never && (after == ' ' || after == ',');
+    if (row.kind == Kind::before_date && after != '.') return is_date_part(place, length);
+    if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');
+    switch (row.kind) {
+        case Kind::before_number: return is_before_number(place, length + 1);
+        case Kind::before_name:
+            return place.peek(length + 1) == ' ' && is_upper(place.peek(length + 2));
+        case Kind::after_ordinal: return is_after_ordinal(place);
+        default: return true;
+    }
 }
 
 }  // namespace
@@ -65,8 +114,9 @@ void read_title(const Place& place, Found& found) {
     const std::string_view word = place.letters();
     const char after = place.peek(word.size());
     if (word.empty() || (after != '.' && after != ' ' && after != ',')) return;
+    if (read_drive(place, found)) return;
     if (const Row* row = place.find_row(TITLES, 0, [&](const Row& r) { return fits(place, r); })) {
-        return take(place, row->written.size(), row->spoken, row->kind == Kind::may_end, found);
+        return take(place, row->written.size(), row->spoken, ends_sentence(row->kind), found);
     }
     if (!read_saint_or_street(place, found)) read_initials(place, found);
 }

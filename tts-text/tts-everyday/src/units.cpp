@@ -28,11 +28,42 @@ bool read_height(const Place& place, Found& found) {
     return true;
 }
 
+// ".5 km", but not "fig.5 m" or "...5 m"
+bool may_begin_number(const Place& place) {
+    if (is_digit(place.peek())) return true;
+    const char before = place.before();
+    return place.peek() == '.' &&
+           (before == '\0' || before == ' ' || before == '(' || before == '\n');
+}
+
+// "A" is an article and a letter of lists too.
+bool may_be_unit(const Place& place, const Row& row, std::size_t ahead) {
+    const std::size_t end = ahead + row.written.size();
+    if (row.written == "A") return place.is_before_noun(end);
+    if (row.written.back() != '.') return true;
+    return row.written != "in." || is_lower(place.peek(end + 1)) || place.peek(end) != ' ';
+}
+
 }  // namespace
+
+std::size_t say_per(const Place& place, std::size_t ahead, std::string& out) {
+    if (place.peek(ahead) != '/') return 0;
+    const std::string_view word = place.letters(ahead + 1);
+    const Row* row = find(PER_WORDS, word);
+    const Row* unit = row == nullptr ? find(UNITS, word) : nullptr;
+    const std::size_t end = ahead + 1 + word.size();
+    if ((row == nullptr && unit == nullptr) || place.is_joined(end) || place.peek(end) == '/')
+        return 0;
+    say("per", out);
+    say(row != nullptr ? word : unit->spoken, out);
+    return end - ahead;
+}
 
 void read_unit(const Place& place, Found& found) {
     if (read_height(place, found)) return;
+    if (!may_begin_number(place)) return;
     const Number number = number_at(place, 0);
+    if (number.length == 0) return;
     std::size_t end = number.length;
     Number second;  // of a range
     const std::size_t dash = place.dash(end);
@@ -42,7 +73,8 @@ void read_unit(const Place& place, Found& found) {
     const bool may_be_plural = blank == 0 && number.fraction.empty();  // "the 5s"
     const Row* row = place.find_row(UNITS, end + blank, [&](const Row& candidate) {
         return !place.is_joined(end + blank + candidate.written.size()) &&
-               !(candidate.written == "s" && may_be_plural);
+               !(candidate.written == "s" && may_be_plural) &&
+               may_be_unit(place, candidate, end + blank);
     });
     if (row == nullptr) return;
     number.say(found.words);
@@ -57,6 +89,14 @@ void read_unit(const Place& place, Found& found) {
         say(number.is_one() ? "minute" : "minutes", found.words);
     } else {
         found.say_name(end + blank, row->written.size(), is_one ? row->spoken : row->many);
+    }
+    if (const std::size_t per = say_per(place, after, found.words); per > 0) {
+        found.length = after + per;
+        return;
+    }
+    if (row->written.back() == '.') {  // the sentence's too
+        found.length = after - (place.may_end_sentence(after) ? 1 : 0);
+        return;
     }
     const bool has_stop = place.peek(after) == '.' && !place.may_end_sentence(after + 1);
     found.length = after + (has_stop ? 1 : 0);

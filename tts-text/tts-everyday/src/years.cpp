@@ -29,6 +29,7 @@ void say_tens(std::string_view tens, std::string& out) {
 std::size_t decade_at(const Place& place, std::size_t ahead, std::string_view& digits) {
     digits = place.digits(ahead);
     if ((digits.size() != 2 && digits.size() != 4) || digits.back() != '0') return 0;
+    if (digits == "1000") return 0;  // "1000s of"
     const std::size_t end = ahead + digits.size();
     const std::size_t s = end + (place.peek(end) == '\'' ? 1 : 0);
     return place.peek(s) == 's' && !place.is_joined(s + 1) ? s + 1 - ahead : 0;
@@ -113,19 +114,26 @@ void read_numeric_date(const Place& place, bool month_first, Found& found) {
     found.length = end;
 }
 
-// "2020-03-01".
+// "2020-03-01", "2018/11/24".
 bool read_iso_date(const Place& place, Found& found) {
     const std::string_view year = place.digits();
-    if (year.size() != 4 || place.peek(4) != '-') return false;
+    const char mark = place.peek(4);
+    if (year.size() != 4 || (mark != '-' && mark != '/') || place.before() == '/') return false;
     const std::string_view month = place.digits(5);
-    if (month.size() != 2 || place.peek(7) != '-' || !is_value(month, 1, 12)) return false;
+    if (month.size() != 2 || place.peek(7) != mark || !is_value(month, 1, 12)) return false;
     const std::string_view day = place.digits(8);
     if (day.size() != 2 || !is_value(day, 1, 31)) return false;
     const bool has_time = place.peek(10) == 'T' && is_digit(place.peek(11));
-    const bool goes_on = place.peek(10) == '-' || (place.is_joined(10) && !has_time);
+    const bool goes_on = place.peek(10) == mark || (place.is_joined(10) && !has_time);
     if (goes_on) return false;
     say_month_first({tn::value_of(month)}, day, year, found);
     found.length = 10;
+    if (!has_time) return true;
+    std::string time;
+    if (const std::size_t length = say_iso_time(place, 11, time); length > 0) {
+        say(time, found.words);
+        found.length += 1 + length;
+    }
     return true;
 }
 
@@ -214,11 +222,49 @@ bool read_range(const Place& place, std::string_view year, Found& found) {
     if (dash == 0 || !may_be_year(year)) return false;
     const std::string_view last = place.digits(year.size() + dash);
     const bool is_short = last.size() == 2 && last > year.substr(2);
-    if (!is_short && !may_be_year(last)) return false;
+    const bool is_long = may_be_year(last) && last >= year;
+    if (!is_short && dash == 1 && is_value(last, 1, 12) && !place.is_joined(7)) {  // "2015-10"
+        say(month_word(tn::value_of(last)), found.words);
+        say_year(year, found.words);
+        found.length = 7;
+        return true;
+    }
+    if ((!is_short && !is_long) || place.is_joined(year.size() + dash + last.size())) return false;
     say_year(year, found.words);
     say("to", found.words);
     is_short ? say_cardinal(last, found.words) : say_year(last, found.words);
     found.length = year.size() + dash + last.size();
+    return true;
+}
+
+// "1984 votes", but "in 1984 votes were cast"
+bool is_count(const Place& place) {
+    if (place.peek(4) != ' ' || find(COUNTED_NOUNS, place.letters(5)) == nullptr) return false;
+    const std::string_view before = place.word_before();
+    return before != "in" && before != "In" && before != "since" && before != "Since";
+}
+
+// "c. 1500", "ca. 1731"
+bool is_after_circa(const Place& place) {
+    if (place.before() != ' ' || place.before(2) != '.') return false;
+    const std::string_view before = place.letters_before(2);
+    return before == "c" || before == "ca";
+}
+
+// "4-Jun-2011", "04-Jun-11"
+bool read_dashed_date(const Place& place, Found& found) {
+    const std::string_view day = place.digits();
+    if (!is_value(day, 1, 31) || place.peek(day.size()) != '-') return false;
+    const std::string_view name = place.letters(day.size() + 1);
+    const std::size_t dash = day.size() + 1 + name.size();
+    const Month month = {month_number(name), day.size() + 1, name.size()};
+    const std::string_view year = place.digits(dash + 1);
+    const std::size_t end = dash + 1 + year.size();
+    if (month.number == 0 || place.peek(dash) != '-' || place.is_joined(end)) return false;
+    if (!may_be_year(year) && year.size() != 2) return false;
+    if (place.word_before() != "the") say("the", found.words);
+    say_day_first(day, month, full_year(year), found);
+    found.length = end;
     return true;
 }
 
@@ -233,17 +279,20 @@ void read_year(const Place& place, Found& found) {
     if (read_decade(place, 0, found) || read_range(place, digits, found)) return;
     if (!may_be_year(digits) || place.letter(4) > 0 || place.peek(4) == '%') return;
     if (is_digit(place.peek(5)) && place.peek(4) != ' ') return;  // part of another number
+    if (is_count(place)) return;
     const bool is_era = place.starts_with(" BC", 4) || place.starts_with(" AD", 4);
     const bool is_recent = digits[1] == '9' || digits[0] == '2';
     const bool stands_alone = is_recent || (place.peek(4) != ' ' && digits[1] != '0');
-    if (!is_era && find(BEFORE_YEAR, place.word_before()) == nullptr && !stands_alone) return;
+    const bool is_year = is_era || stands_alone || is_after_circa(place) ||
+                         find(BEFORE_YEAR, place.word_before()) != nullptr;
+    if (!is_year) return;
     say_year(digits, found.words);
     found.length = 4;
 }
 
 void read_date(const Place& place, Found& found) {
     if (is_letter(place.peek())) return read_month_first(place, found);
-    if (read_iso_date(place, found)) return;
+    if (read_iso_date(place, found) || read_dashed_date(place, found)) return;
     read_day_first(place, found);
     if (found.length == 0) read_numeric_date(place, false, found);
 }

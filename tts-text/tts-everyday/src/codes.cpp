@@ -1,0 +1,139 @@
+// Numbers that name a thing and count nothing: versions, models, codes.
+
+#include "rules.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+// Makes the last word of a number the plural: "sevens", "thirties", "sixes".
+void say_many(std::string& words) {
+    if (words.back() == 'y') {
+        words.replace(words.size() - 1, 1, "ies");
+    } else {
+        words += words.back() == 'x' ? "es" : "s";
+    }
+}
+
+// "seven forty seven", "one oh one", "four hundred", "fourteen ten"; others one by one.
+void say_in_pairs(std::string_view digits, std::string& out) {
+    constexpr std::size_t LONGEST = 4;
+    if (digits.size() < 3) return say_cardinal(digits, out);
+    if (digits.size() > LONGEST || digits[0] == '0') return say_digits(digits, out);
+    const std::string_view first = digits.substr(0, digits.size() - 2);
+    const std::string_view last = digits.substr(digits.size() - 2);
+    if (last == "00" && (first.size() == 1 || first[1] == '0')) return say_cardinal(digits, out);
+    say_cardinal(first, out);
+    if (last == "00") return say("hundred", out);
+    if (last[0] == '0') say("oh", out);
+    say_cardinal(last, out);
+}
+
+// A part of a version or an IP address.
+void say_part(std::string_view digits, std::string& out) {
+    const bool is_number = digits.size() < 3 && (digits[0] != '0' || digits.size() == 1);
+    is_number ? say_cardinal(digits, out) : say_digits(digits, out);
+}
+
+}  // namespace
+
+// "1.5.2", "10.0.0.1", "7.x"; a number with one point is a decimal
+void read_version(const Place& place, Found& found) {
+    constexpr std::size_t LONGEST = 32;  // so that a chain of them is not read from each
+    if (place.before() == '.' || is_digit(place.before())) return;
+    const std::string_view first = place.digits();
+    say_part(first, found.words);
+    std::size_t end = first.size();
+    int n_points = 0;
+    bool ends_in_x = false;
+    while (end < LONGEST && place.peek(end) == '.' && !ends_in_x) {
+        const std::string_view part = place.digits(end + 1);
+        ends_in_x = place.peek(end + 1) == 'x' && !place.is_joined(end + 2);
+        if (part.empty() && !ends_in_x) break;
+        say("point", found.words);
+        ends_in_x ? say("x", found.words) : say_part(part, found.words);
+        end += 1 + (ends_in_x ? 1 : part.size());
+        ++n_points;
+    }
+    if ((n_points < 2 && !ends_in_x) || place.peek(end) == '%') return;
+    if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return;
+    found.length = end;
+}
+
+// "Flight 370", "Biology 101", "PO Box 1410"
+void read_numbered(const Place& place, Found& found) {
+    const std::string_view digits = place.digits();
+    const std::size_t end = digits.size();
+    if (end < 3 || place.before() != ' ' || place.is_joined(end)) return;
+    const char after = place.peek(end);
+    const bool goes_on = (after == '.' || after == ',' || after == ':' || after == '/') &&
+                         is_digit(place.peek(end + 1));
+    if (goes_on || after == '%' || place.dash(end) > 0) return;
+    if (find(NUMBERED_IN_PAIRS, place.word_before()) == nullptr) return;
+    say_in_pairs(digits, found.words);
+    found.length = end;
+}
+
+// "old 737s", "MiG-21s", "1000's", "a few 1's"; decades are read before
+void read_plural_number(const Place& place, Found& found) {
+    constexpr std::size_t LONGEST = 7;
+    const std::string_view digits = place.digits();
+    const std::size_t end = digits.size();
+    const std::size_t mark = place.apostrophe(end);
+    const std::size_t s = end + mark;
+    if (end > LONGEST || place.before() == '.' || place.before() == ',' || place.before() == '$')
+        return;
+    if (place.peek(s) != 's' || place.is_joined(s + 1)) return;
+    const bool is_round = digits.find_first_not_of('0', 1) == std::string_view::npos;
+    if (is_round && digits[0] == '1' && end > 2) {  // "1000s of", not "one thousands"
+        std::string words;
+        say_cardinal(digits, words);
+        constexpr std::string_view ONE = "one ";
+        found.words = words.compare(0, ONE.size(), ONE) == 0 ? words.substr(ONE.size()) : words;
+    } else if (end == 3 || end == 4) {
+        say_in_pairs(digits, found.words);
+    } else {
+        say_cardinal(digits, found.words);
+    }
+    say_many(found.words);
+    found.length = s + 1;
+}
+
+// "CO2", "BA249", "H2O", "SW3 4ND": capitals letter by letter; up to two digits as a number, more
+// one by one.
+void read_code(const Place& place, Found& found) {
+    constexpr std::size_t LONGEST = 3;
+    std::size_t end = 0;
+    bool has_digits = false;
+    for (std::size_t n_runs = 0; n_runs < LONGEST; ++n_runs) {
+        const std::size_t n_letters = place.run(is_upper, end);
+        const std::string_view digits = place.digits(end + n_letters);
+        if (n_letters > LONGEST || digits.size() > LONGEST + 1 || (end == 0 && n_letters == 0))
+            return;
+        for (std::size_t i = 0; i < n_letters; ++i) say(place.part(end + i, 1), found.words);
+        end += n_letters + digits.size();
+        if (digits.empty()) break;
+        has_digits = true;
+        digits.size() < LONGEST ? say_cardinal(digits, found.words)
+                                : say_digits(digits, found.words);
+    }
+    if (!has_digits) return;
+    if (place.peek(end) == 's' && !place.is_joined(end + 1)) {  // "MP3s"
+        say_many(found.words);
+        found.length = end + 1;
+        return;
+    }
+    if (place.is_joined(end)) return;
+    // The second half of a postcode.
+    const bool has_half = place.peek(end) == ' ' && is_digit(place.peek(end + 1)) &&
+                          place.run(is_upper, end + 2) == 2 && !place.is_joined(end + 4);
+    if (has_half) {
+        say_digits(place.part(end + 1, 1), found.words);
+        say(place.part(end + 2, 1), found.words);
+        say(place.part(end + 3, 1), found.words);
+        end += 4;
+    }
+    found.length = end;
+}
+
+}  // namespace kavi::everyday

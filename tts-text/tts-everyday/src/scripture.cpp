@@ -1,0 +1,63 @@
+// Chapters and verses of the Bible.
+
+#include "rules.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+// "3:16" so far on: its length, its words added; 0 for none. Verses have no zeros before them.
+std::size_t say_verse(const Place& place, std::size_t ahead, std::string& out) {
+    constexpr std::size_t LONGEST = 3;
+    const std::string_view chapter = place.digits(ahead);
+    const std::size_t colon = ahead + chapter.size();
+    const std::string_view verse = place.digits(colon + 1);
+    const std::size_t end = colon + 1 + verse.size();
+    const bool is_verse = !chapter.empty() && chapter.size() <= LONGEST && chapter[0] != '0' &&
+                          place.peek(colon) == ':' && !verse.empty() && verse.size() <= LONGEST &&
+                          verse[0] != '0' && !place.is_joined(end) && place.peek(end) != ':';
+    if (!is_verse) return 0;
+    say_cardinal(chapter, out);
+    say_cardinal(verse, out);
+    return end - ahead;
+}
+
+bool is_time_of_day(const Place& place, std::size_t ahead) {
+    const char first = to_lower(place.peek(ahead + place.blanks(ahead)));
+    const char second = to_lower(place.peek(ahead + place.blanks(ahead) + 1));
+    return (first == 'a' || first == 'p') && (second == 'm' || second == '.');
+}
+
+}  // namespace
+
+// "Gen. 1:1 to 2:3", "John 3:16-18"
+void read_scripture(const Place& place, Found& found) {
+    if (!is_upper(place.peek())) return;
+    const std::string_view name = place.letters();
+    const Row* book = find(BOOKS, name);
+    if (book == nullptr) return;
+    const std::size_t stop = name.size() + (place.peek(name.size()) == '.' ? 1 : 0);
+    if (place.peek(stop) != ' ') return;
+    std::string words;
+    const std::size_t length = say_verse(place, stop + 1, words);
+    std::size_t end = stop + 1 + length;
+    if (length == 0 || is_time_of_day(place, end)) return;
+    found.say_name(0, name.size(), book->spoken);
+    say(words, found.words);
+    const std::size_t dash = place.dash(end);
+    const std::size_t link = place.starts_with(" to ", end) ? 4 : dash;
+    words.clear();
+    if (const std::size_t last = link > 0 ? say_verse(place, end + link, words) : 0; last > 0) {
+        say("to", found.words);
+        say(words, found.words);
+        end += link + last;
+    } else if (const std::string_view verse = place.digits(end + dash);
+               dash > 0 && !verse.empty() && verse.size() < 4) {
+        say("to", found.words);
+        say_cardinal(verse, found.words);
+        end += dash + verse.size();
+    }
+    found.length = end;
+}
+
+}  // namespace kavi::everyday

@@ -1,0 +1,48 @@
+// States after a place, and the ZIP codes after them.
+
+#include "rules.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+constexpr std::size_t ZIP_DIGITS = 5;
+
+// "46402" or "46402-1234" after a blank; its length, with the blank.
+std::size_t zip_length(const Place& place, std::size_t ahead) {
+    if (place.peek(ahead) != ' ' || place.digits(ahead + 1).size() != ZIP_DIGITS) return 0;
+    const std::size_t end = ahead + 1 + ZIP_DIGITS;
+    if (place.peek(end) == '-' && place.digits(end + 1).size() == 4) return end + 5 - ahead;
+    return place.is_joined(end) || place.peek(end) == ',' ? 0 : end - ahead;
+}
+
+// "Biloxi, " is before the place.
+bool is_after_place(const Place& place) {
+    if (place.before() != ' ' || place.before(2) != ',') return false;
+    const std::string_view name = place.letters_before(2);
+    return name.size() > 2 && is_upper(name[0]) && is_lower(name.back());
+}
+
+}  // namespace
+
+void read_state(const Place& place, Found& found) {
+    if (!is_upper(place.peek()) || !is_after_place(place)) return;
+    const std::string_view written = place.letters();
+    const Row* row = find(STATES, written);
+    if (row == nullptr || place.is_joined(written.size())) return;
+    std::size_t end = written.size();
+    if (place.peek(end) == '.') {
+        if (!place.may_end_sentence(end + 1)) ++end;
+    } else if (row->kind == Kind::needed) {
+        return;
+    }
+    const std::size_t zip = zip_length(place, end);
+    if (row->kind == Kind::before_number && zip == 0) return;
+    found.length = end + zip;
+    found.say_name(0, written.size(), row->spoken);
+    for (std::size_t at = end; at < found.length; ++at) {
+        if (is_digit(place.peek(at))) say_digits(place.part(at, 1), found.words);
+    }
+}
+
+}  // namespace kavi::everyday

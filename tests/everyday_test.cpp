@@ -191,9 +191,11 @@ TEST(Rewriter, WordsThatWouldMakeATag_MakeNone) {
 
 TEST(Everyday, ReadsNoMoreThanItShould) {
     const Everyday everyday = all_classes();
-    expect_table("everyday_left", [&](const std::string& text) {
-        return TableRow{text, rewritten(everyday, text)};
-    });
+    for (const char* table : {"everyday_left", "everyday_names"}) {
+        expect_table(table, [&](const std::string& text) {
+            return TableRow{text, rewritten(everyday, text)};
+        });
+    }
 }
 
 TEST(Everyday, EachClassIsSwitchedByItself) {

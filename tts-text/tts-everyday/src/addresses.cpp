@@ -86,6 +86,12 @@ void read_telephone(const Place& place, Found& found) {
         say_group(group, found.words);
         at += group.size() - 1;
     }
+    if (shape.empty() || !place.starts_with(" x", shape.size())) return;
+    const std::string_view extension = place.digits(shape.size() + 2);
+    if (extension.empty()) return;
+    say("extension", found.words);
+    say_digits(extension, found.words);
+    found.length += 2 + extension.size();
 }
 
 // Where an address may begin, with what no word of a sentence has in it.

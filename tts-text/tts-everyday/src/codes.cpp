@@ -42,6 +42,7 @@ void read_version(const Place& place, Found& found) {
     constexpr std::size_t LONGEST = 32;  // so that a chain of them is not read from each
     if (place.before() == '.' || is_digit(place.before())) return;
     const std::string_view first = place.digits();
+    if (place.peek(first.size()) != '.') return;
     say_part(first, found.words);
     std::size_t end = first.size();
     int n_points = 0;
@@ -77,11 +78,13 @@ void read_numbered(const Place& place, Found& found) {
 // "old 737s", "MiG-21s", "1000's", "a few 1's"; decades are read before
 void read_plural_number(const Place& place, Found& found) {
     constexpr std::size_t LONGEST = 7;
-    const std::string_view digits = place.digits();
-    const std::size_t end = digits.size();
+    const Number number = number_at(place, 0);
+    const std::string_view digits = number.whole;
+    const std::size_t end = number.length;
     const std::size_t mark = place.apostrophe(end);
     const std::size_t s = end + mark;
-    if (end > LONGEST || place.before() == '.' || place.before() == ',' || place.before() == '$')
+    if (end > LONGEST || !number.fraction.empty() || place.before() == '.' ||
+        place.before() == ',' || place.before() == '$')
         return;
     if (place.peek(s) != 's' || place.is_joined(s + 1)) return;
     const bool is_round = digits.find_first_not_of('0', 1) == std::string_view::npos;

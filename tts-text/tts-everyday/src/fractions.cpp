@@ -74,6 +74,15 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
     if (place.peek(above.size()) != '/' || place.before() == '/') return false;
     const std::string_view below = place.digits(above.size() + 1);
     const std::size_t end = above.size() + 1 + below.size();
+    if (place.peek(end) != '/' && above == below && above.size() < 4 && above != "1") {  // "20/20"
+        const bool is_sight =
+            place.starts_with(" vision", end) || place.starts_with(" hindsight", end);
+        say_cardinal(above, found.words);
+        if (!is_sight) say("out of", found.words);
+        say_cardinal(below, found.words);
+        found.length = end;
+        return true;
+    }
     if (place.peek(end) == '/' || !say_fraction(above, below, found.words)) return false;
     found.length = end;
     return true;

@@ -29,13 +29,16 @@ bool read_house_number(const Place& place, const Number& number, Found& found) {
     return true;
 }
 
-// "3:1"; two digits after the colon and a blank before them are a time's
+// "odds of 3:1"; two digits after the colon are a time's, and after a name it may be a verse
 bool read_ratio(const Place& place, const Number& number, Found& found) {
     const std::size_t colon = number.length;
     if (!number.fraction.empty() || place.peek(colon) != ':' || place.before() == ':') return false;
+    const std::string_view before = place.word_before();
+    if (place.before() != ' ' || before.empty() || !is_lower(before[0])) return false;
     const std::string_view second = place.digits(colon + 1);
     const std::size_t end = colon + 1 + second.size();
     const bool is_ratio = second.size() == 1 && !place.is_joined(end) && place.peek(end) != ':' &&
+                          place.dash(end) == 0 &&
                           !(place.peek(end) == '.' && is_digit(place.peek(end + 1)));
     if (!is_ratio) return false;
     number.say(found.words);

@@ -78,7 +78,10 @@ Counting counting_after(const Place& place, std::string_view numeral) {
                                      : find(COUNTED_BY_ROMAN, counted) != nullptr;
     if (is_counted)
         return is_lower(counted[0]) && numeral == "I" ? Counting::none : Counting::cardinal;
-    if (!is_name(before) || !is_plain_numeral(numeral)) return Counting::none;
+    constexpr std::size_t SHORTEST = 4;  // "The II Corps"
+    const bool is_numbered_name =
+        is_name(before) && before.size() >= SHORTEST && is_plain_numeral(numeral);
+    if (!is_numbered_name) return Counting::none;
     return is_person(place, before) ? Counting::ordinal : Counting::cardinal;
 }
 

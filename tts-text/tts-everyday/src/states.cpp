@@ -29,8 +29,9 @@ void read_state(const Place& place, Found& found) {
     if (!is_upper(place.peek()) || !is_after_place(place)) return;
     const std::string_view written = place.letters();
     const Row* row = find(STATES, written);
-    if (row == nullptr || place.is_joined(written.size())) return;
+    if (row == nullptr || place.is_joined(written.size()) || place.dash(written.size()) > 0) return;
     std::size_t end = written.size();
+    if (written == "Miss" && is_upper(place.peek(end + 2))) return;  // "Well, Miss. Smith"
     if (place.peek(end) == '.') {
         if (!place.may_end_sentence(end + 1)) ++end;
     } else if (row->kind == Kind::needed) {

@@ -33,7 +33,10 @@ bool is_date_part(const Place& place, std::size_t ahead) {
     const std::size_t at = ahead + (has_comma ? 1 : 0);
     if (has_comma && place.before(2) == ',' && place.peek(at) == ' ') return true;
     if (place.peek(at) != ' ') return false;
-    return is_digit(place.peek(at + 1)) || month_number(place.letters(at + 1)) > 0;
+    const std::string_view day = place.digits(at + 1);
+    if (day.empty()) return month_number(place.letters(at + 1)) > 0;
+    const std::size_t end = at + 1 + day.size();  // not "Sun 5 times"
+    return place.peek(end) != ' ' || !is_lower(place.peek(end + 1));
 }
 
 bool ends_sentence(Kind kind) {
@@ -96,7 +99,16 @@ bool is_after_ordinal(const Place& place) {
 bool fits(const Place& place, const Row& row) {
     const std::size_t length = row.written.size();
     const char after = place.peek(length);
-    if (row.written == "Sun" && place.word_before() == "the") return false;  // no day
+    const bool is_of_path =
+        after == '.' && is_lower(row.written[0]) &&
+        (place.before() == '.' || place.before() == '/' || is_lower(place.peek(length + 1)));
+    // Before a rank or an office it is a lieutenant.
+    const bool is_rank =
+        row.written == "lt" && (place.starts_with(". gov", 2) || place.starts_with(". col", 2) ||
+                                place.starts_with(". gen", 2));
+    if (is_of_path || is_rank) return false;  // "misc.c"
+    if (row.written == "Sun" && (place.word_before() == "the" || place.word_before() == "The"))
+        return false;  // no day
     if (row.kind == Kind::before_date && after != '.') return is_date_part(place, length);
     if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');
     switch (row.kind) {

@@ -70,7 +70,8 @@ void read_unit(const Place& place, Found& found) {
     if (dash > 0) second = number_at(place, end + dash);
     if (second.length > 0) end += dash + second.length;
     const std::size_t blank = place.peek(end) == ' ' || place.peek(end) == '-' ? 1 : 0;
-    const bool may_be_plural = blank == 0 && number.fraction.empty();  // "the 5s"
+    const bool is_duration = end < 3 && find(BEFORE_SECONDS, place.word_before()) != nullptr;
+    const bool may_be_plural = blank == 0 && number.fraction.empty() && !is_duration;  // "the 5s"
     const Row* row = place.find_row(UNITS, end + blank, [&](const Row& candidate) {
         return !place.is_joined(end + blank + candidate.written.size()) &&
                !(candidate.written == "s" && may_be_plural) &&

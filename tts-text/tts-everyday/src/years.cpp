@@ -118,7 +118,8 @@ void read_numeric_date(const Place& place, bool month_first, Found& found) {
 bool read_iso_date(const Place& place, Found& found) {
     const std::string_view year = place.digits();
     const char mark = place.peek(4);
-    if (year.size() != 4 || (mark != '-' && mark != '/') || place.before() == '/') return false;
+    if (year.size() != 4 || (mark != '-' && mark != '/') || (mark == '/' && place.before() == '/'))
+        return false;
     const std::string_view month = place.digits(5);
     if (month.size() != 2 || place.peek(7) != mark || !is_value(month, 1, 12)) return false;
     const std::string_view day = place.digits(8);
@@ -223,7 +224,8 @@ bool read_range(const Place& place, std::string_view year, Found& found) {
     const std::string_view last = place.digits(year.size() + dash);
     const bool is_short = last.size() == 2 && last > year.substr(2);
     const bool is_long = may_be_year(last) && last >= year;
-    if (!is_short && dash == 1 && is_value(last, 1, 12) && !place.is_joined(7)) {  // "2015-10"
+    if (!is_short && dash == 1 && is_value(last, 1, 12) && last.size() == 2 &&
+        !place.is_joined(7) && place.peek(7) != '-') {  // "2015-10"
         say(month_word(tn::value_of(last)), found.words);
         say_year(year, found.words);
         found.length = 7;

@@ -297,7 +297,7 @@ TEST(C, RefusesArgumentsWithoutAMeaning) {
         kavi_reader_set_lexicon(nullptr, "", "", 0),
         kavi_reader_set_lexicon(r.reader, "", nullptr, 1),
         kavi_reader_set_everyday(nullptr, 0),
-        kavi_reader_set_everyday(r.reader, 1U << 11),
+        kavi_reader_set_everyday(r.reader, 1U << 12),
     };
     for (const kavi_status answer : answers) EXPECT_EQ(answer, KAVI_BAD_ARGUMENT);
     EXPECT_EQ(result, nullptr);

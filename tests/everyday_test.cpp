@@ -183,10 +183,11 @@ TEST(Rewriter, LongWordsWithMarkup_AreReadWithoutIt) {
 }
 
 TEST(Rewriter, WordsThatWouldMakeATag_MakeNone) {
-    const ReadText read = read_with(all_classes(), "<poem=a>x</pro'sody>y</poem> <9 z");
+    const ReadText read = read_with(all_classes(), "<poem=a>x</pro'sody>y</poem> a<9 z");
     EXPECT_EQ(read.fault, "");
     EXPECT_TRUE(read.all_read);
-    EXPECT_EQ(read.words, (std::vector<std::string>{"x", "prosody", "larger", "y", "nine", "z"}));
+    EXPECT_EQ(read.words,
+              (std::vector<std::string>{"x", "prosody", "larger", "y", "a", "nine", "z"}));
 }
 
 TEST(Everyday, ReadsNoMoreThanItShould) {
@@ -205,7 +206,7 @@ TEST(Everyday, EachClassIsSwitchedByItself) {
         {EverydayClass::roman, "Henry VIII"},  {EverydayClass::letters, "caf\xc3\xa9"},
         {EverydayClass::shields, "He left."},  {EverydayClass::years, "May 5"},
         {EverydayClass::addresses, "a@b.com"}, {EverydayClass::units, "5 km"},
-        {EverydayClass::numbers, "7"}};
+        {EverydayClass::numbers, "7"},         {EverydayClass::marks, "C++"}};
     for (const auto& [everyday_class, text] : texts) {
         Everyday everyday(nullptr);
         everyday.set(everyday_class, true);

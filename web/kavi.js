@@ -15,7 +15,7 @@ const INCOMPLETE = 1;
 const BAD_LEXICON = 5;
 
 export const EVERYDAY = Object.freeze(['titles', 'contractions', 'currencies', 'units', 'years', 'times', 'addresses',
-  'roman', 'numbers', 'letters', 'shields']);
+  'roman', 'numbers', 'letters', 'shields', 'marks']);
 const AMERICAN_DATES = 1 << 16;
 
 const encoder = new TextEncoder();

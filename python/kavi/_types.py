@@ -63,7 +63,8 @@ class Everyday(enum.IntFlag):
     NUMBERS = 1 << 8
     LETTERS = 1 << 9
     SHIELDS = 1 << 10
-    ALL = (1 << 11) - 1
+    MARKS = 1 << 11
+    ALL = (1 << 12) - 1
 
 
 class FindingCode(str, enum.Enum):

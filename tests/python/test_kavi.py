@@ -234,7 +234,7 @@ def test_lexicon_and_everyday_english(tmp_path: pathlib.Path) -> None:
     assert kavi.Reader(lexicon=lexicon, everyday=True).normalize("kavi won't") == "kahvee will not"
     for units in (kavi.Everyday.UNITS, "units", ["units", kavi.Everyday.NONE]):
         assert kavi.Reader(everyday=units).normalize("5 km won't") == kavi.normalize("five kilometres won't")
-    for unknown in ("all", ["units", "unit"], 1 << 11, -1):
+    for unknown in ("all", ["units", "unit"], 1 << 12, -1):
         with pytest.raises(ValueError, match="everyday"):
             kavi.Reader(everyday=unknown)
     dates = kavi.Reader(everyday=kavi.Everyday.YEARS, american_dates=True)

@@ -45,7 +45,7 @@ With other readings than the engine's:
   --lexicon FILE       with FILE's readings: lines WRITTEN, a tab, SPOKEN
   --everyday           with rules for everyday English: $1.5 million, 5 km, won't, 1990s, ...
   --without LIST       of these not: titles,contractions,currencies,units,years,times,addresses,
-                       roman,numbers,letters,shields
+                       roman,numbers,letters,shields,marks
   --american-dates     3/1/2020 is March first
   --check              FILEs hold TEXT, a tab, the words expected; says where others are spoken
 

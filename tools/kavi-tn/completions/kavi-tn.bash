@@ -12,7 +12,7 @@ _kavi_tn() {
             mapfile -t COMPREPLY < <(compgen -P "$before" -W "input line sentence offset length source
                 normalized speakable plain before words findings runs" -- "${current##*,}") && return ;;
         --without) mapfile -t COMPREPLY < <(compgen -W "titles contractions currencies units years times
-                addresses roman numbers letters shields" -- "$current") && return ;;
+                addresses roman numbers letters shields marks" -- "$current") && return ;;
         -t | --text | -j | --jobs | --part) return ;;
     esac
     case $current in

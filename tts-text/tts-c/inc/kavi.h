@@ -162,7 +162,8 @@ enum {
     KAVI_NUMBERS = 1 << 8,
     KAVI_LETTERS = 1 << 9,
     KAVI_SHIELDS = 1 << 10,
-    KAVI_ALL_EVERYDAY = (1 << 11) - 1,
+    KAVI_MARKS = 1 << 11,
+    KAVI_ALL_EVERYDAY = (1 << 12) - 1,
     KAVI_AMERICAN_DATES = 1 << 16 /* with KAVI_YEARS: 3/1/2020 is March first */
 };
 KAVI_API kavi_status kavi_reader_set_everyday(kavi_reader* reader, uint32_t classes);

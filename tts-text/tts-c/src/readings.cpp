@@ -7,7 +7,7 @@
 namespace {
 
 static_assert(KAVI_ALL_EVERYDAY == (1 << kavi::EVERYDAY_CLASSES) - 1);
-static_assert(KAVI_SHIELDS == 1 << static_cast<int>(kavi::EverydayClass::shields));
+static_assert(KAVI_MARKS == 1 << static_cast<int>(kavi::EverydayClass::marks));
 
 // Everyday English by this lexicon, which may be null, and these classes. Without memory, all
 // stays.

@@ -23,8 +23,9 @@ enum class EverydayClass {
     numbers,       // 1st, ½, 5%, -5, 0.5
     letters,       // café, quotes, dashes
     shields,       // words that end like an abbreviation of the engine: left.
+    marks,         // *stress*, > quoted, 6 * 7, C++, /usr/bin, readme.txt
 };
-constexpr int EVERYDAY_CLASSES = static_cast<int>(EverydayClass::shields) + 1;
+constexpr int EVERYDAY_CLASSES = static_cast<int>(EverydayClass::marks) + 1;
 
 const char* name_of(EverydayClass everyday_class);
 std::optional<EverydayClass> everyday_class_of(std::string_view name);

@@ -119,7 +119,7 @@ void read_address(const Place& place, Found& found) {
     std::size_t length = scheme + host.size();
     if (place.peek(length) == '/') {
         const auto is_of_path = [](char c) {
-            return c > ' ' && c < 127 && c != '<' && c != '"' && c != ')';
+            return c > ' ' && c < 127 && c != '<' && c != '>' && c != '"' && c != ')';
         };
         length += trimmed(place.part(length, place.run(is_of_path, length))).size();
     }

@@ -53,6 +53,8 @@ constexpr RuleRow WORD_RULES[] = {
     {EverydayClass::contractions, everyday::read_contraction},
     {EverydayClass::numbers, everyday::read_code},
     {EverydayClass::numbers, everyday::read_sign},
+    {EverydayClass::marks, everyday::read_slashed_words},
+    {EverydayClass::marks, everyday::read_named_mark},
     {EverydayClass::letters, everyday::read_letters},
 };
 constexpr RuleRow MARK_RULES[] = {
@@ -63,6 +65,8 @@ constexpr RuleRow MARK_RULES[] = {
     {EverydayClass::numbers, everyday::read_point},
     {EverydayClass::numbers, everyday::read_sign},
     {EverydayClass::contractions, everyday::read_contraction},
+    {EverydayClass::marks, everyday::read_mark},
+    {EverydayClass::marks, everyday::read_named_mark},
     {EverydayClass::shields, everyday::read_shield},
     {EverydayClass::letters, everyday::read_typography},
 };
@@ -82,6 +86,7 @@ const char* rule_name_of(EverydayClass everyday_class) {
         case EverydayClass::numbers: return "everyday: numbers";
         case EverydayClass::letters: return "everyday: letters";
         case EverydayClass::shields: return "everyday: shields";
+        case EverydayClass::marks: return "everyday: marks";
     }
     return "";
 }

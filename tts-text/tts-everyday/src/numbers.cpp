@@ -94,9 +94,22 @@ std::size_t times_length(const Place& place, std::size_t ahead) {
     return place.peek(ahead) == 'x' && !place.is_joined(ahead + 1) ? 1 : 0;
 }
 
+// "5 x 3 inches", "2 × 4 m": a size, where a number with a unit follows.
+bool is_size(const Place& place, std::size_t ahead) {
+    ahead += place.blanks(ahead);
+    const Number number = number_at(place, ahead);
+    if (number.length == 0) return false;
+    ahead += number.length + place.blanks(ahead + number.length);
+    const std::string_view word = place.letters(ahead);
+    if (word == "inches") return true;  // no row: its abbreviation is a word
+    return std::any_of(std::begin(UNITS), std::end(UNITS), [word](const Row& row) {
+        return word == row.written || word == row.spoken || word == row.many;
+    });
+}
+
 std::size_t say_times(const Place& place, std::size_t ahead, std::string& out) {
     const std::size_t length = times_length(place, ahead);
-    if (length > 0) say("times", out);
+    if (length > 0) say(is_size(place, ahead + length) ? "by" : "times", out);
     return length;
 }
 

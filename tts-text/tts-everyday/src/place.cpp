@@ -17,6 +17,24 @@ std::size_t Place::word(std::size_t ahead) const {
     return length;
 }
 
+bool Place::is_joined_before(std::size_t back) const {
+    const char last = before(back + 1);
+    if (!is_outside_ascii(last)) return is_letter(last) || is_digit(last);
+    const std::size_t shown = behind_.size() - back;
+    for (std::size_t length = 2; length <= std::min(CODE_POINT_BYTES, shown); ++length) {
+        const CodePoint c = code_point_at(behind_.substr(shown - length, length));
+        if (c.length == length) return is_letter_of_any_script(c.value);
+    }
+    return false;
+}
+
+bool Place::begins_line(std::size_t back) const {
+    const auto is_margin = [](char c) { return c == ' ' || c == '\t' || c == '>' || c == '|'; };
+    while (is_margin(before(back + 1))) ++back;
+    const char last = before(back + 1);
+    return last == '\n' || (last == '\0' && !(is_cut_behind_ && back >= behind_.size()));
+}
+
 std::string_view Place::letters_before(std::size_t back) const {
     std::size_t begin = back;
     while (is_letter(before(begin + 1))) ++begin;

@@ -90,6 +90,12 @@ class Place {
     std::size_t word(std::size_t ahead = 0) const;
     // Whether a letter or a digit is there.
     bool is_joined(std::size_t ahead) const { return is_digit(peek(ahead)) || letter(ahead) > 0; }
+    // Whether a letter or a digit ends so many characters before the place.
+    bool is_joined_before(std::size_t back = 0) const;
+
+    // Whether a line begins so many characters before the place, but for blanks and marks of a
+    // quotation in mail between.
+    bool begins_line(std::size_t back = 0) const;
 
     // The length of a hyphen or an en dash that far ahead; 0 for none.
     std::size_t dash(std::size_t ahead) const {

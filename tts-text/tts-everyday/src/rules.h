@@ -57,6 +57,9 @@ void read_sign(const Place& place, Found& found);
 void read_letters(const Place& place, Found& found);  // letters.cpp
 void read_typography(const Place& place, Found& found);
 void read_shield(const Place& place, Found& found);  // shields.cpp
+void read_mark(const Place& place, Found& found);    // marks.cpp
+void read_named_mark(const Place& place, Found& found);
+void read_slashed_words(const Place& place, Found& found);
 
 // "per" and what follows a slash that far ahead; the length of both, 0 for none; units.cpp.
 std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);

@@ -25,6 +25,9 @@ enum class Kind {
     both,
     glued,
     anywhere,
+    words,
+    quantities,
+    compared,
 };
 
 // A column that a table does not have is empty, and its kind is none.

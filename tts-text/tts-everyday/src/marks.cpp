@@ -97,13 +97,14 @@ bool read_stress(const Place& place, Found& found) {
     return true;
 }
 
-// "* item" at the begin of a line, "F***ing", "sh**".
+// "* item" at the begin of a line, the other side of a box at its end, "F***ing", "sh**".
 bool read_silent_asterisk(const Place& place, Found& found) {
     const std::size_t length = run_of(place, '*', 0, LOOK_BACK);
     const bool is_bullet = length == 1 && place.begins_line() && place.peek(1) == ' ';
     const bool is_footnote = length == 1 && place.begins_line() && place.is_joined(1);
     const bool is_left_out = length > 1 && is_letter(place.before());
-    if (!is_bullet && !is_footnote && !is_left_out) return false;
+    const bool is_edge = length == 1 && place.before() == ' ' && place.peek(1) == '\n';
+    if (!is_bullet && !is_edge && !is_footnote && !is_left_out) return false;
     keep_silent(length, found);
     return true;
 }

@@ -41,7 +41,7 @@ void read_currency(const Place& place, Found& found);      // currencies.cpp
 void read_amount_after(const Place& place, Found& found);  // the same, its symbol after the number
 void read_unit(const Place& place, Found& found);          // units.cpp
 void read_year(const Place& place, Found& found);          // years.cpp
-void read_date(const Place& place, Found& found);
+void read_date(const Place& place, Found& found);          // dates.cpp
 void read_american_date(const Place& place, Found& found);
 void read_time(const Place& place, Found& found);       // times.cpp
 void read_telephone(const Place& place, Found& found);  // addresses.cpp
@@ -66,6 +66,10 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
 
 // The time of an ISO date, with "Z" or without, that far ahead; its length, 0 for none; times.cpp.
 std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out);
+
+// Four digits of the years 1000 to 2099; one or two digits of such a value; years.cpp.
+bool may_be_year(std::string_view digits);
+bool is_value(std::string_view digits, int least, int most);
 
 // 0 for what is no Roman numeral as they are written; roman.cpp.
 int value_of_roman(std::string_view numeral);

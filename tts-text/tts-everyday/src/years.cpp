@@ -1,21 +1,10 @@
-// Years, decades, ranges of years, and dates.
+// Years, decades and ranges of years.
 
 #include "rules.h"
 
 namespace kavi::everyday {
 
 namespace {
-
-// Four digits of the years 1000 to 2099.
-bool may_be_year(std::string_view digits) {
-    return digits.size() == 4 && (digits[0] == '1' || digits.substr(0, 2) == "20");
-}
-
-bool is_value(std::string_view digits, int least, int most) {
-    if (digits.empty() || digits.size() > 2) return false;
-    const int value = tn::value_of(digits);
-    return value >= least && value <= most;
-}
 
 // "nineties" for "90".
 void say_tens(std::string_view tens, std::string& out) {
@@ -58,165 +47,6 @@ bool read_decade(const Place& place, std::size_t begin, Found& found) {
     return true;
 }
 
-// Of a date, as it is written: the name of the month from `at`, none of it in a date of numbers.
-struct Month {
-    int number;
-    std::size_t at = 0;
-    std::size_t length = 0;
-
-    void say(Found& found) const { found.say_name(at, length, month_word(number)); }
-};
-
-void say_day_first(std::string_view day, const Month& month, std::string_view year, Found& found) {
-    say_ordinal(day, found.words);
-    say("of", found.words);
-    month.say(found);
-    if (!year.empty()) say_year(year, found.words);
-}
-
-void say_month_first(const Month& month, std::string_view day, std::string_view year,
-                     Found& found) {
-    month.say(found);
-    say_ordinal(day, found.words);
-    if (!year.empty()) say_year(year, found.words);
-}
-
-std::string full_year(std::string_view year) {
-    if (year.size() != 2) return std::string(year);
-    return (year[0] < '5' ? "20" : "19") + std::string(year);
-}
-
-// "3/1/2020" or "3.1.2020", in the order of `month_first`.
-void read_numeric_date(const Place& place, bool month_first, Found& found) {
-    const std::string_view first = place.digits();
-    const char mark = place.peek(first.size());
-    if (mark != '/' && mark != '.') return;
-    const std::string_view second = place.digits(first.size() + 1);
-    const std::size_t second_end = first.size() + 1 + second.size();
-    if (place.peek(second_end) != mark) return;
-    const std::string_view year = place.digits(second_end + 1);
-    const bool is_whole = year.size() == 4 || (year.size() == 2 && mark == '/');
-    const std::string_view day = month_first ? second : first;
-    const std::string_view month = month_first ? first : second;
-    const std::size_t end = second_end + 1 + year.size();
-    if (!is_whole || place.peek(end) == '/' || place.is_joined(end)) return;
-    if (place.before() == '/' || !is_value(day, 1, 31)) return;
-    if (!is_value(month, 1, 12)) {
-        // Only the other order makes a date of it.
-        if (!is_value(month, 13, 31) || !is_value(day, 1, 12)) return;
-        say_month_first({tn::value_of(day)}, month, full_year(year), found);
-    } else if (month_first) {
-        say_month_first({tn::value_of(month)}, day, full_year(year), found);
-    } else {
-        say("the", found.words);
-        say_day_first(day, {tn::value_of(month)}, full_year(year), found);
-    }
-    found.length = end;
-}
-
-// "2020-03-01", "2018/11/24".
-bool read_iso_date(const Place& place, Found& found) {
-    const std::string_view year = place.digits();
-    const char mark = place.peek(4);
-    if (year.size() != 4 || (mark != '-' && mark != '/') || (mark == '/' && place.before() == '/'))
-        return false;
-    const std::string_view month = place.digits(5);
-    if (month.size() != 2 || place.peek(7) != mark || !is_value(month, 1, 12)) return false;
-    const std::string_view day = place.digits(8);
-    if (day.size() != 2 || !is_value(day, 1, 31)) return false;
-    const bool has_time = place.peek(10) == 'T' && is_digit(place.peek(11));
-    const bool goes_on = place.peek(10) == mark || (place.is_joined(10) && !has_time);
-    if (goes_on) return false;
-    say_month_first({tn::value_of(month)}, day, year, found);
-    found.length = 10;
-    if (!has_time) return true;
-    std::string time;
-    if (const std::size_t length = say_iso_time(place, 11, time); length > 0) {
-        say(time, found.words);
-        found.length += 1 + length;
-    }
-    return true;
-}
-
-std::size_t ordinal_suffix(const Place& place, std::size_t ahead) {
-    const std::string_view letters = place.letters(ahead);
-    const bool is_small = !letters.empty() && is_lower(letters[0]);
-    return is_small && find(ORDINAL_SUFFIXES, letters) != nullptr ? letters.size() : 0;
-}
-
-// A year so far on, past a comma and a blank; its end.
-std::string_view year_after(const Place& place, std::size_t ahead, std::size_t& end) {
-    std::size_t begin = ahead;
-    if (place.peek(begin) == ',') ++begin;
-    if (place.peek(begin) == ' ') ++begin;
-    const std::string_view year = place.digits(begin);
-    if (begin == ahead || !may_be_year(year)) {
-        end = ahead;
-        return {};
-    }
-    end = begin + year.size();
-    return year;
-}
-
-// "May 5, 2021", "Jan. 5", "March 2020".
-void read_month_first(const Place& place, Found& found) {
-    const std::string_view name = place.letters();
-    const Month month = {month_number(name), 0, name.size()};
-    if (month.number == 0) return;
-    std::size_t at = name.size();
-    if (place.peek(at) == '.') ++at;
-    if (place.peek(at) != ' ') return;
-    const std::string_view digits = place.digits(at + 1);
-    const std::size_t digits_end = at + 1 + digits.size();
-    if (may_be_year(digits) && place.letter(digits_end) == 0) {
-        month.say(found);
-        say_year(digits, found.words);
-        found.length = digits_end;
-        return;
-    }
-    const std::size_t suffix = ordinal_suffix(place, digits_end);
-    const char after = place.peek(digits_end + suffix);
-    if (!is_value(digits, 1, 31) || place.letter(digits_end + suffix) > 0 || after == ':' ||
-        after == '%')
-        return;
-    if (after == '.' && is_digit(place.peek(digits_end + suffix + 1))) return;
-    std::size_t end = 0;
-    const std::string_view year = year_after(place, digits_end + suffix, end);
-    // "May 5-7"
-    const std::size_t dash = year.empty() ? place.dash(end) : 0;
-    const std::string_view last = dash > 0 ? place.digits(end + dash) : std::string_view();
-    if (is_value(last, 1, 31)) {
-        say_month_first(month, digits, {}, found);
-        say("to", found.words);
-        say_ordinal(last, found.words);
-        std::size_t all = 0;
-        const std::string_view range_year = year_after(place, end + dash + last.size(), all);
-        if (!range_year.empty()) say_year(range_year, found.words);
-        found.length = all;
-        return;
-    }
-    say_month_first(month, digits, year, found);
-    found.length = end;
-}
-
-// "5 May 2021", "21st of June".
-void read_day_first(const Place& place, Found& found) {
-    const std::string_view day = place.digits();
-    std::size_t at = day.size() + ordinal_suffix(place, day.size());
-    if (!is_value(day, 1, 31) || place.peek(at) != ' ') return;
-    if (place.starts_with(" of ", at)) at += 3;
-    const std::string_view name = place.letters(at + 1);
-    const Month month = {month_number(name), at + 1, name.size()};
-    if (month.number == 0) return;
-    std::size_t end = at + 1 + name.size();
-    if (name.size() < 4 && name != "May" && place.peek(end) == '.') ++end;
-    const std::string_view year = year_after(place, end, end);
-    const bool has_article = place.word_before() == "the" || place.word_before() == "The";
-    if (!has_article) say("the", found.words);
-    say_day_first(day, month, year, found);
-    found.length = end;
-}
-
 // "2010-2015", "1914–18".
 bool read_range(const Place& place, std::string_view year, Found& found) {
     const std::size_t dash = place.dash(year.size());
@@ -253,24 +83,18 @@ bool is_after_circa(const Place& place) {
     return before == "c" || before == "ca";
 }
 
-// "4-Jun-2011", "04-Jun-11"
-bool read_dashed_date(const Place& place, Found& found) {
-    const std::string_view day = place.digits();
-    if (!is_value(day, 1, 31) || place.peek(day.size()) != '-') return false;
-    const std::string_view name = place.letters(day.size() + 1);
-    const std::size_t dash = day.size() + 1 + name.size();
-    const Month month = {month_number(name), day.size() + 1, name.size()};
-    const std::string_view year = place.digits(dash + 1);
-    const std::size_t end = dash + 1 + year.size();
-    if (month.number == 0 || place.peek(dash) != '-' || place.is_joined(end)) return false;
-    if (!may_be_year(year) && year.size() != 2) return false;
-    if (place.word_before() != "the") say("the", found.words);
-    say_day_first(day, month, full_year(year), found);
-    found.length = end;
-    return true;
+}  // namespace
+
+// Four digits of the years 1000 to 2099.
+bool may_be_year(std::string_view digits) {
+    return digits.size() == 4 && (digits[0] == '1' || digits.substr(0, 2) == "20");
 }
 
-}  // namespace
+bool is_value(std::string_view digits, int least, int most) {
+    if (digits.empty() || digits.size() > 2) return false;
+    const int value = tn::value_of(digits);
+    return value >= least && value <= most;
+}
 
 void read_year(const Place& place, Found& found) {
     if (const std::size_t mark = place.apostrophe(0); mark > 0) {
@@ -290,17 +114,6 @@ void read_year(const Place& place, Found& found) {
     if (!is_year) return;
     say_year(digits, found.words);
     found.length = 4;
-}
-
-void read_date(const Place& place, Found& found) {
-    if (is_letter(place.peek())) return read_month_first(place, found);
-    if (read_iso_date(place, found) || read_dashed_date(place, found)) return;
-    read_day_first(place, found);
-    if (found.length == 0) read_numeric_date(place, false, found);
-}
-
-void read_american_date(const Place& place, Found& found) {
-    if (is_digit(place.peek())) read_numeric_date(place, true, found);
 }
 
 }  // namespace kavi::everyday

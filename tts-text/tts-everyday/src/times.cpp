@@ -54,30 +54,29 @@ Clock clock_at(const Place& place, std::size_t ahead) {
     return clock;
 }
 
-// The words of a time of day: its seconds come after.
-void say_clock(const Clock& clock, bool has_half, std::string& out) {
-    if (!clock.seconds.empty() && has_half) {
-        Clock minutes = clock;
-        minutes.seconds = {};
-        say_clock(minutes, true, out);
-        say("and", out);
-        say_cardinal(clock.seconds, out);
-        return say(clock.seconds == "01" ? "second" : "seconds", out);
-    }
-    if (!clock.seconds.empty()) {
-        say_cardinal(clock.hour, out);
-        say(clock.hour == "1" ? "hour" : "hours", out);
-        say_cardinal(clock.minutes, out);
-        say(clock.minutes == "01" ? "minute" : "minutes", out);
-        say_cardinal(clock.seconds, out);
-        return say("seconds", out);
-    }
+void say_hour_and_minutes(const Clock& clock, bool has_half, std::string& out) {
     say_cardinal(clock.hour, out);
     if (clock.minutes.empty() || (clock.minutes == "00" && has_half)) return;
     if (clock.minutes == "00")
         return say(clock.hour.size() == 2 && clock.hour > "12" ? "hundred" : "oclock", out);
     if (clock.minutes[0] == '0') say("oh", out);
     say_cardinal(clock.minutes, out);
+}
+
+// With seconds, but without "p.m.", as a length of time.
+void say_clock(const Clock& clock, bool has_half, std::string& out) {
+    if (clock.seconds.empty()) return say_hour_and_minutes(clock, has_half, out);
+    if (has_half) {
+        say_hour_and_minutes(clock, true, out);
+        say("and", out);
+    } else {
+        say_cardinal(clock.hour, out);
+        say(clock.hour == "1" ? "hour" : "hours", out);
+        say_cardinal(clock.minutes, out);
+        say(clock.minutes == "01" ? "minute" : "minutes", out);
+    }
+    say_cardinal(clock.seconds, out);
+    say(has_half && clock.seconds == "01" ? "second" : "seconds", out);
 }
 
 // "at 1200 hours"; "for 1200 hours" is a length of time

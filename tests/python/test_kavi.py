@@ -46,7 +46,7 @@ def test_enumerations_are_the_engine_s() -> None:
     assert [mark.name for mark in kavi.Mark] == [name.upper() for name in marks]
     assert [*kavi.Pause, *kavi.Mark] == [*range(-2, len(pauses) - 2), *range(len(marks))]
     assert [code.value for code in kavi.FindingCode] == findings
-    assert [kavi.Everyday[name.upper()] for name in classes] == [1 << i for i in range(11)]
+    assert [kavi.Everyday[name.upper()] for name in classes] == [1 << i for i in range(len(classes))]
     assert kavi.Reader(everyday=classes) == kavi.Reader(everyday=kavi.Everyday.ALL) == kavi.Reader(everyday=True)
 
 

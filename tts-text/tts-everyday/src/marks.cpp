@@ -69,16 +69,15 @@ bool has_end_of_stress(const Place& place, std::size_t length) {
     return false;
 }
 
-// Whether stress begins near before the place, with a run of `length` asterisks.
+// Whether stress begins near before the place, with a run of `length` asterisks; none is directly
+// before it.
 bool has_begin_of_stress(const Place& place, std::size_t length) {
-    for (std::size_t back = 1; back < LONGEST_SPAN; ++back) {
+    for (std::size_t back = 2; back < LONGEST_SPAN; ++back) {
         const char c = place.before(back);
         if (c == '\0' || c == '\n') return false;
         if (c != '*') continue;
-        const bool is_one = place.before(back - 1) != ' ' &&
-                            (place.before(back + 1) == '*') == (length == 2) &&
-                            !place.is_joined_before(back + length - 1);
-        return back > 1 && is_one;
+        return place.before(back - 1) != ' ' && (place.before(back + 1) == '*') == (length == 2) &&
+               !place.is_joined_before(back + length - 1);
     }
     return false;
 }

@@ -87,12 +87,11 @@ test('reads everyday English as the native tool does', () => {
   assert.equal(large.reader({everyday: ['years'], americanDates: true}).normalize('3/4/2020'),
     'March fourth twenty twenty');
   assert.equal(large.normalize("won't"), 'will not');
-  const all = 'Mr. A’s €5 × 5 km, 1990s – 5 p.m., a@b.com, Henry VIII, ½, café on the left.';
+  const all = 'Mr. A’s €5 × 5 km, 1990s – 5 p.m., a@b.com, Henry VIII, ½, café, *so* C++ on the left.';
   for (const name of EVERYDAY) {
     const others = EVERYDAY.filter(other => other !== name).join(',');
     assert.deepEqual(byPackage(large.reader({everyday: name}), all), byTool(all, '--everyday', '--without', others), name);
   }
-  assert.equal(EVERYDAY.length, 11);
 });
 
 test('has a lexicon', () => {

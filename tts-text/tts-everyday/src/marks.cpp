@@ -42,12 +42,13 @@ void keep_silent(std::size_t length, Found& found) {
 
 // ---- Silent marks ----
 
-// "=====", "*****", "~~~~": a rule across the page, a part of it at a time.
+// "=====", "*****", "~~~~": a rule across the page, four marks at a time: where a user's own word
+// is in them, all that was looked at is looked at again.
 bool read_rule(const Place& place, Found& found) {
     const char mark = place.peek();
     if (mark != '=' && mark != '*' && mark != '~' && mark != '>' && mark != '#') return false;
     constexpr std::size_t SHORTEST = 3;
-    const std::size_t length = run_of(place, mark, 0, LOOK_BACK);
+    const std::size_t length = run_of(place, mark, 0, SHORTEST + 1);
     const bool goes_on = place.before(1) == mark && place.before(2) == mark;
     if (length < SHORTEST && !goes_on) return false;
     keep_silent(length, found);
@@ -98,7 +99,7 @@ bool read_stress(const Place& place, Found& found) {
 
 // "* item" at the begin of a line, the other side of a box at its end, "F***ing", "sh**".
 bool read_silent_asterisk(const Place& place, Found& found) {
-    const std::size_t length = run_of(place, '*', 0, LOOK_BACK);
+    const std::size_t length = run_of(place, '*', 0, 2);
     const bool is_bullet = length == 1 && place.begins_line() && place.peek(1) == ' ';
     const bool is_footnote = length == 1 && place.begins_line() && place.is_joined(1);
     const bool is_left_out = length > 1 && is_letter(place.before());

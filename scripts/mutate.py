@@ -138,7 +138,7 @@ def all_faults():
 
 
 def faults_of(path):
-    """Every fault of a file as (line number, what stands there, what is put there); some come twice."""
+    """Yields (line number, lines, faulty lines) for each fault of a file; some come twice."""
     lines = path.read_text().split("\n")
     is_document = False
     for number, line in enumerate(lines):
@@ -159,7 +159,7 @@ def faults_of(path):
 
 
 def choose(faults, count):
-    """So many faults, every so many of all: each file has its share."""
+    """Picks `count` faults at even intervals, so that each file has its share."""
     count = min(count, len(faults))
     return [faults[i * len(faults) // count] for i in range(count)]
 

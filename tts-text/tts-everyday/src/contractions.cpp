@@ -37,7 +37,7 @@ bool is_participle(std::string_view word) {
     return ends_in_ed && word[word.size() - 3] != 'e' && word != "embed";
 }
 
-// The word for "'d" before what is that far ahead, null where both could be meant: "I'd read".
+// The word for "'d" by the verb at offset `ahead`; null where both could be meant: "I'd read".
 const char* had_or_would(const Place& place, std::size_t ahead) {
     const auto next_word = [&](std::size_t at) {
         return place.peek(at) == ' ' ? place.letters(at + 1) : std::string_view();

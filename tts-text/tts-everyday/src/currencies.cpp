@@ -6,7 +6,7 @@ namespace kavi::everyday {
 
 namespace {
 
-// The scale so far on, with its length, past one blank; null for none, and the length stays.
+// The scale word at offset `ahead`, after at most one blank; null if none, and then `length` stays.
 const char* scale_at(const Place& place, std::size_t ahead, std::size_t& length) {
     const std::size_t blank = place.peek(ahead) == ' ' || place.peek(ahead) == '-' ? 1 : 0;
     const std::string_view word = place.letters(ahead + blank);

@@ -92,7 +92,8 @@ std::size_t ordinal_suffix(const Place& place, std::size_t ahead) {
     return is_small && find(ORDINAL_SUFFIXES, letters) != nullptr ? letters.size() : 0;
 }
 
-// A year so far on, past a comma and a blank; its end.
+// The year at offset `ahead`, after a comma, a blank or both. `end` is set past it, to `ahead` if
+// none.
 std::string_view year_after(const Place& place, std::size_t ahead, std::size_t& end) {
     std::size_t begin = ahead;
     if (place.peek(begin) == ',') ++begin;

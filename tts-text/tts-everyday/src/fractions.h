@@ -6,7 +6,7 @@
 
 namespace kavi::everyday {
 
-// The sign of a fraction that far ahead, "½", or null.
+// The row of the fraction sign at offset `ahead`, such as "½", or null.
 const Row* fraction_sign_at(const Place& place, std::size_t ahead);
 
 // A fraction, by itself or after a whole number, that begins with the digits at a place.

@@ -1,4 +1,4 @@
-// Marks of ASCII as they stand in mail, in manuals and on the web: silent, or with their name.
+// Marks of ASCII in mail, in manuals and on the web: silent, or with their name.
 
 #include "rules.h"
 #include "tokens.h"

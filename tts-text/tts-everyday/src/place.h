@@ -1,8 +1,10 @@
-// A place in a text, and what is around it: all that a rule can read.
+// A cursor in a text and the bytes around it that a rule may read. `ahead` is an offset from the
+// cursor, `back` a distance before it.
 #ifndef KAVI_EVERYDAY_PLACE_H
 #define KAVI_EVERYDAY_PLACE_H
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -28,31 +30,31 @@ inline std::string in_lower_case(std::string_view text) {
     return lower;
 }
 
-// How many bytes after the begin of a token a rule can read, and how many before it.
+// The bytes that a rule may read from the cursor on, and before it.
 constexpr std::size_t LOOK_AHEAD = 256;
 constexpr std::size_t LOOK_BACK = 64;
 
 class Place {
   public:
-    // `at` is at most the text's size. The text outlives the place.
+    // `at` is at most the size of the text, which outlives the cursor.
     Place(std::string_view text, std::size_t at)
         : ahead_(text.substr(at, LOOK_AHEAD)),
           behind_(text.substr(at - std::min(at, LOOK_BACK), std::min(at, LOOK_BACK))),
           is_cut_(text.size() - at > LOOK_AHEAD),
           is_cut_behind_(at > LOOK_BACK) {}
 
-    // Whether something would read what the text has further than LOOK_AHEAD. What it found cannot
-    // be relied upon then: a word or a number may be longer than it saw.
+    // Whether a rule tried to read beyond LOOK_AHEAD: a word or a number may be longer than it saw.
     bool has_met_bound() const { return has_met_end_ && is_cut_; }
 
-    // The character that far ahead, or NUL outside the text.
+    // The byte at `ahead`, NUL outside the text.
     char peek(std::size_t ahead = 0) const {
         if (ahead < ahead_.size()) return ahead_[ahead];
         has_met_end_ = true;
         return '\0';
     }
-    // The character that far before the place, from 1, or NUL outside the text.
+    // The byte at `back`, 1 for the last one; NUL outside the text.
     char before(std::size_t back = 1) const {
+        assert(back > 0);
         return back <= behind_.size() ? behind_[behind_.size() - back] : '\0';
     }
 
@@ -61,7 +63,7 @@ class Place {
         return peek(ahead) == words[0] && part(ahead, words.size()) == words;
     }
 
-    // How many characters belong together from that far ahead.
+    // The length of the run at `ahead` whose bytes all belong.
     template <typename Belongs>
     std::size_t run(Belongs belongs, std::size_t ahead = 0) const {
         std::size_t end = ahead;
@@ -84,39 +86,36 @@ class Place {
         return run([](char c) { return c == ' '; }, ahead);
     }
 
-    // The length of a letter of any script that far ahead, or of a mark upon one; 0 for none.
+    // The length of the letter of any script, or combining mark, at `ahead`; 0 if none.
     std::size_t letter(std::size_t ahead) const;
-    // The length of the word there, of letters of any script.
+    // The length of the run of such letters.
     std::size_t word(std::size_t ahead = 0) const;
-    // Whether a letter or a digit is there.
+    // Whether a letter or a digit is at `ahead`.
     bool is_joined(std::size_t ahead) const { return is_digit(peek(ahead)) || letter(ahead) > 0; }
-    // Whether a letter or a digit ends so many characters before the place.
+    // Whether a letter or a digit ends at `back`.
     bool is_joined_before(std::size_t back = 0) const;
 
-    // Whether a line begins so many characters before the place, but for blanks and marks of a
-    // quotation in mail between.
+    // Whether only blanks and quotation marks of mail are between the line's start and `back`.
     bool begins_line(std::size_t back = 0) const;
 
-    // The length of a hyphen or an en dash that far ahead; 0 for none.
+    // The length of a hyphen or an en dash at `ahead`; 0 if none.
     std::size_t dash(std::size_t ahead) const {
         if (starts_with("–", ahead)) return 3;
         return peek(ahead) == '-' ? 1 : 0;
     }
 
-    // The letters that end so many characters before the place; empty when LOOK_BACK does not show
-    // where they begin.
+    // The letters that end at `back`; empty if they begin before LOOK_BACK.
     std::string_view letters_before(std::size_t back = 0) const;
-    // The word before what is so many characters before the place, past the blanks between; empty
-    // when something else is there.
+    // The same, blanks skipped.
     std::string_view word_before(std::size_t back = 0) const;
 
-    // The length of an apostrophe that far ahead, straight or curly; 0 for none.
+    // The length of an apostrophe at `ahead`, straight or curly; 0 if none.
     std::size_t apostrophe(std::size_t ahead) const {
         if (peek(ahead) == '\'') return 1;
         return starts_with("’", ahead) || starts_with("‘", ahead) ? 3 : 0;
     }
 
-    // The longest row of a table that is written that far ahead and fits, or null.
+    // The longest row of a table at `ahead` that fits, or null.
     const Row* find_row(Table table, std::size_t ahead) const {
         return find_longest(table, [&](std::size_t at) { return peek(ahead + at); });
     }
@@ -127,10 +126,10 @@ class Place {
         return row;
     }
 
-    // Whether what ends that far ahead is said as one with a word after it: "a $100 bill".
+    // Whether what ends at `ahead` is an adjective of the next word: "a $100 bill".
     bool is_before_noun(std::size_t ahead) const;
 
-    // Whether a sentence may end that far ahead: nothing follows, or a blank and a capital letter.
+    // Whether a sentence may end at `ahead`: nothing follows, or a blank and a capital letter.
     bool may_end_sentence(std::size_t ahead) const;
 
   private:

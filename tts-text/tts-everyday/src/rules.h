@@ -8,13 +8,13 @@
 
 namespace kavi::everyday {
 
-// What a rule has found: how much of the text, and the words for it.
+// What a rule has read: the length of the text and the words for it.
 struct Found {
     std::size_t length = 0;  // 0: nothing
     std::string words;
 
-    // A unit, a currency, a month or a title in it: where it is written, from the place, and where
-    // its word is in the words. A user may have another word for it.
+    // The range of a unit, a currency, a month or a title in the text, and of its word in the
+    // words: a user may have another word for it.
     struct Name {
         std::size_t at = 0;
         std::size_t length = 0;  // 0: none
@@ -28,9 +28,9 @@ struct Found {
     }
 };
 
-// Each looks at what begins at a place where a word, a number or a mark begins; `found` is empty
-// before. Where two rules could read the same, the order in everyday.cpp decides. What a rule found
-// counts for nothing when it has met the bound of what it can read.
+// Each reads what begins at the cursor: a word, a number or a mark. `found` is empty before. Where
+// two rules could read the same, the order in everyday.cpp decides. A rule that met the bound of
+// what it may read is ignored.
 using Rule = void (*)(const Place& place, Found& found);
 
 void read_title(const Place& place, Found& found);         // titles.cpp
@@ -61,17 +61,18 @@ void read_mark(const Place& place, Found& found);    // marks.cpp
 void read_named_mark(const Place& place, Found& found);
 void read_slashed_words(const Place& place, Found& found);
 
-// "per" and what follows a slash that far ahead; the length of both, 0 for none; units.cpp.
+// Appends "per" and the unit after a slash at offset `ahead`. Returns their length, 0 if none;
+// units.cpp.
 std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
 
-// The time of an ISO date, with "Z" or without, that far ahead; its length, 0 for none; times.cpp.
+// Appends the time of an ISO date at offset `ahead`. Returns its length, 0 if none; times.cpp.
 std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out);
 
-// Four digits of the years 1000 to 2099; one or two digits of such a value; years.cpp.
+// Whether digits are a year from 1000 to 2099, or one or two of a value in a range; years.cpp.
 bool may_be_year(std::string_view digits);
 bool is_value(std::string_view digits, int least, int most);
 
-// 0 for what is no Roman numeral as they are written; roman.cpp.
+// The value of a Roman numeral in its usual spelling, 0 for any other text; roman.cpp.
 int value_of_roman(std::string_view numeral);
 
 // Whether the last of some words ends like one of the engine's abbreviations: "gift", "ft.".

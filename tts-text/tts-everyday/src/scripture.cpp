@@ -6,7 +6,8 @@ namespace kavi::everyday {
 
 namespace {
 
-// "3:16" so far on: its length, its words added; 0 for none. Verses have no zeros before them.
+// Appends the words for "3:16" at offset `ahead`. Returns its length, 0 if none: verses have no
+// leading zero.
 std::size_t say_verse(const Place& place, std::size_t ahead, std::string& out) {
     constexpr std::size_t LONGEST = 3;
     const std::string_view chapter = place.digits(ahead);

@@ -6,7 +6,7 @@ namespace kavi::everyday {
 
 namespace {
 
-// "p.m.", "pm", "PM" so far on, past a blank, with its length; null for none.
+// The words for "p.m.", "pm" or "PM" at offset `ahead`, after at most one blank; null if none.
 const char* half_of_day(const Place& place, std::size_t ahead, std::size_t& length) {
     const std::size_t blank = place.peek(ahead) == ' ' ? 1 : 0;
     const std::size_t at = ahead + blank;
@@ -20,7 +20,7 @@ const char* half_of_day(const Place& place, std::size_t ahead, std::size_t& leng
     return first == 'a' ? "a m" : "p m";
 }
 
-// The hour, minutes and seconds that are written so far on; the length of all, 0 for none.
+// A time of day as written; its length is 0 if there is none.
 struct Clock {
     std::string_view hour;
     std::string_view minutes;

@@ -14,7 +14,8 @@ void say_tens(std::string_view tens, std::string& out) {
     out.replace(out.size() - 1, 1, "ies");
 }
 
-// The length of a decade that far ahead, "1990s", "90s" or "1990's", and its digits; 0 for none.
+// The digits of the decade at offset `ahead`, "1990s", "90s" or "1990's". Returns its length, 0 if
+// none.
 std::size_t decade_at(const Place& place, std::size_t ahead, std::string_view& digits) {
     digits = place.digits(ahead);
     if ((digits.size() != 2 && digits.size() != 4) || digits.back() != '0') return 0;

@@ -44,7 +44,7 @@ class Reading {
         return true;
     }
 
-    // For words of at most so many characters that are written to the end: whether they have room,
+    // For words of at most `length` characters that are written to the end: whether they have room,
     // where they go, and that they are there.
     bool has_room(std::size_t length) const { return !cut_ && length <= ROOM - length_; }
     char* end() { return text_ + length_; }

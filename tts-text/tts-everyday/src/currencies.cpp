@@ -43,10 +43,6 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
     say(number.fraction == "01" ? coin->spoken : coin->many, found.words);
 }
 
-}  // namespace
-
-namespace {
-
 // A code before its amount, "USD 10 million"; its row, or null.
 const Row* code_before(const Place& place) {
     const std::string_view code = place.letters();

@@ -281,21 +281,6 @@ bool read_tilde(const Place& place, Found& found) {
     return true;
 }
 
-// "17 km/s": the second unit, where the one before it is after a number.
-bool read_per_unit(const Place& place, Found& found) {
-    const std::string_view first = place.letters_before();
-    const std::size_t blank = place.before(first.size() + 1) == ' ' ? 1 : 0;
-    const std::string_view second = place.letters(1);
-    const bool has_number = is_digit(place.before(first.size() + blank + 1));
-    if (!has_number || place.is_joined(1 + second.size())) return false;
-    const Row* unit = find(UNITS, second);
-    if (unit == nullptr || find(UNITS, first) == nullptr) return false;
-    found.words = "per";
-    found.length = 1 + second.size();
-    found.say_name(1, second.size(), unit->spoken);
-    return true;
-}
-
 // "spam/ham", "/usr/bin", "~/notes", "X11/bin"; not the last of "/usr/bin/", and nothing between
 // numbers or capitals: "I/O", "1/2".
 bool read_slash(const Place& place, Found& found) {
@@ -374,9 +359,7 @@ bool read_one_mark(const Place& place, Found& found) {
         case '#': return read_hash(place, found);
         case '+': return read_plus(place, found);
         case '~': return read_tilde(place, found);
-        case '/':
-            return read_operator(place, found) || read_per_unit(place, found) ||
-                   read_slash(place, found);
+        case '/': return read_operator(place, found) || read_slash(place, found);
         case '.': return read_dot(place, found);
         case '-': return read_operator(place, found) || read_option(place, found);
         default: return read_operator(place, found);
@@ -389,16 +372,13 @@ void read_mark(const Place& place, Found& found) {
     if (!read_rule(place, found)) read_one_mark(place, found);
 }
 
-// "α", "√", "20º"; not the first letter of "πόλις".
+// "α", "√", "20º"
 void read_named_mark(const Place& place, Found& found) {
     if (!is_outside_ascii(place.peek())) return;
     const Row* row = place.find_row(NAMED_MARKS, 0);
     if (row == nullptr) return;
-    const std::size_t length = row->written.size();
     if (row->kind == Kind::after && !is_digit(place.before())) return;
-    if (place.letter(0) > 0 && place.letter(length) > 1) return;
-    found.length = length;
-    found.words = row->spoken;
+    say_sign(place, *row, found);
 }
 
 // "and/or", "his/her", "w/o"

@@ -174,10 +174,14 @@ void read_sign(const Place& place, Found& found) {
     const Row* sign = place.find_row(SIGNS, 0);
     if (sign == nullptr) return;
     if (sign->kind == Kind::before_number) return read_sign_before_number(place, *sign, found);
-    // "πr", but not the first letter of "πόλις".
-    if (place.letter(0) > 0 && place.letter(sign->written.size()) > 1) return;
-    found.length = sign->written.size();
-    found.words = sign->spoken;
+    say_sign(place, *sign, found);
+}
+
+// "πr", but not the first letter of "πόλις".
+void say_sign(const Place& place, const Row& sign, Found& found) {
+    if (place.letter(0) > 0 && place.letter(sign.written.size()) > 1) return;
+    found.length = sign.written.size();
+    found.words = sign.spoken;
 }
 
 }  // namespace kavi::everyday

@@ -72,6 +72,9 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
 bool may_be_year(std::string_view digits);
 bool is_value(std::string_view digits, int least, int most);
 
+// Reads the sign of a row at the cursor, unless it is a letter of a word; numbers.cpp.
+void say_sign(const Place& place, const Row& sign, Found& found);
+
 // The value of a Roman numeral in its usual spelling, 0 for any other text; roman.cpp.
 int value_of_roman(std::string_view numeral);
 

@@ -1,113 +1,10 @@
-// Marks of ASCII in mail, in manuals and on the web: silent, or with their name.
+// Marks of mail, manuals and the web that are said with their names; which rule reads a mark.
 
-#include "rules.h"
-#include "tokens.h"
+#include "marks.h"
 
 namespace kavi::everyday {
 
 namespace {
-
-// What the engine reads for nothing at all.
-constexpr std::string_view SILENT = " ";
-
-// The longest that is looked back for what a mark closes.
-constexpr std::size_t LONGEST_SPAN = LOOK_BACK - 4;
-
-bool is_blank_or_end(char c) {
-    return c == ' ' || c == '\n' || c == '\t' || c == '\0';
-}
-
-// Whether a word may begin after `c`: no letter, no digit and no mark that joins.
-bool may_precede_word(char c) {
-    return is_blank_or_end(c) || c == '(' || c == '[' || c == '{' || c == '"' || c == '\'' ||
-           c == '`' || c == ',';
-}
-
-// The same of what ends before the place; curly quotes and dashes are outside of ASCII.
-bool begins_word(const Place& place) {
-    const char before = place.before();
-    return may_precede_word(before) || (is_outside_ascii(before) && !place.is_joined_before());
-}
-
-std::size_t run_of(const Place& place, char mark, std::size_t ahead, std::size_t longest) {
-    std::size_t length = 0;
-    while (length < longest && place.peek(ahead + length) == mark) ++length;
-    return length;
-}
-
-void keep_silent(std::size_t length, Found& found) {
-    found.length = length;
-    found.words = SILENT;
-}
-
-// ---- Silent marks ----
-
-// "=====", "*****", "~~~~": a rule across the page, four marks at a time: where a user's own word
-// is in them, all that was looked at is looked at again.
-bool read_rule(const Place& place, Found& found) {
-    const char mark = place.peek();
-    if (mark != '=' && mark != '*' && mark != '~' && mark != '>' && mark != '#') return false;
-    constexpr std::size_t SHORTEST = 3;
-    const std::size_t length = run_of(place, mark, 0, SHORTEST + 1);
-    const bool goes_on = place.before(1) == mark && place.before(2) == mark;
-    if (length < SHORTEST && !goes_on) return false;
-    keep_silent(length, found);
-    return true;
-}
-
-// Whether stress that begins so far ahead with a run of `length` asterisks ends near.
-bool has_end_of_stress(const Place& place, std::size_t length) {
-    for (std::size_t at = length; at < LONGEST_SPAN; ++at) {
-        const char c = place.peek(at);
-        if (c == '\0' || c == '\n') return false;
-        if (c != '*') continue;
-        const bool is_end = place.peek(at - 1) != ' ' &&
-                            run_of(place, '*', at, length + 1) == length &&
-                            !place.is_joined(at + length);
-        if (is_end) return true;
-        at += run_of(place, '*', at, LONGEST_SPAN) - 1;
-    }
-    return false;
-}
-
-// Whether stress begins near before the place, with a run of `length` asterisks; none is directly
-// before it.
-bool has_begin_of_stress(const Place& place, std::size_t length) {
-    for (std::size_t back = 2; back < LONGEST_SPAN; ++back) {
-        const char c = place.before(back);
-        if (c == '\0' || c == '\n') return false;
-        if (c != '*') continue;
-        return place.before(back - 1) != ' ' && (place.before(back + 1) == '*') == (length == 2) &&
-               !place.is_joined_before(back + length - 1);
-    }
-    return false;
-}
-
-// "*stress*", "**stress**": either end, where the other is in sight.
-bool read_stress(const Place& place, Found& found) {
-    const std::size_t length = run_of(place, '*', 0, 3);
-    if (length > 2 || place.before() == '*') return false;
-    const char after = place.peek(length);
-    const bool begins =
-        begins_word(place) && !is_blank_or_end(after) && has_end_of_stress(place, length);
-    const bool ends = !begins && !is_blank_or_end(place.before()) && !place.is_joined(length) &&
-                      has_begin_of_stress(place, length);
-    if (!begins && !ends) return false;
-    keep_silent(length, found);
-    return true;
-}
-
-// "* item" at the begin of a line, the other side of a box at its end, "F***ing", "sh**".
-bool read_silent_asterisk(const Place& place, Found& found) {
-    const std::size_t length = run_of(place, '*', 0, 2);
-    const bool is_bullet = length == 1 && place.begins_line() && place.peek(1) == ' ';
-    const bool is_footnote = length == 1 && place.begins_line() && place.is_joined(1);
-    const bool is_left_out = length > 1 && is_letter(place.before());
-    const bool is_edge = length == 1 && place.before() == ' ' && place.peek(1) == '\n';
-    if (!is_bullet && !is_edge && !is_footnote && !is_left_out) return false;
-    keep_silent(length, found);
-    return true;
-}
 
 // "*.txt", "news.*", "NNTP-*"
 bool read_wildcard(const Place& place, Found& found) {
@@ -120,141 +17,6 @@ bool read_wildcard(const Place& place, Found& found) {
     found.words = "star";
     return true;
 }
-
-// "<bob@example.com>", "<http://example.com>": the address alone.
-bool read_address_in_brackets(const Place& place, Found& found) {
-    const Place inside(place.part(0, LOOK_AHEAD), 1);
-    read_address(inside, found);
-    if (found.length > 0 && place.peek(1 + found.length) == '>') {
-        found.length += 2;
-        return true;
-    }
-    found = Found();
-    return false;
-}
-
-// "<name>", "<1234@host>": the bracket that closes it; the engine says nothing for the first.
-bool closes_bracket(const Place& place) {
-    const auto is_of_name = [](char c) {
-        return is_letter(c) || is_digit(c) || is_outside_ascii(c) || c == '.' || c == '-' ||
-               c == '_' || c == '@' || c == '/' || c == ':' || c == '+';
-    };
-    std::size_t back = 1;
-    while (back < LOOK_BACK && is_of_name(place.before(back))) ++back;
-    return back > 1 && place.before(back) == '<';
-}
-
-// "> quoted", ">> quoted", "| quoted"
-bool read_quotation(const Place& place, Found& found) {
-    const char after = place.peek(1);
-    const bool is_quotation = place.begins_line() && (is_blank_or_end(after) || after == '>' ||
-                                                      (place.peek() == '>' && is_letter(after)));
-    if (!is_quotation && (place.peek() != '>' || !closes_bracket(place))) return false;
-    keep_silent(1, found);
-    return true;
-}
-
-// ---- Operators ----
-
-struct Gap {
-    std::size_t before;
-    std::size_t after;  // where the right operand begins
-};
-
-bool is_quantity_after(const Place& place, std::size_t ahead) {
-    const char c = place.peek(ahead);
-    if (is_digit(c) || c == '(') return true;
-    if ((c == '-' || c == '.' || c == '$') && is_digit(place.peek(ahead + 1))) return true;
-    const std::size_t length = place.letter(ahead);
-    return length > 0 && place.word(ahead) == length && place.apostrophe(ahead + length) == 0;
-}
-
-bool is_quantity_before(const Place& place, std::size_t back) {
-    const char c = place.before(back + 1);
-    if (is_digit(c) || c == ')') return true;
-    if (!is_letter(c)) return false;
-    const char last = place.before(back + 2);
-    return !is_letter(last) && last != '\'' && !is_outside_ascii(last);
-}
-
-bool is_word_after(const Place& place, std::size_t ahead) {
-    const char c = place.peek(ahead);
-    return place.is_joined(ahead) || c == '(' || c == '[' || c == '{' || c == '"' || c == '\'' ||
-           c == '$' || c == '-' || c == '/' || c == '.';
-}
-
-bool is_word_before(const Place& place, std::size_t back) {
-    const char c = place.before(back + 1);
-    return place.is_joined_before(back) || c == ')' || c == ']' || c == '}' || c == '"' ||
-           c == '\'';
-}
-
-// "(> 5)", "<10"; no bracket round a number, nor a quotation.
-bool is_comparison_alone(const Place& place, std::size_t length) {
-    const std::size_t blanks = length + place.blanks(length);
-    const std::size_t at = blanks + (place.peek(blanks) == '$' ? 1 : 0);
-    if (!is_digit(place.peek(at)) || !may_precede_word(place.before())) return false;
-    if (place.peek() == '>') return !place.begins_line();
-    const auto is_inside = [](char c) { return !is_blank_or_end(c) && c != '>'; };
-    return place.peek(at + place.run(is_inside, at)) != '>';
-}
-
-bool fits_operator(const Place& place, const Row& row, const Gap& gap) {
-    const bool has_blanks = gap.before > 0;
-    if (has_blanks != (gap.after > row.written.size())) return false;
-    const bool has_words = is_word_before(place, gap.before) && is_word_after(place, gap.after);
-    if (row.kind == Kind::words) return has_words;
-    const bool has_quantities =
-        is_quantity_before(place, gap.before) && is_quantity_after(place, gap.after);
-    const bool has_numbers =
-        is_digit(place.before(gap.before + 1)) && is_digit(place.peek(gap.after));
-    // Without blanks "a<b>c" is markup.
-    if (row.kind == Kind::compared) return has_blanks ? has_words : has_numbers;
-    if (row.written == "/") return has_numbers && has_blanks;
-    // "6 - 4 = 2", but no range and no score.
-    if (row.written == "-") {
-        const std::size_t end = gap.after + number_at(place, gap.after).length;
-        return has_numbers && has_blanks && place.peek(end + place.blanks(end)) == '=';
-    }
-    // "f**k" is no power.
-    const bool has_number =
-        is_digit(place.before(gap.before + 1)) || is_digit(place.peek(gap.after));
-    if (row.written == "**" && !has_number) return false;
-    // "^C^Z" are keys.
-    return has_quantities && !(is_upper(place.before()) && is_upper(place.peek(gap.after)));
-}
-
-bool read_operator(const Place& place, Found& found) {
-    const Row* row = place.find_row(OPERATORS, 0);
-    if (row == nullptr) return false;
-    const std::size_t length = row->written.size();
-    Gap gap = {0, length + place.blanks(length)};
-    while (place.before(gap.before + 1) == ' ') ++gap.before;
-    const bool is_read = fits_operator(place, *row, gap) ||
-                         (row->kind == Kind::compared && is_comparison_alone(place, length));
-    if (!is_read) return false;
-    found.length = length;
-    found.words = row->spoken;
-    // "File > Save": a way through menus.
-    const bool is_menu = row->written == ">" && gap.before > 0 && is_upper(place.peek(gap.after)) &&
-                         is_lower(place.peek(gap.after + 1));
-    if (is_menu) found.words = ", ";
-    return true;
-}
-
-// "C++", "60+", "R+D", "5 + 3"
-bool read_plus(const Place& place, Found& found) {
-    const bool is_glued = place.is_joined_before() || place.before() == ')' ||
-                          (place.before() == '+' && place.is_joined_before(1));
-    const bool is_spaced = place.before() == ' ' && is_word_before(place, 1) &&
-                           place.peek(1) == ' ' && is_word_after(place, 2);
-    if (!is_glued && !is_spaced) return false;
-    found.length = 1;
-    found.words = "plus";
-    return true;
-}
-
-// ---- Names of marks ----
 
 // "C#" is sharp; "at # 5" is a number; "#tag" a hash.
 bool read_hash(const Place& place, Found& found) {
@@ -276,8 +38,8 @@ bool read_hash(const Place& place, Found& found) {
 // "~/notes", "~bob"; alone it is an ornament.
 bool read_tilde(const Place& place, Found& found) {
     const bool is_name = begins_word(place) && (place.peek(1) == '/' || place.letter(1) > 0);
-    found.length = 1;
-    found.words = is_name ? "tilde" : SILENT;
+    keep_silent(1, found);
+    if (is_name) found.words = "tilde";
     return true;
 }
 

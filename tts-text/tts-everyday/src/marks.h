@@ -1,0 +1,42 @@
+// What the readers of marks share.
+#ifndef KAVI_EVERYDAY_MARKS_H
+#define KAVI_EVERYDAY_MARKS_H
+
+#include "rules.h"
+
+namespace kavi::everyday {
+
+inline bool is_blank_or_end(char c) {
+    return c == ' ' || c == '\n' || c == '\t' || c == '\0';
+}
+
+// Whether a word may begin after `c`: no letter, no digit and no mark that joins.
+inline bool may_precede_word(char c) {
+    return is_blank_or_end(c) || c == '(' || c == '[' || c == '{' || c == '"' || c == '\'' ||
+           c == '`' || c == ',';
+}
+
+// The same of what ends at the cursor; curly quotes and dashes are outside ASCII.
+inline bool begins_word(const Place& place) {
+    const char before = place.before();
+    return may_precede_word(before) || (is_outside_ascii(before) && !place.is_joined_before());
+}
+
+// For a blank the engine says nothing.
+inline void keep_silent(std::size_t length, Found& found) {
+    found.length = length;
+    found.words = " ";
+}
+
+// Each answers whether it has read the mark at the cursor.
+bool read_rule(const Place& place, Found& found);  // silent_marks.cpp
+bool read_stress(const Place& place, Found& found);
+bool read_silent_asterisk(const Place& place, Found& found);
+bool read_address_in_brackets(const Place& place, Found& found);
+bool read_quotation(const Place& place, Found& found);
+bool read_operator(const Place& place, Found& found);  // operators.cpp
+bool read_plus(const Place& place, Found& found);
+
+}  // namespace kavi::everyday
+
+#endif  // KAVI_EVERYDAY_MARKS_H

@@ -1,0 +1,109 @@
+// Operators between operands.
+
+#include "marks.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+struct Gap {
+    std::size_t before;
+    std::size_t after;  // where the right operand begins
+};
+
+bool is_quantity_after(const Place& place, std::size_t ahead) {
+    const char c = place.peek(ahead);
+    if (is_digit(c) || c == '(') return true;
+    if ((c == '-' || c == '.' || c == '$') && is_digit(place.peek(ahead + 1))) return true;
+    const std::size_t length = place.letter(ahead);
+    return length > 0 && place.word(ahead) == length && place.apostrophe(ahead + length) == 0;
+}
+
+bool is_quantity_before(const Place& place, std::size_t back) {
+    const char c = place.before(back + 1);
+    if (is_digit(c) || c == ')') return true;
+    if (!is_letter(c)) return false;
+    const char last = place.before(back + 2);
+    return !is_letter(last) && last != '\'' && !is_outside_ascii(last);
+}
+
+bool is_word_after(const Place& place, std::size_t ahead) {
+    const char c = place.peek(ahead);
+    return place.is_joined(ahead) || c == '(' || c == '[' || c == '{' || c == '"' || c == '\'' ||
+           c == '$' || c == '-' || c == '/' || c == '.';
+}
+
+bool is_word_before(const Place& place, std::size_t back) {
+    const char c = place.before(back + 1);
+    return place.is_joined_before(back) || c == ')' || c == ']' || c == '}' || c == '"' ||
+           c == '\'';
+}
+
+// "(> 5)", "<10"; no bracket round a number, nor a quotation.
+bool is_comparison_alone(const Place& place, std::size_t length) {
+    const std::size_t blanks = length + place.blanks(length);
+    const std::size_t at = blanks + (place.peek(blanks) == '$' ? 1 : 0);
+    if (!is_digit(place.peek(at)) || !may_precede_word(place.before())) return false;
+    if (place.peek() == '>') return !place.begins_line();
+    const auto is_inside = [](char c) { return !is_blank_or_end(c) && c != '>'; };
+    return place.peek(at + place.run(is_inside, at)) != '>';
+}
+
+bool fits_operator(const Place& place, const Row& row, const Gap& gap) {
+    const bool has_blanks = gap.before > 0;
+    if (has_blanks != (gap.after > row.written.size())) return false;
+    const bool has_words = is_word_before(place, gap.before) && is_word_after(place, gap.after);
+    if (row.kind == Kind::words) return has_words;
+    const bool has_quantities =
+        is_quantity_before(place, gap.before) && is_quantity_after(place, gap.after);
+    const bool has_numbers =
+        is_digit(place.before(gap.before + 1)) && is_digit(place.peek(gap.after));
+    // Without blanks "a<b>c" is markup.
+    if (row.kind == Kind::compared) return has_blanks ? has_words : has_numbers;
+    if (row.written == "/") return has_numbers && has_blanks;
+    // "6 - 4 = 2", but no range and no score.
+    if (row.written == "-") {
+        const std::size_t end = gap.after + number_at(place, gap.after).length;
+        return has_numbers && has_blanks && place.peek(end + place.blanks(end)) == '=';
+    }
+    // "f**k" is no power.
+    const bool has_number =
+        is_digit(place.before(gap.before + 1)) || is_digit(place.peek(gap.after));
+    if (row.written == "**" && !has_number) return false;
+    // "^C^Z" are keys.
+    return has_quantities && !(is_upper(place.before()) && is_upper(place.peek(gap.after)));
+}
+
+}  // namespace
+
+bool read_operator(const Place& place, Found& found) {
+    const Row* row = place.find_row(OPERATORS, 0);
+    if (row == nullptr) return false;
+    const std::size_t length = row->written.size();
+    Gap gap = {0, length + place.blanks(length)};
+    while (place.before(gap.before + 1) == ' ') ++gap.before;
+    const bool is_read = fits_operator(place, *row, gap) ||
+                         (row->kind == Kind::compared && is_comparison_alone(place, length));
+    if (!is_read) return false;
+    found.length = length;
+    found.words = row->spoken;
+    // "File > Save": a way through menus.
+    const bool is_menu = row->written == ">" && gap.before > 0 && is_upper(place.peek(gap.after)) &&
+                         is_lower(place.peek(gap.after + 1));
+    if (is_menu) found.words = ", ";
+    return true;
+}
+
+// "C++", "60+", "R+D", "5 + 3"
+bool read_plus(const Place& place, Found& found) {
+    const bool is_glued = place.is_joined_before() || place.before() == ')' ||
+                          (place.before() == '+' && place.is_joined_before(1));
+    const bool is_spaced = place.before() == ' ' && is_word_before(place, 1) &&
+                           place.peek(1) == ' ' && is_word_after(place, 2);
+    if (!is_glued && !is_spaced) return false;
+    found.length = 1;
+    found.words = "plus";
+    return true;
+}
+
+}  // namespace kavi::everyday

@@ -107,6 +107,29 @@ std::string_view year_after(const Place& place, std::size_t ahead, std::size_t& 
     return year;
 }
 
+// What follows a month at offset `ahead`: "5, 2021", "5-7".
+void read_days(const Place& place, const Month& month, std::size_t ahead, Found& found) {
+    const std::string_view day = place.digits(ahead);
+    std::size_t end = ahead + day.size();
+    end += ordinal_suffix(place, end);
+    const char after = place.peek(end);
+    const bool is_decimal = after == '.' && is_digit(place.peek(end + 1));
+    if (!is_value(day, 1, 31) || place.letter(end) > 0 || after == ':' || after == '%' ||
+        is_decimal)
+        return;
+    say_month_first(month, day, {}, found);
+    const std::size_t dash = place.dash(end);
+    const std::string_view last = dash > 0 ? place.digits(end + dash) : std::string_view();
+    if (is_value(last, 1, 31)) {
+        say("to", found.words);
+        say_ordinal(last, found.words);
+        end += dash + last.size();
+    }
+    const std::string_view year = year_after(place, end, end);
+    if (!year.empty()) say_year(year, found.words);
+    found.length = end;
+}
+
 // "May 5, 2021", "Jan. 5", "March 2020".
 void read_month_first(const Place& place, Found& found) {
     const std::string_view name = place.letters();
@@ -115,36 +138,11 @@ void read_month_first(const Place& place, Found& found) {
     std::size_t at = name.size();
     if (place.peek(at) == '.') ++at;
     if (place.peek(at) != ' ') return;
-    const std::string_view digits = place.digits(at + 1);
-    const std::size_t digits_end = at + 1 + digits.size();
-    if (may_be_year(digits) && place.letter(digits_end) == 0) {
-        month.say(found);
-        say_year(digits, found.words);
-        found.length = digits_end;
-        return;
-    }
-    const std::size_t suffix = ordinal_suffix(place, digits_end);
-    const char after = place.peek(digits_end + suffix);
-    if (!is_value(digits, 1, 31) || place.letter(digits_end + suffix) > 0 || after == ':' ||
-        after == '%')
-        return;
-    if (after == '.' && is_digit(place.peek(digits_end + suffix + 1))) return;
-    std::size_t end = 0;
-    const std::string_view year = year_after(place, digits_end + suffix, end);
-    // "May 5-7"
-    const std::size_t dash = year.empty() ? place.dash(end) : 0;
-    const std::string_view last = dash > 0 ? place.digits(end + dash) : std::string_view();
-    if (is_value(last, 1, 31)) {
-        say_month_first(month, digits, {}, found);
-        say("to", found.words);
-        say_ordinal(last, found.words);
-        std::size_t all = 0;
-        const std::string_view range_year = year_after(place, end + dash + last.size(), all);
-        if (!range_year.empty()) say_year(range_year, found.words);
-        found.length = all;
-        return;
-    }
-    say_month_first(month, digits, year, found);
+    const std::string_view year = place.digits(at + 1);
+    const std::size_t end = at + 1 + year.size();
+    if (!may_be_year(year) || place.letter(end) > 0) return read_days(place, month, at + 1, found);
+    month.say(found);
+    say_year(year, found.words);
     found.length = end;
 }
 

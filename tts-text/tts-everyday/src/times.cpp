@@ -25,7 +25,8 @@ struct Clock {
     std::string_view hour;
     std::string_view minutes;
     std::string_view seconds;
-    bool has_stop = false;  // "4.15"
+    bool has_stop = false;       // "4.15"
+    const char* half = nullptr;  // "a m" or "p m"
     std::size_t length = 0;
 };
 
@@ -47,10 +48,10 @@ Clock clock_at(const Place& place, std::size_t ahead) {
     clock.minutes = two_digits(true);
     clock.has_stop = clock.has_stop && !clock.minutes.empty();
     if (!clock.minutes.empty() && !clock.has_stop) clock.seconds = two_digits(false);
-    // "4.15" is a time only before "p.m.".
     std::size_t half_length = 0;
-    if (clock.has_stop && half_of_day(place, end, half_length) == nullptr) return {};
-    clock.length = end - ahead;
+    clock.half = half_of_day(place, end, half_length);
+    if (clock.has_stop && clock.half == nullptr) return {};  // "4.15" is a time only before "p.m."
+    clock.length = end + half_length - ahead;
     return clock;
 }
 
@@ -77,6 +78,26 @@ void say_clock(const Clock& clock, bool has_half, std::string& out) {
     }
     say_cardinal(clock.seconds, out);
     say(has_half && clock.seconds == "01" ? "second" : "seconds", out);
+}
+
+// The same, with "a m" or "p m".
+void say_time(const Clock& clock, bool has_half, std::string& out) {
+    say_clock(clock, has_half, out);
+    if (clock.half != nullptr) say(clock.half, out);
+}
+
+// "9-5 p.m.", "9:00–17:00"
+bool read_time_range(const Place& place, const Clock& first, Found& found) {
+    const std::size_t dash = place.dash(first.length);
+    const Clock last = dash > 0 ? clock_at(place, first.length + dash) : Clock{};
+    const bool is_range = last.length > 0 && (last.half != nullptr ||
+                                              (!first.minutes.empty() && !last.minutes.empty()));
+    if (!is_range) return false;
+    say_time(first, first.half != nullptr || last.half != nullptr, found.words);
+    say("to", found.words);
+    say_time(last, last.half != nullptr, found.words);
+    found.length = first.length + dash + last.length;
+    return true;
 }
 
 // "at 1200 hours"; "for 1200 hours" is a length of time
@@ -109,7 +130,7 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
     const bool has_zone = place.peek(end) == 'Z' && !place.is_joined(end + 1);
     if (clock.minutes.empty() || clock.has_stop || (place.is_joined(end) && !has_zone)) return 0;
     if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return 0;
-    say_clock(clock, !clock.seconds.empty(), out);
+    say_time(clock, clock.half != nullptr || !clock.seconds.empty(), out);
     if (has_zone) {
         say("U T C", out);
         ++end;
@@ -119,39 +140,11 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
 
 void read_time(const Place& place, Found& found) {
     if (read_military(place, found)) return;
-    const Clock first = clock_at(place, 0);
-    if (first.length == 0) return;
-    std::size_t end = first.length;
-    std::size_t half_length = 0;
-    const char* half = half_of_day(place, end, half_length);
-    // "9-5 p.m.", "9:00–17:00"
-    const std::size_t after_half = end + (half != nullptr ? half_length : 0);
-    const std::size_t dash = place.dash(after_half);
-    const Clock last = dash > 0 ? clock_at(place, after_half + dash) : Clock{};
-    if (last.length > 0) {
-        std::size_t last_half_length = 0;
-        const std::size_t last_end = after_half + dash + last.length;
-        const char* last_half = half_of_day(place, last_end, last_half_length);
-        const bool is_time =
-            last_half != nullptr || (!first.minutes.empty() && !last.minutes.empty());
-        if (is_time) {
-            say_clock(first, half != nullptr || last_half != nullptr, found.words);
-            if (half != nullptr) say(half, found.words);
-            say("to", found.words);
-            say_clock(last, last_half != nullptr, found.words);
-            if (last_half != nullptr) say(last_half, found.words);
-            found.length = last_end + (last_half != nullptr ? last_half_length : 0);
-            return;
-        }
-    }
-    if (half == nullptr && first.minutes.empty()) return;
-    if (half == nullptr && place.letter(end) > 0) return;
-    say_clock(first, half != nullptr, found.words);
-    if (half != nullptr) {
-        say(half, found.words);
-        end += half_length;
-    }
-    found.length = end;
+    const Clock time = clock_at(place, 0);
+    if (time.length == 0 || read_time_range(place, time, found)) return;
+    if (time.half == nullptr && (time.minutes.empty() || place.letter(time.length) > 0)) return;
+    say_time(time, time.half != nullptr, found.words);
+    found.length = time.length;
 }
 
 }  // namespace kavi::everyday

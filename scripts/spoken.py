@@ -7,7 +7,7 @@ import re
 # A contraction is as good as its words. Of «'s» and «'d» the cases do not tell which words: both count.
 WHOLE = [(r"\bcan't\b", "cannot"), (r"\bcan not\b", "cannot"), (r"\bwon't\b", "will not"), (r"\bshan't\b", "shall not"),
          (r"\bain't\b", "aint"), (r"n't\b", " not"), (r"'ll\b", " will"), (r"'re\b", " are"), (r"'ve\b", " have"), (r"\bi'm\b", "i am"),
-         (r"\b'twas\b", "it was"), (r"\blet's\b", "let us"),
+         (r"(?<!\w)'twas\b", "it was"), (r"\blet's\b", "let us"),
          (r"\b(it|that|he|she|what|who|there|here|how|where|when)('s| is| has)\b", r"\1 s"), (r"\b(i|you|he|she|it|we|they|who|that|there)('d| would| had)\b", r"\1 d")]
 
 

@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "format.h"
+#include "document_frame.h"
 #include "output.h"
 #include "renderer.h"
 
@@ -82,9 +82,10 @@ TEST_P(Rendering, IsAsInTheGoldenFile) {
     options.files = {"input.txt", "second <&\">.txt"};
     const fs::path before = fs::current_path();
     fs::current_path(GOLDEN);  // so that the names in the output are those above
-    const std::unique_ptr<Format> format = make_format(options);
+    const DocumentFrame frame = document_frame(options.format);
     std::string messages;
-    const std::string output = format->prologue() + render(options, messages) + format->epilogue();
+    std::string output{frame.begin};
+    output.append(render(options, messages)).append(frame.end);
     fs::current_path(before);
     const fs::path golden = GOLDEN / GetParam().file;
     if (std::getenv("KAVI_RENEW_GOLDEN") != nullptr) {

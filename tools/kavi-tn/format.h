@@ -34,8 +34,6 @@ inline void keep_least(std::size_t n, std::set<std::string>& names) {
 class Format {
   public:
     virtual ~Format() = default;
-    virtual std::string prologue() const { return {}; }
-    virtual std::string epilogue() const { return {}; }
 
     // Appends what is to be written for one sentence, in whole lines; `diagnostics` are those
     // before its end.

@@ -213,9 +213,6 @@ class SentenceWriter {
 
 class HtmlFormat : public Format {
   public:
-    std::string prologue() const override { return HTML_PROLOGUE; }
-    std::string epilogue() const override { return HTML_EPILOGUE; }
-
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
         text_.clear();

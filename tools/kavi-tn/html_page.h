@@ -1,4 +1,4 @@
-// The parts of a page around its sentences.
+// What a page calls things.
 #ifndef KAVI_TOOL_HTML_PAGE_H
 #define KAVI_TOOL_HTML_PAGE_H
 
@@ -9,9 +9,6 @@
 #include "format.h"
 
 namespace kavi::tool {
-
-extern const char* const HTML_PROLOGUE;
-extern const char* const HTML_EPILOGUE;
 
 // Marks that punctuation writes with one or two characters.
 inline constexpr std::pair<std::string_view, std::string_view> MARK_GLYPHS[] = {

@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "document_frame.h"
 #include "findings_report.h"
 #include "interrupt.h"
 #include "job_window.h"
@@ -35,7 +36,7 @@ class Run {
         : options_(options),
           window_(std::size_t{2} * options.jobs + 2),
           progress_(options),
-          format_(make_format(options)) {}
+          frame_(document_frame(options.format)) {}
 
     int all() {
         had_pipe_signal_ = std::signal(SIGPIPE, SIG_IGN) != SIG_IGN;
@@ -51,7 +52,7 @@ class Run {
         }
         is_shown_ = options_.format == FormatName::text && output_.is_terminal();
         announce_terminal(options_);
-        require_written(output_.write(format_->prologue()));
+        require_written(output_.write(frame_.begin));
         try {
             start_threads();
         } catch (const std::exception& error) {
@@ -131,7 +132,7 @@ class Run {
         write_lost();
         if (options_.summary) write_messages(findings_.summary());
         if (!all_read_ && !options_.output.empty()) fail("not all could be read");
-        require_written(output_.write(format_->epilogue()));
+        require_written(output_.write(frame_.end));
         if (!options_.findings.empty()) require_findings_written(findings_file_.commit());
         require_written(output_.commit());
         return all_read_ && !(options_.strict && !findings_.empty()) ? EXIT_SUCCESS : EXIT_FAILURE;
@@ -188,7 +189,7 @@ class Run {
     Readings readings_;
     Progress progress_;
     FindingsReport findings_;
-    std::unique_ptr<Format> format_;
+    DocumentFrame frame_;
     std::set<std::string> lost_;  // what the format had no word for
     std::atomic<std::size_t> texts_ = 0;
     bool all_read_ = true;

@@ -11,9 +11,6 @@ class SsmlFormat : public Format {
   public:
     explicit SsmlFormat(bool marks) : marks_(marks) {}
 
-    std::string prologue() const override { return SSML_BEGIN; }
-    std::string epilogue() const override { return SSML_END; }
-
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out += ssml(sentence, place.text, marks_, lost_);

@@ -158,6 +158,21 @@ def faults_of(path):
                 yield number, line, code[:found.start()] + instead + code[found.end():]
 
 
+def lines_changed():
+    """The lines of each file, counted from 0, that are not as they are where this branch left origin/main."""
+    def git(*words):
+        return subprocess.run(["git", *words], cwd=ROOT, capture_output=True, text=True).stdout
+
+    lines, path = collections.defaultdict(set), None
+    for line in git("diff", "--unified=0", "--no-prefix", git("merge-base", "origin/main", "HEAD").strip() or "HEAD").split("\n"):
+        if line.startswith("+++ "):
+            path = pathlib.Path(line[4:])
+        elif found := re.match(r"@@ -\S+ \+(\d+)(?:,(\d+))? @@", line):
+            first = int(found.group(1)) - 1
+            lines[path].update(range(first, first + int(found.group(2) or 1)))
+    return lines
+
+
 def choose(faults, count):
     """Picks `count` faults at even intervals, so that each file has its share."""
     count = min(count, len(faults))
@@ -226,6 +241,10 @@ def main():
     if arguments[:1] == ["--only"]:
         faults = [fault for fault in faults if arguments[1] in str(fault.path)]
         arguments = arguments[2:]
+    elif arguments[:1] == ["--changed"]:
+        changed = lines_changed()
+        faults = [fault for fault in faults if fault.number in changed[fault.path]] or faults
+        arguments = arguments[1:]
     faults = choose(faults, int(arguments[0]) if arguments else len(faults))
     parts = [part for part in PARTS if any(fault.part is part for fault in faults)]
     trees = queue.Queue()

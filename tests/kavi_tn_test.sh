@@ -205,10 +205,9 @@ lines = text.split("\r")
 shown = [re.fullmatch(r"([\d.]+) of ([\d.]+) MB, ([\d.]+) MB/s, (\d+) s left\x1b\[K", line) for line in lines]
 shown = [found for found in shown if found]
 steps = [float(found[1]) for found in shown]
-def is_right(found):  # as far as the rate is told, to a tenth
-    rate = float(found[3])
-    left = (size - float(found[1])) / max(rate, 0.1)
-    return abs(left - int(found[4])) < 1.1 + left * 0.06 / max(rate, 0.1)
+def is_right(found):  # of what is rounded: bytes and rate to a tenth of a MB, seconds to one
+    left, rate = size - float(found[1]), float(found[3])
+    return (left - 0.1) / (rate + 0.06) - 0.6 < int(found[4]) < (left + 0.1) / max(rate - 0.06, 1e-3) + 0.6
 print(0.3 * size < max(steps, default=0) < size + 0.1, all(found[2] == f"{size:.1f}" for found in shown), steps == sorted(steps),
       all(map(is_right, shown)), "left\x1b[K\x1b[33m" not in text,
       "left" not in told([*json, *files, "/dev/null"]), told(["-t", "a"]) == "",

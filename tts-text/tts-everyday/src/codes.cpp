@@ -61,6 +61,29 @@ void read_version(const Place& place, Found& found) {
     found.length = end;
 }
 
+// "978-0-306-40615-7", "4111-1111-1111-1111"
+void read_long_code(const Place& place, Found& found) {
+    constexpr std::size_t LONGEST = 32;
+    constexpr std::size_t LEAST_DIGITS = 9;
+    if (place.before() == '-' || is_digit(place.before())) return;
+    std::size_t end = place.digits().size();
+    int n_hyphens = 0;
+    while (end < LONGEST && place.peek(end) == '-') {
+        const std::size_t n = place.digits(end + 1).size();
+        if (n == 0) break;
+        end += 1 + n;
+        ++n_hyphens;
+    }
+    const bool is_long = end >= LEAST_DIGITS + static_cast<std::size_t>(n_hyphens);
+    const bool begins_with_date = place.peek(4) == '-' && place.peek(7) == '-';
+    if (n_hyphens < 3 || !is_long || begins_with_date) return;
+    if (place.is_joined(end) || place.peek(end) == '-') return;
+    for (std::size_t at = 0; at < end; at += place.digits(at).size() + 1) {
+        say_digits(place.digits(at), found.words);
+    }
+    found.length = end;
+}
+
 // "Flight 370", "Biology 101", "PO Box 1410"
 void read_numbered(const Place& place, Found& found) {
     const std::string_view digits = place.digits();

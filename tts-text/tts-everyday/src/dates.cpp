@@ -86,6 +86,22 @@ bool read_iso_date(const Place& place, Found& found) {
     return true;
 }
 
+// "due 3/31", "by 12/25": no date of the other order, and no fraction that is written
+bool read_month_and_day(const Place& place, Found& found) {
+    const std::string_view month = place.digits();
+    const std::string_view day = place.digits(month.size() + 1);
+    const std::size_t end = month.size() + 1 + day.size();
+    const bool is_date = place.peek(month.size()) == '/' && is_value(month, 1, 12) &&
+                         is_value(day, 13, 31) && find(BEFORE_DAY, place.word_before()) != nullptr;
+    const bool goes_on = place.is_joined(end) || place.peek(end) == '/' || place.peek(end) == '-' ||
+                         place.peek(end) == '"' || place.starts_with(" in", end) ||
+                         place.starts_with(" of", end);
+    if (!is_date || goes_on) return false;
+    say_month_first({tn::value_of(month)}, day, {}, found);
+    found.length = end;
+    return true;
+}
+
 std::size_t ordinal_suffix(const Place& place, std::size_t ahead) {
     const std::string_view letters = place.letters(ahead);
     const bool is_small = !letters.empty() && is_lower(letters[0]);
@@ -186,6 +202,7 @@ bool read_dashed_date(const Place& place, Found& found) {
 void read_date(const Place& place, Found& found) {
     if (is_letter(place.peek())) return read_month_first(place, found);
     if (read_iso_date(place, found) || read_dashed_date(place, found)) return;
+    if (read_month_and_day(place, found)) return;
     read_day_first(place, found);
     if (found.length == 0) read_numeric_date(place, false, found);
 }

@@ -69,12 +69,31 @@ bool read_whole_and_slash(const Place& place, std::string_view whole, Found& fou
     return true;
 }
 
+// "rated 9/10", "a 7/10", "4/5 stars"
+bool is_rating(const Place& place, std::string_view above, std::string_view below,
+               std::size_t end) {
+    if (!is_best_mark(below) || is_less(below, above)) return false;
+    const std::string_view before = place.word_before();
+    const bool has_article = (before == "a" || before == "an") && below != "5" && above != "1";
+    return has_article || find(BEFORE_RATING, before) != nullptr ||
+           place.starts_with(" stars", end) || place.starts_with(" points", end);
+}
+
 // "1/2", with no other slash before it or after it
 bool read_slash(const Place& place, std::string_view above, Found& found) {
     if (place.peek(above.size()) != '/' || place.before() == '/') return false;
     const std::string_view below = place.digits(above.size() + 1);
     const std::size_t end = above.size() + 1 + below.size();
-    if (place.peek(end) != '/' && above == below && above.size() < 4 && above != "1") {  // "20/20"
+    if (place.peek(end) != '/' && is_rating(place, above, below, end)) {
+        say_cardinal(above, found.words);
+        say("out of", found.words);
+        say_cardinal(below, found.words);
+        found.length = end;
+        return true;
+    }
+    const bool is_named = find(FRACTIONS, place.part(0, end)) != nullptr;
+    const bool is_same = above == below && above.size() < 4 && above != "1";
+    if (place.peek(end) != '/' && is_same && !is_named) {  // "20/20"
         const bool is_sight =
             place.starts_with(" vision", end) || place.starts_with(" hindsight", end);
         say_cardinal(above, found.words);
@@ -89,6 +108,10 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
 }
 
 }  // namespace
+
+bool is_best_mark(std::string_view digits) {
+    return digits == "5" || digits == "10" || digits == "100";
+}
 
 const Row* fraction_sign_at(const Place& place, std::size_t ahead) {
     if (!is_outside_ascii(place.peek(ahead))) return nullptr;

@@ -12,6 +12,9 @@ const Row* fraction_sign_at(const Place& place, std::size_t ahead);
 // A fraction, by itself or after a whole number, that begins with the digits at a place.
 bool read_fraction(const Place& place, Found& found);
 
+// Whether a number is usual as the best of all marks, as in "9/10".
+bool is_best_mark(std::string_view digits);
+
 }  // namespace kavi::everyday
 
 #endif  // KAVI_EVERYDAY_FRACTIONS_H

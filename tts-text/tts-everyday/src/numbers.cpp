@@ -101,16 +101,57 @@ bool is_size(const Place& place, std::size_t ahead) {
     if (number.length == 0) return false;
     ahead += number.length + place.blanks(ahead + number.length);
     const std::string_view word = place.letters(ahead);
-    if (word == "inches") return true;  // no row: its abbreviation is a word
+    // No row: its abbreviation is a word.
+    if (word == "inches" || place.starts_with("in.", ahead)) return true;
     return std::any_of(std::begin(UNITS), std::end(UNITS), [word](const Row& row) {
         return word == row.written || word == row.spoken || word == row.many;
     });
 }
 
+// "4x4", "3x4=12"; not "0x41", a number of base sixteen
+std::size_t say_glued_cross(const Place& place, std::size_t ahead, std::string& out) {
+    if (place.peek(ahead) != 'x' || place.peek() == '0') return 0;
+    const Number second = number_at(place, ahead + 1);
+    if (second.length == 0) return 0;
+    const std::size_t end = ahead + 1 + second.length;
+    say(place.peek(end + place.blanks(end)) == '=' ? "times" : "by", out);
+    return 1;
+}
+
 std::size_t say_times(const Place& place, std::size_t ahead, std::string& out) {
+    if (const std::size_t length = say_glued_cross(place, ahead, out); length > 0) return length;
     const std::size_t length = times_length(place, ahead);
     if (length > 0) say(is_size(place, ahead + length) ? "by" : "times", out);
     return length;
+}
+
+// "1e6", "6.02e23", "5.1E-3"
+std::size_t say_power_of_ten(const Place& place, const Number& number, std::string& out) {
+    const std::size_t e = number.length;
+    const bool has_sign = place.peek(e + 1) == '-' || place.peek(e + 1) == '+';
+    const bool is_clear = has_sign || !number.fraction.empty();
+    if (place.peek(e) != 'e' && !(place.peek(e) == 'E' && is_clear)) return 0;
+    const std::size_t at = e + 1 + (has_sign ? 1 : 0);
+    const std::string_view power = place.digits(at);
+    const std::size_t end = at + power.size();
+    if (power.empty() || power.size() > 3 || place.is_joined(end)) return 0;
+    say("times ten to the power of", out);
+    if (place.peek(e + 1) == '-') say("minus", out);
+    say_cardinal(power, out);
+    return end - e;
+}
+
+// "4.5/5"; "section 4.4/4" is none
+std::size_t say_out_of(const Place& place, const Number& number, std::string& out) {
+    if (number.fraction.empty() || place.peek(number.length) != '/') return 0;
+    const std::string_view below = place.digits(number.length + 1);
+    const std::size_t end = number.length + 1 + below.size();
+    const bool goes_on = place.is_joined(end) || place.peek(end) == '/' ||
+                         (place.peek(end) == '.' && is_digit(place.peek(end + 1)));
+    if (!is_best_mark(below) || goes_on) return 0;
+    say("out of", out);
+    say_cardinal(below, out);
+    return end - number.length;
 }
 
 // ---- Signs ----
@@ -138,6 +179,8 @@ void read_number(const Place& place, Found& found) {
         number.whole.size() > 1 && number.whole[0] == '0' && number.fraction.empty();
     is_code ? say_digits(number.whole, found.words) : number.say(found.words);
     std::size_t end = number.length;
+    end += say_power_of_ten(place, number, found.words);
+    if (end == number.length) end += say_out_of(place, number, found.words);
     end += say_range(place, end, found.words);
     const std::size_t percent = say_percent(place, end, found.words);
     end += percent > 0 ? percent : say_times(place, end, found.words);

@@ -66,12 +66,26 @@ bool fits_operator(const Place& place, const Row& row, const Gap& gap) {
         const std::size_t end = gap.after + number_at(place, gap.after).length;
         return has_numbers && has_blanks && place.peek(end + place.blanks(end)) == '=';
     }
+    // "mc^2"
+    if (row.written == "^" && is_letter(place.before()) && is_digit(place.peek(gap.after)))
+        return true;
     // "f**k" is no power.
     const bool has_number =
         is_digit(place.before(gap.before + 1)) || is_digit(place.peek(gap.after));
     if (row.written == "**" && !has_number) return false;
     // "^C^Z" are keys.
     return has_quantities && !(is_upper(place.before()) && is_upper(place.peek(gap.after)));
+}
+
+// "x^2", "10^3": said by a word of its own.
+bool read_small_power(const Place& place, std::size_t ahead, Found& found) {
+    const Number power = number_at(place, ahead);
+    const bool is_square = power.whole == "2";
+    if ((!is_square && power.whole != "3") || !power.fraction.empty()) return false;
+    if (place.is_joined(ahead + power.length)) return false;
+    found.length = ahead + power.length;
+    found.words = is_square ? "squared" : "cubed";
+    return true;
 }
 
 }  // namespace
@@ -85,6 +99,8 @@ bool read_operator(const Place& place, Found& found) {
     const bool is_read = fits_operator(place, *row, gap) ||
                          (row->kind == Kind::compared && is_comparison_alone(place, length));
     if (!is_read) return false;
+    if (row->written == "^" && gap.before == 0 && read_small_power(place, length, found))
+        return true;
     found.length = length;
     found.words = row->spoken;
     // "File > Save": a way through menus.

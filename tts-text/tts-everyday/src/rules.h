@@ -40,6 +40,7 @@ void read_contraction(const Place& place, Found& found);   // contractions.cpp
 void read_currency(const Place& place, Found& found);      // currencies.cpp
 void read_amount_after(const Place& place, Found& found);  // the same, its symbol after the number
 void read_unit(const Place& place, Found& found);          // units.cpp
+void read_rate(const Place& place, Found& found);
 void read_year(const Place& place, Found& found);          // years.cpp
 void read_date(const Place& place, Found& found);          // dates.cpp
 void read_american_date(const Place& place, Found& found);
@@ -49,6 +50,7 @@ void read_address(const Place& place, Found& found);
 void read_roman(const Place& place, Found& found);    // roman.cpp
 void read_version(const Place& place, Found& found);  // codes.cpp
 void read_numbered(const Place& place, Found& found);
+void read_long_code(const Place& place, Found& found);
 void read_plural_number(const Place& place, Found& found);
 void read_code(const Place& place, Found& found);
 void read_number(const Place& place, Found& found);  // numbers.cpp

@@ -122,6 +122,29 @@ bool read_military(const Place& place, Found& found) {
     return true;
 }
 
+// "in 35:20": minutes and seconds, since no day has so many hours; "60:40" is a division
+bool read_minutes_and_seconds(const Place& place, Found& found) {
+    const std::string_view minutes = place.digits();
+    const std::string_view seconds = place.digits(minutes.size() + 1);
+    const std::size_t end = minutes.size() + 1 + seconds.size();
+    if (minutes.size() != 2 || minutes < "25" || place.peek(2) != ':' || seconds.size() != 2 ||
+        seconds > "59" || place.before() == ':')
+        return false;
+    const bool goes_on =
+        place.is_joined(end) ||
+        ((place.peek(end) == ':' || place.peek(end) == '.') && is_digit(place.peek(end + 1)));
+    if (goes_on) return false;
+    say_cardinal(minutes, found.words);
+    if (tn::value_of(minutes) + tn::value_of(seconds) == 100) {
+        say("to", found.words);
+    } else if (seconds[0] == '0') {
+        say("oh", found.words);
+    }
+    say_cardinal(seconds, found.words);
+    found.length = end;
+    return true;
+}
+
 }  // namespace
 
 std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out) {
@@ -139,7 +162,7 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
 }
 
 void read_time(const Place& place, Found& found) {
-    if (read_military(place, found)) return;
+    if (read_military(place, found) || read_minutes_and_seconds(place, found)) return;
     const Clock time = clock_at(place, 0);
     if (time.length == 0 || read_time_range(place, time, found)) return;
     if (time.half == nullptr && (time.minutes.empty() || place.letter(time.length) > 0)) return;

@@ -44,6 +44,17 @@ bool may_be_unit(const Place& place, const Row& row, std::size_t ahead) {
     return row.written != "in." || is_lower(place.peek(end + 1)) || place.peek(end) != ' ';
 }
 
+// " x 5 ft", " × 5 m" after a length: the cross and the blank before it.
+std::size_t say_by(const Place& place, std::size_t ahead, std::string& out) {
+    for (const std::string_view cross : {" x ", " × "}) {
+        if (!place.starts_with(cross, ahead) || !is_digit(place.peek(ahead + cross.size())))
+            continue;
+        say("by", out);
+        return cross.size() - 1;
+    }
+    return 0;
+}
+
 }  // namespace
 
 std::size_t say_per(const Place& place, std::size_t ahead, std::string& out) {
@@ -91,8 +102,10 @@ void read_unit(const Place& place, Found& found) {
     } else {
         found.say_name(end + blank, row->written.size(), is_one ? row->spoken : row->many);
     }
-    if (const std::size_t per = say_per(place, after, found.words); per > 0) {
-        found.length = after + per;
+    std::size_t link = say_per(place, after, found.words);
+    if (link == 0) link = say_by(place, after, found.words);
+    if (link > 0) {
+        found.length = after + link;
         return;
     }
     if (row->written.back() == '.') {  // the sentence's too
@@ -101,6 +114,22 @@ void read_unit(const Place& place, Found& found) {
     }
     const bool has_stop = place.peek(after) == '.' && !place.may_end_sentence(after + 1);
     found.length = after + (has_stop ? 1 : 0);
+}
+
+// "requests/sec", "365 days/yr": a rate, where what is counted is a word.
+void read_rate(const Place& place, Found& found) {
+    constexpr std::string_view TIMES[] = {"second", "minute", "hour", "day",
+                                          "week",   "month",  "year"};
+    const std::string_view counted = place.letters_before();
+    const bool is_counted = counted.size() > 3 && counted.back() == 's' && is_lower(counted[0]);
+    if (!is_counted) return;
+    std::string words;
+    const std::size_t length = say_per(place, 0, words);
+    const std::string_view time = std::string_view(words).substr(words.rfind(' ') + 1);
+    if (length == 0 || std::find(std::begin(TIMES), std::end(TIMES), time) == std::end(TIMES))
+        return;
+    found.words = words;
+    found.length = length;
 }
 
 }  // namespace kavi::everyday

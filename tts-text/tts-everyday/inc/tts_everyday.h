@@ -47,6 +47,7 @@ class Everyday : public TextRewriter {
     void set_american_dates(bool on) { american_dates_ = on; }
 
     bool next(std::string_view text, Rewriting& rewriting) const override;
+    bool takes_growing_texts() const override { return true; }
 
   private:
     const Lexicon* lexicon_;

@@ -30,6 +30,7 @@ class Lexicon {
     struct Match {
         const Entry* entry = nullptr;  // the lexicon's; null for none
         std::size_t length = 0;        // of the text
+        bool reaches_end = false;      // of the text: more of it may make another match
     };
 
     // Adds the lines of a file named `file`, those that are right. False when one is wrong: `error`
@@ -51,8 +52,7 @@ class Lexicon {
         std::vector<std::size_t> entries{NONE};  // by node; the first is the root
 
         bool add(std::string_view written, std::size_t entry);
-        std::size_t find(std::string_view text, std::size_t at, bool any_case,
-                         std::size_t& length) const;
+        std::size_t find(std::string_view text, std::size_t at, bool any_case, Match& match) const;
     };
     static constexpr std::size_t NONE = SIZE_MAX;
 

@@ -104,12 +104,20 @@ Rules rules_for(const Place& place) {
     return {std::begin(MARK_RULES), std::end(MARK_RULES)};
 }
 
-// The markup tag that begins at `at`: its length, or 0 for none. No stretch is searched twice for
-// the end of one: `tag_end` is where the last search ended.
-std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& tag_end) {
-    if (text[at] != '<' || tn::find_markup_tag(text.substr(at)) == nullptr) return 0;
-    if (tag_end <= at) tag_end = std::min(text.find('>', at), text.size());
-    return tag_end < text.size() ? tag_end + 1 - at : 0;
+// The markup tag that begins at `at`: its length, or 0 for none. `searched` is of find_ahead().
+// `is_open`: more text would tell.
+std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& searched,
+                       bool& is_open) {
+    constexpr std::size_t LONGEST_NAME = 16;
+    if (text[at] != '<') return 0;
+    if (tn::find_markup_tag(text.substr(at)) == nullptr) {
+        is_open = text.size() - at < LONGEST_NAME;
+        return 0;
+    }
+    const std::size_t end = find_ahead(text, at, '>', TAG_MAX, searched);
+    if (end != std::string_view::npos) return end + 1 - at;
+    is_open = text.size() - at < TAG_MAX;
+    return 0;
 }
 
 // The first two letters of the abbreviations that are written without a full stop, "vs" and "tsp":
@@ -137,12 +145,14 @@ bool is_plain_word(const Place& place) {
            after == '!' || after == ')' || after == '"' || after == '<';
 }
 
-// Whether a rule reads what begins at a place, within the bound of what it can see.
-bool has_found(everyday::Rule rule, const Place& place, Found& found) {
+// Whether a rule reads what begins at a place, within the bound of what it can see. `is_open`: more
+// text would tell.
+bool has_found(everyday::Rule rule, const Place& place, Found& found, bool& is_open) {
     found.length = 0;
     found.words.clear();
     found.name = {};
     rule(place, found);
+    is_open = is_open || place.has_met_end();
     return found.length > 0 && !place.has_met_bound();
 }
 
@@ -152,17 +162,23 @@ struct Settings {
 };
 
 // The first of the rules that are on and read what begins at `at`, where the user's words allow it,
-// or null. `entry` is that of a word that the user has in its place, or null.
+// or null. `entry` is that of a word that the user has in its place, or null. `is_open`: more text
+// could make it another.
 const RuleRow* find_rule(std::string_view text, std::size_t at, const Settings& settings,
-                         OwnWords& own_words, Found& found, const Lexicon::Entry*& entry) {
+                         OwnWords& own_words, Found& found, const Lexicon::Entry*& entry,
+                         bool& is_open) {
     const Place place(text, at);
-    if (is_plain_word(place)) return nullptr;
+    const bool is_plain = is_plain_word(place);
+    is_open = is_open || place.has_met_end();
+    if (is_plain) return nullptr;
     const Rules rules = rules_for(place);
+    is_open = is_open || place.has_met_end();
     for (const RuleRow* row = rules.begin; row != rules.end; ++row) {
         if ((settings.classes >> static_cast<unsigned>(row->everyday_class) & 1U) == 0) continue;
-        const bool is_found = (settings.american_dates && row->rule == everyday::read_date &&
-                               has_found(everyday::read_american_date, Place(text, at), found)) ||
-                              has_found(row->rule, Place(text, at), found);
+        const bool is_found =
+            (settings.american_dates && row->rule == everyday::read_date &&
+             has_found(everyday::read_american_date, Place(text, at), found, is_open)) ||
+            has_found(row->rule, Place(text, at), found, is_open);
         if (!is_found) continue;
         // An address is one word, whatever is in it.
         entry = nullptr;
@@ -186,11 +202,34 @@ void set_apart(char before, char after, std::string& words) {
     if (is_letter(words.back()) && joins(after)) words += ' ';
 }
 
-// Where the next word, number or mark begins after that at `at`, past blanks.
-std::size_t next_place(std::string_view text, std::size_t at) {
+// Where the next word, number or mark begins after that at `at`, past blanks. `is_open`: more text
+// would tell.
+std::size_t next_place(std::string_view text, std::size_t at, bool& is_open) {
     std::size_t next = at + everyday::cluster_length(text, at);
+    is_open = !everyday::is_there(text, next);
     while (next < text.size() && text[next] == ' ') ++next;
     return next;
+}
+
+// No rule reads more of a word, also when a few characters of it have not come.
+constexpr std::size_t LONG_WORD = everyday::LOOK_AHEAD + 2 * everyday::CODE_POINT_BYTES;
+
+// Notes that a text that may go on is decided about up to `at`.
+bool wait_at(std::size_t at, Rewriting& rewriting) {
+    rewriting.decided = at;
+    rewriting.is_inside_word = false;
+    return false;
+}
+
+// The same where it ends inside a word, longer than any that is read: up to its last character.
+bool wait_inside_word(std::string_view text, Rewriting& rewriting) {
+    std::size_t at = text.size() - everyday::CODE_POINT_BYTES;
+    for (std::size_t back = 1; back < everyday::CODE_POINT_BYTES; ++back) {
+        if ((static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U) --at;
+    }
+    rewriting.decided = std::max(at, rewriting.decided);
+    rewriting.is_inside_word = true;
+    return false;
 }
 
 }  // namespace
@@ -209,15 +248,23 @@ std::optional<EverydayClass> everyday_class_of(std::string_view name) {
 
 bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
     const std::size_t from = rewriting.source.offset + rewriting.source.length;
-    const char last = !rewriting.words.empty() ? rewriting.words.back() : '\0';
     // Words that end at a full stop have their shield.
     const unsigned shields = 1U << static_cast<unsigned>(EverydayClass::shields);
     const std::size_t words_end = rewriting.source.length > 0 ? from : text.size();
     OwnWords own_words(lexicon_, text);
     Found found;
     found.words.swap(rewriting.words);  // for its memory
-    for (std::size_t at = from; at < text.size();) {
-        if (const std::size_t tag = tag_length(text, at, rewriting.tag_end); tag > 0) {
+    std::size_t at = std::max(from, rewriting.decided);
+    bool is_open = false;  // more text could make the answer another
+    if (rewriting.is_inside_word) {
+        const std::size_t next = next_place(text, at, is_open);
+        if (is_open && rewriting.may_go_on) return wait_inside_word(text, rewriting);
+        rewriting.is_inside_word = false;
+        at = next;
+    }
+    while (at < text.size()) {
+        const std::size_t tag = tag_length(text, at, rewriting.tag_end, is_open);
+        if (tag > 0) {
             at += tag;
             continue;
         }
@@ -225,15 +272,24 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
         const Lexicon::Match own = own_words.at(at);
         const Lexicon::Entry* entry = nullptr;
         const RuleRow* row =
-            find_rule(text, at, {classes, american_dates_}, own_words, found, entry);
-        if (row == nullptr && own.entry == nullptr) {
-            at = next_place(text, at);
-            continue;
-        }
-        if (row == nullptr) {
-            entry = own.entry;
+            find_rule(text, at, {classes, american_dates_}, own_words, found, entry, is_open);
+        if (row == nullptr) entry = own.entry;
+        if (row == nullptr && entry != nullptr) {
             found.length = own.length;
             found.words = entry->spoken;
+        }
+        const bool is_found = row != nullptr || entry != nullptr;
+        const std::size_t end = at + found.length;
+        is_open = is_open || own_words.reaches_end() || (is_found && end == text.size());
+        if (is_open && rewriting.may_go_on) return wait_at(at, rewriting);
+        if (!is_found) {
+            const std::size_t next = next_place(text, at, is_open);
+            if (is_open && rewriting.may_go_on) {
+                const bool is_long = text.size() - at > LONG_WORD;
+                return is_long ? wait_inside_word(text, rewriting) : wait_at(at, rewriting);
+            }
+            at = next;
+            continue;
         }
         rewriting.by = {row != nullptr ? rule_name_of(row->everyday_class) : "lexicon"};
         if (entry != nullptr) {
@@ -242,13 +298,14 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
         }
         rewriting.source = {at, found.length};
         rewriting.words.swap(found.words);
-        const std::size_t end = at + found.length;
         const char after = end < text.size() ? text[end] : '\0';
         shield(after, rewriting.words);
-        const char before = at == from ? last : text[at - 1];
+        const char before = at == from ? rewriting.last : text[at - 1];
         set_apart(before, after, rewriting.words);
+        rewriting.last = rewriting.words.back();
         return true;
     }
+    rewriting.decided = text.size();
     rewriting.words.swap(found.words);
     return false;
 }

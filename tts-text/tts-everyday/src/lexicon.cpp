@@ -81,21 +81,23 @@ bool Lexicon::Tree::add(std::string_view written, std::size_t entry) {
 }
 
 std::size_t Lexicon::Tree::find(std::string_view text, std::size_t at, bool any_case,
-                                std::size_t& length) const {
+                                Match& match) const {
     const std::string_view here = text.substr(at, WRITTEN_MAX + everyday::CODE_POINT_BYTES);
     std::size_t found = NONE;
     std::uint32_t node = 0;
     for (std::size_t end = 0; end < here.size();) {
         const std::string_view token = token_at(here, end);
+        if (!everyday::is_there(text, at + end + token.size())) match.reaches_end = true;
         if (end + token.size() > WRITTEN_MAX) break;
         const auto next = nodes.find(node_name(node, any_case ? in_lower_case(token) : token));
         if (next == nodes.end()) break;
         node = next->second;
         end += token.size();
         const std::size_t all = end + everyday::emoji_rest(text, token, at + end);
+        if (!everyday::is_there(text, at + all)) match.reaches_end = true;
         if (entries[node] == NONE || everyday::is_inside_token(text, at + all)) continue;
         found = entries[node];
-        length = all;
+        match.length = all;
     }
     return found;
 }
@@ -150,15 +152,19 @@ void Lexicon::make_filter() {
 
 Lexicon::Match Lexicon::find(std::string_view text, std::size_t at) const {
     if (filter_.empty()) return {};
-    if (!filter_[hash_of(token_at(text, at)) & (filter_.size() - 1)]) return {};
-    std::size_t exact_length = 0;
-    std::size_t any_case_length = 0;
-    const std::size_t exact = exact_.find(text, at, false, exact_length);
-    const std::size_t any_case = any_case_.find(text, at, true, any_case_length);
-    const bool is_exact = exact_length >= any_case_length;
-    const std::size_t found = is_exact ? exact : any_case;
-    if (found == NONE) return {};
-    return {&entries_[found], is_exact ? exact_length : any_case_length};
+    const std::string_view first = token_at(text, at);
+    Match exact;
+    Match any_case;
+    exact.reaches_end = first.size() <= WRITTEN_MAX && !everyday::is_there(text, at + first.size());
+    if (!filter_[hash_of(first) & (filter_.size() - 1)]) return exact;
+    const std::size_t exact_entry = exact_.find(text, at, false, exact);
+    const std::size_t any_case_entry = any_case_.find(text, at, true, any_case);
+    const bool is_exact = exact.length >= any_case.length;
+    const std::size_t found = is_exact ? exact_entry : any_case_entry;
+    Match match = is_exact ? exact : any_case;
+    match.reaches_end = exact.reaches_end || any_case.reaches_end;
+    if (found != NONE) match.entry = &entries_[found];
+    return match;
 }
 
 }  // namespace kavi

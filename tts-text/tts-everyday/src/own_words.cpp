@@ -22,6 +22,7 @@ void OwnWords::look_from(std::size_t begin, std::size_t end) {
     looked_to_ = std::max(looked_to_, begin);
     while (looked_to_ < end) {
         const Lexicon::Match match = lexicon_->find(text_, looked_to_);
+        reaches_end_ = reaches_end_ || match.reaches_end;
         if (match.entry != nullptr) words_.push_back({looked_to_, match});
         looked_to_ += match.entry != nullptr ? match.length : cluster_length(text_, looked_to_);
     }
@@ -33,10 +34,11 @@ Lexicon::Match OwnWords::match_at(std::size_t at) {
 }
 
 // Whether a letter follows or precedes it, with nothing but such a mark between.
-bool OwnWords::is_part_of_word(const OwnWord& word) const {
+bool OwnWords::is_part_of_word(const OwnWord& word) {
     const std::size_t end = word.at + word.match.length;
     for (const std::string_view joint : JOINTS) {
         const std::size_t length = joint.size();
+        reaches_end_ = reaches_end_ || end + length >= text_.size();
         const bool is_after = is_letter(text_[word.at]) && word.at > length &&
                               text_.substr(word.at - length, length) == joint &&
                               is_letter(text_[word.at - length - 1]);

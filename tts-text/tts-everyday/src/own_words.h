@@ -28,6 +28,9 @@ class OwnWords {
     // null. Places do not go back.
     bool allow(std::size_t at, Found& found, const Lexicon::Entry*& entry);
 
+    // Whether any of what was asked could be answered otherwise if the text had more at its end.
+    bool reaches_end() const { return reaches_end_; }
+
   private:
     struct OwnWord {
         std::size_t at;
@@ -37,12 +40,13 @@ class OwnWords {
     // Finds the entries that begin before `end` and forgets those before `begin`.
     void look_from(std::size_t begin, std::size_t end);
     Lexicon::Match match_at(std::size_t at);
-    bool is_part_of_word(const OwnWord& word) const;
+    bool is_part_of_word(const OwnWord& word);
 
     const Lexicon* lexicon_;  // null for one without entries
     std::string_view text_;
     std::vector<OwnWord> words_;  // in order, not overlapping
     std::size_t looked_to_ = 0;
+    bool reaches_end_ = false;
 };
 
 }  // namespace kavi::everyday

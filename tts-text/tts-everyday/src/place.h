@@ -46,6 +46,9 @@ class Place {
     // Whether a rule tried to read beyond LOOK_AHEAD: a word or a number may be longer than it saw.
     bool has_met_bound() const { return has_met_end_ && is_cut_; }
 
+    // Whether something would read what the text does not have.
+    bool has_met_end() const { return has_met_end_ && !is_cut_; }
+
     // The byte at `ahead`, NUL outside the text.
     char peek(std::size_t ahead = 0) const {
         if (ahead < ahead_.size()) return ahead_[ahead];

@@ -128,6 +128,11 @@ std::size_t cluster_length(std::string_view text, std::size_t at) {
     return end - at;
 }
 
+bool is_there(std::string_view text, std::size_t at) {
+    return at < text.size() &&
+           (!is_outside_ascii(text[at]) || at + CODE_POINT_BYTES <= text.size());
+}
+
 bool is_inside_token(std::string_view text, std::size_t at) {
     if (at == 0 || at >= text.size()) return false;
     if (is_digit(text[at])) return is_digit(text[at - 1]);

@@ -22,7 +22,15 @@ struct HostSentence {
     const UtteranceSyllable* records;  // what eng_text_to_utterance_syllable made of that
     int n_records;
     SentencePlaces& places;  // where its parts come from
+
+    // Whether a full stop, a question mark, an exclamation mark or the end of the text is its end;
+    // otherwise it is a clause of a sentence that goes on.
+    bool ends_sentence;
 };
+
+namespace host {
+class TextReader;
+}
 
 // Makes the three calls of the engine. One object serves one thread at a time; objects share
 // nothing.
@@ -64,16 +72,17 @@ class TtsHost {
     //
     // When a handler answers false, the rest of the text is not read, no handler is called any
     // more, and the answer is false. What a handler throws comes through. Either way the object
-    // can read another text. Called from a handler of the same object, it reads nothing and
-    // answers false.
+    // can read another text. Called from a handler of the same object, or while a
+    // TtsStream has it, it reads nothing and answers false.
     bool read(std::string_view text, const SentenceHandler& on_sentence,
               const DiagnosticHandler& on_diagnostic);
 
   private:
-    class State;
+    friend class TtsStream;
     TtsHost(mem_stack_handle arena, void (*destroy)(mem_stack_handle));
 
-    std::unique_ptr<State> state_;
+    std::unique_ptr<host::TextReader> reader_;
+    bool has_stream_ = false;
 };
 
 }  // namespace kavi

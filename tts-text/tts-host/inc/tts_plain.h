@@ -19,8 +19,9 @@ namespace kavi {
 // and the end of the text.
 class PlainForm {
   public:
-    // Of the next sentence that was read from `text`. What is handed out lives until the next call.
-    void read(const HostSentence& sentence, std::string_view text);
+    // Of the next sentence that was read from `text`, which begins at `text_begin` when what is
+    // before it is not there any more. What is handed out lives until the next call.
+    void read(const HostSentence& sentence, std::string_view text, std::size_t text_begin = 0);
 
     std::string_view all() const { return all_; }
 

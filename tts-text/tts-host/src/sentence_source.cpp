@@ -11,6 +11,19 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
     return piece.is_copy ? TextRange{piece.source.offset + (at - piece.at), 1} : piece.source;
 }
 
+// Whether an abbreviation is written as in the first row that has it in any case: of that one, no
+// other case is looked for.
+bool is_in_first_case(std::string_view abbreviation) {
+    for (const auto& row : s_spec_word_abbrevi) {
+        const std::string_view written = row[0];
+        const bool is_row =
+            std::equal(written.begin(), written.end(), abbreviation.begin(), abbreviation.end(),
+                       [](char a, char b) { return tn::to_lower(a) == tn::to_lower(b); });
+        if (is_row) return written == abbreviation;
+    }
+    return false;
+}
+
 }  // namespace
 
 const SourcePiece* PieceCursor::piece_at(const std::vector<SourcePiece>& pieces, std::size_t at) {
@@ -42,6 +55,12 @@ void SentenceSource::find_pieces(TextWindow& window, const tn::CutSentence& cut)
     window.append_sources(from, cut.end, map_);
     const auto closing = static_cast<std::size_t>(cut.length - cut.length_before_closing);
     if (closing > 0) map_.replaced(closing, {window.source_offset(cut.end), 0});
+}
+
+bool SentenceSource::depends_on_text_ahead() const {
+    return std::any_of(replacements_.begin(), replacements_.end(), [](const Replacement& r) {
+        return r.length > 0 && !is_in_first_case(r.source);
+    });
 }
 
 }  // namespace kavi::host

@@ -76,6 +76,9 @@ class SentenceSource {
 
     const std::vector<SourcePiece>& pieces() const { return map_.pieces(); }
 
+    // Whether an abbreviation was read as one since no other case of it stands in the text ahead.
+    bool depends_on_text_ahead() const;
+
   private:
     struct Replacement {
         std::string_view source;  // in the window

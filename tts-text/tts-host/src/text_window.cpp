@@ -15,6 +15,11 @@ constexpr std::size_t FILL_BELOW = SZ_TEXT_MAX_LEN;
 // A removed tag beyond this is left out of the text before the engine removes it.
 constexpr std::size_t REMOVED_TAG_MAX = 500;
 
+constexpr std::size_t FOREIGN_TAG_MAX = 256;
+
+// Of bytes outside ASCII that are reported as one; a longer stretch is reported in parts.
+constexpr std::size_t STRETCH_MAX = 4096;
+
 bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
@@ -36,8 +41,7 @@ bool is_of_tag_name(char c) {
 // The length of a tag as HTML, XML and SSML have them at the start of `text`, which begins with
 // "<"; 0 for none. A longer one is taken for text.
 std::size_t foreign_tag_length(std::string_view text) {
-    constexpr std::size_t LONGEST = 256;
-    const std::size_t end = text.substr(0, LONGEST).find_first_of("<>", 1);
+    const std::size_t end = text.substr(0, FOREIGN_TAG_MAX).find_first_of("<>", 1);
     if (end == std::string_view::npos || text[end] == '<') return 0;
     std::string_view inside = text.substr(1, end - 1);
     if (tn::begins_with(inside, "!") || tn::begins_with(inside, "?")) return end + 1;
@@ -49,6 +53,15 @@ std::size_t foreign_tag_length(std::string_view text) {
         !is_name_alone && *after_name == ' ' &&
         (inside.find('=') != std::string_view::npos || inside.back() == '/');
     return is_name_alone || has_attributes ? end + 1 : 0;
+}
+
+// Whether more text would tell if such a tag begins there.
+bool may_make_foreign_tag(std::string_view text) {
+    constexpr std::string_view AFTER_BEGIN = "!?/";
+    if (text.size() >= FOREIGN_TAG_MAX || text.find_first_of("<>", 1) != std::string_view::npos)
+        return false;
+    return text.size() == 1 || tn::is_letter(text[1]) ||
+           AFTER_BEGIN.find(text[1]) != std::string_view::npos;
 }
 
 // Whether text may be cut between two characters without cutting a word, a number or a character.
@@ -143,59 +156,79 @@ void FedSpans::report_open(std::deque<Diagnostic>& findings) const {
 
 // ---- feeding ----
 
-void TextWindow::begin(std::string_view text, const TextRewriter* rewriter) {
-    text_ = text;
+void TextWindow::begin(std::size_t offset, const TextRewriter* rewriter) {
+    text_ = {};
+    text_offset_ = first_offset_ = offset;
+    is_complete_ = false;
     next_ = begin_ = prefix_ = end_ = origin_ = 0;
+    is_full_ = false;
     next_tag_ = next_tag_end_ = next_nul_ = not_spoken_end_ = 0;
     spans_.clear();
     map_.clear();
     findings_.clear();
     rewriter_ = rewriter;
     rewriting_ = {};
-    find_rewriting();
+    has_rewriting_ = false;
+    next_rewriting_ = decided_ = 0;
+}
+
+void TextWindow::give(std::string_view text, std::size_t offset, bool is_complete) {
+    const std::size_t dropped = offset - text_offset_;
+    for (std::size_t* place : {&next_, &next_rewriting_, &decided_, &next_tag_, &next_tag_end_,
+                               &next_nul_, &not_spoken_end_}) {
+        *place -= std::min(*place, dropped);
+    }
+    rewriting_.drop(dropped);
+    text_ = text;
+    text_offset_ = offset;
+    is_complete_ = is_complete;
+    if (!has_rewriting_) find_rewriting();
 }
 
 // The next rewriting of what has not been fed. One that is inside a tag is passed over.
 void TextWindow::find_rewriting() {
     words_fed_ = 0;
-    bool found = false;
-    do {
-        found = rewriter_ != nullptr && rewriter_->next(text_, rewriting_);
-    } while (found && rewriting_.source.offset < next_);
-    next_rewriting_ = found ? rewriting_.source.offset : text_.size();
-    const auto is_no_word = [](char c) { return c == '<' || c == '\0'; };
-    if (found) {
+    has_rewriting_ = false;
+    rewriting_.may_go_on = !is_complete_;
+    const bool may_ask = rewriter_ != nullptr && (is_complete_ || rewriter_->takes_growing_texts());
+    if (may_ask) {
+        do {
+            has_rewriting_ = rewriter_->next(text_, rewriting_);
+        } while (has_rewriting_ && rewriting_.source.offset < next_);
+    }
+    next_rewriting_ = decided_ = text_.size();
+    if (has_rewriting_) {
+        next_rewriting_ = rewriting_.source.offset;
+        const auto is_no_word = [](char c) { return c == '<' || c == '\0'; };
         std::replace_if(rewriting_.words.begin(), rewriting_.words.end(), is_no_word, ' ');
+    } else if (rewriter_ != nullptr && !is_complete_) {
+        decided_ = may_ask ? rewriting_.decided : next_;
     }
 }
 
-bool TextWindow::fill(bool& moved) {
-    moved = !holds_rest() && length() < FILL_BELOW + prefix_;
-    if (moved) {
+// It moves when little is left of a full buffer, however much of that has been fed: so it is the
+// same whether the text was given at once or not.
+bool TextWindow::fill(bool& changed) {
+    changed = !holds_rest() && CAPACITY - begin_ < FILL_BELOW + prefix_;
+    if (changed) {
         std::memmove(buffer_, text(), length());
         origin_ += begin_;
         end_ = length();
         begin_ = 0;
+        is_full_ = false;
         map_.drop_before(origin_ + prefix_);
-        while (!holds_rest() && room() > 0 && feed()) {
-        }
     }
+    const std::size_t end = end_;
+    while (!is_full_ && room() > 0 && feed()) {
+    }
+    changed = changed || end_ != end;
     return length() > prefix_;
 }
 
-// The next `c` from next_ on, or how far there is none: so many bytes, or to the end of the text.
-// `memo` is where the last search ended.
-std::size_t TextWindow::find_from_here(char c, std::size_t most, std::size_t& memo) const {
-    if (memo <= next_) {
-        const std::string_view here = rest().substr(0, most);
-        memo = next_ + std::min(here.find(c), here.size());
-    }
-    return memo;
-}
-
 bool TextWindow::feed() {
-    if (next_ > next_rewriting_) find_rewriting();
-    if (next_ == next_rewriting_) return feed_rewriting();
+    if (has_rewriting_ && next_ > next_rewriting_) find_rewriting();
+    if (has_rewriting_ && next_ == next_rewriting_) return feed_rewriting();
+    if (next_ >= decided_) return false;
     switch (text_[next_]) {
         case '<': return feed_tag();
         case '\0': return copy_without_nuls(rest().substr(0, 1));
@@ -206,13 +239,16 @@ bool TextWindow::feed() {
 // As many of the words as there is room for. They must not make a tag with what is before them.
 bool TextWindow::feed_rewriting() {
     const std::string_view words = std::string_view(rewriting_.words).substr(words_fed_, room());
-    std::memcpy(buffer_ + end_, words.data(), words.size());
-    const std::string_view before = tag_beginning();
-    if (may_make_tag(before, {before.data(), before.size() + words.size()})) {
-        buffer_[before.data() - buffer_] = ' ';
-    }
     if (words_fed_ == 0) {
-        map_.replaced(words.size(), rewriting_.source, rewriting_.by);
+        const std::string_view before = tag_beginning();
+        if (may_make_tag(before, std::string(before) + rewriting_.words)) {
+            buffer_[before.data() - buffer_] = ' ';
+        }
+    }
+    std::memcpy(buffer_ + end_, words.data(), words.size());
+    if (words_fed_ == 0) {
+        const TextRange source = rewriting_.source;
+        map_.replaced(words.size(), {text_offset_ + source.offset, source.length}, rewriting_.by);
     } else {
         map_.extended(words.size());
     }
@@ -226,11 +262,26 @@ bool TextWindow::feed_rewriting() {
 }
 
 bool TextWindow::feed_run() {
-    const std::size_t end = std::min({find_from_here('<', CAPACITY, next_tag_),
-                                      find_from_here('\0', CAPACITY, next_nul_), next_rewriting_});
+    std::size_t end =
+        std::min({find_ahead(text_, next_, '<', CAPACITY, next_tag_),
+                  find_ahead(text_, next_, '\0', CAPACITY, next_nul_), next_rewriting_, decided_});
+    if (!is_complete_) end = without_open_stretch(end);
+    if (end == next_) return false;
     const std::string_view run = text_.substr(next_, std::min(end - next_, room()));
     report_not_spoken(run);
     return copy(run);
+}
+
+// Where a run has to end that must not go on after `end` yet: before bytes outside ASCII that more
+// may follow.
+std::size_t TextWindow::without_open_stretch(std::size_t end) const {
+    const bool has_ended = end < text_.size() && (!is_outside_ascii(text_[end]) ||
+                                                  (has_rewriting_ && end == next_rewriting_));
+    const std::size_t first = std::max(next_, not_spoken_end_);
+    if (has_ended || end <= first) return end;
+    std::size_t begin = end;
+    while (begin > first && is_outside_ascii(text_[begin - 1])) --begin;
+    return begin + (end - begin) / STRETCH_MAX * STRETCH_MAX;
 }
 
 // Reports each stretch of bytes outside ASCII, to where it ends in the text; one that the last run
@@ -240,10 +291,11 @@ void TextWindow::report_not_spoken(std::string_view run) {
     std::size_t at = std::max(next_, not_spoken_end_);
     while ((at = find_outside_ascii(text_, at, run_end)) < run_end) {
         not_spoken_end_ = at;
-        while (not_spoken_end_ < next_rewriting_ && is_outside_ascii(text_[not_spoken_end_])) {
+        const std::size_t end = std::min(next_rewriting_, at + STRETCH_MAX);
+        while (not_spoken_end_ < end && is_outside_ascii(text_[not_spoken_end_])) {
             ++not_spoken_end_;
         }
-        findings_.push_back({at, Finding::not_spoken, not_spoken_end_ - at});
+        findings_.push_back({text_offset_ + at, Finding::not_spoken, not_spoken_end_ - at});
         at = not_spoken_end_;
     }
 }
@@ -252,8 +304,12 @@ bool TextWindow::feed_tag() {
     const std::string_view here = rest();
     const tn::MarkupTag* row = tn::find_markup_tag(here);
     if (row == nullptr) return feed_other_tag();
-    const std::size_t end = find_from_here('>', std::string_view::npos, next_tag_end_);
-    if (end == text_.size()) return feed_as_text(Finding::tag_never_closed, true);
+    const std::size_t end = find_ahead(text_, next_, '>', TAG_MAX, next_tag_end_);
+    if (end == std::string_view::npos) {
+        const bool is_at_end = here.size() < TAG_MAX;
+        if (is_at_end && !is_complete_) return false;
+        return feed_as_text(Finding::tag_never_closed, is_at_end);
+    }
     const std::string_view tag = here.substr(0, end + 1 - next_);
     switch (row->kind) {
         case tn::TagKind::span_open: return feed_opening(tag, row);
@@ -265,8 +321,10 @@ bool TextWindow::feed_tag() {
 
 // A "<" that the engine reads as text, also where a tag of another language begins.
 bool TextWindow::feed_other_tag() {
+    if (!is_complete_ && (may_make_tag(rest(), rest()) || may_make_foreign_tag(rest())))
+        return false;
     if (const std::size_t length = foreign_tag_length(rest()); length > 0) {
-        findings_.push_back({next_, Finding::foreign_tag, length});
+        findings_.push_back({next_offset(), Finding::foreign_tag, length});
     }
     return copy(rest().substr(0, 1));
 }
@@ -288,7 +346,9 @@ bool TextWindow::feed_as_text(Finding finding, bool keep) {
 bool TextWindow::feed_removed(std::string_view tag) {
     const std::string_view before = tag_beginning();
     const bool joins = may_make_tag(before, before);
-    const bool too_long = tag.size() > REMOVED_TAG_MAX && text_.size() >= SZ_TEXT_MAX_LEN;
+    const bool is_long_text = text_offset_ + text_.size() - first_offset_ >= SZ_TEXT_MAX_LEN;
+    const bool too_long = tag.size() > REMOVED_TAG_MAX && is_long_text;
+    if (!is_complete_ && !is_long_text && tag.size() > REMOVED_TAG_MAX) return false;
     if (!joins && !too_long) return copy_without_nuls(tag);
     if (joins) report(Finding::tag_inside_tag);
     return leave_out(tag.size());
@@ -304,7 +364,7 @@ std::string_view TextWindow::tag_beginning() const {
 // A tag that is left out takes its closing tag with it.
 bool TextWindow::feed_opening(std::string_view tag, const tn::MarkupTag* row) {
     const bool too_long = tag.size() > tn::SAVED_TAG_MAX;
-    const std::size_t offset = next_;
+    const std::size_t offset = next_offset();
     const bool left_out = too_long || !spans_.has_room() || !spans_.value_fits(tag);
     if (left_out) {
         report(too_long            ? Finding::tag_too_long
@@ -330,9 +390,10 @@ bool TextWindow::feed_closing(std::string_view tag, const tn::MarkupTag* opening
 }
 
 bool TextWindow::copy(std::string_view piece) {
-    if (piece.size() > room()) return false;
+    is_full_ = piece.size() > room();
+    if (is_full_) return false;
     std::memcpy(buffer_ + end_, piece.data(), piece.size());
-    map_.copied(next_, piece.size());
+    map_.copied(next_offset(), piece.size());
     end_ += piece.size();
     next_ += piece.size();
     return true;
@@ -340,7 +401,7 @@ bool TextWindow::copy(std::string_view piece) {
 
 // A NUL would end the engine's text; a blank keeps the words around it apart.
 bool TextWindow::copy_without_nuls(std::string_view piece) {
-    const std::size_t begin = next_;
+    const std::size_t begin = next_offset();
     if (!copy(piece)) return false;
     for (std::size_t nul = piece.find('\0'); nul != std::string_view::npos;
          nul = piece.find('\0', nul + 1)) {
@@ -354,7 +415,7 @@ bool TextWindow::copy_without_nuls(std::string_view piece) {
 // make a tag together.
 bool TextWindow::leave_out(std::size_t length) {
     buffer_[end_++] = ' ';
-    map_.replaced(1, {next_, length});
+    map_.replaced(1, {next_offset(), length});
     next_ += length;
     return true;
 }

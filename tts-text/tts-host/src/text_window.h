@@ -64,19 +64,32 @@ class FedSpans {
 // the engine would stop at, and knows for every byte in the buffer where it came from.
 class TextWindow {
   public:
-    // `rewriter` may be null.
-    void begin(std::string_view text, const TextRewriter* rewriter);
+    // A new text, of which nothing is known yet; its first byte is at `offset`. `rewriter` may be
+    // null.
+    void begin(std::size_t offset, const TextRewriter* rewriter);
 
-    // Tops the buffer up when little is left in it. False when there is no text left to read.
-    // `moved` tells whether what is left stands elsewhere now.
-    bool fill(bool& moved);
+    // What is there of the text from `offset` on: all that has not been fed, and what rewriters
+    // look back at. More may be given later unless it `is_complete`.
+    void give(std::string_view text, std::size_t offset, bool is_complete);
+
+    // Tops the buffer up when little is left in it, as far as what is there of the text cannot be
+    // read otherwise, whatever follows. False when there is nothing left to read. `changed` tells
+    // whether there is more in the buffer, or what is left stands elsewhere now.
+    bool fill(bool& changed);
+
+    // Whether the buffer holds what it would hold if the whole text had been given at once.
+    bool is_filled() const { return is_full_ || room() == 0 || holds_rest(); }
 
     // What is to be read next, with one byte after it that may be written, and its length.
     char* text() { return buffer_ + begin_; }
+    const char* text() const { return buffer_ + begin_; }
     std::size_t length() const { return end_ - begin_; }
 
     // Whether the rest of the text is in the buffer.
-    bool holds_rest() const { return next_ == text_.size(); }
+    bool holds_rest() const { return is_complete_ && next_ == text_.size(); }
+
+    // Where in the text it goes on after what has been fed.
+    std::size_t next_offset() const { return text_offset_ + next_; }
 
     // Where to cut so that at most about `size` bytes of new text stand before the cut: after a
     // blank if there is one, never inside a tag or a word that fits a section, and inside the words
@@ -115,7 +128,6 @@ class TextWindow {
 
     std::string_view rest() const { return text_.substr(next_); }
     std::size_t room() const { return CAPACITY - end_; }
-    std::size_t find_from_here(char c, std::size_t most, std::size_t& memo) const;
 
     // In the fed text. The tags of open spans have no place of their own there.
     std::size_t position(const char* at) const {
@@ -124,10 +136,11 @@ class TextWindow {
 
     void find_rewriting();
 
-    // ---- each takes one piece of the text, or answers false when it needs more room ----
+    // ---- each takes one piece of the text, or answers false when it needs more room or text ----
     bool feed();
     bool feed_rewriting();
     bool feed_run();
+    std::size_t without_open_stretch(std::size_t end) const;
     void report_not_spoken(std::string_view run);
     bool feed_tag();
     bool feed_other_tag();
@@ -142,22 +155,28 @@ class TextWindow {
 
     // From the last "<" on, where that is so near that a tag's name may not have ended yet.
     std::string_view tag_beginning() const;
-    void report(Finding finding) { findings_.push_back({next_, finding}); }
+    void report(Finding finding) { findings_.push_back({next_offset(), finding}); }
 
     std::deque<Diagnostic> findings_;
     FedSpans spans_;
-    std::string_view text_;
+    std::string_view text_;  // what is there of it; places are places in that
+    std::size_t text_offset_ = 0;
+    std::size_t first_offset_ = 0;  // of all of it
+    bool is_complete_ = false;
     std::size_t next_ = 0;  // the next byte of the text to feed
 
     const TextRewriter* rewriter_ = nullptr;
-    Rewriting rewriting_;             // the next, if there is one
+    Rewriting rewriting_;  // the next, if there is one
+    bool has_rewriting_ = false;
     std::size_t next_rewriting_ = 0;  // where it begins in the text; the text's end for none
+    std::size_t decided_ = 0;         // how far the text may be fed
     std::size_t words_fed_ = 0;       // bytes of its words
 
     char buffer_[CAPACITY + 1] = {};
     std::size_t begin_ = 0;   // of what has not been consumed, in the buffer
     std::size_t prefix_ = 0;  // how much of that opens spans again
     std::size_t end_ = 0;
+    bool is_full_ = false;  // the next piece has no room
 
     SourceMap map_;           // of what has been fed
     std::size_t origin_ = 0;  // the position there of the first byte of the buffer

@@ -65,10 +65,13 @@ std::size_t begin_of_blanks(std::string_view text, const TextRange& sentence) {
 
 }  // namespace
 
-void PlainForm::read(const HostSentence& sentence, std::string_view text) {
+void PlainForm::read(const HostSentence& sentence, std::string_view text, std::size_t text_begin) {
     const auto n_records = static_cast<std::size_t>(sentence.n_records);
     const WordPlace* const places = sentence.places.words();
-    const TextRange& whole = sentence.source;
+    const auto in_text = [=](std::size_t offset) { return offset - std::min(offset, text_begin); };
+    const std::size_t whole_end = in_text(sentence.source.offset + sentence.source.length);
+    const std::size_t whole_begin = in_text(sentence.source.offset);
+    const TextRange whole = {whole_begin, whole_end - whole_begin};
     all_.clear();
     after_.clear();
     const std::size_t begin_of_form = begin_of_blanks(text, whole);
@@ -77,12 +80,11 @@ void PlainForm::read(const HostSentence& sentence, std::string_view text) {
         if (i > 0) {
             const UtteranceSyllable& record = sentence.records[i];
             all_.append(record.syllable, static_cast<std::size_t>(record.syl_len - 1));
-            at = std::max(at, places[i].source.offset + places[i].source.length);
+            at = std::max(at, in_text(places[i].source.offset + places[i].source.length));
         }
         const std::size_t begin = all_.size();
         const bool is_last = i + 1 == n_records;
-        const std::size_t next =
-            is_last ? whole.offset + whole.length : places[i + 1].source.offset;
+        const std::size_t next = is_last ? whole_end : in_text(places[i + 1].source.offset);
         if (next > at) {
             add_gap(text.substr(at, next - at));
             at = next;

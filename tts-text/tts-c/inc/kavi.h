@@ -51,6 +51,7 @@ typedef enum kavi_status {
     KAVI_BAD_ARGUMENT, /* a null pointer where none may be, or a number without a meaning */
     KAVI_BAD_LEXICON,  /* kavi_reader_error() tells file, line and fault */
     KAVI_BUSY,         /* called from a handler of the same reader */
+    KAVI_ENDED,        /* the text of the stream has ended; kavi_stream_forget() begins another */
 } kavi_status;
 
 /* What a status means, in a few words; a constant text. */
@@ -113,6 +114,7 @@ typedef struct kavi_sentence {
     size_t n_words;
     const kavi_run* runs; /* where KAVI_RUNS asks for them */
     size_t n_runs;
+    int32_t ends_sentence; /* 1, or 0 for a clause of a sentence that goes on */
 } kavi_sentence;
 
 typedef struct kavi_finding {
@@ -223,6 +225,36 @@ typedef enum kavi_form {
 KAVI_API kavi_status kavi_normalize(kavi_reader* reader, const char* text, size_t length,
                                     uint32_t form, char** spoken, size_t* n_spoken);
 KAVI_API void kavi_free(char* spoken);
+
+/* ---- a text that is still being written ---- */
+
+typedef struct kavi_stream kavi_stream;
+
+/* Makes a stream that reads as the reader does now, with an arena of the reader's capacity of its
+ * own; it does not need the reader any more. `wanted` as for kavi_read(). `*stream` is null unless
+ * the answer is KAVI_OK. One stream serves one thread at a time. */
+KAVI_API kavi_status kavi_stream_new(const kavi_reader* reader, uint32_t wanted,
+                                     kavi_stream** stream);
+
+/* The text goes on with this piece, of any bytes and any length: it may end inside a word, a tag or
+ * a character. With KAVI_OK, `*result` has the sentences and findings that nothing that follows can
+ * change any more, each once, and is to be freed; it is null for none. All results of a text
+ * together are what kavi_read() gives for the whole; offsets count from the begin of the stream, a
+ * finding's sentence within the result. Otherwise it is null. After KAVI_NO_MEMORY the text has
+ * ended. */
+KAVI_API kavi_status kavi_stream_add(kavi_stream* stream, const char* piece, size_t length,
+                                     kavi_result** result);
+
+/* The text ends here: the same for the rest of it. KAVI_INCOMPLETE, with a result, where any of the
+ * text was passed over. */
+KAVI_API kavi_status kavi_stream_end(kavi_stream* stream, kavi_result** result);
+
+/* Interrupted, or after the end: what was not told is dropped, and what is added next begins a new
+ * text, with no span open; its offsets go on. */
+KAVI_API kavi_status kavi_stream_forget(kavi_stream* stream);
+
+/* Null is passed over. */
+KAVI_API void kavi_stream_free(kavi_stream* stream);
 
 #ifdef __cplusplus
 }

@@ -25,7 +25,8 @@ constexpr const char* STATUS_TEXTS[] = {"read",
                                         "not enough memory",
                                         "bad argument",
                                         "bad lexicon",
-                                        "the reader is reading"};
+                                        "the reader is reading",
+                                        "the text has ended"};
 
 // A reader is busy while this lives.
 class Reading {
@@ -139,7 +140,7 @@ kavi_status kavi_read(kavi_reader* reader, const char* text, size_t length, uint
             *reader, read_text,
             [&](const kavi::HostSentence& sentence) {
                 made->sentences.push_back(
-                    kavi::c::copied(sentence, read_text, wanted, reader->plain, made->pool));
+                    kavi::c::copied(sentence, read_text, 0, wanted, reader->plain, made->pool));
                 return true;
             },
             [&](const kavi_finding& finding) {
@@ -184,7 +185,7 @@ kavi_status kavi_read_each(kavi_reader* reader, const char* text, size_t length,
             if (handlers->on_sentence == nullptr) return true;
             pool.clear();
             const kavi_sentence copy =
-                kavi::c::copied(sentence, read_text, wanted, reader->plain, pool);
+                kavi::c::copied(sentence, read_text, 0, wanted, reader->plain, pool);
             return handlers->on_sentence(handlers->user, &copy) != 0;
         },
         [&](const kavi_finding& finding) {

@@ -18,14 +18,16 @@ class Lexicon;
 }  // namespace kavi
 
 struct kavi_reader {
-    explicit kavi_reader(std::size_t capacity) : host(capacity) {}
+    explicit kavi_reader(std::size_t n_capacity) : capacity(n_capacity), host(n_capacity) {}
 
+    std::size_t capacity;
     kavi::TtsHost host;
     kavi::PlainForm plain;  // of the last sentence
 
     // Of readings.cpp: what rewrites texts, of which the reader itself knows nothing.
     std::shared_ptr<kavi::Lexicon> lexicon;
     std::shared_ptr<kavi::Everyday> everyday;
+    const kavi::TextRewriter* rewriter = nullptr;  // that, or null
     std::uint32_t classes = 0;
 
     std::string error;
@@ -52,9 +54,10 @@ kavi_status guarded(Work work) {
     }
 }
 
-// A sentence of `text` with copies of all it points to. `plain` is written anew.
-kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::uint32_t wanted,
-                     PlainForm& plain, Pool& pool);
+// A sentence of a text, of which `text` is what is there from `text_begin` on, with copies of all
+// it points to. `plain` is written anew.
+kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::size_t text_begin,
+                     std::uint32_t wanted, PlainForm& plain, Pool& pool);
 
 }  // namespace kavi::c
 

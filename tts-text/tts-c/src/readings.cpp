@@ -19,7 +19,8 @@ void rewrite(kavi_reader& reader, std::shared_ptr<kavi::Lexicon> lexicon, std::u
     }
     everyday->set_american_dates((classes & KAVI_AMERICAN_DATES) != 0);
     const bool is_asked_for = lexicon != nullptr || classes != 0;
-    reader.host.rewrite_by(is_asked_for ? everyday.get() : nullptr);
+    reader.rewriter = is_asked_for ? everyday.get() : nullptr;
+    reader.host.rewrite_by(reader.rewriter);
     reader.everyday = std::move(everyday);
     reader.lexicon = std::move(lexicon);
     reader.classes = classes;

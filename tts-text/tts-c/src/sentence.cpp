@@ -37,12 +37,12 @@ void fill(kavi_word& word, const UtteranceSyllable& record, const WordPlace& pla
 
 }  // namespace
 
-kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::uint32_t wanted,
-                     PlainForm& plain, Pool& pool) {
+kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::size_t text_begin,
+                     std::uint32_t wanted, PlainForm& plain, Pool& pool) {
     const auto n_records = static_cast<std::size_t>(sentence.n_records);
     auto* words = pool.array<kavi_word>(n_records);
     const WordPlace* places = sentence.places.words();
-    plain.read(sentence, text);
+    plain.read(sentence, text, text_begin);
     for (std::size_t i = 0; i < n_records; ++i) {
         fill(words[i], sentence.records[i], places[i], pool);
         words[i].after = short_text(i > 0 ? plain.after(i) : "", pool);
@@ -56,11 +56,16 @@ kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::u
     copy.head = words;
     copy.words = words + 1;
     copy.n_words = n_records - 1;
+    copy.ends_sentence = sentence.ends_sentence ? 1 : 0;
     if ((wanted & KAVI_RUNS) == 0) return copy;
     std::vector<kavi_run> runs;
-    explain(sentence, text, [&](const ExplainedRun& run) {
-        runs.push_back({range_of(run.source), pool.text(run.rule).data, pool.text(run.reading)});
-    });
+    explain(
+        sentence, text,
+        [&](const ExplainedRun& run) {
+            runs.push_back(
+                {range_of(run.source), pool.text(run.rule).data, pool.text(run.reading)});
+        },
+        text_begin);
     auto* kept = pool.array<kavi_run>(runs.size());
     std::copy(runs.begin(), runs.end(), kept);
     copy.runs = kept;

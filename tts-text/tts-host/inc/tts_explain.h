@@ -31,8 +31,10 @@ void explain(std::string_view normalized, const RunHandler& on_run);
 // The same with places in `text`, which the sentence was read from. An abbreviation is one run, by
 // the rule "abbreviation", with what was written in the text for its section; so is what a rewriter
 // has rewritten, by its rule, with the file and line that say so. A tag that closes or
-// opens a span where the text was cut has an empty source; what was left out is in none.
-void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run);
+// opens a span where the text was cut has an empty source; what was left out is in none. `text`
+// begins at `text_begin` when what is before it is not there any more.
+void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run,
+             std::size_t text_begin = 0);
 
 }  // namespace kavi
 

@@ -21,9 +21,10 @@ extern const char* const SSML_END;
 // counterpart is left out, and its name and value, as in "poem=a", added to `lost`.
 //
 // With `has_marks`, a "mark" element stands before each word, named OFFSET-LENGTH after the bytes
-// that it was read from.
+// that it was read from. `text` begins at `text_begin` when what is before it is not there any
+// more.
 std::string ssml(const HostSentence& sentence, std::string_view text, bool has_marks,
-                 std::set<std::string>& lost);
+                 std::set<std::string>& lost, std::size_t text_begin = 0);
 
 }  // namespace kavi
 

@@ -141,9 +141,11 @@ void walk(const char* sentence, char* speakable, OnRun on_run) {
 // The runs of a sentence as runs of the text that it was read from.
 class RunsOfText {
   public:
-    RunsOfText(const HostSentence& sentence, std::string_view text, const RunHandler& on_run)
+    RunsOfText(const HostSentence& sentence, std::string_view text, std::size_t text_begin,
+               const RunHandler& on_run)
         : sentence_(sentence),
           text_(text),
+          text_begin_(text_begin),
           on_run_(on_run),
           piece_(sentence.places.pieces().data()),
           last_piece_(&sentence.places.pieces().back()) {}
@@ -182,11 +184,13 @@ class RunsOfText {
             run_.rule = rule_;
         }
         run_.is_word = false;
-        run_.sections.assign(1, text_.substr(run_.source.offset, run_.source.length));
+        const std::size_t begin = run_.source.offset - std::min(run_.source.offset, text_begin_);
+        run_.sections.assign(1, text_.substr(begin, run_.source.length));
     }
 
     const HostSentence& sentence_;
     std::string_view text_;
+    std::size_t text_begin_;
     const RunHandler& on_run_;
     const SourcePiece* piece_;
     const SourcePiece* last_piece_;
@@ -202,9 +206,10 @@ void explain(std::string_view normalized, const RunHandler& on_run) {
     walk(std::string(normalized).c_str(), speakable, on_run);
 }
 
-void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run) {
+void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run,
+             std::size_t text_begin) {
     char speakable[SZ_TEXT_MAX_LEN];
-    RunsOfText runs(sentence, text, on_run);
+    RunsOfText runs(sentence, text, text_begin, on_run);
     walk(sentence.normalized.data(), speakable, [&](ExplainedRun& run) { runs.add(run); });
     runs.end();
 }

@@ -106,10 +106,10 @@ void append_escaped(std::string_view word, std::string& out) {
 
 class SentenceWriter {
   public:
-    SentenceWriter(const HostSentence& sentence, std::string_view text, bool has_marks,
-                   std::set<std::string>& lost)
+    SentenceWriter(const HostSentence& sentence, std::string_view text, std::size_t text_begin,
+                   bool has_marks, std::set<std::string>& lost)
         : sentence_(sentence), has_marks_(has_marks), lost_(lost) {
-        plain_.read(sentence, text);
+        plain_.read(sentence, text, text_begin);
     }
 
     std::string write() {
@@ -216,8 +216,8 @@ class SentenceWriter {
 }  // namespace
 
 std::string ssml(const HostSentence& sentence, std::string_view text, bool has_marks,
-                 std::set<std::string>& lost) {
-    return SentenceWriter(sentence, text, has_marks, lost).write();
+                 std::set<std::string>& lost, std::size_t text_begin) {
+    return SentenceWriter(sentence, text, text_begin, has_marks, lost).write();
 }
 
 }  // namespace kavi

@@ -51,6 +51,8 @@ export interface Sentence {
   words: Word[];
   /** Empty unless asked for. */
   runs: Run[];
+  /** False for a clause of a sentence that goes on. */
+  endsSentence: boolean;
 }
 
 export interface Finding {
@@ -76,6 +78,37 @@ export interface Line {
   result: Result;
 }
 
+/** What a stream hands over at once: a sentence, or a clause of one. Places count from the begin of the stream. */
+export interface Utterance {
+  clauses: Sentence[];
+  /** Each `sentence` is the number of one of the clauses. */
+  findings: Finding[];
+  /** What is spoken; those of all utterances, one after the other, are what normalize() returns. */
+  plain: string;
+  source: string;
+  words: Word[];
+}
+
+export interface StreamOptions extends ReadOptions {
+  /** What is handed over: whole sentences, unless asked for clauses, which come with the least delay. */
+  by?: 'sentence' | 'clause';
+}
+
+/** A text that is still being written. */
+export interface Stream {
+  /**
+   * The text goes on with this piece, which may end inside a word, a tag or a character. Returns what nothing that may
+   * follow can change any more. A RangeError after the end.
+   */
+  add(piece: string): Utterance[];
+  /** The text ends here: the rest of it, which may be findings alone. A RangeError after the end. */
+  end(): Utterance[];
+  /** Interrupted: drops what was not handed over. What is added next begins a new text; its places go on. */
+  forget(): void;
+  /** Gives its memory back. */
+  free(): void;
+}
+
 export interface ReadOptions {
   /** Sentences tell which rule has read what. */
   rules?: boolean;
@@ -98,6 +131,12 @@ export interface Reader {
   read(text: string, options?: ReadOptions): Result;
   /** Reads each line of a text that comes in pieces, strings or UTF-8; nothing but the last line is kept. */
   lines(chunks: Iterable<string | Uint8Array> | AsyncIterable<string | Uint8Array>, options?: ReadOptions): AsyncGenerator<Line>;
+  /** A stream that reads as this reader does now. */
+  openStream(options?: StreamOptions): Stream;
+  /** The utterances of a text that comes in pieces, strings or UTF-8. Whoever stops the loop drops the rest. */
+  stream(pieces: Iterable<string | Uint8Array> | AsyncIterable<string | Uint8Array>, options?: StreamOptions): AsyncGenerator<Utterance>;
+  /** The same to pipe strings through: `texts.pipeThrough(reader.transform())`. */
+  transform(options?: StreamOptions): TransformStream<string, Utterance>;
   /** Another lexicon; when a line is wrong, a SyntaxError, and the last one stays. */
   setLexicon(lines: string): void;
   /** Gives its memory back; after that it reads no text. */
@@ -110,6 +149,7 @@ export interface Kavi {
   normalize(text: string): string;
   read(text: string, options?: ReadOptions): Result;
   lines: Reader['lines'];
+  stream: Reader['stream'];
 }
 
 /**

@@ -4,7 +4,7 @@
 // The layout of the structures of kavi.h where pointers have four bytes, as src/layout.cpp asserts it.
 const WORD = {size: 76, text: 0, after: 8, source: 16, pause: 24, nMarks: 28, marks: 32, breakTime: 44, attributes: 48};
 const SENTENCE = {source: 0, normalized: 8, speakable: 16, plain: 24, before: 32, head: 40, words: 44, nWords: 48,
-  runs: 52, nRuns: 56};
+  runs: 52, nRuns: 56, endsSentence: 60};
 const RUN = {size: 20, source: 0, rule: 8, reading: 12};
 const FINDING = {code: 0, offset: 4, length: 8, sentence: 12};
 const ATTRIBUTES = 7;
@@ -39,23 +39,112 @@ function bitsOf(everyday) {
   }, 0);
 }
 
-// Places in a string for places in its UTF-8 bytes; cheap for one after the other.
+// Places in a text for places in its UTF-8 bytes; cheap for one after the other. What is there of the text begins at
+// `first`, and its bytes at `firstByte`; of what is before that, `before` has the places of tags.
 class Units {
-  constructor(bytes, length) {
+  constructor(bytes, text, first = 0, firstByte = 0, before = new Map()) {
     this.bytes = bytes;
-    this.isAscii = bytes.length === length;
+    this.text = text;
+    this.first = first;
+    this.firstByte = firstByte;
+    this.before = before;
+    this.isAscii = bytes.length === text.length;
     this.byte = 0;
     this.unit = 0;
   }
-  at(byte) {
-    if (this.isAscii) return byte;
+  at(place) {
+    const byte = place - this.firstByte;
+    if (byte < 0) return this.before.get(place) ?? this.before.get(place - 1) + 1; // a tag's begin, or its end
+    if (this.isAscii) return this.first + byte;
     if (byte < this.byte) this.byte = this.unit = 0;
     for (; this.byte < byte; ++this.byte) {
       const value = this.bytes[this.byte];
       if ((value & 0xc0) !== 0x80) this.unit += value >= 0xf0 ? 2 : 1;
     }
-    return this.unit;
+    return this.first + this.unit;
   }
+  slice({offset, length}) {
+    return this.text.slice(offset - this.first, offset - this.first + length);
+  }
+}
+
+// A text that is still being written. `tell` has the module take a piece, or end for null, and answers what that tells;
+// `forget` and `free` are the module's.
+class Stream {
+  #tell;
+  #forget;
+  #free;
+  #byClause;
+  #high = ''; // half of a character at the end of the last piece
+  #clauses = [];
+  #findings = [];
+
+  constructor({tell, forget, free, by}) {
+    this.#tell = tell;
+    this.#forget = forget;
+    this.#free = free;
+    this.#byClause = by === 'clause';
+  }
+
+  add(piece) {
+    if (typeof piece !== 'string') throw new TypeError('a piece is a string');
+    let whole = this.#high + piece;
+    this.#high = /[\ud800-\udbff]$/.test(whole) ? whole.slice(-1) : '';
+    if (this.#high !== '') whole = whole.slice(0, -1);
+    return this.#utterances(this.#tell(whole));
+  }
+
+  end() {
+    const utterances = this.#high !== '' ? this.#utterances(this.#tell(this.#high)) : [];
+    this.#high = '';
+    utterances.push(...this.#utterances(this.#tell(null)));
+    if (this.#clauses.length + this.#findings.length > 0) utterances.push(this.#take());
+    return utterances;
+  }
+
+  forget() {
+    this.#forget(this.#high);
+    this.#high = '';
+    this.#take();
+  }
+
+  free() {
+    this.#free();
+  }
+
+  #take() {
+    const clauses = this.#clauses;
+    const findings = this.#findings;
+    this.#clauses = [];
+    this.#findings = [];
+    const joined = name => clauses.map(clause => clause[name]).join('');
+    return {clauses, findings, plain: joined('plain'), source: joined('source'), words: clauses.flatMap(({words}) => words)};
+  }
+
+  // An utterance has a word: marks alone belong to the next.
+  #utterances({sentences, findings}) {
+    const utterances = [];
+    const take = number => {
+      while (findings.length > 0 && findings[0].sentence === number) {
+        this.#findings.push({...findings.shift(), sentence: this.#clauses.length});
+      }
+    };
+    sentences.forEach((clause, number) => {
+      take(number);
+      this.#clauses.push(clause);
+      const isWhole = this.#byClause || clause.endsSentence;
+      if (isWhole && this.#clauses.some(({words}) => words.length > 0)) utterances.push(this.#take());
+    });
+    take(sentences.length);
+    return utterances;
+  }
+}
+
+// The strings of chunks that are strings or UTF-8.
+async function* strings(chunks) {
+  const utf8 = new TextDecoder();
+  for await (const chunk of chunks) yield typeof chunk === 'string' ? chunk : utf8.decode(chunk, {stream: true});
+  yield utf8.decode();
 }
 
 // What is inside of an instance, by address. One in which a function threw, for want of memory or stack, is in no
@@ -217,35 +306,127 @@ class Reader {
     const {exports} = this.#memory;
     const status = exports.kavi_read(this.#reader, this.#memory.room, length, rules ? WANTS_RUNS : 0, this.#out);
     this.#check(status);
-    const result = this.#memory.u32(this.#out);
-    const sentences = [];
-    const findings = [];
     const bytes = this.#memory.bytes(this.#memory.room, length);
-    const units = new Units(bytes, text.length);
-    for (let i = 0; i < exports.kavi_result_sentences(result); ++i) {
-      sentences.push(this.#sentence(exports.kavi_result_sentence(result, i), text, units));
-    }
-    const ofFindings = new Units(bytes, text.length);
-    for (let i = 0; i < exports.kavi_result_findings(result); ++i) {
-      findings.push(this.#finding(exports.kavi_result_finding(result, i), ofFindings));
-    }
+    return {...this.#result(() => new Units(bytes, text)), complete: status === OK};
+  }
+
+  // What stands where a function has left a result.
+  #result(makeUnits) {
+    const {exports} = this.#memory;
+    const result = this.#memory.u32(this.#out);
+    const units = makeUnits();
+    const sentences = Array.from({length: exports.kavi_result_sentences(result)},
+      (_, i) => this.#sentence(exports.kavi_result_sentence(result, i), units));
+    const ofFindings = makeUnits();
+    const findings = Array.from({length: exports.kavi_result_findings(result)},
+      (_, i) => this.#finding(exports.kavi_result_finding(result, i), ofFindings));
     exports.kavi_result_free(result);
-    return {sentences, findings, complete: status === OK};
+    return {sentences, findings};
   }
 
   async *lines(chunks, options) {
-    const utf8 = new TextDecoder();
     let rest = '';
     let number = 0;
     const line = text => ({number: ++number, text, result: this.read(text, options)});
-    for await (const chunk of chunks) {
-      const pieces = (typeof chunk === 'string' ? chunk : utf8.decode(chunk, {stream: true})).split('\n');
+    for await (const chunk of strings(chunks)) {
+      const pieces = chunk.split('\n');
       pieces[0] = rest + pieces[0];
       rest = pieces.pop();
       for (const piece of pieces) yield line(piece);
     }
-    rest += utf8.decode();
     if (rest !== '') yield line(rest);
+  }
+
+  openStream(options = {}) {
+    refuseOthers(options, ['by', 'rules']);
+    const {by = 'sentence', rules = false} = options;
+    if (by !== 'sentence' && by !== 'clause') throw new TypeError(`neither by sentence nor by clause: ${by}`);
+    this.#put('');
+    const memory = this.#memory;
+    const {generation, exports} = memory;
+    this.#check(exports.kavi_stream_new(this.#reader, rules ? WANTS_RUNS : 0, this.#out));
+    const stream = memory.u32(this.#out);
+    let isFreed = false;
+    const checkIsThere = () => {
+      if (isFreed || this.#isFreed) throw new TypeError('the stream is freed');
+      if (generation !== memory.generation) throw new RangeError('the stream is lost: there was no memory or stack left');
+    };
+    // What is there of the text from where the next sentence begins.
+    let rest = '';
+    let first = 0;
+    let firstByte = 0;
+    // Where each "<" stands, by its byte: tags that nothing closes are told at the end, when the text is gone.
+    let tags = new Map();
+    let nUnits = 0;
+    let nBytes = 0;
+    const noteTags = piece => {
+      let byte = nBytes;
+      let from = 0;
+      for (let at = piece.indexOf('<'); at >= 0; at = piece.indexOf('<', at + 1)) {
+        byte += encoder.encode(piece.slice(from, at)).length;
+        from = at;
+        tags.set(byte, nUnits + at);
+      }
+      nUnits += piece.length;
+      nBytes = byte + encoder.encode(piece.slice(from)).length;
+    };
+    const tell = piece => {
+      checkIsThere();
+      noteTags(piece ?? '');
+      rest += piece ?? '';
+      const length = memory.put(piece ?? '');
+      this.#check(piece === null ? exports.kavi_stream_end(stream, this.#out)
+        : exports.kavi_stream_add(stream, memory.room, length, this.#out));
+      if (memory.u32(this.#out) === 0) return {sentences: [], findings: []};
+      const bytes = encoder.encode(rest);
+      const result = this.#result(() => new Units(bytes, rest, first, firstByte, tags));
+      const last = result.sentences.at(-1);
+      if (last !== undefined) {
+        const told = rest.slice(0, last.offset + last.length - first);
+        rest = rest.slice(told.length);
+        first += told.length;
+        firstByte += encoder.encode(told).length;
+      }
+      return result;
+    };
+    const forget = more => {
+      checkIsThere();
+      this.#check(exports.kavi_stream_forget(stream));
+      first += rest.length + more.length;
+      firstByte += encoder.encode(rest).length;
+      nUnits = first;
+      nBytes = firstByte;
+      tags = new Map();
+      rest = '';
+    };
+    const free = () => {
+      if (!isFreed && generation === memory.generation) exports.kavi_stream_free(stream);
+      isFreed = true;
+    };
+    return new Stream({tell, forget, free, by});
+  }
+
+  async *stream(pieces, options) {
+    const stream = this.openStream(options);
+    try {
+      for await (const piece of strings(pieces)) yield* stream.add(piece);
+      yield* stream.end();
+    } finally {
+      stream.free();
+    }
+  }
+
+  transform(options) {
+    const stream = this.openStream(options);
+    const give = (utterances, controller) => utterances.forEach(utterance => controller.enqueue(utterance));
+    return new TransformStream({
+      transform: (piece, controller) => give(stream.add(piece), controller),
+      flush: controller => {
+        give(stream.end(), controller);
+        stream.free();
+      },
+      cancel: () => stream.free(),
+    });
   }
 
   // For the playground: what kavi-tn's page has for a line.
@@ -286,7 +467,7 @@ class Reader {
     return {offset, length: units.at(begin + this.#memory.u32(at + 4)) - offset};
   }
 
-  #sentence(at, text, units) {
+  #sentence(at, units) {
     const memory = this.#memory;
     const range = this.#range(at + SENTENCE.source, units);
     const words = Array.from({length: memory.u32(at + SENTENCE.nWords)},
@@ -296,10 +477,11 @@ class Reader {
       return {...this.#range(run + RUN.source, units), rule: memory.chars(run + RUN.rule),
         reading: memory.text(run + RUN.reading)};
     });
-    return {...range, source: text.slice(range.offset, range.offset + range.length),
+    return {...range, source: units.slice(range),
       normalized: memory.text(at + SENTENCE.normalized), speakable: memory.text(at + SENTENCE.speakable),
       plain: memory.text(at + SENTENCE.plain), before: memory.text(at + SENTENCE.before),
-      head: this.#word(memory.u32(at + SENTENCE.head), units), words, runs};
+      head: this.#word(memory.u32(at + SENTENCE.head), units), words, runs,
+      endsSentence: memory.i32(at + SENTENCE.endsSentence) !== 0};
   }
 
   #word(at, units) {
@@ -358,5 +540,6 @@ export async function load(options = {}) {
   const reader = settings => new Reader(memory, settings);
   const theUsual = () => usual ??= reader({everyday});
   return {reader, normalize: text => theUsual().normalize(text), read: (text, settings) => theUsual().read(text, settings),
-    lines: (chunks, settings) => theUsual().lines(chunks, settings)};
+    lines: (chunks, settings) => theUsual().lines(chunks, settings),
+    stream: (pieces, settings) => theUsual().stream(pieces, settings)};
 }

@@ -12,14 +12,16 @@ import itertools
 import os
 import threading
 from collections import deque
-from typing import Any, Deque, Iterable, Iterator, List, NamedTuple, Optional, Tuple, Union
+from typing import (Any, AsyncIterable, AsyncIterator, Deque, Iterable, Iterator, List, NamedTuple, Optional, Tuple,
+                    Union, overload)
 
 from kavi import _kavi
 from kavi._kavi import Result, Sentence
-from kavi._types import Everyday, Finding, FindingCode, Mark, Pause, Run, Word
+from kavi._stream import Stream
+from kavi._types import Everyday, Finding, FindingCode, Mark, Pause, Run, Utterance, Word
 
 __all__ = ["Everyday", "Finding", "FindingCode", "Line", "Mark", "Pause", "Reader", "Result", "Run", "Sentence",
-           "Word", "normalize", "normalize_many", "read", "read_file"]
+           "Stream", "Utterance", "Word", "normalize", "normalize_many", "read", "read_file"]
 __version__ = _kavi.version
 
 _BATCH = 512  # texts that a thread is given at once
@@ -100,6 +102,22 @@ class Reader:
     def read(self, text: str, rules: bool = False) -> Result:
         """Returns sentences and findings; with `rules`, sentences tell which rule has read what."""
         return self._reader.read(text, rules)
+
+    def open_stream(self, by: str = "sentence", rules: bool = False) -> Stream:
+        """Returns a stream, which takes a text that is still being written piece by piece and reads as this reader
+        does. `by`: "sentence", or "clause" for the least delay."""
+        return Stream(self._reader, by, rules)
+
+    @overload
+    def stream(self, pieces: Iterable[str], by: str = ..., rules: bool = ...) -> Iterator[Utterance]: ...
+    @overload
+    def stream(self, pieces: AsyncIterable[str], by: str = ..., rules: bool = ...) -> AsyncIterator[Utterance]: ...
+    def stream(self, pieces: Union[Iterable[str], AsyncIterable[str]], by: str = "sentence",
+               rules: bool = False) -> Union[Iterator[Utterance], AsyncIterator[Utterance]]:
+        """Yields the utterances of a text that comes in pieces, each as soon as nothing that may follow can change it;
+        from pieces that are waited for, to "async for". Whoever stops the loop drops the rest."""
+        stream = self.open_stream(by, rules)
+        return stream.aread(pieces) if isinstance(pieces, AsyncIterable) else stream.read(pieces)
 
     def normalize_many(self, texts: Iterable[str], jobs: int = 1) -> Iterator[str]:
         """Yields what normalize() returns for each text, in order, by so many threads at once.

@@ -3,7 +3,10 @@
 from __future__ import annotations
 
 import enum
-from typing import Dict, NamedTuple, Tuple
+from typing import TYPE_CHECKING, Dict, NamedTuple, Tuple
+
+if TYPE_CHECKING:
+    from kavi._kavi import Sentence
 
 
 class Pause(enum.IntEnum):
@@ -118,3 +121,25 @@ class Finding(NamedTuple):
     offset: int
     length: int
     sentence: int  # the sentence it belongs to, from 0; the number of sentences for one after the last
+
+
+class Utterance(NamedTuple):
+    """What a stream hands over at once: a sentence, or a clause of one."""
+
+    clauses: Tuple[Sentence, ...]
+    findings: Tuple[Finding, ...]  # each `sentence` is the number of one of the clauses
+
+    @property
+    def plain(self) -> str:
+        """What is spoken; those of all utterances, one after the other, are what normalize() returns."""
+        return "".join(clause.plain for clause in self.clauses)
+
+    @property
+    def source(self) -> str:
+        """As it was written."""
+        return "".join(clause.source for clause in self.clauses)
+
+    @property
+    def words(self) -> Tuple[Word, ...]:
+        """Their offsets are code points from the begin of the stream."""
+        return tuple(word for clause in self.clauses for word in clause.words)

@@ -10,6 +10,7 @@
 #include "reader.h"
 #include "result.h"
 #include "run_tool.h"
+#include "stream.h"
 #include "tts_names.h"
 
 namespace py = pybind11;
@@ -55,4 +56,5 @@ PYBIND11_MODULE(_kavi, module) {
     module.def("names", names);
     kavi::python::add_results(module);
     kavi::python::add_reader(module);
+    kavi::python::add_stream(module);
 }

@@ -62,7 +62,7 @@ class Reader::Turn {
 
 Reader::Reader(std::size_t capacity, const std::string& lexicon_name, const py::bytes& lexicon,
                unsigned everyday, bool american_dates)
-    : host_(capacity), everyday_(&lexicon_) {
+    : capacity_(capacity), host_(capacity), everyday_(&lexicon_) {
     std::string error;
     if (!lexicon_.add(lexicon_name, std::string(lexicon), error))
         throw std::invalid_argument(error);
@@ -72,7 +72,8 @@ Reader::Reader(std::size_t capacity, const std::string& lexicon_name, const py::
                       (everyday >> static_cast<unsigned>(i) & 1U) != 0);
     }
     everyday_.set_american_dates(american_dates);
-    if (!lexicon_.empty() || everyday != 0) host_.rewrite_by(&everyday_);
+    if (!lexicon_.empty() || everyday != 0) rewriter_ = &everyday_;
+    host_.rewrite_by(rewriter_);
 }
 
 bool Reader::append_plain(std::string_view text, std::string& spoken) {

@@ -22,16 +22,22 @@ class Reader {
     pybind11::list normalize_batch(const pybind11::list& texts);
     Result read(const pybind11::str& text, bool rules);
 
+    // For streams that read alike; they stay as long as the reader.
+    std::size_t capacity() const { return capacity_; }
+    const TextRewriter* rewriter() const { return rewriter_; }
+
   private:
     class Turn;
 
     // Appends what is spoken for the text; false when the capacity does not hold it.
     bool append_plain(std::string_view text, std::string& spoken);
 
+    std::size_t capacity_;
     TtsHost host_;
     PlainForm plain_;  // of the last sentence
     Lexicon lexicon_;
     Everyday everyday_;
+    const TextRewriter* rewriter_ = nullptr;  // that, or null
     std::atomic<bool> is_reading_ = false;
 };
 

@@ -33,8 +33,8 @@ constexpr const char* RUN = "Run";
 constexpr const char* FINDING = "Finding";
 constexpr const char* FINDING_CODE = "FindingCode";
 
-// As Utf8 has made them: a surrogate is three bytes. Other bytes that are no UTF-8, those of a
-// character that was cut, are the surrogates that Python has for bytes.
+}  // namespace
+
 py::str shown(std::string_view text) {
     const auto size = static_cast<Py_ssize_t>(text.size());
     PyObject* object = PyUnicode_DecodeUTF8(text.data(), size, "surrogatepass");
@@ -45,6 +45,8 @@ py::str shown(std::string_view text) {
     if (object == nullptr) throw py::error_already_set();
     return py::reinterpret_steal<py::str>(object);
 }
+
+namespace {
 
 py::object word_of(const Word& word) {
     py::tuple marks(word.marks.size());
@@ -77,7 +79,7 @@ py::tuple runs_of(const SentenceOfText& of) {
 py::tuple sentences_of(const Result& result) {
     py::tuple all(result.sentences.size());
     for (std::size_t i = 0; i < result.sentences.size(); ++i) {
-        all[i] = SentenceOfText{result.sentences[i], result.text};
+        all[i] = SentenceOfText{result.sentences[i], result.text, result.text_offset};
     }
     return all;
 }
@@ -115,11 +117,12 @@ py::tuple state_of(const SentenceOfText& of) {
     return py::make_tuple(of.text, sentence.source.offset, sentence.source.length,
                           shown(sentence.normalized), shown(sentence.speakable),
                           shown(sentence.plain), shown(sentence.before), word_of(sentence.words[0]),
-                          words_of(of), runs_of(of));
+                          words_of(of), runs_of(of), sentence.ends_sentence, of.text_offset);
 }
 
 py::tuple state_of(const Result& result) {
-    return py::make_tuple(result.text, sentences_of(result), findings_of(result), result.complete);
+    return py::make_tuple(result.text, sentences_of(result), findings_of(result), result.complete,
+                          result.text_offset);
 }
 
 std::string bytes_of(const py::handle& text) {
@@ -144,7 +147,8 @@ Word word_from(const py::handle& object) {
 SentenceOfText sentence_from(const py::str& text, std::size_t offset, std::size_t length,
                              const py::str& normalized, const py::str& speakable,
                              const py::str& plain, const py::str& before, const py::tuple& head,
-                             const py::tuple& words, const py::tuple& runs) {
+                             const py::tuple& words, const py::tuple& runs, bool ends_sentence,
+                             std::size_t text_offset) {
     auto sentence = std::make_shared<Sentence>();
     sentence->source = {offset, length};
     sentence->normalized = bytes_of(normalized);
@@ -159,7 +163,8 @@ SentenceOfText sentence_from(const py::str& text, std::size_t offset, std::size_
                                   bytes_of(run[2]),
                                   bytes_of(run[3])});
     }
-    return {sentence, text};
+    sentence->ends_sentence = ends_sentence;
+    return {sentence, text, text_offset};
 }
 
 kavi::Finding finding_of(const std::string& code) {
@@ -170,8 +175,8 @@ kavi::Finding finding_of(const std::string& code) {
 }
 
 Result result_from(const py::str& text, const py::tuple& sentences, const py::tuple& findings,
-                   bool complete) {
-    Result result = {text, {}, {}, complete};
+                   bool complete, std::size_t text_offset) {
+    Result result = {text, {}, {}, complete, text_offset};
     for (const py::handle sentence : sentences) {
         result.sentences.push_back(sentence.cast<const SentenceOfText&>().sentence);
     }
@@ -211,11 +216,12 @@ py::custom_type_setup not_made_by_python() {
 }
 
 Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs,
-                   PlainForm& form, CodePoints& code_points)
+                   PlainForm& form, CodePoints& code_points, std::size_t text_begin)
     : source(place_of(sentence.source, code_points)),
       normalized(sentence.normalized),
-      speakable(sentence.speakable) {
-    form.read(sentence, text);
+      speakable(sentence.speakable),
+      ends_sentence(sentence.ends_sentence) {
+    form.read(sentence, text, text_begin);
     plain = form.all();
     before = form.before();
     const auto n_records = static_cast<std::size_t>(sentence.n_records);
@@ -226,10 +232,13 @@ Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wan
                                 places[i], code_points));
     }
     if (!wants_runs) return;
-    explain(sentence, text, [&](const ExplainedRun& run) {
-        runs.push_back(
-            {place_of(run.source, code_points), std::string(run.rule), std::string(run.reading)});
-    });
+    explain(
+        sentence, text,
+        [&](const ExplainedRun& run) {
+            runs.push_back({place_of(run.source, code_points), std::string(run.rule),
+                            std::string(run.reading)});
+        },
+        text_begin);
 }
 
 void add_results(py::module_& module) {
@@ -241,8 +250,8 @@ void add_results(py::module_& module) {
             "source",
             [](const SentenceOfText& of) {
                 const Place place = of.sentence->source;
-                return of.text[py::slice(static_cast<py::ssize_t>(place.offset),
-                                         static_cast<py::ssize_t>(place.offset + place.length), 1)];
+                const auto begin = static_cast<py::ssize_t>(place.offset - of.text_offset);
+                return of.text[py::slice(begin, begin + static_cast<py::ssize_t>(place.length), 1)];
             })
         .def_property_readonly("offset",
                                [](const SentenceOfText& of) { return of.sentence->source.offset; })
@@ -259,6 +268,8 @@ void add_results(py::module_& module) {
         .def_property_readonly(
             "head", [](const SentenceOfText& of) { return word_of(of.sentence->words[0]); })
         .def_property_readonly("words", words_of)
+        .def_property_readonly("ends_sentence",
+                               [](const SentenceOfText& of) { return of.sentence->ends_sentence; })
         .def_property_readonly("runs", runs_of);
     py::class_<Result> result(module, "Result", "What a text was read as.", not_made_by_python());
     add_state(result, "Result", "_result");

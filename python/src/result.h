@@ -39,9 +39,10 @@ struct Run {
 struct Sentence {
     Sentence() = default;
 
-    // A copy of what is read from `text`, whose offsets these are. `form` is written anew.
+    // A copy of what is read from a text, of which `text` is what is there from `text_begin` on.
+    // `form` is written anew.
     Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs, PlainForm& form,
-             CodePoints& code_points);
+             CodePoints& code_points, std::size_t text_begin = 0);
 
     Place source;
     std::string normalized;
@@ -50,6 +51,7 @@ struct Sentence {
     std::string before;
     std::vector<Word> words;  // the first is the head
     std::vector<Run> runs;
+    bool ends_sentence = true;
 };
 
 struct Finding {
@@ -63,13 +65,19 @@ struct Result {
     std::vector<std::shared_ptr<Sentence>> sentences;
     std::vector<Finding> findings;
     bool complete = true;
+    std::size_t text_offset = 0;  // where the text begins
 };
 
 // A sentence with the text that it is of.
 struct SentenceOfText {
     std::shared_ptr<Sentence> sentence;
     pybind11::str text;
+    std::size_t text_offset = 0;
 };
+
+// As Utf8 has made them: a surrogate is three bytes. Other bytes that are no UTF-8, those of a
+// character that was cut, are the surrogates that Python has for bytes.
+pybind11::str shown(std::string_view text);
 
 void add_results(pybind11::module_& module);
 

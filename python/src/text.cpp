@@ -22,6 +22,7 @@ Utf8::Utf8(const py::str& text) : is_ascii_(PyUnicode_IS_ASCII(text.ptr()) != 0)
 
 std::size_t CodePoints::at(std::size_t byte) {
     if (is_ascii_) return byte;
+    byte -= first_byte_;
     const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xc0U) != 0x80; };
     const auto begin = bytes_.begin() + static_cast<std::ptrdiff_t>(std::min(byte, byte_));
     const auto end = bytes_.begin() + static_cast<std::ptrdiff_t>(std::max(byte, byte_));

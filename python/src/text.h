@@ -26,14 +26,18 @@ class Utf8 {
 // Offsets in code points for offsets in bytes; cheap for one after the other.
 class CodePoints {
   public:
-    CodePoints(std::string_view bytes, bool is_ascii) : bytes_(bytes), is_ascii_(is_ascii) {}
+    // Of bytes that begin at this byte and this code point of a text.
+    CodePoints(std::string_view bytes, bool is_ascii, std::size_t first_byte = 0,
+               std::size_t first_point = 0)
+        : bytes_(bytes), is_ascii_(is_ascii), first_byte_(first_byte), point_(first_point) {}
     std::size_t at(std::size_t byte);
 
   private:
     std::string_view bytes_;
     bool is_ascii_;
-    std::size_t byte_ = 0;   // the last that was asked for,
-    std::size_t point_ = 0;  // and its code point
+    std::size_t first_byte_;
+    std::size_t byte_ = 0;  // the last that was asked for, in these bytes,
+    std::size_t point_;     // and its code point
 };
 
 }  // namespace kavi::python

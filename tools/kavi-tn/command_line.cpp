@@ -39,6 +39,8 @@ How it is read:
   -t, --text TEXT      read TEXT first
   -0, --null           texts end with a NUL byte instead of a line end
   --part I/N           of the FILEs together, the I-th of N parts, cut at line ends
+  --stream             standard input is one text, and each clause written as soon as nothing
+                       that may come can change it
   -j, --jobs N         with N threads, 0 for all processors; the output stays the same
 
 With other readings than the engine's:
@@ -162,6 +164,7 @@ class Parser {
         without_ = add_value("--without", set_without);
         american_dates_ = add_flag("--american-dates", options.american_dates);
         add_flag("--check", options.check);
+        add_flag("--stream", options.stream);
         add_stage("--sentences", Stage::sentences);
         add_stage("--speakable", Stage::speakable);
         add_stage("--plain", Stage::plain);
@@ -214,6 +217,12 @@ class Parser {
         }
         if (!options_.findings.empty() && options_.findings == options_.output) {
             return "--findings and --output name the same file";
+        }
+        const bool is_of_lines = text_->count() > 0 || !options_.files.empty() || null_ ||
+                                 options_.check || has_frame || !options_.output.empty() ||
+                                 !options_.findings.empty();
+        if (options_.stream && is_of_lines) {
+            return "--stream goes with standard input and output, and --format text or jsonl alone";
         }
         options_.has_text = text_->count() > 0;
         if (null_) options_.delimiter = '\0';

@@ -22,8 +22,7 @@ void append_character(char32_t c, std::string& list) {
 
 }  // namespace
 
-std::string describe(const Diagnostic& diagnostic, std::string_view text) {
-    const std::string_view bytes = text.substr(diagnostic.offset, diagnostic.length);
+std::string describe(const Diagnostic& diagnostic, std::string_view bytes) {
     if (diagnostic.finding == Finding::mark_not_spoken) {
         return '"' + std::string(bytes) + "\": " + kavi::describe(diagnostic.finding);
     }

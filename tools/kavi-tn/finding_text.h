@@ -9,8 +9,8 @@
 
 namespace kavi::tool {
 
-// One clear sentence, with the characters that the finding is about.
-std::string describe(const Diagnostic& diagnostic, std::string_view text);
+// One clear sentence, with the characters that the finding is about: its `bytes` in the text.
+std::string describe(const Diagnostic& diagnostic, std::string_view bytes);
 
 }  // namespace kavi::tool
 

@@ -2,6 +2,7 @@
 #ifndef KAVI_TOOL_FORMAT_H
 #define KAVI_TOOL_FORMAT_H
 
+#include <algorithm>
 #include <iterator>
 #include <memory>
 #include <set>
@@ -17,10 +18,15 @@ namespace kavi::tool {
 // Where a sentence comes from.
 struct Place {
     std::string_view input;
-    std::size_t input_number;  // from 1
-    std::size_t line;          // the text's number in its input, from 1
-    std::size_t sentence;      // its number in the text, from 1
-    std::string_view text;     // all of it
+    std::size_t input_number;    // from 1
+    std::size_t line;            // the text's number in its input, from 1
+    std::size_t sentence;        // its number in the text, from 1
+    std::string_view text;       // all of it, or
+    std::size_t text_begin = 0;  // what is there of it from here on
+
+    std::string_view part(const TextRange& range) const {
+        return text.substr(range.offset - std::min(range.offset, text_begin), range.length);
+    }
 };
 
 // One more than are told.

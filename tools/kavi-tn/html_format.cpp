@@ -279,7 +279,7 @@ class HtmlFormat : public Format {
         for (const Diagnostic& d : diagnostics) {
             ++number;
             text_ << "<li id=" << anchor(place) << '-' << number << ">byte " << d.offset << ": ";
-            append_escaped(describe(d, place.text), text_);
+            append_escaped(describe(d, place.part({d.offset, d.length})), text_);
         }
         text_ << (diagnostics.empty() ? "</article>\n" : "</ol></article>\n");
     }

@@ -90,7 +90,7 @@ class JsonFormat : public Format {
 
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
-        if (needs_plain_) plain_.read(sentence, place.text);
+        if (needs_plain_) plain_.read(sentence, place.text, place.text_begin);
         line_.begin();
         for (const Field field : fields_) {
             line_.key(name_of(field));
@@ -125,7 +125,7 @@ class JsonFormat : public Format {
             case Field::sentence: return line_.number(place.sentence);
             case Field::offset: return line_.number(source.offset);
             case Field::length: return line_.number(source.length);
-            case Field::source: return line_.text(place.text.substr(source.offset, source.length));
+            case Field::source: return line_.text(place.part(source));
             case Field::normalized: return line_.text(sentence.normalized);
             case Field::speakable: return line_.text(sentence.speakable);
             case Field::plain: return line_.text(plain_.all());
@@ -184,7 +184,9 @@ class JsonFormat : public Format {
                 line_.object([&] {
                     line_.field("code", code_of(diagnostic.finding));
                     line_.range({diagnostic.offset, diagnostic.length});
-                    line_.field("message", describe(diagnostic, place.text));
+                    line_.field(
+                        "message",
+                        describe(diagnostic, place.part({diagnostic.offset, diagnostic.length})));
                 });
             }
         });
@@ -192,7 +194,7 @@ class JsonFormat : public Format {
 
     void write_runs(const Place& place, const HostSentence& sentence) {
         line_.array([&] {
-            explain(sentence, place.text, [&](const ExplainedRun& run) {
+            const auto on_run = [&](const ExplainedRun& run) {
                 line_.object([&] {
                     line_.range(run.source);
                     line_.field("rule", run.rule);
@@ -202,7 +204,8 @@ class JsonFormat : public Format {
                     });
                     line_.field("reading", run.reading);
                 });
-            });
+            };
+            explain(sentence, place.text, on_run, place.text_begin);
         });
     }
 

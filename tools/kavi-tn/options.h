@@ -43,7 +43,8 @@ struct Options {
     bool everyday = false;
     std::vector<EverydayClass> without;  // classes of everyday English that stay off
     bool american_dates = false;
-    bool check = false;  // the files hold texts and the words that are expected
+    bool stream = false;  // standard input is one text, answered clause by clause
+    bool check = false;   // the files hold texts and the words that are expected
     char delimiter = '\n';
     unsigned part = 1;  // of the files, of `parts`, cut at the ends of texts
     unsigned parts = 1;

@@ -59,7 +59,8 @@ void Renderer::render_text(Place place, After after) {
         },
         [&](const Diagnostic& diagnostic) {
             diagnostics_.push_back(diagnostic);
-            const std::string message = describe(diagnostic, place.text);
+            const std::string message =
+                describe(diagnostic, place.part({diagnostic.offset, diagnostic.length}));
             piece_.findings.push_back(
                 {diagnostic.finding, shown(place.input) + ":" + std::to_string(place.line) +
                                          ": byte " + std::to_string(diagnostic.offset) + ": " +

@@ -10,6 +10,7 @@
 #include "command_line.h"
 #include "output.h"
 #include "pipeline.h"
+#include "stream.h"
 
 namespace kavi::tool {
 
@@ -33,7 +34,8 @@ int run_tool(int argc, char** argv) {
         int status = 0;
         const auto options = parse_command_line(argc, argv, status);
         if (!options) return status;
-        return options->check ? run_check(*options) : run_pipeline(*options);
+        if (options->check) return run_check(*options);
+        return options->stream ? run_stream(*options) : run_pipeline(*options);
     } catch (const std::exception& error) {
         write_messages("kavi-tn: " + std::string(error.what()) + "\n");
         return 1;

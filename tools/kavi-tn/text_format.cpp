@@ -150,7 +150,7 @@ class PlainFormat : public Format {
   public:
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
-        plain_.read(sentence, place.text);
+        plain_.read(sentence, place.text, place.text_begin);
         out += plain_.all();
     }
     void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
@@ -172,7 +172,7 @@ class WordFormat : public Format {
             if (i == 0 && !has_marks(record)) continue;
             const TextRange source = sentence.places.of_record(i).source;
             table_.add(i == 0 ? "(head)" : word_of(record));
-            table_.add(place.text.substr(source.offset, source.length));
+            table_.add(place.part(source));
             table_.add(pause_name(record.pause_type));
             append_punctuation(record, table_.field());
             table_.end_field();
@@ -194,7 +194,7 @@ class ExplainFormat : public Format {
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
         table_.clear();
-        explain(sentence, place.text, [&](const ExplainedRun& run) {
+        const auto on_run = [&](const ExplainedRun& run) {
             if (run.sections.size() == 1 && run.sections[0] == " ") return;
             table_.field() << "  ";
             for (const std::string_view section : run.sections) {
@@ -203,7 +203,8 @@ class ExplainFormat : public Format {
             table_.end_field();
             table_.add(run.rule);
             table_.add(run.reading.substr(0, run.reading.find_last_not_of(' ') + 1));
-        });
+        };
+        explain(sentence, place.text, on_run, place.text_begin);
         table_.append_to(out);
     }
 

@@ -18,6 +18,7 @@ static_assert(offsetof(kavi_sentence, speakable) == 16 && offsetof(kavi_sentence
 static_assert(offsetof(kavi_sentence, before) == 32 && offsetof(kavi_sentence, head) == 40);
 static_assert(offsetof(kavi_sentence, words) == 44 && offsetof(kavi_sentence, n_words) == 48);
 static_assert(offsetof(kavi_sentence, runs) == 52 && offsetof(kavi_sentence, n_runs) == 56);
+static_assert(offsetof(kavi_sentence, ends_sentence) == 60);
 
 static_assert(sizeof(kavi_run) == 20 && offsetof(kavi_run, source) == 0);
 static_assert(offsetof(kavi_run, rule) == 8 && offsetof(kavi_run, reading) == 12);

@@ -17,7 +17,7 @@ _kavi_tn() {
     esac
     case $current in
         -*) mapfile -t COMPREPLY < <(compgen -W "-t --text -o --output -0 --null -j --jobs --strict
-            --findings --summary --format --fields --marks --part --lexicon --everyday --without --american-dates --check --sentences --speakable --plain --words --explain -h --help
+            --findings --summary --format --fields --marks --part --lexicon --everyday --without --american-dates --stream --check --sentences --speakable --plain --words --explain -h --help
             --version" -- "$current") ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     esac

@@ -1,0 +1,118 @@
+#include "stream.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <stdexcept>
+#include <vector>
+
+#include "finding_text.h"
+#include "findings_report.h"
+#include "format.h"
+#include "output.h"
+#include "readings.h"
+#include "tts_stream.h"
+
+namespace kavi::tool {
+
+namespace {
+
+// Writes what a stream tells.
+class Writer {
+  public:
+    explicit Writer(const Options& options)
+        : format_(make_format(options)), place_{"standard input", 1, 1, 0, {}} {
+        require(output_.open(""));
+    }
+
+    void write(const TtsStream& stream, const HostSentence& sentence) {
+        look_at(stream);
+        ++place_.sentence;
+        format_->write(place_, sentence, diagnostics_, lines_);
+        diagnostics_.clear();
+        require(output_.write(lines_));
+        lines_.clear();
+    }
+
+    void write(const TtsStream& stream, const Diagnostic& found) {
+        look_at(stream);
+        diagnostics_.push_back(found);
+        write_messages(findings_.take(
+            {{found.finding, "standard input:1: byte " + std::to_string(found.offset) + ": " +
+                                 describe(found, place_.part({found.offset, found.length})) +
+                                 "\n"}}));
+    }
+
+    // At the end of the text.
+    void end(const TtsStream& stream, bool with_summary) {
+        look_at(stream);
+        format_->end_text(place_, diagnostics_, lines_);
+        require(output_.write(lines_));
+        write_messages(findings_.not_written() + (with_summary ? findings_.summary() : ""));
+        require(output_.commit());
+    }
+
+    bool has_findings() const { return !findings_.empty(); }
+
+  private:
+    static void require(int error) {
+        if (error != 0)
+            throw std::runtime_error("cannot write standard output: " + Output::describe(error));
+    }
+
+    void look_at(const TtsStream& stream) {
+        place_.text = stream.text();
+        place_.text_begin = stream.text_begin();
+    }
+
+    Output output_;
+    std::unique_ptr<Format> format_;
+    FindingsReport findings_;
+    Place place_;
+    std::vector<Diagnostic> diagnostics_;  // of the sentence to come
+    std::string lines_;
+};
+
+// What comes next of standard input; empty at its end.
+std::string_view next_piece(std::array<char, 65536>& room) {
+    ssize_t n = 0;
+    do {
+        n = ::read(STDIN_FILENO, room.data(), room.size());
+    } while (n < 0 && errno == EINTR);
+    if (n < 0) {
+        throw std::runtime_error(std::string("standard input: cannot be read: ") +
+                                 std::strerror(errno));
+    }
+    return {room.data(), static_cast<std::size_t>(n)};
+}
+
+}  // namespace
+
+int run_stream(const Options& options) {
+    Readings readings;
+    if (const std::string faults = readings.load(options); !faults.empty()) {
+        write_messages(faults);
+        return EXIT_FAILURE;
+    }
+    announce_terminal(options);
+    TtsHost host;
+    host.rewrite_by(readings.everyday());
+    Writer writer(options);
+    const TtsStream* told_by = nullptr;
+    const auto write = [&](const auto& told) {
+        writer.write(*told_by, told);
+        return true;
+    };
+    TtsStream stream(host, write, write);
+    told_by = &stream;
+    std::array<char, 65536> room = {};
+    for (std::string_view piece; !(piece = next_piece(room)).empty();) stream.add(piece);
+    const bool all_read = stream.end();
+    writer.end(stream, options.summary);
+    return all_read && !(options.strict && writer.has_findings()) ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace kavi::tool

@@ -50,10 +50,12 @@ class TtsStream {
 
   private:
     bool read(bool is_complete);
-    bool may_tell(std::string_view part);
+    bool take(std::string_view part);
+    bool may_tell(std::string_view part) const;
     void drop_told();
 
     TtsHost& host_;
+    host::TextReader& reader_;
     TtsHost::SentenceHandler on_sentence_;
     TtsHost::DiagnosticHandler on_diagnostic_;
     std::string kept_;            // of the text

@@ -11,24 +11,7 @@ bool is_before(const Diagnostic& a, const Diagnostic& b) {
     return a.offset < b.offset;
 }
 
-bool is_clause_mark(char c) {
-    switch (c) {
-        case '.':
-        case ',':
-        case ':':
-        case ';':
-        case '?':
-        case '!': return true;
-        default: return false;
-    }
-}
-
 }  // namespace
-
-std::size_t find_clause_mark(std::string_view text, std::size_t at) {
-    while (at < text.size() && !is_clause_mark(text[at])) ++at;
-    return at;
-}
 
 void TextReader::begin(std::size_t offset) {
     window_.begin(offset, rewriter_);
@@ -97,17 +80,17 @@ bool TextReader::read_early() {
     return !needs_full_window_;
 }
 
-// Where none that was found before ends it.
+// From the end, since what ends a clause mostly came last.
 bool TextReader::may_end_early() {
     const std::string_view text(window_.text(), window_.length());
-    const std::string_view known =
-        text.substr(0, text.size() - std::min(text.size(), CLAUSE_LOOK_AHEAD));
-    while ((searched_ = find_clause_mark(known, searched_)) < known.size()) {
+    const std::size_t known = text.size() - std::min(text.size(), CLAUSE_LOOK_AHEAD);
+    for (std::size_t mark = known; mark > searched_;) {
+        --mark;
         const bool joins_digits =
-            searched_ > 0 && tn::is_digit(text[searched_ - 1]) && tn::is_digit(text[searched_ + 1]);
-        if (!joins_digits) return true;
-        ++searched_;
+            mark > 0 && tn::is_digit(text[mark - 1]) && tn::is_digit(text[mark + 1]);
+        if (is_clause_mark(text[mark]) && !joins_digits) return true;
     }
+    searched_ = std::max(searched_, known);
     return false;
 }
 

@@ -16,8 +16,23 @@
 
 namespace kavi::host {
 
+constexpr bool is_clause_mark(char c) {
+    switch (c) {
+        case '.':
+        case ',':
+        case ':':
+        case ';':
+        case '?':
+        case '!': return true;
+        default: return false;
+    }
+}
+
 // The first mark from `at` on that may end a clause or a sentence, else the text's end.
-std::size_t find_clause_mark(std::string_view text, std::size_t at);
+inline std::size_t find_clause_mark(std::string_view text, std::size_t at) {
+    while (at < text.size() && !is_clause_mark(text[at])) ++at;
+    return at;
+}
 
 // How far after such a mark the engine looks to know what it is: as in "e.g.".
 constexpr std::size_t CLAUSE_LOOK_AHEAD = 2;

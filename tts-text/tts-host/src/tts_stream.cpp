@@ -27,6 +27,7 @@ bool is_blank(char c) {
 TtsStream::TtsStream(TtsHost& host, TtsHost::SentenceHandler on_sentence,
                      TtsHost::DiagnosticHandler on_diagnostic)
     : host_(host),
+      reader_(*host.reader_),
       on_sentence_(std::move(on_sentence)),
       on_diagnostic_(std::move(on_diagnostic)),
       is_owner_(!host.has_stream_ && !host.reader_->is_reading()) {
@@ -40,44 +41,45 @@ TtsStream::~TtsStream() {
 }
 
 bool TtsStream::add(std::string_view piece) {
-    if (!is_open_ || host_.reader_->is_reading()) return false;
-    while (!piece.empty()) {
-        const std::string_view part = piece.substr(0, PART);
-        piece.remove_prefix(part.size());
-        kept_ += part;
-        unread_ += part.size();
-        if (may_tell(part) && !read(false)) return false;
+    if (!is_open_ || reader_.is_reading()) return false;
+    for (; piece.size() > PART; piece.remove_prefix(PART)) {
+        if (!take(piece.substr(0, PART))) return false;
     }
-    return true;
+    return take(piece);
+}
+
+// Pieces are short: most of them are kept, and that is all.
+bool TtsStream::take(std::string_view part) {
+    if (mark_ == kept_.size()) mark_ += host::find_clause_mark(part, 0);
+    kept_.append(part.data(), part.size());
+    unread_ += part.size();
+    const bool has_clause = mark_ + host::CLAUSE_LOOK_AHEAD < kept_.size() && may_tell(part);
+    return (!has_clause && unread_ < PART) || read(false);
 }
 
 bool TtsStream::end() {
-    if (!is_open_ || host_.reader_->is_reading()) return false;
-    const bool is_read = read(true) && host_.reader_->all_read();
+    if (!is_open_ || reader_.is_reading()) return false;
+    if (!read(true)) return false;
     is_open_ = false;
-    return is_read;
+    return reader_.all_read();
 }
 
 void TtsStream::forget() {
     if (!is_owner_) return;
-    is_forgotten_ = host_.reader_->is_reading();
+    is_forgotten_ = reader_.is_reading();
     if (is_forgotten_) return;
     kept_begin_ += kept_.size();
     kept_.clear();
     unread_ = mark_ = 0;
-    host_.reader_->begin(kept_begin_);
+    reader_.begin(kept_begin_);
     is_open_ = true;
 }
 
-// Whether a clause may have ended that was not told when it was read last, or much has come. What
-// follows the clause has to be there, and where it is rewritten a word has to end.
-bool TtsStream::may_tell(std::string_view part) {
-    if (unread_ >= PART) return true;
-    const host::TextReader& reader = *host_.reader_;
-    if (reader.needs_full_window()) return false;
-    mark_ = host::find_clause_mark(kept_, mark_);
-    if (mark_ + host::CLAUSE_LOOK_AHEAD >= kept_.size()) return false;
-    return !reader.is_rewritten() || std::any_of(part.begin(), part.end(), is_blank);
+// Whether a clause may have ended with this part that was not told when it was read last. Where it
+// is rewritten, the word after it has to end.
+bool TtsStream::may_tell(std::string_view part) const {
+    if (reader_.needs_full_window()) return false;
+    return !reader_.is_rewritten() || std::any_of(part.begin(), part.end(), is_blank);
 }
 
 // It stays closed when a handler throws.
@@ -86,8 +88,7 @@ bool TtsStream::read(bool is_complete) {
     const auto goes_on = [this](const auto& handler, const auto& told) {
         return (!handler || handler(told)) && !is_forgotten_;
     };
-    host::TextReader& reader = *host_.reader_;
-    is_open_ = reader.read(
+    is_open_ = reader_.read(
         kept_, kept_begin_, is_complete,
         [&](const HostSentence& sentence) { return goes_on(on_sentence_, sentence); },
         [&](const Diagnostic& found) { return goes_on(on_diagnostic_, found); });
@@ -96,17 +97,16 @@ bool TtsStream::read(bool is_complete) {
         return false;
     }
     unread_ = 0;
-    mark_ = reader.searched_to() - kept_begin_;
+    mark_ = host::find_clause_mark(kept_, reader_.searched_to() - kept_begin_);
     drop_told();
     return is_open_;
 }
 
 // What was told, but for what is looked back at; when it is much, so that each byte moves seldom.
 void TtsStream::drop_told() {
-    const host::TextReader& reader = *host_.reader_;
-    const std::size_t fed = reader.fed_to() - kept_begin_;
+    const std::size_t fed = reader_.fed_to() - kept_begin_;
     const std::size_t told =
-        std::max(reader.sentence_begin() - kept_begin_, fed - std::min(fed, KEPT_MAX));
+        std::max(reader_.sentence_begin() - kept_begin_, fed - std::min(fed, KEPT_MAX));
     if (told < 2 * TOLD_MAX) return;
     std::size_t begin = told - TextRewriter::LOOK_BACK_MAX;
     while (begin > told - TOLD_MAX && is_blank(kept_[begin])) --begin;

@@ -153,7 +153,7 @@ export interface Kavi {
 }
 
 /**
- * Loads the engine: 70 KB; with everyday English and lexicons, 198 KB. `wasm` is the bytes of kavi.wasm or
+ * Loads the engine: 75 KB; with everyday English and lexicons, 198 KB. `wasm` is the bytes of kavi.wasm or
  * kavi-everyday.wasm where they are not beside this file. Throws what fetch() or the file system throws.
  *
  * A call that has no memory or stack left throws, and all readers read the next text. Options that are not listed

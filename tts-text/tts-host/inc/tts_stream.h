@@ -14,8 +14,8 @@ namespace kavi {
 // or a character. Handlers are called as TtsHost::read() would call them for the whole text: the
 // same sentences, records, places and findings in the same order, each as soon as nothing that may
 // follow can change it. For a clause that is mostly when the next word has begun, or, where a
-// rewriter reads, ended. At most about 200 KB of text are kept. All offsets count from the begin of
-// the stream.
+// rewriter reads, ended. At most about 100 KB of text are kept, and a megabyte of bytes outside
+// ASCII in a row. All offsets count from the begin of the stream.
 class TtsStream {
   public:
     // Has the host, which outlives it, to itself: meanwhile that reads nothing else, and a second

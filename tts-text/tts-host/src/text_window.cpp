@@ -18,7 +18,7 @@ constexpr std::size_t REMOVED_TAG_MAX = 500;
 constexpr std::size_t FOREIGN_TAG_MAX = 256;
 
 // Of bytes outside ASCII that are reported as one; a longer stretch is reported in parts.
-constexpr std::size_t STRETCH_MAX = 65536;
+constexpr std::size_t STRETCH_MAX = std::size_t{1} << 20U;
 
 bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;

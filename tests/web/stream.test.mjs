@@ -42,7 +42,7 @@ test('all utterances together are what is read at once, however the text is cut'
 
 test('a stream by hand is interrupted, ended and lost', () => {
   const stream = small.reader().openStream({by: 'clause'});
-  assert.deepEqual(stream.add('Ü. Two, thr\ud83d').map(({plain}) => plain), [' Two,']);
+  assert.deepEqual(stream.add('Ü. Two, thr\ud83d').map(({plain}) => plain), ['. Two,']);
   stream.forget();
   const [four] = stream.add('Four').concat(stream.end());
   assert.deepEqual([four.plain, four.source, four.words[0].offset], ['Four', 'Four', 12]);
@@ -76,7 +76,7 @@ test('the example says what it should', () => {
     mkdirSync(join(folder, 'node_modules'));
     symlinkSync(process.env.KAVI_PACKAGE, join(folder, 'node_modules/kavi-tn'));
     copyFileSync(new URL('../../examples/stream.mjs', import.meta.url), join(folder, 'stream.mjs'));
-    assert.equal(execFileSync('node', [join(folder, 'stream.mjs')]).toString(), `It is on January third, twenty twenty four.
+    assert.equal(execFileSync('node', [join(folder, 'stream.mjs')]).toString(), `It is on January third twenty twenty four.
 We meet at five thirty p m and it costs one point five million dollars!
 Then we go.
 Yes 0

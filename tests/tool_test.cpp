@@ -199,8 +199,8 @@ TEST_F(Files, OutputTakesItsNameWhenAllIsWritten) {
 }
 
 TEST(Findings, CharactersAreNamedOnceEach) {
-    const std::string_view text = "a\xc3\xa9\xe2\x82\xac\xc3\xa9";
-    EXPECT_EQ(describe({1, Finding::not_spoken, 7}, text),
+    const std::string_view bytes = "\xc3\xa9\xe2\x82\xac\xc3\xa9";
+    EXPECT_EQ(describe({1, Finding::not_spoken, 7}, bytes),
               "\"\xc3\xa9\" U+00E9, \"\xe2\x82\xac\" U+20AC are not spoken");
     EXPECT_EQ(describe({0, Finding::not_spoken, 7}, "\xef\xbf\xbf\xf3\xbf\xbf\xbf"),
               "\"\xef\xbf\xbf\" U+FFFF, \"\xf3\xbf\xbf\xbf\" U+FFFFF are not spoken");

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <deque>
 
+#include "tts_host.h"
+
 namespace kavi::host {
 
 namespace {
@@ -23,8 +25,7 @@ void TextReader::begin(std::size_t offset) {
 }
 
 bool TextReader::read(std::string_view text, std::size_t offset, bool is_complete,
-                      const TtsHost::SentenceHandler& on_sentence,
-                      const TtsHost::DiagnosticHandler& on_diagnostic) {
+                      const SentenceHandler& on_sentence, const DiagnosticHandler& on_diagnostic) {
     const Session session(*this);
     window_.give(text, offset, is_complete);
     for (bool changed = false; window_.fill(changed);) {
@@ -194,7 +195,7 @@ void TextReader::collect_diagnostics(bool done) {
 
 // Reports these, and what was found in the text before `end`, in the order of their offsets. False
 // when the handler said so.
-bool TextReader::report(std::size_t end, const TtsHost::DiagnosticHandler& on_diagnostic) {
+bool TextReader::report(std::size_t end, const DiagnosticHandler& on_diagnostic) {
     std::deque<Diagnostic>& in_text = window_.findings();
     if (diagnostics_.empty() && in_text.empty()) return true;  // as for most sentences
     const auto hand_over = [&](const Diagnostic& diagnostic) {

@@ -3,6 +3,7 @@
 #define KAVI_HOST_TEXT_READER_H
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,10 @@
 #include "reading_places.h"
 #include "sentence_source.h"
 #include "text_window.h"
-#include "tts_host.h"
+
+namespace kavi {
+struct HostSentence;
+}
 
 namespace kavi::host {
 
@@ -36,6 +40,9 @@ inline std::size_t find_clause_mark(std::string_view text, std::size_t at) {
 
 // How far after such a mark the engine looks to know what it is: as in "e.g.".
 constexpr std::size_t CLAUSE_LOOK_AHEAD = 2;
+
+using SentenceHandler = std::function<bool(const HostSentence&)>;
+using DiagnosticHandler = std::function<bool(const Diagnostic&)>;
 
 // Reads one text after the other, each as far as it is there. On an arena that is given back at the
 // end.
@@ -61,8 +68,7 @@ class TextReader final : SentencePlaces {
     // Hands over the sentences, and what was found, that no more text can change. `text` is what is
     // there of it from `offset` on. False when a handler said so.
     bool read(std::string_view text, std::size_t offset, bool is_complete,
-              const TtsHost::SentenceHandler& on_sentence,
-              const TtsHost::DiagnosticHandler& on_diagnostic);
+              const SentenceHandler& on_sentence, const DiagnosticHandler& on_diagnostic);
 
     // Whether nothing of the text was passed over since the arena did not hold it.
     bool all_read() const { return all_read_; }
@@ -108,7 +114,7 @@ class TextReader final : SentencePlaces {
     bool ends_sentence() const;
     void release_records();
     void collect_diagnostics(bool done);
-    bool report(std::size_t end, const TtsHost::DiagnosticHandler& on_diagnostic);
+    bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
     // Looks on while a sentence is read.
     tn::ReadingObserver reading_observer() {

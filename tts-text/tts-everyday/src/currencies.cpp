@@ -46,9 +46,10 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
 // A code before its amount, "USD 10 million"; its row, or null.
 const Row* code_before(const Place& place) {
     const std::string_view code = place.letters();
-    if (code.size() != 3 || place.peek(3) != ' ' || !is_digit(place.peek(4))) return nullptr;
+    if (code.size() != 3) return nullptr;
     const Row* row = find(CURRENCIES, code);
-    return row != nullptr && row->kind == Kind::after ? row : nullptr;
+    if (row == nullptr || row->kind != Kind::after) return nullptr;
+    return place.peek(3) == ' ' && is_digit(place.peek(4)) ? row : nullptr;
 }
 
 }  // namespace

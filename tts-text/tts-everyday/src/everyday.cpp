@@ -104,14 +104,19 @@ Rules rules_for(const Place& place) {
     return {std::begin(MARK_RULES), std::end(MARK_RULES)};
 }
 
+// Whether a text that ends where `text` does may go on as the name of a markup tag.
+bool is_begin_of_name(std::string_view text) {
+    return std::any_of(std::begin(tn::MARKUP_TAGS), std::end(tn::MARKUP_TAGS),
+                       [=](const tn::MarkupTag& tag) { return tn::begins_with(tag.prefix, text); });
+}
+
 // The markup tag that begins at `at`: its length, or 0 for none. `searched` is of find_ahead().
 // `is_open`: more text would tell.
 std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& searched,
                        bool& is_open) {
-    constexpr std::size_t LONGEST_NAME = 16;
     if (text[at] != '<') return 0;
     if (tn::find_markup_tag(text.substr(at)) == nullptr) {
-        is_open = text.size() - at < LONGEST_NAME;
+        is_open = is_begin_of_name(text.substr(at));
         return 0;
     }
     const std::size_t end = find_ahead(text, at, '>', TAG_MAX, searched);

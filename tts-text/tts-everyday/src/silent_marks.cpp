@@ -97,9 +97,10 @@ bool read_silent_asterisk(const Place& place, Found& found) {
 
 // "<bob@example.com>", "<http://example.com>": the address alone.
 bool read_address_in_brackets(const Place& place, Found& found) {
-    const Place inside(place.part(0, LOOK_AHEAD), 1);
-    read_address(inside, found);
-    if (found.length > 0 && place.peek(1 + found.length) == '>') {
+    const std::size_t length = place.run([](char c) { return c > ' ' && c != '>'; });
+    if (place.peek(length) != '>') return false;
+    read_address(Place(place.part(0, length), 1), found);
+    if (found.length > 0 && found.length == length - 1) {
         found.length += 2;
         return true;
     }

@@ -52,9 +52,9 @@ void read_initials(const Place& place, Found& found) {
         say(place.part(length, 1), words);
         length += 2;
     }
-    const char next = place.peek(3);
     const bool is_initial = length == 2 && is_upper(place.peek()) && place.peek(2) == ' ' &&
-                            (is_upper(next) || next == '(') && place.peek() != 'I';
+                            (is_upper(place.peek(3)) || place.peek(3) == '(') &&
+                            place.peek() != 'I';
     if ((length < 4 && !is_initial) || is_letter(place.peek(length))) return;
     // The last full stop is the sentence's too where that may end; after an initial it does not.
     const bool ends =

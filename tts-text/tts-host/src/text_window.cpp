@@ -57,11 +57,16 @@ std::size_t foreign_tag_length(std::string_view text) {
 
 // Whether more text would tell if such a tag begins there.
 bool may_make_foreign_tag(std::string_view text) {
-    constexpr std::string_view AFTER_BEGIN = "!?/";
     if (text.size() >= FOREIGN_TAG_MAX || text.find_first_of("<>", 1) != std::string_view::npos)
         return false;
-    return text.size() == 1 || tn::is_letter(text[1]) ||
-           AFTER_BEGIN.find(text[1]) != std::string_view::npos;
+    std::string_view inside = text.substr(1);
+    if (tn::begins_with(inside, "!") || tn::begins_with(inside, "?")) return true;
+    if (tn::begins_with(inside, "/")) inside.remove_prefix(1);
+    if (inside.empty()) return true;
+    const auto* after_name = std::find_if_not(inside.begin(), inside.end(), is_of_tag_name);
+    const bool may_end_name =
+        after_name == inside.end() || *after_name == '/' || *after_name == ' ';
+    return tn::is_letter(inside[0]) && may_end_name;
 }
 
 // Whether text may be cut between two characters without cutting a word, a number or a character.

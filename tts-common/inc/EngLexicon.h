@@ -4,8 +4,9 @@
 
 namespace kavi {
 
-// Looks the lower-case word up and writes what the lexicon holds for it, at most `out_size` bytes
-// with the terminator, to `out`. A negative result means that the word is unknown.
+// Looks up `word`, lower-case letters, and writes its entry to `out`: at most `out_size` bytes,
+// terminator included. Negative when the word is unknown. The engine asks for words in capitals
+// only and ignores the answer.
 int eng_lexicon_lookup(const char* word, char* out, int out_size);
 
 }  // namespace kavi

@@ -1,19 +1,19 @@
-// The host's bounded string services. The engine calls safe_strncat; a host with services of its
-// own need not define tts_snprintf for it.
+// The host's bounded string services. The engine calls safe_strncat only: a host with services of
+// its own may leave tts_snprintf undefined.
 #ifndef KAVI_TTS_STRING_H
 #define KAVI_TTS_STRING_H
 
 namespace kavi {
 
-// Appends the first `n` characters of `src` (fewer when `src` ends before) to the NUL-terminated
-// text in `dst`, whose buffer holds `cap` bytes, and terminates it: all of them or none.
-// 0 when the text and its terminator fit; -1 when they do not, when `dst` holds no terminator
-// within `cap`, or when `n` is negative, and then `dst` is unchanged.
+// Appends the first `n` characters of `src`, or all when `src` ends before, to the NUL-terminated
+// text in `dst`, a buffer of `cap` bytes. 0 when they and the terminator fit. -1, with `dst`
+// unchanged, when they do not fit, `dst` holds no terminator within `cap` bytes, `n` is negative or
+// `cap` is not positive.
 int safe_strncat(char* dst, const char* src, int n, int cap);
 
-// Formatted print of at most `size` bytes, terminator included; always terminated when `size` is
-// positive. The number of bytes the whole text has, or -1 when `size` is not positive (nothing is
-// written then) or the format is faulty.
+// Prints at most `size` bytes, terminator included, to `buf`. Returns the length of the whole text,
+// which may be more than was written; negative when the format is faulty; -1, with nothing written,
+// when `size` is not positive.
 int tts_snprintf(char* buf, int size, const char* fmt, ...) __attribute__((format(printf, 3, 4)));
 
 }  // namespace kavi

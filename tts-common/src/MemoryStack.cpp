@@ -1,11 +1,11 @@
-// Size classes with free lists over chunks.
+// The arena: a free list for each size class, over chunks taken from the system.
 //
-// A block is a header and its bytes. A released block goes to the free list of its class, so a
-// request and a release are a few instructions in any order. A class without a free block has one
-// carved from the current region of a chunk. When that is used up, and half of all chunks is free
-// or no further chunk may be taken, free neighbours are merged into regions again: so a block of
-// one class can become one of another, and what is taken from the system stays in proportion to
-// what is in use.
+// A block is a header followed by its bytes. A released block goes to the free list of its class,
+// so that a request or a release takes a few instructions, in any order. When the list of a class
+// is empty, a block is carved from the current region, a free part of a chunk. When no region has
+// room, free neighbours are merged into regions if at least half of the chunks is free, or if no
+// further chunk may be taken. So memory of one class can serve another, and the memory taken from
+// the system stays proportional to the memory in use.
 
 #include "MemoryStack.h"
 
@@ -22,34 +22,36 @@ namespace kavi {
 namespace {
 
 constexpr std::size_t ALIGNMENT = alignof(std::max_align_t);
-// Classes of 16, 32, ... 1024 bytes, then four to every doubling up to 32768.
+// The classes: 16, 32, ... 1024 bytes, then four for each doubling up to 32768.
 constexpr std::size_t SMALL_STEP = 16;
 constexpr std::size_t SMALL_MAX = 1024;
-constexpr int SMALL_SHIFT = 8;  // of a quarter of SMALL_MAX
+constexpr int SMALL_SHIFT = 8;  // SMALL_MAX / 4 == 1 << SMALL_SHIFT
 constexpr std::size_t CLASS_MAX = 32768;
 constexpr std::size_t SMALL_CLASSES = SMALL_MAX / SMALL_STEP;
 constexpr std::size_t CLASSES = SMALL_CLASSES + std::size_t{4} * 5;
-constexpr std::size_t CLASSES_SERVING = 3;  // a larger request: its own, and the next two
-constexpr std::size_t REQUEST_MAX = std::numeric_limits<std::size_t>::max() / 4;  // of any memory
-constexpr std::size_t NO_LIMIT = std::numeric_limits<std::size_t>::max() - 1;  // below list_end's
+// A request above SMALL_MAX may get a free block of its own class or of the next two.
+constexpr std::size_t CLASSES_SERVING = 3;
+// Larger requests are refused, so that sums of sizes cannot overflow.
+constexpr std::size_t REQUEST_MAX = std::numeric_limits<std::size_t>::max() / 4;
+// The capacity of an arena without a limit: less than the cost of the sentinel `list_end`.
+constexpr std::size_t NO_LIMIT = std::numeric_limits<std::size_t>::max() - 1;
 constexpr std::size_t CHUNK_BYTES = std::size_t{64} * 1024;
 
 static_assert(std::size_t{4} << SMALL_SHIFT == SMALL_MAX);
 static_assert(SMALL_MAX << 5 == CLASS_MAX, "five doublings of four classes each");
 static_assert(SMALL_STEP % ALIGNMENT == 0, "every class keeps the alignment");
 
-// In front of every piece of a chunk, whether it is in use or not.
+// Precedes every piece of a chunk, in use or free. `cost` leads to the next piece.
 struct alignas(std::max_align_t) BlockHeader {
-    std::size_t cost;          // the bytes of the piece, this header included
+    std::size_t cost;          // bytes of the piece, including this header
     std::uint16_t size_class;  // CLASSES for a large block
-    std::uint16_t
-        is_free;  // of regions; of blocks in a free list, only while neighbours are merged
+    std::uint16_t is_free;     // 1 for a region; for a block in a free list, during a merge only
 #ifndef NDEBUG
-    std::uint32_t owner = 0;  // of a block that is out: tells its arena from others
+    std::uint32_t owner = 0;  // of a block in use: identifies its arena
 #endif
 };
 
-// In the bytes of a released block or a free region, which nobody uses now.
+// A link of a list, stored in the bytes of a free block or region.
 struct FreeBlock {
     FreeBlock* next;
 
@@ -58,12 +60,12 @@ struct FreeBlock {
 
 static_assert(sizeof(FreeBlock) <= SMALL_STEP, "the link fits every class");
 
-// What a piece has, to be a region.
+// The least cost of a region. A smaller free piece is in no list until a merge enlarges it.
 constexpr std::size_t REGION_MIN = sizeof(BlockHeader) + sizeof(FreeBlock);
 
 struct alignas(std::max_align_t) Chunk {
     Chunk* next;
-    std::size_t bytes;  // after this record; all of them belong to pieces
+    std::size_t bytes;  // after this header: pieces, and the current region
 
     char* begin() { return reinterpret_cast<char*>(this + 1); }
     char* end() { return begin() + bytes; }
@@ -73,12 +75,14 @@ constexpr std::size_t round_up(std::size_t n, std::size_t step) {
     return (n + step - 1) / step * step;
 }
 
-// The class of a request of `size` bytes, and the bytes of that class. CLASSES: too large for any.
+// A size class and the bytes of its blocks. The index of blocks too large for a class is CLASSES.
 struct SizeClass {
     std::size_t index;
     std::size_t bytes;
 };
 
+// The class that serves a request of `size` bytes. Above SMALL_MAX, a doubling from 2^k has classes
+// of 5, 6, 7 and 8 quarters of 2^k: 1,025 bytes get 5 quarters of 1,024, which are 1,280.
 SizeClass class_of(std::size_t size) {
     if (size <= SMALL_MAX) {
         const std::size_t steps = size == 0 ? 1 : (size + SMALL_STEP - 1) / SMALL_STEP;
@@ -88,7 +92,7 @@ SizeClass class_of(std::size_t size) {
     const unsigned long last = static_cast<unsigned long>(size - 1);
     const int top_bit = std::numeric_limits<unsigned long>::digits - 1 - __builtin_clzl(last);
     const int shift = top_bit - 2;
-    const std::size_t quarters = (last >> shift) + 1;  // of the doubling: five to eight
+    const std::size_t quarters = (last >> shift) + 1;
     const auto doubling = static_cast<std::size_t>(shift - SMALL_SHIFT);
     return {SMALL_CLASSES + 4 * doubling + quarters - 5, quarters << shift};
 }
@@ -96,17 +100,17 @@ SizeClass class_of(std::size_t size) {
 }  // namespace
 
 struct tag_mem_stack_array {
-    FreeBlock* free_list[CLASSES + 1];  // the last one is that of large blocks, of any size
+    FreeBlock* free_list[CLASSES + 1];  // by class; the last one: larger blocks of any size
     std::size_t capacity;               // at most NO_LIMIT
-    std::size_t peak;                   // the most bytes that have been in use
-    std::size_t below_peak;             // the peak less the bytes in use now
+    std::size_t peak;                   // the most bytes ever in use
+    std::size_t below_peak;             // peak - bytes in use now
     Chunk* chunks;
-    std::size_t taken;  // from the system, for chunks
-    char* carve_begin;  // the region at hand
+    std::size_t taken;  // bytes of all chunks, with their headers
+    char* carve_begin;  // the current region, from which blocks are carved
     char* carve_end;
-    FreeBlock* regions;  // the others
+    FreeBlock* regions;  // the other regions
 
-    // Ends every free list: a block that costs more than any request finds room for.
+    // The sentinel that ends every free list. No capacity covers its cost, so take_free refuses it.
     BlockHeader list_end_header;
     FreeBlock list_end;
 
@@ -122,8 +126,8 @@ void unlink_first(FreeBlock** link) {
     *link = (*link)->next;
 }
 
-// Where assertions are on, a block that is given back twice, or to another arena, is noticed: it
-// would be handed out twice.
+// With assertions on, releasing a block twice or to a foreign arena fails an assertion. Without
+// them the block would be handed out twice.
 #ifndef NDEBUG
 std::uint32_t owner_of(const tag_mem_stack_array& arena) {
     return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(&arena) / ALIGNMENT);
@@ -145,7 +149,8 @@ void take_back([[maybe_unused]] BlockHeader& block,
 #endif
 }
 
-// Makes what is left of the region at hand one of the others.
+// Moves what is left of the current region to the list of regions. Less than REGION_MIN is only
+// marked as free.
 void put_region_back(tag_mem_stack_array& arena) {
     const auto bytes = static_cast<std::size_t>(arena.carve_end - arena.carve_begin);
     if (bytes > 0) {
@@ -155,7 +160,7 @@ void put_region_back(tag_mem_stack_array& arena) {
     arena.carve_begin = arena.carve_end;
 }
 
-// Makes the first region with room for `cost` bytes the one at hand.
+// Makes the first region with room for `cost` bytes the current one. False when there is none.
 bool find_region(tag_mem_stack_array& arena, std::size_t cost) {
     for (FreeBlock** link = &arena.regions; *link != nullptr; link = &(*link)->next) {
         FreeBlock* region = *link;
@@ -169,7 +174,8 @@ bool find_region(tag_mem_stack_array& arena, std::size_t cost) {
     return false;
 }
 
-// Makes regions of all that is free in a chunk, appended at `link`; where the next goes.
+// Merges free neighbours in a chunk and appends the regions to the list that ends at `link`.
+// Returns the link that ends the list now.
 FreeBlock** merge_chunk(Chunk& chunk, FreeBlock** link) {
     for (char* at = chunk.begin(); at < chunk.end();) {
         auto* piece = reinterpret_cast<BlockHeader*>(at);
@@ -188,13 +194,13 @@ FreeBlock** merge_chunk(Chunk& chunk, FreeBlock** link) {
     return link;
 }
 
-// Whether something was released since neighbours were merged, and is free still.
+// Whether any free list holds a block. Otherwise a merge finds nothing new.
 bool may_merge(const tag_mem_stack_array& arena) {
     const auto is_empty = [&](const FreeBlock* list) { return list == &arena.list_end; };
     return !std::all_of(std::begin(arena.free_list), std::end(arena.free_list), is_empty);
 }
 
-// Makes every free list empty; its blocks are marked as free.
+// Empties the free lists and marks their blocks as free.
 void empty_free_lists(tag_mem_stack_array& arena) {
     for (FreeBlock*& list : arena.free_list) {
         for (; list != &arena.list_end; list = list->next) list->header().is_free = 1;
@@ -210,7 +216,8 @@ void merge_neighbours(tag_mem_stack_array& arena) {
     *link = nullptr;
 }
 
-// A chunk with room for `cost` bytes, as far as the capacity lets the arena take one.
+// Takes a chunk with room for `cost` bytes and makes it the current region. False when the system
+// refuses it, or when the arena would take more than twice its capacity and CHUNK_BYTES.
 bool take_chunk(tag_mem_stack_array& arena, std::size_t cost) {
     const std::size_t usual = std::max(CHUNK_BYTES, round_up(arena.taken / 4, ALIGNMENT));
     std::size_t bytes = std::max(cost, usual);
@@ -231,7 +238,8 @@ bool take_chunk(tag_mem_stack_array& arena, std::size_t cost) {
     return true;
 }
 
-// Makes a region with room for `cost` bytes the one at hand.
+// Makes a region with room for `cost` bytes the current one: one that exists, one that a merge
+// yields, or a new chunk.
 bool find_room(tag_mem_stack_array& arena, std::size_t cost) {
     put_region_back(arena);
     if (find_region(arena, cost)) return true;
@@ -253,8 +261,8 @@ BlockHeader* carve(tag_mem_stack_array& arena, std::size_t cost, std::size_t siz
     return new (memory) BlockHeader{cost, static_cast<std::uint16_t>(size_class), 0};
 }
 
-// A free block for a request that costs `cost`: of its class, or a large one that is not much
-// larger. Null when there is none.
+// Unlinks a free block of a class for a request that costs `cost`. A large one may cost a quarter
+// more. Null when there is none that the capacity covers.
 BlockHeader* reuse(tag_mem_stack_array& arena, std::size_t size_class, std::size_t cost) {
     const std::size_t left = arena.capacity - arena.used();
     for (FreeBlock** link = &arena.free_list[size_class]; *link != &arena.list_end;
@@ -304,8 +312,9 @@ std::size_t mem_stack_taken(mem_stack_handle arena) {
 
 namespace {
 
-// The first free block of a class of one size, when no fewer bytes have been in use before: one
-// comparison tells both, and that the capacity is not reached. Else null.
+// The first free block of a class of one size, or null. One subtraction decides: it overflows when
+// the list is empty, since the sentinel has the largest cost, and when the bytes in use would
+// exceed the peak. Up to the peak, the capacity needs no check.
 inline void* take_free(tag_mem_stack_array& arena, std::size_t index) {
     FreeBlock* block = arena.free_list[index];
     std::size_t below_peak = 0;
@@ -315,8 +324,8 @@ inline void* take_free(tag_mem_stack_array& arena, std::size_t index) {
     return block;
 }
 
-// Serves a request for which there is no such block. Out of line, so that the others do not pay for
-// its registers.
+// Serves a request that take_free cannot. Out of line, so that the fast path does not save
+// registers for it.
 __attribute__((noinline)) void* serve(std::size_t size, tag_mem_stack_array& arena) {
     const SizeClass wanted = class_of(size);
     const std::size_t left = arena.capacity - arena.used();
@@ -332,9 +341,9 @@ __attribute__((noinline)) void* serve(std::size_t size, tag_mem_stack_array& are
     return block + 1;
 }
 
-// Serves a request for more than a small block. Texts differ in length: a free block that is at
-// most half as large again is better than one cut anew, for which all that is free may have to be
-// merged.
+// Serves a request above SMALL_MAX. The lengths of texts, and so of these blocks, vary: a free
+// block of one of the next two classes (at most half as large again) is cheaper than a new one, for
+// which a merge may be needed.
 __attribute__((noinline)) void* request_large(std::size_t size, tag_mem_stack_array& arena) {
     const std::size_t first = class_of(size).index;
     const std::size_t end = std::min(first + CLASSES_SERVING, CLASSES);
@@ -346,10 +355,9 @@ __attribute__((noinline)) void* request_large(std::size_t size, tag_mem_stack_ar
 
 }  // namespace
 
-// The usual request is for a small block.
 void* mem_stack_request_buf(std::size_t size, tag_mem_type type, mem_stack_handle arena) {
     if (arena == nullptr || static_cast<unsigned>(type) >= MEM_MAX_CNT) return nullptr;
-    const std::size_t index = (size - 1) / SMALL_STEP;  // of 0 bytes: no small class
+    const std::size_t index = (size - 1) / SMALL_STEP;  // wraps around for 0 bytes: no small class
     if (index >= SMALL_CLASSES) return hand_out(request_large(size, *arena), *arena);
     void* block = take_free(*arena, index);
     return hand_out(block != nullptr ? block : serve(size, *arena), *arena);

@@ -9,7 +9,7 @@ namespace kavi {
 
 namespace {
 
-// strlen that looks at no more than `limit` bytes; `limit` when there is no terminator among them.
+// strnlen of POSIX: `limit` when there is no terminator in the first `limit` bytes.
 std::size_t bounded_length(const char* text, std::size_t limit) {
     const void* end = std::memchr(text, '\0', limit);
     return end != nullptr ? static_cast<std::size_t>(static_cast<const char*>(end) - text) : limit;

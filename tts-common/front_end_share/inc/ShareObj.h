@@ -1,11 +1,11 @@
-// The front-end records that the engine fills and the host's later stages read. Names, order,
-// widths and values are fixed: a host compiled elsewhere reads the array with these declarations.
+// The front-end records that the engine fills and later stages of the host read. Names, order,
+// widths and values are part of the binary interface: a host compiled separately reads the array.
 #ifndef KAVI_SHARE_OBJ_H
 #define KAVI_SHARE_OBJ_H
 
 namespace kavi {
 
-// Pause level after a word.
+// The pause after a word.
 enum PAUSE_type : int {
     PAUSE_SYLLABLE_FE = 0,
     PAUSE_WORD_FE = 1,
@@ -34,7 +34,7 @@ enum TAG_type : int {
     TAG_TA_DICT = 2,
 };
 
-// Kind of pronunciation held in zhuyin.
+// The kind of pronunciation in `zhuyin`.
 enum ZY_type : int {
     ZY_NULL = 0,
     ZY_TN_FORCE = 1,
@@ -44,7 +44,7 @@ enum ZY_type : int {
     ZY_ARTI_SYLL = 5,
 };
 
-// Punctuation marks; after each the name by which "<punc=" tags refer to it.
+// Punctuation marks, each with its name in "<punc=" tags.
 enum PUNC_type : int {
     PUNC_NULL_FE = 0,       // none
     PUNC_DUN_FE = 1,        // dun
@@ -68,7 +68,7 @@ enum PUNC_type : int {
     POIE_FE = 19,           // POIE
 };
 
-// The markup attributes of one word: NUL-terminated, at most 19 characters each, empty when the
+// The markup attributes of one word: NUL-terminated, at most 19 characters each, empty when an
 // attribute does not apply.
 struct CssmlTag {
     char breaktime[20];     // of the "<breaktime=" tag after the word
@@ -79,30 +79,31 @@ struct CssmlTag {
     char pro_spectrum[20];  // likewise
     char poem[20];          // of the enclosing "<poem=" span
     char quill_effect[20];  // of the enclosing "<quill_effect=" spans, outermost first
-    bool ssml_w;            // a later stage's
-    bool ssml_w_end;        // a later stage's
+    bool ssml_w;            // for a later stage
+    bool ssml_w_end;        // for a later stage
 };
 
-// One word of an utterance. The strings are blocks of the arena, of exactly the sizes given here.
+// One word of an utterance. `syllable` and `zhuyin` are blocks of the arena with the sizes given
+// here. Fields "for a later stage" are zero unless said otherwise.
 struct UtteranceSyllable {
-    char* syllable;            // the word, or null in a record that holds none
-    short syl_len;             // size of its storage: length + 1
-    char letter;               // a later stage's
+    char* syllable;            // the word; null in a record without one
+    short syl_len;             // bytes of `syllable`: length + 1
+    char letter;               // for a later stage
     PAUSE_type pause_type;     // pause after the word
-    PAUSE_type pause_pl_type;  // a later stage's
-    PAUSE_type pausetype_ta;   // a later stage's, initialised here
-    PAUSE_type pause_type_tn;  // the pause that text normalisation decided
-    SYNTAX_type syntax_type;   // a later stage's
-    TAG_type tag_type;         // a later stage's
-    char tag_str[4][8];        // a later stage's
-    ZY_type zy_type;           // a later stage's
-    char* zhuyin;              // zero-filled room for the pronunciation, a later stage's
-    short zy_len;              // size of that storage
-    int n_punc;                // entries of punc_arr in use
+    PAUSE_type pause_pl_type;  // for a later stage
+    PAUSE_type pausetype_ta;   // for a later stage, set like pause_type
+    PAUSE_type pause_type_tn;  // the pause that text normalisation chose
+    SYNTAX_type syntax_type;   // for a later stage
+    TAG_type tag_type;         // for a later stage
+    char tag_str[4][8];        // for a later stage
+    ZY_type zy_type;           // for a later stage
+    char* zhuyin;              // room for the pronunciation, for a later stage
+    short zy_len;              // bytes of `zhuyin`, all zero
+    int n_punc;                // entries of punc_arr in use, at most 10
     PUNC_type punc_arr[10];    // marks after the word, in text order
     CssmlTag cssml_tag;        // markup that applies to the word
-    unsigned short ui_code;    // a later stage's
-    unsigned short accent;     // a later stage's
+    unsigned short ui_code;    // for a later stage
+    unsigned short accent;     // for a later stage
 };
 
 }  // namespace kavi

@@ -12,13 +12,14 @@ inline constexpr int SZ_TEXT_MAX_LEN = 4096;          // sentence and output tex
 inline constexpr int MEMORY_SIZE_TAG_LABEL_TN = 512;  // tag name buffers
 inline constexpr int ABBREVIATIONNUMBER = 23;         // rows of the abbreviation table
 
-// The class of a section, decided by the first byte of its text.
+// The class of a section, by the first byte of its text.
 inline constexpr int STRINGSYMBOL = 0;  // an ASCII letter
 inline constexpr int NUMBERSYMBOL = 1;  // a digit
 inline constexpr int MARKSYMBOL =
     2;  // anything else: blank, punctuation, markup tag, bytes above 127
 
-// One token of a sentence. A queue of them is known by its head.
+// One section of a sentence: a run of letters or digits, a whole tag, or one byte. Sections form a
+// doubly linked queue, which is passed around by its head.
 struct Section {
     char sz_char[WORD_MAX_LEN];  // the text, at most 499 characters
     int m_nmark;                 // its class
@@ -26,12 +27,12 @@ struct Section {
     Section* m_pprevious;        // null at the head
 };
 
-// ---- The word tables: {key, word} rows, searched in row order; the first equal key wins. ----
+// ---- The word tables: rows of {key, word}, searched in order; the first equal key wins. ----
 
 // clang-format off
 
-// Abbreviations that end in a full stop. Each is found as written, in lower case, capitalised and
-// in capitals, in this order.
+// Abbreviations that end in a full stop, and their expansions. Each is searched for as written, in
+// lower case, capitalised and in capitals, in this order.
 inline constexpr char s_spec_word_abbrevi[ABBREVIATIONNUMBER][2][20] = {
     {"Dr.",   "doctor"},
     {"nr.",   "near"},
@@ -58,7 +59,7 @@ inline constexpr char s_spec_word_abbrevi[ABBREVIATIONNUMBER][2][20] = {
     {"e.g.",  "for example"},
 };
 
-// Month numbers.
+// Months by number.
 inline constexpr char s_number_to_month[21][2][20] = {
     {"1",  "January"},
     {"2",  "February"},
@@ -83,7 +84,7 @@ inline constexpr char s_number_to_month[21][2][20] = {
     {"09", "September"},
 };
 
-// Month abbreviations; the names in the second column are month names too.
+// Months by abbreviation. The names in the second column are recognised too.
 inline constexpr char s_string_to_month[12][2][20] = {
     {"Jan",  "January"},
     {"Feb",  "February"},
@@ -99,7 +100,7 @@ inline constexpr char s_string_to_month[12][2][20] = {
     {"Dec",  "December"},
 };
 
-// Cardinal words. The last row is what stands for anything but a digit.
+// Cardinals. The last row is written for a character that is not a digit.
 inline constexpr char s_number_to_char[29][2][15] = {
     {"0",  "zero"},
     {"1",  "one"},
@@ -132,7 +133,7 @@ inline constexpr char s_number_to_char[29][2][15] = {
     {"00", " "},
 };
 
-// Ordinal words. "forth", "twelvth" and "ninteenth" are meant.
+// Ordinals. "forth", "twelvth" and "ninteenth" are intended.
 inline constexpr char s_number_to_turn[27][2][15] = {
     {"1",  "first"},
     {"2",  "second"},
@@ -165,219 +166,230 @@ inline constexpr char s_number_to_turn[27][2][15] = {
 
 // clang-format on
 
-// The data's way, and the folder under src/post_pro_tn_eng that holds each step:
+// The steps, the operation for each, and its folder under src/post_pro_tn_eng:
 //
 //   raw text -> one sentence          eng_text_normalize    sentence/
 //   sentence -> speakable text        eng_text_tokenize     tokenize/, readers/, numbers/
-//   sections -> speakable text        section_process       the same, for a queue that a host holds
+//   sections -> speakable text        section_process       the same, for a queue of the host
 //   speakable text -> records         eng_text_to_utterance_syllable    utterance/
 //
-// The tables of markup tags are in markup/, what all steps share in common/.
+// The tables of markup tags are in markup/, code that all steps share in common/.
 //
-// The object holds nothing but the arena it takes its memory from. Working memory goes back before
-// the call that took it returns; the records of an utterance pass to the host. The object owns no
-// memory, keeps nothing between calls and takes no lock; calls that share an arena must not
-// overlap. Scratch buffers of readers, number words and builder are on the stack: no request of
-// theirs can be refused. No argument may be null, and every text is NUL-terminated; any bytes may
-// stand in it.
+// The object holds a pointer to the host's arena and no other state. It takes no lock: calls that
+// share an arena must not overlap. Working memory is given back before a call returns; the records
+// of an utterance belong to the host. Scratch buffers are on the stack, so they cannot be refused.
+//
+// No argument may be null, unless an operation says so. Texts are NUL-terminated and may hold any
+// other bytes.
 class PostProTnEng {
   public:
     PostProTnEng();
     ~PostProTnEng() = default;
 
     // Binds the engine to the host's arena, which must outlive its use here. May be called again.
-    // Needed before eng_text_tokenize and every operation that makes sections or records.
+    // Without it, eng_text_tokenize and the operations that make sections or records fail as if the
+    // arena refused every request.
     void init(mem_stack_handle mem_handle);
 
     // ---- Raw text to one sentence: sentence/ ----
 
-    // Cuts the first sentence off `sz_source_text`: up to and including the first of "." "?" "!"
-    // ";" "," ":" that ends one. Abbreviations are expanded, markup spans still open at the cut are
-    // closed in the sentence and opened again in front of the rest.
+    // Cuts the first sentence off `sz_source_text`: through the first "." "?" "!" ";" "," or ":"
+    // that ends one, or to where it has more than 4086 bytes, or all of it. Abbreviations are
+    // expanded. Spans that are open at the cut are closed in the sentence and opened again before
+    // the rest.
     //   sz_source_text  read only
     //   sz_target_text  4096 bytes, zero-filled; receives the sentence
-    //   sz_next_text    4096 bytes holding a text, normally ""; the open tags and the rest of the
-    //                   source are appended: each tag, and the rest, whole or not at all
-    // Always 0. Text remains when sz_next_text grew: call again on a copy of it. Malformed markup
-    // (a closing tag that closes nothing or another kind, an eleventh open tag, an opening tag
-    // above 199 characters, no room for a closing tag) ends the sentence there, unclosed, and the
-    // rest of the source is dropped.
+    //   sz_next_text    4096 bytes that hold a text, normally ""; the open tags, then the rest of
+    //                   the source are appended, each of them whole or not at all
+    // Always 0. When sz_next_text grew, text remains: call again with a copy of it. Malformed
+    // markup (a closing tag that closes nothing or another kind, an eleventh open span, an opening
+    // tag above 199 characters, no room for a closing tag) ends the sentence there, with its spans
+    // open, and the rest of the source is dropped.
     int eng_text_normalize(char* sz_source_text, char* sz_target_text, char* sz_next_text);
 
-    // Expands the abbreviation that the first "." of `sz_source_text` ends, if it ends one, in
-    // `sz_target` (4096 bytes, holding the text written so far, which ends with that "."). Returns
-    // the source position after the abbreviation. Null when there is none: the target's final "."
-    // is removed and `*c_stop` set to 1; null too, without `*c_stop`, when the expansion has no
-    // room.
+    // Expands the abbreviation that the first "." of `sz_source_text` ends. `sz_target`, 4096
+    // bytes, holds the text written so far, through that "."; there the expansion replaces the
+    // abbreviation. Returns the position in the source after the abbreviation. Null when there is
+    // no abbreviation: a final "." of the target is removed and `*c_stop` set to 1. Null, with
+    // `*c_stop` unchanged, when the expansion does not fit.
     char* abbreviation(char* sz_source_text, char* sz_target, char* c_stop);
 
     // ---- Sentence to speakable text: tokenize/, readers/, numbers/ ----
 
-    // Appends the speakable text of one sentence to `sz_target_text` (4096 bytes holding a text,
-    // normally ""). 0 when done, -1 when the text did not fit; the target then keeps what was
-    // written. For a sentence that is not empty, the arena must have room for a Section: -1, and
-    // the target as it was, when it refuses that, or before init.
+    // Appends the speakable text of one sentence to `sz_target_text`, 4096 bytes that hold a text,
+    // normally "". 0 on success. -1 when the text did not fit: the target keeps the part that did.
+    // -1, with the target unchanged, when the sentence is not empty and the arena refuses a block
+    // of sizeof(Section), or before init.
     int eng_text_tokenize(char* sz_source_text, char* sz_target_text);
 
-    // Cuts a text into sections, appended in text order to the queue with head `sz_section`. 0, or
-    // -1 when the arena refused one; those before it stay in the queue. The caller owns the
-    // sections and gives each back with mem_stack_release_buf.
+    // Cuts a text into sections and appends them, in order, to the queue with head `sz_section`,
+    // which may be null. 0, or -1 when the arena refused one; those before it stay in the queue.
+    // The caller owns the sections and gives each back with mem_stack_release_buf.
     int text_to_queue(char* sz_source_text, Section*& sz_section);
 
-    // Appends one section with the text `sz_source` (cut at 499 characters) to the queue; an empty
-    // text adds nothing. 0, or -1 when the arena refused the block.
+    // Appends one section with the text `sz_source`, cut at 499 characters, to the queue with head
+    // `p_section`, which may be null. An empty text appends none. 0, or -1 when the arena refused
+    // the block.
     int add_section(char* sz_source, Section*& p_section);
 
-    // Appends what the queue with head `p_section` (may be null) reads as to `sz_target_text` (4096
-    // bytes holding a text). Texts and classes of sections may change on the way, their links do
-    // not. 0 when done, -1 when the text did not fit; the target then keeps what was written.
+    // Appends the speakable text of the queue with head `p_section`, which may be null, to
+    // `sz_target_text`, 4096 bytes that hold a text. Texts and classes of sections may change,
+    // links do not. 0, or -1 when the text did not fit: the target keeps the part that did.
     int section_process(Section* p_section, char* sz_target_text);
 
     // ---- Speakable text to records: utterance/builder ----
 
-    // Makes an array of one record per word of `sz_source_text` (read only, of any length), with
-    // the punctuation, break times and markup that its tags give each word. Record 0, the head,
-    // holds no word but the marks before the first. `p_utt` receives the array, `n_utt` its number
-    // of records: 1 more than there are words.
-    // The array and each record's `syllable` and `zhuyin` belong to the caller, who releases them
-    // with their sizes: `n_utt` records, `syl_len` and `zy_len` bytes.
-    // 0 when every word was stored. -1 with `p_utt` null and `n_utt` 0 when the arena refused the
-    // array. -1 with both set when it refused a word's storage, or nested spans outgrew their 199
-    // characters of names or values: the records stored so far are complete, the others zero.
+    // Makes an array with one record for each word of `sz_source_text` (read only, of any length)
+    // and with the punctuation, break times and attributes that its tags give the words. Record 0,
+    // the head, has no word; it has the marks and break time before the first word. `p_utt`
+    // receives the array, `n_utt` the number of records: the words and the head. The array and the
+    // `syllable` and `zhuyin` of each record belong to the caller, who gives them back with their
+    // sizes: `n_utt` records, `syl_len` and `zy_len` bytes. 0 on success. -1 with `p_utt` null and
+    // `n_utt` 0 when the arena refused the array. -1 with both set when it refused the storage of a
+    // word, or when the names or the values of nested spans are more than 199 characters: the
+    // records before that are complete, the others zero.
     int eng_text_to_utterance_syllable(char* sz_source_text, UtteranceSyllable*& p_utt, int& n_utt);
 
     // ---- One record at a time: utterance/records, utterance/attributes ----
-    // `utt` is an array as above, `n` the number of records written so far, head included. Values
-    // are cut to 19 characters.
+    // `utt` is an array as above, `n` the number of records written so far, the head included.
+    // Values are cut to 19 characters.
 
-    // Stores a word of at most 499 characters in record `n`, at the default pause. False when its
-    // storage was refused: the record's `syllable` is null, and nothing is kept.
+    // Stores a word of at most 499 characters in record `n`, with the default pause and no
+    // attributes. False when the arena refused its storage: `syllable` is null, no block is kept.
     bool insert_syllable(int n, UtteranceSyllable* utt, const char* sz_char_buf);
 
-    // Set one attribute of record `n` - 1: true. An effect is appended to the effects there: false
-    // when it does not fit, and the field is unchanged. A prosody list «rate="2" pitch="low"» sets
-    // what it names: false at the first unknown name, those before it set.
+    // Each sets one attribute of record `n` - 1 and returns true. An effect is appended to the
+    // field: false, with the field unchanged, when it does not fit. A prosody list such as
+    // «rate="2" pitch="low"» sets the attributes it names: false at the first unknown name, with
+    // those before it set.
     bool insert_breaktime(int n, UtteranceSyllable* utt, char* time_str);
     bool insert_emphasis_in(int n, UtteranceSyllable* utt, const char* value_str);
     bool insert_poem_in(int n, UtteranceSyllable* utt, const char* value_str);
     bool insert_quill_effect_in(int n, UtteranceSyllable* utt, const char* value_str);
     bool insert_prosody_in(int n, UtteranceSyllable* utt, const char* value_str);
 
-    // Sets the attributes of record `n` - 1 that a chain of spans gives it: names and values,
-    // outermost first, each list joined by tabs. False at the first pair that cannot be applied,
-    // those before it applied.
+    // Sets the attributes that nested spans give record `n` - 1. `tag_type` lists their names,
+    // `value_str` their values, outermost first, separated by tabs. False at the first pair that
+    // cannot be applied, with those before it applied.
     bool insert_ssml_info_in(int n, UtteranceSyllable* utt, const char* value_str,
                              const char* tag_type);
 
-    // Stores the words of the span `buffer_target` in the records from `n` on, with the attributes
-    // of the chain, and moves `n` past them. False when a word's storage was refused or the
-    // chain outgrew 199 characters; the words stored so far stay.
+    // Stores the words of the text `buffer_target` in the records from `n` on, with the attributes
+    // of these spans, and advances `n` past them. False when the arena refused the storage of a
+    // word or a list is more than 199 characters; the words stored so far stay.
     bool insert_ssml_info(int& n, UtteranceSyllable* utt, const char* value_str,
                           char* buffer_target, const char* tag_type);
 
-    // ---- Reading tagged text: utterance/scanner ----
+    // ---- Scanning tagged text: utterance/scanner, utterance/builder ----
 
-    // One step of the scan of `p_word_text` at position `i`, which lies inside the text:
-    //   sz_char_buf  500 bytes, the word read so far, `j` characters
-    //   sz_tag       512 bytes, the name of the tag that this step read, else as it was
-    //   sz_value, sz_target  each as large as the text: that tag's value and paired content
-    //   mark         1 when this step completed the word, else 0
+    // Reads one character or one tag of `p_word_text` at offset `i`, which is less than its length,
+    // and advances `i`:
+    //   sz_char_buf  500 bytes: the word so far, `j` characters; terminated when it is complete
+    //   sz_tag       512 bytes: the name of the tag that was read; unchanged when none was
+    //   sz_value, sz_target  each as large as the text: the value and the content of that tag
+    //   mark         1 when this completed the word, else 0
     // After a completed word the caller empties the buffers and sets `j` to 0; after a tag it
-    // empties what it has used. Always true.
+    // empties those it has used. Always true.
     bool filter_text(char* p_word_text, char* sz_char_buf, char* sz_tag, char* sz_value,
                      char* sz_target, int& i, int& j, int& mark);
 
-    // Adds the number of words in the span `buffer_target` to `n`, nested spans included. Always
+    // Adds the number of words in the text `buffer_target`, nested spans included, to `n`. Always
     // true.
     bool count_embed_word(int& n, char* buffer_target);
 
   private:
     friend struct PostProTnEngPeer;  // lets the tests reach the operations below
 
-    // The readers and number words one by one. Each is one line over a function of the same name,
-    // or of numbers/number_words.h, on which the dispatcher works.
+    // The readers and number words as single operations: wrappers of the functions of the same name
+    // in readers/ or of those in numbers/number_words.h.
     //
-    // Tests (..._decide, ..._def) answer 1 or 0. Readers append to a text in a 500-byte buffer,
-    // `sz_target_text`; the words that have no room there are cut. Those that get a section return
-    // the last one they consumed, the others the buffer.
+    // Tests (..._decide, ..._def) return 1 or 0. Readers append to a text in a 500-byte buffer,
+    // `sz_target_text`; words that do not fit are cut. A reader of sections returns the last
+    // section it consumed, any other the buffer.
 
-    // Blanks digits and marks outside tags and cuts the blanks at the end of the text.
+    // Replaces every character outside tags that is not a letter by a blank and cuts the blanks at
+    // the end of the text.
     void re_regular(char* sz_source_text);
 
     // ---- readers/telephone ----
     // Whether a telephone number may begin here: digits, "(", "-" or a blank.
     int phone_number_decide(Section* p_section);
-    // "area code " and at most nine sections; ends before a word, but consumes one that is first.
+    // Appends "area code " and reads at most nine sections, up to the first word. A word that is
+    // the first section is consumed but not read.
     Section* phone_number_read(Section* p_section, char* sz_target_text);
 
     // ---- readers/dates, readers/months ----
     int month_def(char* sz_source);
-    // The month's full name, or the source itself, in the place of what the buffer held.
+    // Replaces the text of the buffer by the full name of the month, or by the source itself.
     char* month_read(char* sz_source_text, char* sz_target_text);
     int data_decide(Section* p_section);
-    // After data_decide has said yes; returns the year.
+    // Requires data_decide. Returns the year's section.
     Section* data_number(Section* p_section, char* sz_target_text);
-    // Two or four digits; nothing for any other number of them.
+    // Appends a year of two or four digits, nothing for any other length.
     char* year_read(char* sz_source_text, char* sz_target_text);
 
-    // ---- readers/amounts: each reader after its test has said yes ----
+    // ---- readers/amounts: each reader requires its test ----
     int fraction_decide(Section* pSection);
     Section* fraction_number(Section* pSection, char* sz_target_text);
     int decimal_decide(Section* pSection);
     Section* decimal_number(Section* psection, char* sz_target_text);
     // Whether a "$" follows the amount that begins here.
     int currency_decide(Section* pSection);
-    // The amount after a "$", or before one. Null when the queue ran out; its words are appended.
+    // An amount after or before a "$". Null, with its words appended, when the queue ends after a
+    // second or third comma.
     Section* currrency_read(Section* pSection, char* sz_target_text);
 
     // ---- readers/clock_times ----
-    // 0 for no time; 1 for a short form, 2 for a long one, which time_number finds in m_nmark.
+    // 0: no time; 1: hours and minutes; 2: with seconds. time_number expects this form in m_nmark.
     int time_decide(Section* pSection);
-    // Null, and nothing appended, when the form is incomplete, or the arena refuses 500 bytes.
+    // Null, with nothing appended, when a part is missing, m_nmark is no form, or the arena refuses
+    // a block of 500 bytes.
     Section* time_number(Section* psection, char* sz_target_text);
 
     // ---- readers/number_tokens, readers/words ----
-    // Null when the queue ran out; the words so far are appended.
+    // Null, with the words so far appended, when the queue ends after a second or third comma.
     Section* str_number(Section* p_section, char* sz_target_text);
-    // Returns the suffix; the section has zeros in the place of its last three of four digits or
-    // more.
+    // Returns the suffix. In a section of more than three digits the last three become "000".
     Section* turn(Section* p_section, char* sz_target_text);
-    // A word in capitals, in the place of what the buffer held: 1; 0 for any other, nothing
+    // 1 for a word in capitals, which replaces the text of the buffer. 0 for any other: nothing is
     // written.
     int process_upper_case(Section* m_ptemp_section, char* sz_target);
 
     // ---- readers/marks: `sz_target` is the 4096-byte output itself ----
-    // Moves `p_temp_section` to the last section of a telephone number, if "(" begins one. False
-    // when the output is full.
+    // Reads a telephone number that begins with the "(" and moves `p_temp_section` to its last
+    // section; otherwise appends the mark, or nothing before a number. False when the output is
+    // full.
     bool process_bracket(Section*& p_temp_section, char* sz_target);
-    // The last section of a telephone number, or the "+". Null when the output is full.
+    // Reads a telephone number that begins with the "+" and returns its last section; otherwise
+    // returns the "+", with "add" appended after a number. Null when the output is full.
     Section* process_plus(Section* p_temp_section, char* sz_target);
-    // Rewrites the section after the apostrophe; appends nothing and returns the apostrophe.
+    // Replaces the letters of a contraction in the section after the apostrophe by their word.
+    // Appends nothing and returns the apostrophe.
     Section* process_single_quote(Section* p_temp_section, char* sz_target);
 
     // ---- numbers/ ----
-    // The first three digits, or fewer, as a cardinal.
+    // Appends the first three digits, or fewer, as a cardinal.
     char* number_read(char* sz_source_text, char* sz_target_text);
-    // Digit by digit.
+    // Appends digit by digit.
     char* number_to_normal(char* sz_source_text, char* sz_target_text);
-    // Whether there is nothing but digits.
+    // Whether the text has only digits; the empty text does.
     int number_def(char* sz_source);
-    // One to three digits as an ordinal; null, and nothing appended, for any other number of them.
+    // Appends one to three digits as an ordinal. Null, with nothing appended, for any other length.
     char* str_turn(char* sz_source_text, char* sz_target_text);
-    // With scale words, in the place of what the buffer held; of more than 12 digits the first four
-    // groups.
+    // Replaces the text of the buffer by the number with scale words: of more than 12 digits, the
+    // first four groups.
     char* number_to_string(char* sz_source_text, char* sz_target_text);
 
-    // ---- utterance/: on record `n` - 1; always true ----
-    // Adds the mark of this name; one after the tenth is dropped, an unknown name counts as no
-    // mark.
+    // ---- utterance/: both change record `n` - 1 and return true ----
+    // Appends the mark of this name. An unknown name takes an entry, which stays PUNC_NULL_FE; an
+    // eleventh mark is dropped.
     bool insert_punc(int n, UtteranceSyllable* utt, char* punc_str);
-    // `ch` is one of "& |#*+".
+    // Forces the pause of `ch`, one of "& |#*+"; "*" changes nothing.
     bool insert_pause(int n, UtteranceSyllable* utt, char ch);
 
-    // Reads the tag at `sz_text`, a "<": its name (512 bytes), its value and its paired content
-    // (each as large as the text). The place after it; null, with name and value as far as they
-    // go, when it is no tag of the language or has no ">".
+    // Reads the tag at `sz_text`, a "<": its name into `sz_tag` (512 bytes), its value and its
+    // content (each as large as the text). Returns the position after the tag and its content.
+    // Null, with name and value up to a ">", when it is not a tag of the language or has no ">".
     char* parse_tag(char* sz_text, char* sz_tag, char* sz_value, char* sz_target);
 
     mem_stack_handle _mem_handle;

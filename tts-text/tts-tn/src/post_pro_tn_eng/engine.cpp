@@ -1,4 +1,4 @@
-// The object itself, and the readers one by one, as operations on NUL-terminated buffers.
+// Wrappers: the readers and number words as operations on sections and NUL-terminated buffers.
 
 #include "common/arena.h"
 #include "numbers/number_words.h"
@@ -36,8 +36,8 @@ char* replace_by(std::string_view words, char* target) {
     return target;
 }
 
-// Reads what a mark may begin straight to the output. The last section consumed, or null when the
-// output is full.
+// Reads the pattern that a mark begins and appends it to the output. Returns the last section
+// consumed, or null when the output is full.
 Section* append_mark(MarkReader* read, const Token* mark, char* target) {
     char scratch[WORD_MAX_LEN];
     Reading reading(scratch, 0);

@@ -1,5 +1,5 @@
-// What the layer before the engine may use of its inside, and nothing else: what a letter is, the
-// words of numbers, and the markup tags that it leaves alone.
+// The only private headers that everyday English may include: character classes, number words, and
+// the markup tags that it does not touch.
 #ifndef KAVI_TN_FOR_EVERYDAY_H
 #define KAVI_TN_FOR_EVERYDAY_H
 

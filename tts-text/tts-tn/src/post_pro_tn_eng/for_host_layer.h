@@ -1,5 +1,6 @@
-// What the host layer may use of the engine's inside, and nothing else: how a sentence is cut and
-// from what, how it is read step by step, the places of its words, and the markup tags of raw text.
+// The only private headers that the host layer may include: for cutting sentences, reading them
+// step by step and building records, with the offsets that the layer reports, and for the markup
+// tags.
 #ifndef KAVI_TN_FOR_HOST_LAYER_H
 #define KAVI_TN_FOR_HOST_LAYER_H
 

@@ -1,4 +1,4 @@
-// Whether the host's arena gives a block.
+// Probing the host's arena.
 #ifndef KAVI_TN_ARENA_H
 #define KAVI_TN_ARENA_H
 
@@ -8,9 +8,8 @@
 
 namespace kavi::tn {
 
-// Takes a block of `size` bytes and gives it back. False when the arena refused it, or there is no
-// arena, and then nobody is asked. For operations that work on the stack: a host counts on them
-// failing when its arena gives nothing.
+// Takes a block of `size` bytes and gives it back. False when the arena refused it or is null. For
+// operations that need no memory of the arena, but are promised to fail when it has none.
 inline bool gives_block(mem_stack_handle arena, std::size_t size) {
     if (arena == nullptr) return false;
     void* block = mem_stack_request_buf(size, MEM_COMMON, arena);

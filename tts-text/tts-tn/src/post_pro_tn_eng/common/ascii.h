@@ -1,4 +1,4 @@
-// Character classes. ASCII only, whatever the locale and the signedness of char.
+// Character classes: ASCII only, independent of the locale and of the signedness of char.
 #ifndef KAVI_TN_ASCII_H
 #define KAVI_TN_ASCII_H
 
@@ -25,7 +25,7 @@ constexpr char to_upper(char c) {
     return is_lower(c) ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
-// Whether the text is nothing but digits; the empty text is.
+// Whether the text has only digits. True for the empty text.
 constexpr bool is_digits(std::string_view text) {
     for (const char c : text) {
         if (!is_digit(c)) return false;

@@ -1,5 +1,5 @@
-// A text that grows at the end of a caller's buffer and knows its length, so that no append walks
-// over what is already there.
+// A NUL-terminated text that grows in a buffer of the caller. It keeps the position of its end, so
+// that an append does not search for it.
 #ifndef KAVI_TN_BOUNDED_TEXT_H
 #define KAVI_TN_BOUNDED_TEXT_H
 
@@ -13,15 +13,15 @@ namespace kavi::tn {
 
 class BoundedText {
   public:
-    // `text` is a NUL-terminated text in a buffer of `capacity` bytes; one without a terminator
-    // there counts as full.
+    // `text` is a NUL-terminated text in a buffer of `capacity` bytes, which the caller owns.
+    // Without a terminator in the buffer the text is full.
     BoundedText(char* text, int capacity) : text_(text), end_(text), limit_(text + capacity) {
         if (*text == '\0') return;  // the usual case
         void* end = std::memchr(text, '\0', static_cast<std::size_t>(capacity));
         end_ = end != nullptr ? static_cast<char*>(end) : limit_;
     }
 
-    // Appends all of `words` and answers true, or nothing and answers false.
+    // Appends `words`. False, with nothing appended, when they do not fit.
     bool append(std::string_view words) {
         if (!has_room(words.size())) return false;
         copy_short(end_, words.data(), words.size());
@@ -30,7 +30,7 @@ class BoundedText {
         return true;
     }
 
-    // Appends the words, and then a blank. False when that has no room, or neither has.
+    // Appends `words` and a blank. False when both do not fit: then `words` alone, if they fit.
     bool append_spaced(std::string_view words) {
         if (!has_room(words.size() + 1)) {
             append(words);
@@ -41,11 +41,12 @@ class BoundedText {
         return true;
     }
 
-    // For words that are written straight to the end: how many characters fit, and where they go.
+    // For a caller that writes at the end itself: the number of characters that fit, and where they
+    // go. extend_spaced then makes them part of the text.
     std::ptrdiff_t room() const { return limit_ - end_ - 1; }
     char* end() { return end_; }
 
-    // Takes `length` characters that have been written there. A blank comes after them, and must
+    // Makes `length` characters written at end() part of the text and appends a blank. Both must
     // fit.
     void extend_spaced(std::size_t length) {
         char* end = end_ + length;
@@ -56,7 +57,7 @@ class BoundedText {
 
     bool has_room(std::size_t size) const { return size < static_cast<std::size_t>(limit_ - end_); }
 
-    // Removes the last `n` characters, or all when there are fewer.
+    // Removes the last `n` characters, or all if there are fewer.
     void cut(int n) {
         end_ -= n < length() ? n : length();
         *end_ = '\0';
@@ -74,7 +75,7 @@ class BoundedText {
   private:
     char* text_;
     char* end_;
-    char* limit_;  // after the buffer
+    char* limit_;  // the end of the buffer
 };
 
 }  // namespace kavi::tn

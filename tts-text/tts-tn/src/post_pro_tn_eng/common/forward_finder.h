@@ -1,4 +1,4 @@
-// "Where is the next one?", asked again and again while a scan moves forward through one text.
+// Repeated searches for one needle from positions that move forward through a text.
 #ifndef KAVI_TN_FORWARD_FINDER_H
 #define KAVI_TN_FORWARD_FINDER_H
 
@@ -6,11 +6,11 @@
 
 namespace kavi::tn {
 
-// Remembers the last answer, so that all the searches of one scan together read the text once.
+// Remembers the last match: all searches of a scan together read the text once.
 class ForwardFinder {
   public:
-    // The first `needle`, a character or a text, at or after `from`, or null. `from` never lies
-    // before that of an earlier call, and the needle stays the same.
+    // The first `needle`, a character or a NUL-terminated text, at or after `from`, or null. Each
+    // call has the same needle and a `from` that is not before that of the last call.
     template <typename Needle>
     const char* find(const char* from, Needle needle) {
         if (!exhausted_ && (found_ == nullptr || found_ < from)) {
@@ -22,7 +22,7 @@ class ForwardFinder {
 
   private:
     static const char* search(const char* from, char needle) { return std::strchr(from, needle); }
-    // The needles are a few characters long, of which the first is rare.
+    // Needles are short, and their first character is rare: strchr finds the candidates.
     static const char* search(const char* from, const char* needle) {
         for (; (from = std::strchr(from, *needle)) != nullptr; ++from) {
             std::size_t n = 1;

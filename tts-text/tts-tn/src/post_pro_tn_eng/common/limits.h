@@ -9,19 +9,19 @@
 
 namespace kavi::tn {
 
-// Characters of a word, a section, a kept tag or a reading.
+// Characters of a word, a section, a kept tag or a reading, at most.
 constexpr std::size_t WORD_LENGTH_MAX = WORD_MAX_LEN - 1;
 
-// Of an opening tag that is saved, and how many are.
+// Characters of the opening tag of a span, at most, and the number of open spans.
 constexpr std::size_t SAVED_TAG_MAX = sizeof SsmlTagArr::begin_tag_arr[0] - 1;
 constexpr int OPEN_TAGS_MAX =
     static_cast<int>(sizeof SsmlTagArr::begin_tag_arr / sizeof SsmlTagArr::begin_tag_arr[0]);
 
-// Of the names, or the values, of nested spans, with a tab between each two: any span whose tag is
-// saved has room.
+// Characters of the list of names, or of values, of nested spans, with a tab between two of them.
+// Any single span has room, since its tag is longer than its name or value.
 constexpr std::size_t SPAN_CHAIN_MAX = SAVED_TAG_MAX;
 
-// Of the name of a tag of speakable text.
+// Characters of the name of a tag in speakable text, at most.
 constexpr std::size_t TAG_NAME_MAX = MEMORY_SIZE_TAG_LABEL_TN - 1;
 
 }  // namespace kavi::tn

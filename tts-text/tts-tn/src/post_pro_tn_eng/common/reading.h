@@ -1,4 +1,4 @@
-// The words that are written for one pattern, in a reading buffer of WORD_MAX_LEN bytes.
+// A reading: the words of one pattern, in a buffer of WORD_MAX_LEN bytes.
 #ifndef KAVI_TN_READING_H
 #define KAVI_TN_READING_H
 
@@ -13,16 +13,17 @@
 
 namespace kavi::tn {
 
-// Grows after what the buffer holds already. Words that no longer fit are cut after the last whole
-// one that does, and everything after the cut is dropped. A cut reading does not end in a blank.
+// Appends words to the text in a buffer of the caller. Words that do not fit are cut after the last
+// whole word that does; the reading is then cut: it has no blank at its end, and later appends do
+// nothing.
 class Reading {
   public:
-    // `sz_target_text` is a text in a buffer of WORD_MAX_LEN bytes; the buffer stays the caller's.
-    // cppcheck-suppress uninitMemberVar ; of the digits' runs, those noted are set
+    // `sz_target_text` is a NUL-terminated text in a buffer of WORD_MAX_LEN bytes.
+    // cppcheck-suppress uninitMemberVar ; only the first n_digit_runs_ of digit_runs_ are read
     explicit Reading(char* sz_target_text)
         : text_(sz_target_text), length_(std::strlen(sz_target_text)) {}
 
-    // Grows after the first `length` characters of the buffer.
+    // Continues the first `length` characters of the buffer.
     // cppcheck-suppress uninitMemberVar
     Reading(char* buffer, std::size_t length) : text_(buffer), length_(length) {}
 
@@ -36,16 +37,16 @@ class Reading {
         extend(words.size());
     }
 
-    // Appends a text that must not be broken, such as a word or a tag of the user's, and answers
-    // true; or nothing, and answers false: there is no room, or the reading has been cut.
+    // Appends a word or tag of the source, which must not be broken. False, with nothing appended,
+    // when it does not fit or the reading is cut.
     bool append_whole(std::string_view text) {
         if (!has_room(text.size())) return false;
         append(text);
         return true;
     }
 
-    // For words of at most `length` characters that are written to the end: whether they have room,
-    // where they go, and that they are there.
+    // For a caller that writes at the end itself: whether `length` characters fit, where they go,
+    // and, once they are written, making them part of the reading.
     bool has_room(std::size_t length) const { return !cut_ && length <= ROOM - length_; }
     char* end() { return text_ + length_; }
     void extend(std::size_t length) {
@@ -53,41 +54,41 @@ class Reading {
         text_[length_] = '\0';
     }
 
-    // Ends a word of the user's, which has no blank after it yet.
+    // Appends a blank after a word of the source, which append_whole adds without one.
     void end_word() {
         if (length_ > 0 && is_letter(text_[length_ - 1])) append(" ");
     }
 
-    // Appends a text that is no words, since there are none for it. This reading has not been all
-    // words then, whatever comes after it.
+    // Appends a part of the source that has no words, such as a month 25. From then on the output
+    // has to be cleaned (re_regular): is_all_words stays false, after clear() too.
     void append_as_written(std::string_view text) {
         append(text);
         all_words_ = false;
     }
 
-    // Makes the reading empty, for the next pattern.
+    // Empties the reading for the next pattern.
     void clear() {
         clear_words();
         cut_ = false;
         n_digit_runs_ = 0;
     }
 
-    // Makes room for more words of the same pattern, when those so far have been copied.
+    // Empties the text only: the words so far were copied, the pattern goes on.
     void clear_words() { length_ = 0; }
 
     std::string_view text() const { return {text_, length_}; }
     bool is_cut() const { return cut_; }
     bool is_all_words() const { return all_words_; }
 
-    // ---- Which digits have been read, for those who want to know which were not ----
+    // ---- The digits that were read, for findings about digits that were not ----
 
-    // Notes that these digits, a piece of a section's text, are in the reading.
+    // Notes that the reading has words for these digits, a part of a token's text.
     void note_digits(std::string_view digits) {
         assert(n_digit_runs_ < DIGIT_RUNS_MAX);
         digit_runs_[n_digit_runs_++] = {digits.data(), digits.size()};
     }
 
-    // How many digits of this text were read.
+    // The number of digits of `text`, a token's text, that were read.
     std::size_t digits_read(std::string_view text) const {
         std::size_t n = 0;
         for (std::size_t i = 0; i < n_digit_runs_; ++i) {
@@ -106,7 +107,7 @@ class Reading {
         std::size_t length;
     };
 
-    // What is there already stays: it may end in a tag, which holds blanks.
+    // Looks for the cut in `words` only: the text before may end with a tag, which may hold blanks.
     void append_cut(std::string_view words) {
         cut_ = true;
         std::string_view kept = words.substr(0, ROOM - length_);

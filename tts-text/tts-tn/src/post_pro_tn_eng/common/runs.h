@@ -1,4 +1,5 @@
-// Runs of characters, by which the scans move: a look-up for each, and eight at a time over words.
+// Runs of characters of one kind, and where they end: by a look-up for each character, or for eight
+// characters at a time.
 #ifndef KAVI_TN_RUNS_H
 #define KAVI_TN_RUNS_H
 
@@ -11,11 +12,11 @@
 
 namespace kavi::tn {
 
-// What a run is made of, a bit for each. No run goes past the end of a text.
+// The kinds of run, a bit for each. NUL is of no kind: a run ends with its text.
 enum Run : unsigned char {
     LETTERS = 1,
     DIGITS = 2,
-    COPIED = 4,  // what needs no decision of the pre-pass
+    COPIED = 4,  // characters that the sentence cutter copies without a decision
 };
 
 constexpr unsigned runs_of(char c) {
@@ -43,33 +44,49 @@ constexpr bool belongs_to(Run run, char c) {
     return (RUNS[static_cast<unsigned char>(c)] & run) != 0;
 }
 
-// The first character from `text` on that does not belong to the run.
+// The first character at or after `text` that does not belong to the run. A NUL ends the text.
 constexpr const char* skip(Run run, const char* text) {
     while (belongs_to(run, *text)) ++text;
     return text;
 }
 
-// ---- Eight at a time: most words end within the first eight characters, so that a processor
-// foresees how the search for their end goes, which it cannot when each character is a branch. ----
+// ---- Eight characters at a time ----
+//
+// The functions below hold eight characters in one register, a byte for each, and compute marks: a
+// bit in the byte of each character that ends a run, or may end one. The lowest mark is the end of
+// the run, or a candidate that a look-up confirms.
+//
+// Comparisons are sums: adding 0x80 - n to a byte below 0x80 sets its top bit if the byte is n or
+// more, for all eight bytes in one instruction. A byte of 0x80 or more may carry into the next one,
+// so where bytes are not masked first, no mark after the lowest one is reliable.
+//
+// This pays because the lengths of words are unpredictable: a loop over the characters of a word
+// ends with a mispredicted branch, while most words end within their first eight characters. The
+// tokenizer takes 7.4 instructions for a byte of prose; a loop that does no more than classify each
+// byte and count words takes 10.0 (docs/performance.md).
 
 using Eight = std::uint64_t;  // eight characters, the first in the lowest byte
 constexpr Eight EACH = 0x0101010101010101;
 
 constexpr Eight eight_of(const char* text) {
     const auto at = [=](int i) { return Eight{static_cast<unsigned char>(text[i])} << (8 * i); };
-    return at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);  // one load, compiled
+    return at(0) | at(1) | at(2) | at(3) | at(4) | at(5) | at(6) | at(7);  // compiled to one load
 }
 
-// Where no eight characters of a text begin any more.
+// The first position of a text with fewer than eight characters from there on.
 inline const char* eights_end(const char* text, const char* text_end) {
     return text_end - text >= 8 ? text_end - 7 : text;
 }
 
-// The top bit of each up to the first that is no small letter and no blank, or a blank after a
-// blank, and of that; what comes after it is of no use, since sums may carry into it. `no_blanks`
-// is set for the next eight.
+// Marks, by the top bit, what ends words in lower case with single blanks between them: a character
+// that is neither a lower-case letter nor a blank, and the second of two blanks. Only the lowest
+// mark is reliable. The top bit of the lowest byte of `no_blanks` says that the character before
+// these eight is not a blank; it is set anew for the next eight.
+//
+//   characters  t h e _ _ c a t    "_" is a blank
+//   marks       . . . . 1 ? ? ?
 constexpr Eight no_small_words(Eight c, Eight& no_blanks) {
-    const Eight from_blank = c ^ EACH * ' ';  // 0 for a blank, capitals for small letters
+    const Eight from_blank = c ^ EACH * ' ';  // 0 for a blank, 'A' to 'Z' for 'a' to 'z'
     const Eight no_blank = from_blank + EACH * 0x7f;
     const Eight no_letter =
         ~(from_blank + EACH * (0x80 - 'A')) | (from_blank + EACH * (0x7f - 'Z'));
@@ -78,27 +95,29 @@ constexpr Eight no_small_words(Eight c, Eight& no_blanks) {
     return ((no_letter & no_blank) | from_blank | ~one_blank) & EACH * 0x80;
 }
 
-// A bit of each from "!" to "?", as is all that needs a decision of the pre-pass, and of some
-// others.
+// Marks, by the bit 0x20, the characters from "!" to "?", among them all that are not COPIED, and
+// control characters and some bytes above 127. The sums do not carry: all marks are reliable.
 constexpr Eight maybe_not_copied(Eight c) {
     const Eight no_blank = (c & EACH * 0x1f) + EACH * 0x1f;
     return no_blank & ~c >> 1 & EACH * 0x20;
 }
 
-// Of such bits, those of digits are 0 here: a number would be looked up digit by digit.
+// Has the bit 0x20 cleared for digits, and for some other bytes that are COPIED: without it each
+// digit of a number would be a candidate.
 constexpr Eight no_digit(Eight c) {
     const Eight from_colon = (c & EACH * 0x1f) + EACH * ('@' - ':');
     return from_colon | ~c << 1;
 }
 
-// Which of the eight the first marked one is.
+// The index, 0 to 7, of the first marked character. `marked` is not 0.
 inline std::size_t first_of(Eight marked) {
     return static_cast<unsigned>(__builtin_ctzll(marked)) / 8;
 }
 
-// Copies small letters, and a blank after each run of them, to the same places of `target`, from
-// `at` on, after a letter, and up to `limit`. Where they end; what comes after them
-// may be copied too.
+// Copies lower-case words with single blanks between them, and one blank at their end, from `text`
+// to the same offsets of `target`: from offset `at`, which a letter precedes, to at most `limit`.
+// Returns the offset of their end. Up to eight more characters, none at or after `limit`, may have
+// been copied.
 inline std::ptrdiff_t copy_small_words(const char* text, std::ptrdiff_t at, std::ptrdiff_t limit,
                                        char* target) {
     Eight no_blanks = 0x80;
@@ -114,6 +133,7 @@ inline std::ptrdiff_t copy_small_words(const char* text, std::ptrdiff_t at, std:
     return at;
 }
 
+// The first character at or after `text` that is not COPIED. A NUL is at `text_end`.
 inline const char* skip_copied(const char* text, const char* text_end) {
     for (const char* const end = eights_end(text, text_end); text < end; text += 8) {
         const Eight eight = eight_of(text);

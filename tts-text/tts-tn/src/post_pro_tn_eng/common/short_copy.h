@@ -1,4 +1,4 @@
-// Copies of a few characters.
+// Copying a few characters.
 #ifndef KAVI_TN_SHORT_COPY_H
 #define KAVI_TN_SHORT_COPY_H
 
@@ -7,8 +7,9 @@
 
 namespace kavi::tn {
 
-// Copies `n` characters. Up to 16 go as two pieces that may overlap, which is less than a call of
-// memcpy: for words.
+// memcpy for the length of words: up to 16 characters are copied as two pieces of fixed size that
+// may overlap, the first and the last 1, 2, 4 or 8 characters. This costs less than a call. Source
+// and target must not overlap.
 inline void copy_short(char* target, const char* source, std::size_t n) {
     const auto copy_ends = [=](std::size_t piece) {
         std::memcpy(target, source, piece);

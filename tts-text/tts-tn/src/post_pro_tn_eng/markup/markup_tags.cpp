@@ -1,3 +1,5 @@
+// The table of markup tags.
+
 #include "markup_tags.h"
 
 namespace kavi::tn {

@@ -1,4 +1,4 @@
-// The markup tags of raw and normalised text.
+// The markup tags of raw text and of sentences, by their prefixes.
 #ifndef KAVI_TN_MARKUP_TAGS_H
 #define KAVI_TN_MARKUP_TAGS_H
 
@@ -9,25 +9,25 @@
 namespace kavi::tn {
 
 enum class TagKind {
-    removed,     // never reaches a sentence
-    kept,        // copied as it is
-    span_open,   // opens a span: saved, closed at the end of the sentence, opened again after it
+    removed,     // not in a sentence
+    kept,        // copied
+    span_open,   // opens a span; one that is open at the end of a sentence goes on in the next
     span_close,  // closes the innermost span
 };
 
 struct MarkupTag {
-    std::string_view prefix;  // what the tag begins with
+    std::string_view prefix;  // of a span_close, the whole tag
     TagKind kind;
-    const char* partner;  // of an opening: its closing tag; of a closing: what it closes
+    const char* partner;  // the closing tag of a span_open; the prefix that a span_close closes
 };
 
-// Searched in this order; the first prefix that a text begins with wins.
+// Searched in this order: the first prefix that matches wins.
 extern const MarkupTag MARKUP_TAGS[13];
 
-// Whether a NUL-terminated text, or a piece of one, begins with `prefix`.
+// Whether `text`, NUL-terminated or a string_view, begins with `prefix`.
 inline bool begins_with(const char* text, std::string_view prefix) {
     for (const char c : prefix) {
-        if (*text++ != c) return false;  // most texts by their first character
+        if (*text++ != c) return false;
     }
     return true;
 }
@@ -35,10 +35,10 @@ inline bool begins_with(std::string_view text, std::string_view prefix) {
     return text.substr(0, prefix.size()) == prefix;
 }
 
-// Letters that come after the "<" of any of them: a bit for each, from "a" on.
+// The letters after "<" in MARKUP_TAGS: bit 0 for "a", bit 25 for "z".
 extern const unsigned MARKUP_INITIALS;
 
-// Whether a text may begin with one of the tags: no other "<" need be compared with all of them.
+// A quick test: false when none of the tags begins at `text`.
 inline bool may_begin_tag(const char* text) {
     return text[0] == '<' && (text[1] == '/' || (is_lower(text[1]) &&
                                                  (MARKUP_INITIALS >> (text[1] - 'a') & 1U) != 0));
@@ -47,7 +47,8 @@ inline bool may_begin_tag(std::string_view text) {
     return text.size() > 1 && may_begin_tag(text.data());
 }
 
-// The row of the tag that `text` begins with, or null.
+// The row of the first prefix that `text` begins with, or null. Whether a ">" ends the tag is not
+// tested.
 template <typename Text>
 const MarkupTag* find_markup_tag(Text text) {
     if (!may_begin_tag(text)) return nullptr;
@@ -57,8 +58,8 @@ const MarkupTag* find_markup_tag(Text text) {
     return nullptr;
 }
 
-// Whether `text` begins with a tag of sentences. "<punc=english>" is one: a removed tag that comes
-// to a sentence by another way is an ordinary punctuation tag.
+// Whether `text` begins with the prefix of a tag that a sentence may contain. "<punc=english>" is
+// such a tag, by its prefix "<punc=": it is removed from raw text only.
 bool begins_sentence_tag(const char* text);
 
 }  // namespace kavi::tn

@@ -1,3 +1,5 @@
+// Searching and looking up closing tags; paired_tags.h explains the rule and the cost.
+
 #include "paired_tags.h"
 
 #include <algorithm>
@@ -10,16 +12,16 @@ namespace kavi::tn {
 
 namespace {
 
-constexpr std::size_t OPENING = 1;  // characters before the name
-constexpr std::size_t CLOSING = 2;
+constexpr std::size_t OPENING = 1;  // characters before the name: "<"
+constexpr std::size_t CLOSING = 2;  // "</"
 
-// By name, and where the name is the same, by place.
+// The order of SortedNames: by name, then by position.
 bool is_before(std::string_view a, std::string_view b) {
     const int order = a.compare(b);
     return order != 0 ? order < 0 : a.data() < b.data();
 }
 
-// How far a name goes, as far as one can; a tag ends there or has its value after it.
+// The length of the name at `name`: up to "=", ">" or NUL, or TAG_NAME_MAX characters.
 std::size_t name_length(const char* name) {
     std::size_t length = 0;
     while (length < TAG_NAME_MAX && name[length] != '=' && name[length] != '>' &&
@@ -29,7 +31,7 @@ std::size_t name_length(const char* name) {
     return length;
 }
 
-// Whether the name is at `text`, with `end` after it.
+// Whether `name` and then the character `end` are at `text`.
 bool is_name(const char* text, std::string_view name, char end) {
     return std::strncmp(text, name.data(), name.size()) == 0 && text[name.size()] == end;
 }
@@ -69,7 +71,7 @@ const char* PairedTags::find_closing(const char* content, const char* end, std::
     const char* any_closing = any_closing_.find(content, "</");
     if (any_closing == nullptr || any_closing >= end || is_unclosed(name, end)) return nullptr;
     if (failures_ == FAILURES_MAX) {
-        ++failures_;  // once, even if the arena refuses
+        ++failures_;  // so that this is tried once only
         sort_tags(content);
     }
     const char* closing = is_sorted_ ? look_up(content, name) : search(content, end, name);

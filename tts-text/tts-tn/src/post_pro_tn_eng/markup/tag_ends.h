@@ -1,4 +1,4 @@
-// Where a tag ends: at the first ">".
+// Where tags end.
 #ifndef KAVI_TN_TAG_ENDS_H
 #define KAVI_TN_TAG_ENDS_H
 
@@ -8,10 +8,11 @@
 
 namespace kavi::tn {
 
-// Serves one scan forward through one text, which it searches once.
+// The tags of one text: from a position through the next ">". The positions move forward from call
+// to call, so the text is searched once.
 class TagEnds {
   public:
-    // From `text` through the next ">"; empty when there is none.
+    // The text from `text` through the next ">". Empty when there is none.
     std::string_view tag_at(const char* text) {
         const char* end = ends_.find(text, '>');
         if (end == nullptr) return {};

@@ -1,3 +1,5 @@
+// The table of tag names, and reading one tag.
+
 #include "tag_language.h"
 
 #include <algorithm>
@@ -12,8 +14,8 @@ namespace kavi::tn {
 
 namespace {
 
-// By their first letter. A name belongs to the first row that it begins with; only the exact name
-// has the use.
+// Grouped by first letter. The first row whose prefix a name begins with gives its role. The use is
+// that of the row only if the name is the whole prefix.
 struct TagName {
     char prefix[13];
     TagRole role;
@@ -39,7 +41,7 @@ constexpr TagName TAG_NAMES[] = {
 
 constexpr std::size_t ROWS = std::size(TAG_NAMES);
 
-// The first row of each letter; ROWS where there is none.
+// For each letter, the index of the first row that begins with it, or ROWS.
 constexpr auto make_first_rows() {
     std::array<unsigned char, 26> rows{};
     for (unsigned char& row : rows) row = ROWS;
@@ -52,7 +54,8 @@ constexpr auto make_first_rows() {
 
 constexpr auto FIRST_ROWS = make_first_rows();
 
-// The row that the name begins with, and how much of the name that is; null when there is none.
+// The first row whose prefix begins at `name`, and the length of that prefix. Null when there is
+// none.
 const TagName* find_name(const char* name, std::size_t& length) {
     if (!is_lower(*name)) return nullptr;
     for (std::size_t n = FIRST_ROWS[static_cast<std::size_t>(*name - 'a')];

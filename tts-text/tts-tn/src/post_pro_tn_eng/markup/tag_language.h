@@ -1,4 +1,4 @@
-// The tags of speakable text, by their names.
+// The tag language of speakable text: names, roles and how far each tag reaches.
 #ifndef KAVI_TN_TAG_LANGUAGE_H
 #define KAVI_TN_TAG_LANGUAGE_H
 
@@ -13,32 +13,34 @@ namespace kavi::tn {
 
 enum class TagRole : unsigned char {
     simple,   // ends at its ">"
-    dropped,  // paired; goes with its content
+    dropped,  // paired; dropped with its content
     span,     // paired; its content is read
 };
 
 // What the builder does at a tag.
 enum class TagUse : unsigned char { none, punc, breaktime, span };
 
-// A tag, as it is written in the text.
+// A tag in a text. The string_views are parts of the text.
 struct Tag {
     TagRole role;
     TagUse use;
     std::string_view name;
     std::string_view value;
     std::string_view content;  // between a paired tag and its closing tag
-    const char* after;         // where the text goes on
+    const char* after;         // the position after the tag and its content
 };
 
-// Whether the name of a tag of the language begins at `name`.
+// Whether the name of a tag begins at `name`. More letters may follow the name.
 bool begins_tag_name(const char* name);
 
-// Reads the tag whose name begins at `name`, as far as its ">". False when it is none of the
-// language or has no ">" before `end`.
+// Reads the tag whose name begins at `name`, through its ">", with no content. False when no name
+// of the language begins there, the name is more than TAG_NAME_MAX characters, or no ">" comes
+// before `end`.
 bool read_opening(const char* name, const char* end, TagEnds& tag_ends, Tag& tag);
 
-// Reads on to the end of a paired tag. One that is not closed before `end`: a span runs as far as
-// that; any other is passed over by itself, so that the words after it stay. False for these.
+// Reads the content of a paired tag and its closing tag; nothing of a simple one. False when it is
+// not closed before `end`: the content of a span is then all up to `end`, that of another tag is
+// empty, so that the words after the tag stay.
 bool read_content(Tag& tag, const char* end, PairedTags& paired_tags);
 
 }  // namespace kavi::tn

@@ -1,3 +1,5 @@
+// Number words, written by groups of three digits.
+
 #include "number_words.h"
 
 #include <algorithm>
@@ -12,8 +14,8 @@ namespace {
 
 // The three digits of a number below a thousand.
 struct Digits {
-    // Of at most three characters. What is not there counts as zero, but for the units of an empty
-    // text, which have no word.
+    // `text` has at most three characters. A missing digit is '0', but the units of an empty text
+    // are NUL, which has no word.
     explicit Digits(std::string_view text)
         : hundreds(text.size() == 3 ? text[0] : '0'),
           tens(text.size() >= 2 ? text[text.size() - 2] : '0'),
@@ -24,7 +26,7 @@ struct Digits {
     char units;
 };
 
-// The row of s_number_to_char for tens and units that have one word; 0 for what is no digit.
+// The row of s_number_to_char for tens and units that have one word: below 20, or whole tens.
 std::size_t row_of(char tens, char units) {
     constexpr std::size_t TEN = 10;
     constexpr std::size_t TWENTY = 20;
@@ -34,7 +36,7 @@ std::size_t row_of(char tens, char units) {
     return tens == '1' ? TEN + u : TWENTY + t - 2;
 }
 
-// How long the words of a table are, row by row.
+// The lengths of the words of a table, row by row.
 template <std::size_t Rows, std::size_t Width>
 constexpr auto lengths_of(const char (&table)[Rows][2][Width]) {
     std::array<unsigned char, Rows> lengths{};
@@ -51,7 +53,7 @@ std::string_view cardinal_word(std::size_t row) {
     return {s_number_to_char[row][1], CARDINAL_LENGTHS[row]};
 }
 
-// ---- Each writes words to `end` and returns where they end ----
+// ---- Each writes words at `end`, where GROUP_MAX bytes are free, and returns their end ----
 
 template <std::size_t Size>
 char* put(char* end, const char (&words)[Size]) {
@@ -59,15 +61,15 @@ char* put(char* end, const char (&words)[Size]) {
     return end + Size - 1;
 }
 
-// A word of a table. All of its row is copied: a copy whose length is known is short.
+// A word of a table. The whole row is copied, since a copy of constant size is inlined.
 template <std::size_t Size>
 char* put_row(char* end, const char (&row)[Size], std::size_t length) {
     std::memcpy(end, row, Size);
     return end + length;
 }
 
-// The word that tens and units have; none for what is no digit. The tables have the same order, but
-// ordinals no row for 0.
+// The one word of tens and units; nothing when one of them is not a digit. Both tables have the
+// same order, but the ordinals have no row for 0.
 char* put_word(char* end, char tens, char units, bool ordinal) {
     if (!is_digit(tens) || !is_digit(units)) return end;
     const std::size_t row = row_of(tens, units);
@@ -75,8 +77,8 @@ char* put_word(char* end, char tens, char units, bool ordinal) {
     return put_row(end, s_number_to_turn[row - 1][1], ORDINAL_LENGTHS[row - 1]);
 }
 
-// The frame that cardinals and ordinals have in common: hundreds, then " and ", then one word or
-// two, of which the last is an ordinal or not.
+// A group as a cardinal or an ordinal: hundreds, " and ", then one word or two. Only the last word
+// is an ordinal. «121» as an ordinal is "one hundred  and twenty first ".
 char* put_group(char* end, std::string_view text, bool ordinal) {
     const Digits digits(text);
     const bool has_hundreds = digits.hundreds != '0';
@@ -100,9 +102,10 @@ char* put_group(char* end, std::string_view text, bool ordinal) {
     return put(end, " ");
 }
 
-constexpr std::size_t GROUP_MAX = 80;  // "seventeen hundred  and seventy seventeenth " and a row
+// Bytes that a group may write: more than its longest words and one row of a table.
+constexpr std::size_t GROUP_MAX = 80;
 
-// Where there may be no room for all of the words.
+// Appends a group where less than GROUP_MAX bytes are free: its words may be cut.
 void append_last_group(std::string_view text, bool ordinal, Reading& reading) {
     char words[GROUP_MAX];
     const char* end = put_group(words, text, ordinal);
@@ -116,18 +119,18 @@ void append_group(std::string_view text, bool ordinal, Reading& reading) {
     reading.extend(static_cast<std::size_t>(end - begin));
 }
 
-// The length of the first of the groups, of which only that may be short.
+// The length of the first group, the only one that may be shorter than three digits.
 std::size_t first_group(std::size_t n_digits) {
     return n_digits % GROUP_DIGITS != 0 ? n_digits % GROUP_DIGITS
                                         : std::min(n_digits, GROUP_DIGITS);
 }
 
-// The number of groups that are read.
+// The number of groups that are read of a number with `n_digits` digits.
 std::size_t groups_read(std::size_t n_digits) {
     return std::min((n_digits + GROUP_DIGITS - 1) / GROUP_DIGITS, GROUPS_MAX);
 }
 
-// Reads and removes the first group, with the scale word that `groups_after` gives it.
+// Appends the first group and its scale word, and removes it from `digits`.
 void take_group(std::string_view& digits, std::size_t groups_after, Reading& reading) {
     const std::size_t length = first_group(digits.size());
     append_group(digits.substr(0, length), false, reading);
@@ -135,7 +138,7 @@ void take_group(std::string_view& digits, std::size_t groups_after, Reading& rea
     digits.remove_prefix(length);
 }
 
-// Reads a number group by group, but for the last `n_left` of those that are read.
+// Appends the groups of a number that are read, except the last `n_left` of them.
 void append_groups(std::string_view digits, std::size_t n_left, Reading& reading) {
     const std::string_view all = digits;
     for (std::size_t n = groups_read(digits.size()); n > n_left; --n) {

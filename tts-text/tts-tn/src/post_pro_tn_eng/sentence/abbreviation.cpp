@@ -1,4 +1,4 @@
-// "Dr.", "e.g." and the like: full stops that end no sentence.
+// Abbreviations such as "Dr." and "e.g.": full stops that do not end a sentence.
 
 #include "abbreviation.h"
 
@@ -48,7 +48,7 @@ constexpr auto make_rows_ending_in() {
     return rows;
 }
 
-// For each letter, a bit for every row that has it before its first ".", in whatever case.
+// For each letter, a bit for every row that has it, in either case, before its first ".".
 constexpr auto ROWS_ENDING_IN = make_rows_ending_in();
 
 unsigned rows_ending_in(char c) {
@@ -72,8 +72,8 @@ bool has_case_form(const char* text, const char* abbreviation, std::size_t form)
     return true;
 }
 
-// Whether the abbreviation of a row has room before `dot`, and its first letter is there, in
-// whatever case: most texts that end alike are told from it by that.
+// Whether the abbreviation of a row fits between `stretch` and `dot` and has its first letter
+// there, in either case. This rejects most texts that only end like it.
 bool begins_alike(int row, const char* stretch, const char* dot) {
     const auto offset = static_cast<std::ptrdiff_t>(dot_offset(row));
     return dot - stretch >= offset &&
@@ -82,8 +82,8 @@ bool begins_alike(int row, const char* stretch, const char* dot) {
 
 }  // namespace
 
-// The case form that occurs at the full stop counts only when no form tried before it occurs
-// anywhere in the rest of the text: the first form that occurs is taken, wherever that is.
+// The rule: the first case form that occurs anywhere from `stretch` on is the one that is replaced.
+// So the form before `dot` is accepted only if no earlier form occurs from `stretch` on.
 bool AbbreviationSearch::is_accepted(int row, const char* stretch, const char* dot) {
     const char* abbreviation = s_spec_word_abbrevi[row][0];
     std::size_t form = 0;

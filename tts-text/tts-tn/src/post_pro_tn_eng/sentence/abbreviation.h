@@ -1,4 +1,4 @@
-// The search for the abbreviation that a full stop ends.
+// Finding the abbreviation that a full stop ends.
 #ifndef KAVI_TN_ABBREVIATION_H
 #define KAVI_TN_ABBREVIATION_H
 
@@ -16,25 +16,25 @@ constexpr int NO_ABBREVIATION = -1;
 // The offset of the first "." in the abbreviation of a row.
 std::size_t dot_offset(int row);
 
-// Serves one scan of one source text: remembers which case forms lie ahead, so that even a text
-// made of near misses is searched once for each.
+// The searches of one scan of one source text. It remembers where each case form occurs next: even
+// a text full of near misses is searched once for each form.
 class AbbreviationSearch {
   public:
-    AbbreviationSearch() {}  // not constant: that would clear the finders that few texts need
+    AbbreviationSearch() {}  // not defaulted: that would clear the finders, which few texts need
 
-    // The row of the abbreviation whose first "." is the one at `dot`, or NO_ABBREVIATION.
-    // `stretch` is where the search begins: at the start of the sentence, or after the last
-    // abbreviation or decimal point; `dot` is the first "." from there on. Stretches move forward
-    // from call to call.
+    // The row of the abbreviation whose first "." is at `dot`, or NO_ABBREVIATION. The search
+    // begins at `stretch`: the start of the sentence, or the position after the last abbreviation
+    // or decimal point. `dot` is the first "." from there on. No call has a `stretch` before that
+    // of an earlier one.
     int find(const char* stretch, const char* dot);
 
   private:
-    // Of a row that begins alike.
+    // Whether a row that passes the cheap tests is the abbreviation.
     bool is_accepted(int row, const char* stretch, const char* dot);
 
     static constexpr std::size_t CASE_FORMS = 4;  // as written, lower case, capitalised, capitals
     using Finders = std::array<ForwardFinder, ABBREVIATIONNUMBER * CASE_FORMS>;
-    std::optional<Finders> ahead_;  // few texts need any
+    std::optional<Finders> ahead_;  // from the first search on; few texts need one
 };
 
 }  // namespace kavi::tn

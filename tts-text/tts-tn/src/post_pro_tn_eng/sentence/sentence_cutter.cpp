@@ -1,3 +1,5 @@
+// Cutting a sentence off raw text, in one scan.
+
 #include "sentence_cutter.h"
 
 #include <algorithm>
@@ -18,13 +20,14 @@ namespace tn {
 
 namespace {
 
-// Whether the character here, after some other, is a mark that only joins digits.
+// Whether the character at `mark` is a ".", "," or ":" between digits. There is one before it.
 constexpr bool joins_digits(const char* mark) {
     const bool may_join = *mark == '.' || *mark == ',' || *mark == ':';
     return may_join && is_digit(mark[-1]) && is_digit(mark[1]);
 }
 
-// A sentence that has grown beyond this is cut, so that what closes it still finds room.
+// A longer sentence is cut. Closing tags that do not fit in the rest of the buffer count as
+// malformed markup.
 constexpr int FULL_SENTENCE = SZ_TEXT_MAX_LEN - 10;
 
 constexpr bool is_blank(char c) {
@@ -46,8 +49,7 @@ class SentenceCutter {
         tags_.begin_arr_len = 0;
     }
 
-    // Writes the sentence, and closes its spans at its end. False when malformed markup stops the
-    // pass.
+    // Writes the sentence and closes its spans. False when malformed markup ends the scan.
     bool cut() {
         drop_leading_blank();
         while (*next_ != '\0' && !stop_ && target_.length() <= FULL_SENTENCE) {
@@ -56,7 +58,8 @@ class SentenceCutter {
         return close_open_spans();
     }
 
-    // After cut(): where the next sentence begins, once what is silent has been passed over.
+    // After cut(): the rest of the source, from where the next sentence begins. Blanks, quotes and
+    // then line ends before it are skipped.
     std::string_view rest() const {
         const char* rest = next_;
         while (is_blank(*rest) || *rest == '\'' || *rest == '"') ++rest;
@@ -69,7 +72,7 @@ class SentenceCutter {
     const char* end() const { return next_; }
 
   private:
-    // Tells the observer what became of `source`: all that the target has from `target_at` on.
+    // Tells the observer that the target has for `source` what it has from offset `target_at` on.
     void report(std::string_view source, int target_at) {
         if (observer_ == nullptr) return;
         observer_->on_replaced(observer_->context, source, target_at, target_.length() - target_at);
@@ -106,8 +109,9 @@ class SentenceCutter {
         stop_ = ends_sentence;
     }
 
-    // Copies characters up to the next that needs a decision, with marks that join digits, or until
-    // the sentence is full. A run of blanks that ends the source loses its last.
+    // Copies characters up to the next that needs a decision, marks between digits included, or
+    // until the sentence is full. Of two or more blanks at the end of the source, the last is
+    // dropped.
     void run() {
         const char* begin = next_;
         const char* end = begin;
@@ -134,15 +138,15 @@ class SentenceCutter {
         if (decimal_point) begin_stretch(next_);
     }
 
-    // Searches for abbreviations go no further back than here.
+    // From now on, abbreviations are searched from `text` on only.
     void begin_stretch(const char* text) {
         stretch_ = text;
         hides_full_stop_ = false;
     }
 
-    // Whether the full stop ended an abbreviation, whose expansion is in the target now. A full
-    // stop inside a tag that was passed hides the abbreviations after it. One whose expansion has
-    // no room ends the sentence.
+    // Replaces the abbreviation that the full stop ends by its expansion. False when there is none,
+    // when the expansion does not fit, and when a tag since `stretch_` contains a full stop: only
+    // the first full stop of a stretch can end an abbreviation.
     bool expand_abbreviation() {
         if (hides_full_stop_) return false;
         const int row = abbreviations_.find(stretch_, next_);
@@ -160,7 +164,7 @@ class SentenceCutter {
 
     // ---- markup ----
 
-    // False when the markup is malformed and the pass must stop.
+    // False when the markup is malformed and ends the scan.
     bool markup() {
         const MarkupTag* tag = find_markup_tag(next_);
         const std::string_view text = tag != nullptr ? tag_ends_.tag_at(next_) : std::string_view();
@@ -192,9 +196,10 @@ class SentenceCutter {
         next_ += tag.size();
     }
 
-    // A tag that has no room any more begins the next sentence. Where the sentence begins with tags
-    // that hide no full stop, the search for abbreviations begins after them: a host may have
-    // written them over text that has been searched.
+    // Copies a tag. One that does not fit ends the sentence and begins the next. Tags without a
+    // full stop at the start of a stretch are left out of it: a host may have written them over
+    // text that an earlier call has searched, and no stretch may begin before that of an earlier
+    // call.
     bool copy_tag(std::string_view tag) {
         stop_ = !target_.append(tag);
         if (stop_) return false;
@@ -207,7 +212,7 @@ class SentenceCutter {
     bool open_span(std::string_view tag) {
         if (tags_.begin_arr_len == OPEN_TAGS_MAX) return false;
         if (tag.size() > SAVED_TAG_MAX) {
-            target_.append(tag.substr(0, SAVED_TAG_MAX + 1));  // as far as the entry took it
+            target_.append(tag.substr(0, SAVED_TAG_MAX + 1));  // as much as an entry holds
             return false;
         }
         if (!copy_tag(tag)) return true;
@@ -234,14 +239,14 @@ class SentenceCutter {
         }
         return true;
     }
-    const char* next_;  // the read position
+    const char* next_;  // the cursor
     const char* source_end_;
-    const char* stretch_;           // where the next abbreviation search begins
-    bool hides_full_stop_ = false;  // a tag that was passed since has one inside
+    const char* stretch_;           // where searches for abbreviations begin
+    bool hides_full_stop_ = false;  // a tag since stretch_ has one inside
     BoundedText target_;
     AbbreviationSearch& abbreviations_;
     const CutObserver* observer_;
-    char previous_ = 0;  // the last character that the scan recorded; tags do not count
+    char previous_ = 0;  // the character before the cursor; tags do not count
     bool stop_ = false;  // the sentence has ended
     int length_before_closing_ = 0;
     SsmlTagArr& tags_;  // the open spans
@@ -262,7 +267,6 @@ void cut_sentence(std::string_view source, char* target, AbbreviationSearch& abb
 
 }  // namespace tn
 
-// What is handed back is the open tags, each whole, and then the rest, as far as they fit.
 int PostProTnEng::eng_text_normalize(char* sz_source_text, char* sz_target_text,
                                      char* sz_next_text) {
     tn::AbbreviationSearch abbreviations;

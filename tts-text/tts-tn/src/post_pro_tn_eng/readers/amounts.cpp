@@ -31,7 +31,7 @@ const Token* decimal_number(const Token* number, Reading& reading) {
     return decimals;
 }
 
-// The whole dollars with their unit.
+// Appends the whole dollars and their unit. Returns the last token consumed.
 static const Token* read_dollars(const Token* amount, Reading& reading) {
     if (amount[1].first() == '.') {
         append_number(amount->text(), reading);

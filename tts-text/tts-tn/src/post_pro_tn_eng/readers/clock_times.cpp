@@ -1,4 +1,4 @@
-// Clock times: 10:30, and 10:30:15 or 10:30'15 with their units.
+// Clock times: 10:30, read without units, and 10:30:15 or 10:30'15, read with units.
 
 #include "../numbers/number_words.h"
 #include "readers.h"
@@ -10,7 +10,7 @@ namespace {
 
 struct TimeUnit {
     const char* one;
-    const char* zero;  // says the number too, since the reading of 0 is blank
+    const char* zero;  // with the number, since append_number has no word for 0
     const char* many;
 };
 
@@ -29,8 +29,8 @@ void append_number_of(const TimeUnit& unit, const Token* part, Reading& reading)
     reading.append(unit_word(unit, value_of(part->text())));
 }
 
-// A part that is no number is appended as it is. False when that has no room: it is left to the
-// dispatcher.
+// Appends minutes or seconds. A part that is not a number is appended by append_no_number: false
+// when it does not fit and is left to the dispatcher.
 bool append_part(const TimeUnit& unit, const Token* part, Reading& reading) {
     if (!part->has_digits_only) return append_no_number(part, reading);
     reading.end_word();

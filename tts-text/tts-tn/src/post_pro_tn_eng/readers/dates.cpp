@@ -1,5 +1,5 @@
-// Numeric dates, years, and days beside a month. The day comes first: «12/25/2020» is the twelfth
-// of a month 25 that has no name.
+// Numeric dates, years, and days beside a month. The day comes first: in «12/25/2020» the month is
+// 25, which has no name and is not read.
 
 #include "../numbers/number_words.h"
 #include "months.h"
@@ -14,7 +14,7 @@ bool is_part_of_date(const Token* token) {
     return token->has_digits_only || is_month(token);
 }
 
-// A month or, for what names none, the text as it is.
+// Appends the name of a month; the text itself when it is not a month.
 void append_month(std::string_view text, Reading& reading) {
     const char* name = month_name(text);
     if (name == nullptr) {

@@ -1,4 +1,4 @@
-// Brackets and plus signs that begin a telephone number, and apostrophes.
+// Brackets and plus signs that begin telephone numbers, and apostrophes.
 
 #include <cstring>
 
@@ -12,7 +12,7 @@ namespace {
 
 struct Contraction {
     char letters[3];
-    char word[5];  // fits over the letters' section
+    char word[5];  // NUL-terminated: it is copied into sections of the host
     unsigned char length;
 };
 
@@ -20,7 +20,8 @@ constexpr Contraction CONTRACTIONS[] = {
     {"t", "not", 3}, {"s", "is", 2}, {"re", "are", 3}, {"ll", "will", 4}, {"m", "am", 2},
 };
 
-// The number is the country code, what follows it the telephone number.
+// Reads `number` as the country code and the tokens after it as the telephone number. Null when the
+// output is full.
 const Token* country_code_read(const Token* number, Reading& reading, BoundedText& output) {
     append_cardinal(number->text(), reading);
     if (!output.append("country code ") || !output.append(reading.text()) || !output.append(" ")) {

@@ -1,3 +1,5 @@
+// Recognising months.
+
 #include "months.h"
 
 #include "../common/ascii.h"
@@ -7,7 +9,7 @@ namespace kavi::tn {
 
 namespace {
 
-// A bit for each letter that an abbreviation begins with, from A on; the names begin alike.
+// The first letters of the abbreviations, and so of the names: bit 0 for "A".
 constexpr unsigned make_initials() {
     unsigned initials = 0;
     for (const auto& row : s_string_to_month) initials |= 1U << (row[0][0] - 'A');
@@ -27,8 +29,8 @@ int month_number(std::string_view text) {
     return value <= MONTHS ? value : 0;
 }
 
-// Most words are answered by their first character. The twelve numbers without a leading zero are
-// the first rows of their table, in order.
+// Rows 0 to 11 of s_number_to_month are the months 1 to 12. Most words are rejected by their first
+// character.
 const char* month_name(std::string_view text) {
     if (text.empty()) return nullptr;
     if (is_digit(text[0])) {

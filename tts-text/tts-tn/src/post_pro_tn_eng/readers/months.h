@@ -1,4 +1,4 @@
-// The names of months.
+// Names and numbers of months.
 #ifndef KAVI_TN_MONTHS_H
 #define KAVI_TN_MONTHS_H
 
@@ -9,14 +9,14 @@
 
 namespace kavi::tn {
 
-// The full name of the month that a section's text names, by number, abbreviation or name, or null.
+// The full name of the month that `text` gives as a number (1 or 01), an abbreviation or a name.
+// Null for any other text.
 const char* month_name(std::string_view text);
 
-// The number of a month, in one digit or two; 0 for any other text. The text begins with a digit.
-// The first rows of the table of numbers are 1 to 12, those after them the same with two digits.
+// The number of the month that `text`, which begins with a digit, gives in one or two digits. 0 for
+// any other text.
 int month_number(std::string_view text);
 
-// Most tokens are answered by their first character.
 inline bool is_month(const Token* token) {
     if (is_digit(token->first())) return month_number(token->text()) > 0;
     return is_upper(token->first()) && month_name(token->text()) != nullptr;

@@ -14,14 +14,14 @@ bool is_group(const Token* token) {
     return token->has_digits_only && token->length <= GROUP_DIGITS;
 }
 
-// How a number with separators is to be read: with so many groups after its first, and whether its
-// last group is an ordinal.
+// The form of a number with separators: the number of groups after its first, and whether the last
+// group is an ordinal.
 struct NumberForm {
     std::size_t groups_after;
     bool ordinal;
 };
 
-// Of a number that "," follows: each token looked at is a section, or the one after it.
+// `number` is followed by ",". A token is looked at only when the one before it is a section.
 NumberForm number_form(const Token* number) {
     if (!is_group(number + 2)) return {1, false};
     if (!is_mark(number + 3, ',')) return {1, is_ordinal_suffix(number + 3)};
@@ -30,8 +30,8 @@ NumberForm number_form(const Token* number) {
     return {2, is_ordinal_suffix(number + 5)};
 }
 
-// The last section of a number with separators, with mark and suffix when it is an ordinal. It
-// need not be a number.
+// Appends the last group of a number with separators, which may be any token, and returns the last
+// token consumed: the suffix of an ordinal, else the group.
 const Token* read_last(const Token* last, bool ordinal, Reading& reading) {
     if (!last->has_digits_only) {
         if (!append_no_number(last, reading)) return last - 1;
@@ -61,7 +61,7 @@ const Token* str_number(const Token* number, Reading& reading) {
         append_cardinal(group->text(), reading);
         group += 2;
         if (form.groups_after == 1 && group->length != GROUP_DIGITS) {
-            // No group of thousands: the number ends with its comma.
+            // Not a group of three: the number ends with the comma.
             return form.ordinal ? group : group - 1;
         }
         reading.append(scale_word(n));
@@ -69,7 +69,7 @@ const Token* str_number(const Token* number, Reading& reading) {
     return is_section(group) ? read_last(group, form.ordinal, reading) : group;
 }
 
-// A host's section keeps zeros in the place of its last group, as hosts know it.
+// In a queue of the host, the last group of the section becomes zeros, which hosts can see.
 const Token* turn(const Token* number, Reading& reading) {
     append_ordinal_number(number->text(), reading);
     if (number->section != nullptr && number->length > GROUP_DIGITS) {

@@ -1,9 +1,10 @@
-// The readers of patterns. A test (..._decide) tells whether its pattern begins at a token; the
-// reader appends the pattern's words to a reading and returns the last token that it consumed, or,
-// where there are too few, the one after the last section.
+// The readers of patterns. A test (..._decide) tells whether its pattern begins at a token. A
+// reader appends the words of the pattern to a reading and returns the last token that it consumed,
+// or, when a part of the pattern is missing, the token after the last section.
 //
-// What the tokenizer's speed rests on: no reader looks past a plain word that is followed neither
-// by a digit nor by "." and a digit, or that comes after a blank, and none looks back past one.
+// The rule of plain words, on which tokenize/plain_text and TokenWindow::Reach::plain_word rely: no
+// reader looks past a plain word that comes after a blank, or that is followed neither by a digit
+// nor by "." and a digit; and no reader looks back past a plain word. A new reader must keep it.
 #ifndef KAVI_TN_READERS_H
 #define KAVI_TN_READERS_H
 
@@ -13,34 +14,33 @@
 
 namespace kavi::tn {
 
-// A telephone number has at most so many sections.
+// The sections of a telephone number, at most.
 constexpr int TELEPHONE_SECTIONS_MAX = 9;
 
-// How far the readers look: so many tokens after the first of a pattern (after a bracket, a
-// telephone number with the mark before it; after a "$", four groups, a suffix and cents), and so
-// many before it.
+// The number of tokens after and before the first of a pattern that readers look at. The longest
+// pattern is a bracket, a country code and a telephone number.
 constexpr int SECTIONS_AHEAD = TELEPHONE_SECTIONS_MAX + 1;
 constexpr int SECTIONS_BEFORE = 2;
 
 using Reader = const Token*(const Token* pattern, Reading& reading);
 
-// ---- telephone: "area code ", then group by group, digit by digit, up to a word; one that begins
-// there is consumed all the same ----
+// ---- telephone: "area code ", then at most nine sections digit by digit, up to the first word. A
+// word that is the first section is consumed but not read. ----
 bool phone_number_decide(const Token* token);
 const Token* phone_number_read(const Token* first, Reading& reading);
 
-// ---- dates: day, "/" or "-", month, "/", year; no value is tested ----
+// ---- dates: day, "/" or "-", month, "/", year; values are not tested ----
 bool data_decide(const Token* day);
 const Token* data_number(const Token* day, Reading& reading);
 
-// A year of two or four digits; nothing for any other.
+// Appends a year of two or four digits, nothing for any other length.
 void year_read(std::string_view digits, Reading& reading);
 
-// Whether a plain number is read as a year: no shorter one is.
+// Whether a plain number is read as a year: it has at least YEAR_DIGITS digits and is 1100 to 9999.
 constexpr std::size_t YEAR_DIGITS = 4;
 bool is_year(std::string_view digits);
 
-// Whether a plain number is the day of a month beside it.
+// Whether a plain number is the day of a month: a month is two tokens ahead, or one or two back.
 bool is_day_of_month(const Token* number);
 
 // ---- amounts: fractions, decimals, money in dollars ----
@@ -49,10 +49,11 @@ const Token* fraction_number(const Token* number, Reading& reading);
 bool decimal_decide(const Token* number);
 const Token* decimal_number(const Token* number, Reading& reading);
 
-// The amount after a "$", or before one.
+// An amount after or before a "$"; `amount` is its first number.
 const Token* currrency_read(const Token* amount, Reading& reading);
 
-// ---- clock_times: of the form that time_decide has found; nothing of an incomplete one ----
+// ---- clock_times: time_number reads the form that time_decide found, nothing of an incomplete
+// one ----
 enum TimeForm : int { NO_TIME = 0, SHORT_TIME = 1, LONG_TIME = 2 };
 TimeForm time_decide(const Token* hours);
 const Token* time_number(const Token* hours, TimeForm form, Reading& reading);
@@ -61,24 +62,25 @@ const Token* time_number(const Token* hours, TimeForm form, Reading& reading);
 const Token* str_number(const Token* number, Reading& reading);
 const Token* turn(const Token* number, Reading& reading);
 
-// A token that a pattern consumes where a number was expected: a word or a tag is appended whole,
-// since the word is the user's and the tag's partner is elsewhere; a mark says nothing. False
-// when there is no room: the reading then ends before the token.
+// Appends a token that a pattern consumes in the place of a number. A word or a tag is appended
+// whole: a word must not be lost, nor a tag whose partner is elsewhere. A mark appends nothing.
+// False when a word or tag does not fit: the pattern then ends before it.
 bool append_no_number(const Token* token, Reading& reading);
 
-// ---- marks: what "(", "+" and "'" mean depends on their neighbours ----
+// ---- marks: "(", "+" and "'", whose meaning depends on the tokens around them ----
 
-// A telephone number with a country code, when "(" before a number, or "+", begins one; else the
-// mark alone is consumed, and nothing is read. Null when the output, which takes it piece by piece,
-// is full.
+// Reads a telephone number with a country code that begins with this "(" or "+" and appends it to
+// the output, in pieces. When none begins, consumes the mark alone and appends nothing. Null when
+// the output is full. A number follows the "(".
 using MarkReader = const Token*(const Token* mark, Reading& reading, BoundedText& output);
 MarkReader bracket_read;
 MarkReader plus_read;
 
-// What the letters after an apostrophe stand for; empty when they are no contraction.
+// The word for the letters after an apostrophe, such as "not" for "t". Empty when there is none.
 std::string_view find_contraction(std::string_view letters);
 
-// The same of the token after an apostrophe; a host's section has it from then on.
+// The same for the token after an apostrophe. In a queue of the host, the word replaces the text of
+// its section.
 std::string_view process_single_quote(const Token* apostrophe);
 
 }  // namespace kavi::tn

@@ -1,4 +1,4 @@
-// Telephone numbers: "area code ", then group by group, digit by digit.
+// Telephone numbers: "area code ", then digit by digit. A first group of 800 or 900 is a number.
 
 #include "../numbers/number_words.h"
 #include "readers.h"

@@ -1,4 +1,4 @@
-// The sections of a text as the readers see them, and looking along a row of them.
+// Tokens: the sections of a text as the readers see them, in a row.
 #ifndef KAVI_TN_TOKENS_H
 #define KAVI_TN_TOKENS_H
 
@@ -11,33 +11,34 @@
 
 namespace kavi::tn {
 
-// Beside the three classes of Section::m_nmark: any other that a host may have given a section,
-// which readers take for neither word nor number nor mark; and the token after the last section of
-// a row.
+// Kinds of token beside the three classes of Section::m_nmark: a section with any other value,
+// which a host may have set and which is neither word nor number nor mark to the readers; and the
+// token after the last section of a row.
 constexpr signed char OTHER_CLASS = 3;
 constexpr signed char NO_SECTION = -1;
 
-// A section: a piece of a text, or the text of a section that a host holds. A token belongs to a
-// row: SECTIONS_BEFORE more are before it, and nobody looks past one that is no section.
+// A view of a section, which is a part of a text or a Section of the host. A token is an element of
+// a row: SECTIONS_BEFORE tokens precede it, and at least one follows each that is a section. So a
+// reader may look at the next token of a section, but not past a token that is none.
 struct Token {
     const char* begin;
     std::uint16_t length;
     signed char kind;  // as in Section::m_nmark, OTHER_CLASS or NO_SECTION
     bool has_digits_only;
-    Section* section;  // the host's, else null
+    Section* section;  // of the host; null for a part of a text
 
     std::string_view text() const { return {begin, length}; }
     char first() const { return *begin; }
 };
 
-// Its text is empty.
+// The token that is no section. Its text is empty: is_mark and has_digits_only are false for it.
 constexpr Token NO_TOKEN = {"", 0, NO_SECTION, false, nullptr};
 
 inline bool is_section(const Token* token) {
     return token->kind != NO_SECTION;
 }
 
-// The token `n` places on, or that after the last section.
+// The token `n` after this one, or the token after the last section.
 inline const Token* ahead(const Token* token, int n) {
     while (n-- > 0 && is_section(token)) ++token;
     return token;
@@ -52,7 +53,7 @@ inline bool is_tag(const Token* token) {
     return token->length > 1 && begins_sentence_tag(token->begin);
 }
 
-// By the token's class. A host's may have more than digits.
+// By class. In a queue of the host, such a token need not have digits only.
 inline bool is_number(const Token* token) {
     return token->kind == NUMBERSYMBOL;
 }

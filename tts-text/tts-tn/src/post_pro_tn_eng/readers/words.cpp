@@ -1,3 +1,5 @@
+// Classifying words.
+
 #include "words.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// One switch for each kind of section decides which reader reads a pattern.
+
 #include "dispatcher.h"
 
 #include <cassert>
@@ -13,13 +15,13 @@ namespace kavi::tn {
 
 namespace {
 
-// Blanks are silent: a step for each is for those who look on.
+// Skips blanks, which are silent. Only an observer is shown a step for each.
 const Token* after_blanks(const Token* token) {
     while (token->kind == MARKSYMBOL && token->first() == ' ') ++token;
     return token;
 }
 
-// One walk over the tokens of a sentence. Nothing of it outlives the walk.
+// One walk over the tokens of a sentence.
 class SectionDispatcher {
   public:
     // cppcheck-suppress uninitMemberVar ; the reading makes its text empty
@@ -88,8 +90,8 @@ class SectionDispatcher {
         }
     }
 
-    // ---- one for each kind of section and pattern: the last token consumed, or the one after the
-    // last section ----
+    // ---- Each reads the pattern at first_ and returns the last token consumed, or the token after
+    // the last section ----
 
     const Token* word() {
         const std::string_view text = first_->text();
@@ -151,8 +153,8 @@ class SectionDispatcher {
         return read(ReadingRule::money, currrency_read, amount);
     }
 
-    // In a host's queue, the form code replaces the section's class from here on. An
-    // incomplete time ends the walk without its words.
+    // In a queue of the host, the TimeForm replaces the class of the section. An incomplete time
+    // appends nothing and ends the walk.
     const Token* clock_time() {
         const TimeForm form = time_decide(first_);
         if (first_->section != nullptr) first_->section->m_nmark = form;

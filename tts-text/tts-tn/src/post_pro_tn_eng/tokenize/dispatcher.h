@@ -1,4 +1,4 @@
-// The dispatcher: decides, token by token, how a sentence is spoken.
+// The dispatcher: walks over the tokens of a sentence and picks a reader for each pattern.
 #ifndef KAVI_TN_DISPATCHER_H
 #define KAVI_TN_DISPATCHER_H
 
@@ -10,12 +10,12 @@ namespace kavi::tn {
 
 struct WalkResult {
     Outcome outcome;
-    bool is_all_words;  // all readings were words and tags
+    bool is_all_words;  // every reading has only words and tags: re_regular is not needed
 };
 
-// Reads from `first`, a token of the row, step by step to the end of the tokens, or as far as the
-// walk goes on. Everything is appended to `output`, a text in a buffer of SZ_TEXT_MAX_LEN bytes.
-// `observer` is shown each step; it may be null.
+// Reads step by step from `first`, a token of the row, until the tokens end or a step has another
+// outcome than Outcome::go_on, and appends the words to `output`, a text in a buffer of
+// SZ_TEXT_MAX_LEN bytes. `observer` is shown each step; it may be null.
 WalkResult walk(TokenWindow& tokens, const Token* first, BoundedText& output,
                 const ReadingObserver* observer);
 

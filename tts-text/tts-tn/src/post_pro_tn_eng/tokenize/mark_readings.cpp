@@ -1,3 +1,5 @@
+// The table of mark readings. Adding a mark: docs/changing_a_reading.md.
+
 #include "mark_readings.h"
 
 namespace kavi::tn {

@@ -1,4 +1,4 @@
-// What is written for the marks, one character each.
+// The readings of marks: a table with a row for each.
 #ifndef KAVI_TN_MARK_READINGS_H
 #define KAVI_TN_MARK_READINGS_H
 
@@ -10,8 +10,8 @@
 
 namespace kavi::tn {
 
-// What may be written for a mark. READER: the dispatcher has to look at more than the section
-// before and after it.
+// What is written for a mark. READER: the sections before and after it do not decide it; the
+// dispatcher does.
 enum MarkWords : unsigned char {
     READER,
     SILENT,
@@ -38,21 +38,21 @@ enum MarkWords : unsigned char {
     SMALLER,
 };
 
-// In the order of MarkWords, from SILENT on.
+// The texts of MarkWords, in their order, from SILENT on.
 extern const std::string_view MARK_TEXTS[SMALLER - SILENT + 1];
 
-// Appends words that are not READER, and then a blank when they are `spaced`. False when there is
-// no room.
+// Appends the text of `words`, which is not READER, and a blank if `spaced`. False when they do not
+// fit.
 inline bool append_mark(MarkWords words, bool spaced, BoundedText& output) {
     const std::string_view text = MARK_TEXTS[words - SILENT];
     return spaced ? output.append_spaced(text) : output.append(text);
 }
 
-// A mark's words after a number section, else before one, and otherwise. A mark that is in no row
-// is silent.
+// The readings of a mark: after a number; else before a number; else. A mark without a row is
+// silent.
 struct MarkReading {
     char mark;
-    bool spaced;  // a blank of its own follows the words
+    bool spaced;  // one more blank follows the text
     MarkWords after_number;
     MarkWords before_number;
     MarkWords otherwise;
@@ -60,24 +60,24 @@ struct MarkReading {
 
 extern const MarkReading MARK_READINGS[25];
 
-// For each character from "!" to "~" the number of its row, from 1; 0 for none.
+// For each character from "!" to "~", 1 + the index of its row, or 0.
 extern const std::array<unsigned char, '~' - '!' + 1> MARK_ROWS;
 
-// The row of a mark, or null.
+// The row of a mark. Null for a mark without one and for any other character.
 inline const MarkReading* find_mark(char mark) {
     const unsigned place = static_cast<unsigned char>(mark) - unsigned{'!'};
     const unsigned number = place < MARK_ROWS.size() ? MARK_ROWS[place] : 0;
     return number != 0 ? &MARK_READINGS[number - 1] : nullptr;
 }
 
-// The words of a row for what comes before and after the mark, or READER.
+// The reading by the sections before and after the mark; READER where they do not decide.
 constexpr MarkWords words_of(const MarkReading& row, bool after_number, bool before_number) {
     if (after_number) return row.after_number;
     return before_number ? row.before_number : row.otherwise;
 }
 
-// What is written for a "<" that begins no tag: as the last section or before "punc" it is spoken,
-// before a ">" somewhere it is a blank, and silent otherwise.
+// The reading of a "<" that begins no tag. `is_spoken`: it is the last section, or "punc" follows;
+// `greater_follows`: a section after it begins with ">".
 constexpr MarkWords smaller_words(bool is_spoken, bool greater_follows) {
     if (is_spoken) return SMALLER;
     return greater_follows ? BLANK : SILENT;

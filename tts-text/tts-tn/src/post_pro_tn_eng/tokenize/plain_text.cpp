@@ -1,3 +1,5 @@
+// Copying plain text to the output; plain_text.h explains it.
+
 #include "plain_text.h"
 
 #include <algorithm>
@@ -42,16 +44,17 @@ class PlainText {
     }
 
   private:
-    // Each reads what begins at `text` and returns where that ends; `text` itself when a reader has
-    // to look at it, null when the output is full.
+    // Each appends the reading of what begins at `text` and returns its end. `text` when it is not
+    // plain, null when the output is full.
     const char* word(const char* text) {
         const char* end = begins_plain_word(text) ? plain_words(text) : text;
         return end != text ? end : other_word(text);
     }
 
-    // Words in small letters but for a first capital, with one blank between each two, are copied
-    // as they are looked at; none when what follows makes the first another word, or when there is
-    // no room for it.
+    // Copies a run of words to the output while it searches the end of the run: words in lower case
+    // or with a first capital, and single blanks between them. A last word that goes on with
+    // another letter, such as "iPhone" or a word beyond the limit, is taken back. Returns `text`
+    // when no word is left.
     const char* plain_words(const char* text) {
         constexpr std::ptrdiff_t LONGEST = WORD_LENGTH_MAX;
         const std::ptrdiff_t room = std::min(LONGEST, output_.room() - 1);

@@ -1,4 +1,5 @@
-// Who looks on while a sentence is read.
+// The observer of reading: is told what was read as what. Explanations, findings and offsets of
+// words come from it.
 #ifndef KAVI_TN_READING_OBSERVER_H
 #define KAVI_TN_READING_OBSERVER_H
 
@@ -9,7 +10,7 @@
 
 namespace kavi::tn {
 
-// How the tokens of one step were read.
+// The rule by which the tokens of one step were read.
 enum class ReadingRule {
     word,
     capital_letters,
@@ -31,14 +32,14 @@ enum class ReadingRule {
     plus_sign,
     contraction,
     mark,
-    silent,  // a blank, or a byte that nothing is written for
+    silent,  // a blank, or a byte without a reading
 };
 
 // Whether a walk goes on after a step.
 enum class Outcome {
     go_on,
-    ended,  // a reader ran out of tokens: the rest is not read
-    full,   // an append did not fit; what came before it is in the output
+    ended,  // the tokens ended inside a pattern
+    full,   // an append did not fit; the output keeps those before it
 };
 
 // One step of a walk over tokens.
@@ -46,16 +47,16 @@ struct ReadingStep {
     ReadingRule rule;
     Outcome outcome;
     const Token* first;
-    const Token* end;        // after the last consumed
-    const Reading& reading;  // what a reader read: whether it was cut, which digits are in it
-    int output_length;       // after the step
+    const Token* end;        // after the last token consumed
+    const Reading& reading;  // of the reader: whether it was cut, which digits it has
+    int output_length;       // of the output after the step, in bytes
 };
 
-// Is shown what is read as what, in order: together it is the sentence, but for blanks. A reading
-// is written where the one before it ends.
+// Is told, in order, what was read of the sentence: all of it, except blanks in plain text. Each
+// reading begins in the output where the one before it ends.
 struct ReadingObserver {
-    // `source`, a word, a stretch of words or a mark that reads the same anywhere, was
-    // written to the output, which is so long now.
+    // The output, now `output_length` bytes long, has the reading of `source`: a run of words, a
+    // word, a tag or a mark of plain text.
     void (*on_plain_text)(void* context, std::string_view source, int output_length);
     void (*on_step)(void* context, const ReadingStep& step);
     void* context;

@@ -1,4 +1,4 @@
-// How a sentence is cut into sections.
+// Cutting a sentence into sections.
 #ifndef KAVI_TN_SECTION_CUT_H
 #define KAVI_TN_SECTION_CUT_H
 
@@ -13,7 +13,7 @@
 
 namespace kavi::tn {
 
-// The run that a section belongs to whose first character this is, of letters, of digits or none.
+// The kind of run of a section with this first character: LETTERS, DIGITS or 0.
 constexpr unsigned run_of(char first) {
     return RUNS[static_cast<unsigned char>(first)] & (LETTERS | DIGITS);
 }
@@ -23,11 +23,12 @@ constexpr int class_of(unsigned run) {
     return run == DIGITS ? NUMBERSYMBOL : MARKSYMBOL;
 }
 
-// What may begin with a tag: the tag, or one byte. `tag_ends` serves one pass over the text.
+// The tag at `text`, or one byte when there is none or it is longer than a section. `tag_ends`
+// serves one scan of the text.
 std::string_view first_tag(const char* text, TagEnds& tag_ends);
 
-// The first section of a text that is not empty, whose run is this: a run of letters or digits, a
-// tag, or one byte. `tag_ends` serves one pass over the text.
+// The first section of a text that is not empty: a run of at most 499 letters or digits, a tag, or
+// one byte. `run` is run_of(*text). `tag_ends` serves one scan of the text.
 inline std::string_view first_section(const char* text, unsigned run, TagEnds& tag_ends) {
     if (run == 0)
         return may_begin_tag(text) ? first_tag(text, tag_ends) : std::string_view(text, 1);
@@ -39,7 +40,7 @@ inline std::string_view first_section(const char* text, TagEnds& tag_ends) {
     return first_section(text, run_of(*text), tag_ends);
 }
 
-// Gives a section its text and class and no neighbours. The bytes after the text stay.
+// Sets the text and class of a section and clears its links. Bytes after the text are unchanged.
 inline void set_section(Section& section, std::string_view text) {
     copy_short(section.sz_char, text.data(), text.size());
     section.sz_char[text.size()] = '\0';
@@ -47,7 +48,7 @@ inline void set_section(Section& section, std::string_view text) {
     section.m_pnext = section.m_pprevious = nullptr;
 }
 
-// Links `section` after `tail`, which becomes it.
+// Links `section` after `tail`, which may be null, and makes it the tail.
 inline void link_section(Section& section, Section*& tail) {
     section.m_pprevious = tail;
     if (tail != nullptr) tail->m_pnext = &section;

@@ -1,4 +1,4 @@
-// Queues of sections that a host holds: each section is a block of the arena.
+// Queues of sections for hosts: each section is a block of the arena.
 
 #include <algorithm>
 #include <cstring>
@@ -15,7 +15,7 @@ Section* last_of(Section* section) {
     return section;
 }
 
-// Appends a section whose bytes after the text are zero. False when the arena refused the block.
+// Appends a section, zero-filled after its text. False when the arena refused the block.
 bool append_section(std::string_view text, Section*& head, Section*& tail, mem_stack_handle arena) {
     void* memory = mem_stack_request_buf(sizeof(Section), MEM_COMMON, arena);
     if (memory == nullptr) return false;

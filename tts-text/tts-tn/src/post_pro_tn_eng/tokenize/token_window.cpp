@@ -1,3 +1,5 @@
+// Filling and sliding the row; token_window.h explains it.
+
 #include "token_window.h"
 
 #include <algorithm>
@@ -28,7 +30,8 @@ bool is_greater(const Section* section) {
     return section->sz_char[0] == '>';
 }
 
-// Whether no reader looks past a section of letters: see readers/readers.h.
+// Whether no reader looks past the letters from `word` to `after`, by the rule of plain words
+// (readers/readers.h).
 bool stops_readers(const char* word, const char* after) {
     const bool glued =
         is_digit(*after) || is_letter(*after) || (*after == '.' && is_digit(after[1]));
@@ -48,11 +51,11 @@ const Section* QueueSearch::find(const Section* from, std::size_t index) {
     return found_;
 }
 
-// cppcheck-suppress uninitMemberVar ; a row has to be begun
+// cppcheck-suppress uninitMemberVar ; begin(text) sets the row
 TokenWindow::TokenWindow(Reach reach, TagEnds& tag_ends)
     : reach_(reach), tag_ends_(&tag_ends), after_amount_(is_after_amount), greater_(is_greater) {}
 
-// cppcheck-suppress uninitMemberVar ; of the row, those appended are set
+// cppcheck-suppress uninitMemberVar ; tokens up to end_ are set
 TokenWindow::TokenWindow(Section* head)
     : section_(head), after_amount_(is_after_amount), greater_(is_greater) {
     if (head != nullptr) {
@@ -70,10 +73,10 @@ const Token* TokenWindow::begin(const char* text) {
 
 // ---- the row ----
 
-// A row whose first token is the next one, with none before it.
+// Begins a row at the cursor.
 const Token* TokenWindow::begin_row() {
     tokens_[0] = NO_TOKEN;
-    tokens_[1] = NO_TOKEN;  // not copied from the first: loading it would wait for its stores
+    tokens_[1] = NO_TOKEN;  // not by assignment from the first: its load would wait for the stores
     extend_from(tokens_ + SECTIONS_BEFORE);
     return tokens_ + SECTIONS_BEFORE;
 }
@@ -90,7 +93,6 @@ void TokenWindow::extend_from(Token* end) {
     *end_ = NO_TOKEN;
 }
 
-// A blank before a plain word is as good a place to stop as the word.
 Token* TokenWindow::cut_text(Token* end, Token* limit) {
     const bool reads_all = reach_ == Reach::text_end;
     const char* next = text_;
@@ -121,7 +123,7 @@ Token* TokenWindow::look_at_queue(Token* end, Token* limit) {
     return end;
 }
 
-// ---- searches that go further than the row ----
+// ---- searches past the row: each reads every part of the text or queue once ----
 
 bool TokenWindow::is_amount_before_dollar(const Token* number) {
     if (number->section != nullptr) {

@@ -1,4 +1,18 @@
-// The tokens that the readers can see.
+// The token window: the tokens that readers can see.
+//
+// A row of at most CAPACITY tokens, in which the two (SECTIONS_BEFORE) before the current token and
+// the ten (SECTIONS_AHEAD) after it are present, as far as they exist. Readers look no further
+// (readers/readers.h), so they see what they would see of the whole text. When the current token
+// comes within ten of the end of a full row, the row slides: the two tokens before it and all after
+// it move to the front, and more are cut behind them. Memory is bounded for a text of any length.
+//
+// Of a text, with Reach::plain_word, the row ends with the first plain word, or the blank before
+// it: no reader looks past it, and plain text goes on there (tokenize/plain_text). In
+//
+//     She paid $5 for 2 tickets.
+//
+// the row that begins at "$" is "$", "5", " ": the blank before "for" ends it. The next row is "2",
+// " ". A token is a view of 24 bytes on the stack, where a Section is a block of 520.
 #ifndef KAVI_TN_TOKEN_WINDOW_H
 #define KAVI_TN_TOKEN_WINDOW_H
 
@@ -9,64 +23,67 @@
 
 namespace kavi::tn {
 
-// "The next section of a kind", asked again and again while a walk over a queue moves on: no
-// stretch of it is searched twice.
+// Repeated searches for the next section of a kind, from sections that move forward through a
+// queue. No section is tested twice.
 class QueueSearch {
   public:
     using Test = bool(const Section* section);
 
     explicit QueueSearch(Test* is_wanted) : is_wanted_(is_wanted) {}
 
-    // The first at or after `from`, which is the `index`-th that the walk meets, or null.
+    // The first wanted section at or after `from`, or null. `index` is the index of `from` in the
+    // walk.
     const Section* find(const Section* from, std::size_t index);
 
   private:
     Test* is_wanted_;
     const Section* found_ = nullptr;
-    std::size_t known_to_ = 0;  // the answer of all before this
+    std::size_t known_to_ = 0;  // found_ is the answer for every index below this
 };
 
-// A short row of tokens that slides along a text, or along a queue that a host holds, so that one
-// of any length needs no more memory than this.
+// A row of tokens that slides along a text or along a queue of the host.
 class TokenWindow {
   public:
-    // Up to where a text is cut.
+    // How far a text is cut into tokens.
     enum class Reach {
-        plain_word,  // the first plain word that no reader looks past, or the blank before it
+        plain_word,  // through the first plain word that no reader looks past, or the blank before
+                     // it
         text_end,
     };
 
-    // Of a text, which a NUL follows. `tag_ends` serves one pass over it.
+    // For a NUL-terminated text. `tag_ends` serves one scan of it.
     TokenWindow(Reach reach, TagEnds& tag_ends);
 
-    // Of a queue, from `head` on, which may be null.
+    // For the queue with head `head`, which may be null. Up to two sections before it are seen.
     explicit TokenWindow(Section* head);
 
     TokenWindow(const TokenWindow&) = delete;
     TokenWindow& operator=(const TokenWindow&) = delete;
 
-    // The token at `text`, a place in the text. It has none before it.
+    // Begins a row at `text`, a position in the text, and returns its first token. No token is
+    // before it.
     const Token* begin(const char* text);
 
     // The token of the queue's head.
     const Token* begin() const { return tokens_ + SECTIONS_BEFORE + n_before_; }
 
-    // Where the text goes on after all tokens.
+    // The position in the text after the last token.
     const char* end() const { return text_; }
 
-    // A token of the row, or the one after the last section, when all that a reader may look at
-    // stands around it. Where that makes the row slide, no other token of it is good any more.
+    // The same token, with all tokens around it that a reader may look at. `token` is a token of
+    // the row or the one after the last section. If the row slides, all other pointers to tokens
+    // are invalid.
     const Token* at(const Token* token) { return token < slide_at_ ? token : slide_to(token); }
 
-    // For a token of the row whose section has another text now.
+    // Sets the length of a token whose section the reader has changed.
     void set_length(const Token* token, std::size_t length) {
         tokens_[token - tokens_].length = static_cast<std::uint16_t>(length);
     }
 
-    // Whether a "$" follows the amount that begins with this number.
+    // Whether a "$" follows the digits, commas and full stops that begin with this number.
     bool is_amount_before_dollar(const Token* number);
 
-    // Whether a section that begins with ">" comes after this one.
+    // Whether a section after this one, however far, begins with ">".
     bool greater_follows(const Token* token);
 
   private:
@@ -78,34 +95,34 @@ class TokenWindow {
     const Token* slide_to(const Token* token);
     void extend_from(Token* end);
 
-    // Each writes the tokens that come next from `end` on, and returns where they end: before
-    // `limit` when there are no more that a reader looks at.
+    // Each writes the next tokens from `end` to at most `limit` and returns their end. It is before
+    // `limit` only when there are no more.
     Token* cut_text(Token* end, Token* limit);
     Token* look_at_queue(Token* end, Token* limit);
 
-    // How many sections of the queue the walk meets before this one.
+    // The index in the walk of a section of the queue.
     std::size_t index_of(const Token* token) const {
         return n_sections_ - static_cast<std::size_t>(end_ - token);
     }
 
-    Token tokens_[CAPACITY + 1];  // the two before the first, and after the last one more
+    Token tokens_[CAPACITY + 1];  // two before the first, one after the last
     Token* end_;
-    const Token* slide_at_;  // from there on a reader may look for tokens that are not in the row
+    const Token* slide_at_;  // from here on a reader may look past the row
 
     // ---- of a text ----
-    const char* text_ = nullptr;  // what comes next; null for a queue
+    const char* text_ = nullptr;  // the cursor; null for a queue
     Reach reach_ = Reach::text_end;
     TagEnds* tag_ends_ = nullptr;
-    const char* amount_end_ = nullptr;  // where the amount of money last looked at ends
-    const char* searched_ = nullptr;    // up to here, the text has been searched for ">"
+    const char* amount_end_ = nullptr;  // end of the amount that was tested last
+    const char* searched_ = nullptr;    // the cursor of the search for ">"
     TagEnds tags_ahead_;                // of that search
 
     // ---- of a queue ----
-    Section* section_ = nullptr;  // what comes next
-    int n_before_ = 0;            // sections before the head
+    Section* section_ = nullptr;  // the cursor
+    int n_before_ = 0;            // sections before the head in the row
     std::size_t n_sections_ = 0;  // that have become tokens
-    QueueSearch after_amount_;    // the next that is no part of an amount of money
-    QueueSearch greater_;         // the next ">"
+    QueueSearch after_amount_;    // the next section that is not part of an amount
+    QueueSearch greater_;         // the next section that begins with ">"
 };
 
 }  // namespace kavi::tn

@@ -1,3 +1,5 @@
+// Plain text and patterns in turn, to the end of the sentence.
+
 #include "tokenize.h"
 
 #include <cstring>
@@ -12,11 +14,9 @@ namespace kavi {
 
 namespace tn {
 
-// Tokens are made only of what a reader has to look at: the plain text between goes straight to
-// the output.
 int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObserver* observer) {
     BoundedText output(sz_target_text, SZ_TEXT_MAX_LEN);
-    if (output.length() == SZ_TEXT_MAX_LEN) return -1;  // no text: nothing terminates it
+    if (output.length() == SZ_TEXT_MAX_LEN) return -1;  // not NUL-terminated
     bool is_all_words = output.length() == 0;
     TagEnds tag_ends;
     TokenWindow tokens(TokenWindow::Reach::plain_word, tag_ends);
@@ -32,7 +32,7 @@ int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObse
         text = tokens.end();
     }
     if (is_all_words) {
-        output.cut_blanks();  // readers write nothing but letters, blanks and tags
+        output.cut_blanks();  // the output has letters, blanks and tags only
     } else {
         re_regular(sz_target_text);
     }
@@ -48,7 +48,7 @@ void read_step_by_step(const char* sentence, BoundedText& output, const ReadingO
 void re_regular(char* sz_source_text) {
     TagEnds tag_ends;
     char* text = sz_source_text;
-    char* end = text;  // after the last byte that is no blank
+    char* end = text;  // after the last letter or tag
     while (*text != '\0') {
         const std::string_view tag = *text == '<' ? tag_ends.tag_at(text) : std::string_view();
         if (!tag.empty()) {
@@ -68,7 +68,8 @@ void re_regular(char* sz_source_text) {
 
 }  // namespace tn
 
-// No section is made: tokens are views of the text. The host layer calls tokenize itself.
+// Tokens are views of the text, so no section is stored. Its block is requested because hosts are
+// promised a failure when the arena has no room for one.
 int PostProTnEng::eng_text_tokenize(char* sz_source_text, char* sz_target_text) {
     if (*sz_source_text != '\0' && !tn::gives_block(_mem_handle, sizeof(Section))) return -1;
     return tn::tokenize(sz_source_text, sz_target_text, nullptr);

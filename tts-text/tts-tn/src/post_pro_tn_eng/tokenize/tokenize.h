@@ -1,4 +1,4 @@
-// A sentence to its speakable text.
+// The tokenizer: a sentence to its speakable text.
 #ifndef KAVI_TN_TOKENIZE_H
 #define KAVI_TN_TOKENIZE_H
 
@@ -7,14 +7,16 @@
 
 namespace kavi::tn {
 
-// What PostProTnEng::eng_text_tokenize does; `observer` may be null.
+// PostProTnEng::eng_text_tokenize without an arena. `observer` may be null.
 int tokenize(const char* sz_source_text, char* sz_target_text, const ReadingObserver* observer);
 
-// Appends what a sentence reads as to `output`, a text in a buffer of SZ_TEXT_MAX_LEN bytes, and
-// shows the observer all of it step by step. Blanks at its end stay.
+// Reads a sentence with the dispatcher alone, so that the observer is shown a step for each
+// pattern, blanks included. Appends to `output`, a text in a buffer of SZ_TEXT_MAX_LEN bytes, and
+// leaves blanks at its end.
 void read_step_by_step(const char* sentence, BoundedText& output, const ReadingObserver& observer);
 
-// Leaves only letters and blanks outside tags, and no blank at the end.
+// Replaces every character outside tags that is not a letter by a blank, and cuts the blanks at the
+// end.
 void re_regular(char* sz_source_text);
 
 }  // namespace kavi::tn

@@ -1,4 +1,4 @@
-// Markup attributes of records.
+// Setting the markup attributes of records.
 
 #include <algorithm>
 #include <cstring>
@@ -25,8 +25,8 @@ bool append_field(Field& field, std::string_view value) {
     return safe_strncat(field, value.data(), static_cast<int>(value.size()), sizeof(Field)) == 0;
 }
 
-// Cuts the next field off a list whose fields are separated by runs of `separator`; empty at the
-// end of the list.
+// Removes the next field from a list and returns it. Runs of `separator` separate fields. Empty at
+// the end of the list.
 std::string_view next_field(std::string_view& list, char separator) {
     list.remove_prefix(std::min(list.find_first_not_of(separator), list.size()));
     const std::string_view field = list.substr(0, list.find(separator));
@@ -46,7 +46,8 @@ constexpr ProsodyField PROSODY_FIELDS[] = {
     {"spectrum=", &CssmlTag::pro_spectrum},
 };
 
-// One «name="value"»: the character after "=" and the last one are the quotes.
+// Sets one «name="value"». The characters after "=" and at the end are taken for the quotes. False
+// for an unknown name.
 bool set_prosody_field(CssmlTag& tag, std::string_view attribute) {
     for (const ProsodyField& row : PROSODY_FIELDS) {
         if (!tn::begins_with(attribute, row.prefix)) continue;

@@ -1,5 +1,6 @@
-// A text is read once to count its words and, when one list does not hold all its items, a
-// second time to store them; so the array is had once and at its size.
+// The items of a text are listed, the words counted, and then stored from the list, so that the
+// array is requested once, at its size. A text with more items than a list holds is read a second
+// time.
 
 #include "builder.h"
 
@@ -19,7 +20,7 @@ struct WordCount {
     int n_lists = 0;
 };
 
-// How many words the text has, in how many lists. `events` is left with the last of them.
+// Counts the words of the text and the lists that hold its items. `events` keeps the last list.
 WordCount count_words(std::string_view text, mem_stack_handle arena, TextEvents& events) {
     WordCount count;
     const auto add = [](void* context, const TextEvents& list) {
@@ -32,7 +33,7 @@ WordCount count_words(std::string_view text, mem_stack_handle arena, TextEvents&
     return count;
 }
 
-// Stores what is listed. False when the filler did not take something.
+// Stores the items of a list. False when the filler refused one.
 bool store_words(void* filler, const TextEvents& events) {
     for (const TextEvent& event : events) {
         if (!static_cast<WordFiller*>(filler)->take(event)) return false;
@@ -52,7 +53,7 @@ int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyll
     auto* array =
         static_cast<UtteranceSyllable*>(mem_stack_request_buf(array_size, MEM_COMMON, arena));
     if (array == nullptr) return -1;
-    // All at once: for some kilobytes, the C library has what is faster than stores one by one.
+    // At once: for several kilobytes the C library is faster than clearing each record.
     std::memset(static_cast<void*>(array), 0, array_size);
     p_utt = array;
     n_utt = word_num;

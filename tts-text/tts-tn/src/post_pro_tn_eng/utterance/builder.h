@@ -1,4 +1,4 @@
-// Speakable text to records.
+// The builder: speakable text to records.
 #ifndef KAVI_TN_BUILDER_H
 #define KAVI_TN_BUILDER_H
 
@@ -9,8 +9,8 @@
 
 namespace kavi::tn {
 
-// What PostProTnEng::eng_text_to_utterance_syllable does. A NUL follows the text. `events` is room
-// for lists of its items; the last one is left, with all of it when that has room.
+// PostProTnEng::eng_text_to_utterance_syllable for a text that a NUL follows. `events` is used for
+// the lists of its items and keeps the last one, which has all items if they fit.
 int build_utterance(std::string_view text, mem_stack_handle arena, UtteranceSyllable*& p_utt,
                     int& n_utt, TextEvents& events);
 

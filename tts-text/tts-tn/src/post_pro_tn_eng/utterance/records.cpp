@@ -1,4 +1,4 @@
-// Single records: words, punctuation marks and forced pauses.
+// Single records: words, punctuation marks and forced pauses, and the layout of the record.
 
 #include <algorithm>
 #include <cassert>
@@ -12,7 +12,7 @@
 
 namespace kavi {
 
-// What a host compiled elsewhere relies on.
+// The binary layout that separately compiled hosts rely on.
 static_assert(sizeof(PAUSE_type) == 4 && sizeof(PUNC_type) == 4 && sizeof(SYNTAX_type) == 4 &&
               sizeof(TAG_type) == 4 && sizeof(ZY_type) == 4);
 static_assert(sizeof(CssmlTag) == 162 && offsetof(CssmlTag, quill_effect) == 140 &&
@@ -33,8 +33,8 @@ namespace {
 
 constexpr int PUNC_MAX = sizeof UtteranceSyllable::punc_arr / sizeof(PUNC_type);
 
-// A name of at most eight characters as one number, of which no two have the same; 0 for a longer
-// one.
+// A name of at most eight characters as a number, the first character in the lowest byte, so that
+// names compare by one instruction. 0 for a longer name.
 constexpr std::uint64_t key_of(std::string_view name) {
     if (name.size() > sizeof(std::uint64_t)) return 0;
     std::uint64_t key = 0;
@@ -50,7 +50,8 @@ struct PuncName {
     bool forces_pause;
 };
 
-// The marks of speakable text first, the usual ones before the others.
+// Searched in order. The marks that the tokenizer writes come first, frequent ones before the
+// others.
 // clang-format off
 constexpr PuncName PUNC_NAMES[] = {
     {key_of("ju"),       PUNC_JU_FE,       true},
@@ -80,7 +81,7 @@ struct PauseCharacter {
     PAUSE_type pause;
 };
 
-// "*" is one too, and changes nothing.
+// "*" is a pause character too, but changes nothing.
 constexpr PauseCharacter PAUSE_CHARACTERS[] = {
     {'&', PAUSE_SYLLABLE_FORCE_FE},
     {'+', PAUSE_SYLLABLE_FORCE_FE},
@@ -102,7 +103,8 @@ bool PostProTnEng::insert_syllable(int n, UtteranceSyllable* utt, const char* sz
     return true;
 }
 
-// Adds the mark of a key. Those after the tenth are dropped; an unknown one counts, as no mark.
+// Appends the mark with this key. An unknown one takes an entry, which stays PUNC_NULL_FE; an
+// eleventh is dropped. Of two dashes in a row, the second forces a pause.
 static void add_punc(UtteranceSyllable& record, std::uint64_t key) {
     if (record.n_punc >= PUNC_MAX) return;
     for (const PuncName& row : PUNC_NAMES) {
@@ -120,7 +122,7 @@ static void add_punc(UtteranceSyllable& record, std::uint64_t key) {
 
 bool tn::WordFiller::take_tag(const TextEvent& event) {
     const std::string_view text = event.text();
-    if (event.kind == TextEventKind::punc) {  // the usual one
+    if (event.kind == TextEventKind::punc) {  // the most frequent
         add_punc(record_[-1], key_of(text));
         return true;
     }

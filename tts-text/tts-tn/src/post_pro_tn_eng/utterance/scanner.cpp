@@ -1,4 +1,4 @@
-// Scanning tagged text: its words, and how far each tag reaches.
+// Scanning tagged text, one character or tag at a time.
 
 #include "scanner.h"
 
@@ -25,8 +25,8 @@ void copy_parts(const Tag& tag, char* sz_tag, char* sz_value, char* sz_target) {
     copy(tag.content, sz_target);
 }
 
-// Name and value of what begins at `text`, tag of the language or not: as far as there is no ">",
-// and of the name as much as its buffer holds.
+// Copies what would be the name and the value of a tag, up to a ">" or the end of the text. The
+// name is cut at TAG_NAME_MAX characters.
 void copy_name_and_value(const char* text, char* sz_tag, char* sz_value) {
     std::size_t length = 0;
     for (; *text != '\0' && *text != '>' && *text != '='; ++text) {
@@ -40,7 +40,7 @@ void copy_name_and_value(const char* text, char* sz_tag, char* sz_value) {
 
 }  // namespace
 
-// cppcheck-suppress uninitMemberVar ; the tag is that of a step that has met one
+// cppcheck-suppress uninitMemberVar ; tag_ is read only after a step that set it
 Scanner::Scanner(const char* at, const char* end, char* word, int word_length,
                  mem_stack_handle arena)
     : at_(at), end_(end), word_(word), word_length_(word_length), arena_(arena) {}
@@ -52,7 +52,7 @@ bool Scanner::step() {
     return completed;
 }
 
-// Whether the word is complete now.
+// Reads one character or tag. True when the word is complete.
 bool Scanner::advance() {
     if (word_length_ == static_cast<int>(WORD_LENGTH_MAX)) return true;
     const char c = *at_;
@@ -71,16 +71,17 @@ bool Scanner::advance() {
     return last;
 }
 
-// At a "<" that is not the last character. A tag at which something is to be done, and a closing
-// tag, end a word directly before them; other tags do not.
+// Reads the tag at a "<" that is not the last character. A closing tag, or a tag that the builder
+// uses, first completes a word directly before it and is read by the next step. Other tags are
+// skipped inside a word: "ca<sil=5>ts" is one word.
 Scanner::Met Scanner::meet_tag() {
     const bool is_closing = at_[1] == '/';
-    if (tag_at_ != at_) {  // or a word that it ends has been read before it
+    if (tag_at_ != at_) {  // else read by the step before, which completed the word
         if (!read_opening(at_ + (is_closing ? 2 : 1), end_, tag_ends_, tag_)) return Met::no_tag;
         tag_at_ = at_;
     }
     if (has_word() && (is_closing || tag_.use != TagUse::none)) return Met::word_end;
-    met_tag_ = !is_closing;  // outside its span, a closing tag closes nothing
+    met_tag_ = !is_closing;  // a closing tag outside its span is skipped
     if (met_tag_ && !paired_tags_) paired_tags_.emplace(arena_);
     const bool closed = !met_tag_ || read_content(tag_, end_, *paired_tags_);
     at_ = tag_.after;
@@ -90,7 +91,7 @@ Scanner::Met Scanner::meet_tag() {
 
 namespace {
 
-// What Scanner::keeps_last_word says at `at` of a text that is scanned from `text` on.
+// Scanner::keeps_last_word after a scan from `text` to `at`.
 bool keeps_last_word(const char* text, const char* at, const char* end) {
     char word[WORD_MAX_LEN];
     word[0] = '\0';
@@ -126,7 +127,7 @@ bool PostProTnEng::filter_text(char* p_word_text, char* sz_char_buf, char* sz_ta
     mark = scanner.step() ? 1 : 0;
     if (const tn::Tag* tag = scanner.tag()) {
         tn::copy_parts(*tag, sz_tag, sz_value, sz_target);
-        // A step does not know of those before it.
+        // A single step does not know whether an earlier one has skipped an unclosed tag.
         if (mark == 0 && scanner.at() == end && scanner.has_word() &&
             tn::keeps_last_word(p_word_text, p_word_text + i, end)) {
             sz_char_buf[j] = '\0';

@@ -1,4 +1,4 @@
-// The scan of tagged text: words, and the tags between them.
+// The scanner: reads tagged text step by step into words and the tags between them.
 #ifndef KAVI_TN_SCANNER_H
 #define KAVI_TN_SCANNER_H
 
@@ -12,42 +12,44 @@
 
 namespace kavi::tn {
 
-// One scan forward through one text, or through a span of it as if it were the whole. What it has
-// searched for once it does not search for again.
+// One scan forward through a text, or through a span of it as if it were the whole text. It keeps
+// the results of its searches for the ends of tags.
 class Scanner {
   public:
-    // The text ends at `end`, where a NUL is. `word` holds WORD_MAX_LEN bytes, `word_length` of
-    // them characters of the word at hand. The arena may be null.
+    // Scans from `at` to `end`, where a NUL is. `word` is a buffer of WORD_MAX_LEN bytes, which the
+    // caller owns and which holds `word_length` characters of the current word. The arena may be
+    // null.
     Scanner(const char* at, const char* end, char* word, int word_length, mem_stack_handle arena);
     Scanner(const Scanner&) = delete;
     Scanner& operator=(const Scanner&) = delete;
 
     const char* at() const { return at_; }
 
-    // Goes on at a later place, and as if the text ended there.
+    // Goes on at a later position, and ends at `end`.
     void go_on_at(const char* at, const char* end) {
         at_ = at;
         end_ = end;
     }
 
-    // Whether a paired tag that nothing closes has been passed over by itself. From then on a tag
-    // that ends the text completes the word before it, which is lost otherwise.
+    // Whether an unclosed paired tag, other than a span, has been skipped. From then on a tag at
+    // the end of the text completes the word before it; otherwise that word is lost.
     bool keeps_last_word() const { return keeps_last_word_; }
     void keep_last_word(bool keeps) { keeps_last_word_ = keeps; }
 
-    // Reads one character or one tag. True when that completed the word in the buffer.
+    // Reads one character or one tag. True when that completed the word in the buffer; it is
+    // NUL-terminated then.
     bool step();
 
-    // The tag that the last step read, or null.
+    // The tag that the last step read, or null. A closing tag outside its span is none.
     const Tag* tag() const { return met_tag_ ? &tag_ : nullptr; }
 
-    // The word that the last step completed.
+    // The word that the last step completed, and where it begins in the text.
     std::string_view word() const { return {word_, static_cast<std::size_t>(word_length_)}; }
-    const char* word_begin() const { return word_begin_; }  // in the text
+    const char* word_begin() const { return word_begin_; }
     int word_length() const { return word_length_; }
     bool has_word() const { return word_[0] != '\0'; }
 
-    // Makes room for the next word.
+    // Empties the buffer for the next word.
     void clear_word() {
         word_[0] = '\0';
         word_length_ = 0;
@@ -66,11 +68,11 @@ class Scanner {
     const char* word_begin_ = nullptr;
     bool met_tag_ = false;
     bool keeps_last_word_ = false;
-    const char* tag_at_ = nullptr;  // where the last tag that was read begins
+    const char* tag_at_ = nullptr;  // the position of the last tag that was read
     Tag tag_;
     TagEnds tag_ends_;
     mem_stack_handle arena_;
-    std::optional<PairedTags> paired_tags_;  // from the first paired tag on
+    std::optional<PairedTags> paired_tags_;  // made at the first tag
 };
 
 }  // namespace kavi::tn

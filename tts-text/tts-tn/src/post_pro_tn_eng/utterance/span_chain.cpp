@@ -1,3 +1,5 @@
+// Entering and leaving spans, and applying their attributes.
+
 #include "span_chain.h"
 
 #include <cassert>
@@ -39,7 +41,7 @@ const CssmlTag& SpanChain::markup() {
     AttributeLists lists = {names_.rest(), values_.rest()};
     is_markup_final_ = !set_attributes(markup_, lists);
     is_markup_known_ = true;
-    // A value that was missing may come with the next span: all is applied again then.
+    // The value of the next span may become that of a name without one: then all is applied again.
     names_.applied = lists.lacks_value ? 0 : names_.length;
     values_.applied = values_.length - lists.values.size();
     return markup_;

@@ -1,4 +1,4 @@
-// The spans that enclose a word, and the attributes that they give it.
+// The span chain: the open spans around a word, and the attributes that they give it.
 #ifndef KAVI_TN_SPAN_CHAIN_H
 #define KAVI_TN_SPAN_CHAIN_H
 
@@ -10,42 +10,43 @@
 
 namespace kavi::tn {
 
-// Names and values of nested spans, outermost first, each list joined by tabs and of at most 199
-// characters.
+// The names and the values of nested spans: two lists, outermost span first, separated by tabs and
+// of at most 199 characters each. The attributes are computed once for all words between two tags.
 class SpanChain {
   public:
-    // cppcheck-suppress uninitMemberVar ; the lists are as long as they say
+    // cppcheck-suppress uninitMemberVar ; texts are read up to their lengths only
     SpanChain() {}
 
-    // Adds a span inside the others, or a chain of such as a host gives it. False when there is no
-    // room for it; the chain is then of no use any more.
+    // Adds an innermost span, or several, as lists. False when a list has no room: the chain must
+    // then not be used any more.
     bool enter(std::string_view name, std::string_view value);
 
-    // Removes the innermost.
+    // Removes what the last enter added. There is one.
     void leave();
 
     bool is_open() const { return n_levels_ > 0; }
 
-    // What all words inside have: what cannot be applied to one is left out of all.
+    // The attributes of the words inside. The first pair that cannot be applied, and all pairs
+    // after it, are left out.
     const CssmlTag& markup();
 
   private:
     struct List {
         std::size_t length = 0;
-        std::size_t applied = 0;  // so much of it has gone into the markup
+        std::size_t applied = 0;  // the length of the part that is in markup_
         char text[SPAN_CHAIN_MAX];
 
         bool join(std::string_view field, bool after_others);
         std::string_view rest() const { return {text + applied, length - applied}; }
     };
 
-    // The lengths of the lists without a span.
+    // The lengths of the lists before a span was entered.
     struct Level {
         unsigned char names;
         unsigned char values;
     };
 
-    // The shortest name of a span, "poem", and a tab.
+    // By the shortest name of a span, "poem", and a tab: 41.
     static constexpr int LEVELS_MAX = (static_cast<int>(SPAN_CHAIN_MAX) + 1) / 5 + 1;
 
     List names_;
@@ -53,19 +54,19 @@ class SpanChain {
     int n_levels_ = 0;
     Level levels_[LEVELS_MAX];
     bool is_markup_known_ = false;
-    bool is_markup_final_ = false;  // a pair cannot be applied: no span inside changes anything
-    CssmlTag markup_;               // goes on from what has been applied when a span is entered
+    bool is_markup_final_ = false;  // a pair cannot be applied: spans inside change nothing
+    CssmlTag markup_;               // of the applied parts; entering a span adds to it
 };
 
-// Names and values that are still to be applied.
+// Names and values that are to be applied.
 struct AttributeLists {
     std::string_view names;
     std::string_view values;
-    bool lacks_value = false;  // there were fewer values than names
+    bool lacks_value = false;  // the last name applied had no value
 };
 
-// Sets the attributes that the lists give, and takes them off. False at the first pair that cannot
-// be applied, those before it applied.
+// Sets the attributes that the lists give, pair by pair, and removes each pair from the lists.
+// False at the first pair that cannot be applied, with those before it applied.
 bool set_attributes(CssmlTag& tag, AttributeLists& lists);
 
 }  // namespace kavi::tn

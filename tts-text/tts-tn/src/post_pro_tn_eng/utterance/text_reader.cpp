@@ -1,3 +1,5 @@
+// Listing the items of a text; text_reader.h explains it.
+
 #include "text_reader.h"
 
 #include <cstring>
@@ -15,8 +17,8 @@ const char* skip_blanks(const char* text) {
     return text;
 }
 
-// The first place from `text` on where a word of tagged text may end: a character below "@", or
-// the text's end.
+// The first position from `text` on where a word may end: a character without the bit 0x40, as are
+// all below "@" and no letter, or `text_end`. `no_eight` is eights_end of the text.
 inline const char* find_word_end(const char* text, const char* no_eight, const char* text_end) {
     for (; text < no_eight; text += 8) {
         const Eight below = ~eight_of(text) & EACH * '@';
@@ -26,9 +28,9 @@ inline const char* find_word_end(const char* text, const char* no_eight, const c
     return text;
 }
 
-// The name in the "<punc=" tag at `text`, where no word has begun; empty when there is none, or not
-// of letters alone. The scanner reads such tags too: this is less. At `end` is a NUL or the "<"
-// of a closing tag, so no name goes past it.
+// The name in a "<punc=" tag at `text`. Empty when there is no such tag, or its name has other
+// characters than letters: the Scanner reads it then. At `end` is a NUL or the "<" of a closing
+// tag, so no name goes past it.
 std::string_view mark_at(const char* text, const char* end) {
     constexpr std::string_view PREFIX = "<punc=";
     const auto size = static_cast<std::size_t>(end - text);
@@ -39,11 +41,11 @@ std::string_view mark_at(const char* text, const char* end) {
     return {name, static_cast<std::size_t>(name_end - name)};
 }
 
-// Reads one text.
+// One pass over one text.
 class TextReader {
   public:
     // A NUL follows the text. The arena may be null.
-    // cppcheck-suppress uninitMemberVar ; of the spans, those entered are set
+    // cppcheck-suppress uninitMemberVar ; only the first n_spans_ of spans_ are read
     TextReader(std::string_view text, mem_stack_handle arena)
         : at_(text.data()), arena_(arena), end_(at_ + text.size()) {
         word_[0] = '\0';
@@ -51,7 +53,7 @@ class TextReader {
     TextReader(const TextReader&) = delete;
     TextReader& operator=(const TextReader&) = delete;
 
-    // Lists what comes next: all of it, or as much as the list holds.
+    // Lists the items from the cursor on, to the end of the text or until the list is full.
     void read(TextEvents& events) {
         events.clear();
         while (!events.is_full()) {
@@ -70,16 +72,16 @@ class TextReader {
 
   private:
     struct Span {
-        const char* after;  // where the text goes on
+        const char* after;  // the position after its closing tag
         const char* outer_end;
-        bool keeps_last_word;  // there
+        bool keeps_last_word;  // of the scanner, outside the span
     };
 
-    // Spans nested deeper are not read: their words are never stored, since a chain of so many
-    // names is longer than any that can be.
+    // Deeper spans are not read. Their words would never be stored: the chain of names has no room
+    // for so many spans, and storing ends before them.
     static constexpr int SPANS_NESTED_MAX = 64;
 
-    // Words between blanks, and marks.
+    // Finds words between blanks, and marks.
     void read_usual(TextEvents& events) {
         const char* const text_end = end_;
         const char* at = skip_blanks(at_);
@@ -112,12 +114,12 @@ class TextReader {
                 usual_from_ = end + 1;
                 break;
             }
-            ++end;  // it is of the word
+            ++end;  // a character of the word
         }
         at_ = at;
     }
 
-    // One character or one tag of what is not usual.
+    // Reads one character or one tag by the Scanner.
     void read_step(TextEvents& events) {
         if (!scanner_) scanner_.emplace(at_, end_, word_, 0, arena_);
         scanner_->go_on_at(at_, end_);
@@ -159,7 +161,8 @@ class TextReader {
         }
     }
 
-    // A word that a tag at the end of the span has left incomplete is dropped.
+    // Goes on after the innermost span. A word that a tag at its end has left incomplete is
+    // dropped.
     void leave_span(TextEvents& events) {
         const Span& span = spans_[--n_spans_];
         events.add(TextEventKind::span_end, {});
@@ -169,15 +172,16 @@ class TextReader {
         end_ = span.outer_end;
     }
 
-    // Not side by side: loaded as one, place and end would wait for the store of the place.
+    // at_ and end_ are not adjacent: they would be loaded as a pair, which waits for the store of
+    // at_.
     const char* at_;
     mem_stack_handle arena_;
     const char* end_;                   // of the innermost open span, or of the text
-    char word_[WORD_MAX_LEN];           // that the scanner is reading, or an empty one
-    std::optional<Scanner> scanner_;    // from the first step on
-    const char* usual_from_ = nullptr;  // up to there, the text is read step by step
+    char word_[WORD_MAX_LEN];           // the word that the Scanner is reading, or ""
+    std::optional<Scanner> scanner_;    // made at the first step
+    const char* usual_from_ = nullptr;  // the text before this is read step by step
     int n_spans_ = 0;
-    Span spans_[SPANS_NESTED_MAX];  // the open ones
+    Span spans_[SPANS_NESTED_MAX];  // the open spans, outermost first
 };
 
 }  // namespace
@@ -187,7 +191,7 @@ void TextEvents::add_put_together(std::string_view word) {
     add(TextEventKind::word, {characters_end_, word.size()});
     characters_end_ += word.size();
     const char* const limit = characters_ + CHARACTERS - WORD_LENGTH_MAX;
-    if (characters_end_ > limit) full_at_ = end_;  // no room for any other
+    if (characters_end_ > limit) full_at_ = end_;  // no room for another such word
 }
 
 bool read_text(std::string_view text, mem_stack_handle arena, TextEvents& events,

@@ -1,4 +1,19 @@
-// Tagged text as a list of its items: words, marks, break times and spans.
+// The text reader: lists the items of speakable text, which are words, marks, break times, and the
+// starts and ends of spans.
+//
+// Most of a text is words between blanks, and "<punc=" tags between words. These are found
+// directly, eight characters at a time (common/runs.h). At any other "<" with the name of a tag the
+// Scanner reads step by step: from the start of a word directly before the tag until the tag is
+// behind and no word is open. In
+//
+//     we have <emphasis=a>two</emphasis> cats <punc=dou>
+//
+// the Scanner reads "<emphasis=a>" only. The results are those of the Scanner alone: for it, too, a
+// word ends at a blank, after 499 characters or at a tag, and a "<" without the name of a tag is a
+// character of a word.
+//
+// One list serves for counting the words, for storing them and for the offsets that the host layer
+// reports, so a text is searched once: 43 instructions for a word of news (docs/performance.md).
 #ifndef KAVI_TN_TEXT_READER_H
 #define KAVI_TN_TEXT_READER_H
 
@@ -13,8 +28,9 @@ namespace kavi::tn {
 
 enum class TextEventKind : std::uint8_t { word, punc, breaktime, span_begin, span_end };
 
-// A piece of the text and what it is: a word; the name of a mark; a break time's value; the inside
-// of the tag that opens a span, name, "=" and value. A longer piece than any that counts is cut.
+// An item and its piece of the text: a word; the name of a mark; the value of a break time; for
+// span_begin, the name, "=" and value of its tag; for span_end, nothing. A piece is cut at 65,535
+// bytes, which is more than any use of it reads.
 struct TextEvent {
     const char* begin;
     std::uint16_t length;
@@ -23,14 +39,14 @@ struct TextEvent {
     std::string_view text() const { return {begin, length}; }
 };
 
-// So many events that one list holds what a sentence has, of two bytes each; a longer text comes in
-// several.
+// A list of items. It holds those of any sentence of 4,095 bytes, since each has at least two
+// bytes; a text with more items comes in several lists.
 class TextEvents {
   public:
     static constexpr std::size_t WORDS_MAX = SZ_TEXT_MAX_LEN / 2 + 1;
 
-    // Holds nothing of use until it has been cleared.
-    // cppcheck-suppress uninitMemberVar ; clear sets all that counts
+    // Must be cleared before any use.
+    // cppcheck-suppress uninitMemberVar ; clear sets what is read
     TextEvents() {}
 
     void clear() {
@@ -41,14 +57,14 @@ class TextEvents {
     }
     bool is_full() const { return end_ >= full_at_; }
 
-    // The list has room while it is not full; reading a tag may add two.
+    // The list is not full. Two items may be added then: a tag may have two.
     void add(TextEventKind kind, std::string_view text) {
         const std::size_t length = std::min<std::size_t>(text.size(), UINT16_MAX);
         *end_++ = {text.data(), static_cast<std::uint16_t>(length), kind};
         if (kind != TextEventKind::word) ++n_others_;
     }
 
-    // Adds a word that is in pieces: its characters are kept here.
+    // Adds a word that tags interrupt in the text: its characters are copied into the list.
     void add_put_together(std::string_view word);
 
     int n_words() const { return static_cast<int>(end_ - events_) - n_others_; }
@@ -60,18 +76,17 @@ class TextEvents {
 
     TextEvent* end_;
     TextEvent* full_at_;
-    int n_others_;  // than words
+    int n_others_;  // items that are not words
     char* characters_end_;
     TextEvent events_[WORDS_MAX];
-    char characters_[CHARACTERS];  // of words put together
+    char characters_[CHARACTERS];  // of words that tags interrupt
 };
 
-// Is handed each list; false when no more are wanted.
+// Receives each list, which is valid during the call. False ends the reading.
 using EventsHandler = bool(void* context, const TextEvents& events);
 
-// Lists the items of a text, which a NUL follows: in one list, which is left in `events`, or,
-// where that has no room for all, in several. False when the handler did not want all. The arena
-// may be null.
+// Lists the items of a text that a NUL follows and passes each list to `on_list`. `events` is the
+// list and keeps the last one. False when the handler ended the reading. The arena may be null.
 bool read_text(std::string_view text, mem_stack_handle arena, TextEvents& events,
                EventsHandler* on_list, void* context);
 

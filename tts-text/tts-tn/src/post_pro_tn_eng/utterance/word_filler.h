@@ -1,4 +1,4 @@
-// Filling records.
+// The word filler: stores words, marks and attributes in records.
 #ifndef KAVI_TN_WORD_FILLER_H
 #define KAVI_TN_WORD_FILLER_H
 
@@ -12,35 +12,38 @@
 
 namespace kavi::tn {
 
-// The first 19 characters of the value, in the place of what was there.
+// Sets the break time of a record to the first 19 characters of `value`.
 void set_breaktime(UtteranceSyllable& record, std::string_view value);
 
-// Stores words, with their marks and the attributes of the spans that enclose them, in one record
-// after the other.
+// Stores words in one record after the other, with their marks and the attributes of the open
+// spans.
 class WordFiller {
   public:
-    // `record` is the next to fill, after one at least; its markup is clear.
+    // `record` is the first to fill. At least one precedes it; its fields, and those of the records
+    // after it, are zero.
     WordFiller(mem_stack_handle arena, UtteranceSyllable* record)
         : arena_(arena), record_(record) {}
     WordFiller(const WordFiller&) = delete;
     WordFiller& operator=(const WordFiller&) = delete;
 
-    // Where the next word goes.
+    // The record of the next word.
     UtteranceSyllable* record() const { return record_; }
 
-    // Stores the item. False: a word's storage was refused, or the chain of
-    // spans has no room; the rest is not to be stored.
+    // Stores an item. False when the arena refused the storage of a word, or the span chain has no
+    // room: no more items may be stored.
     bool take(const TextEvent& event) {
         if (event.kind == TextEventKind::word) return store(event.text());
         return take_tag(event);
     }
 
-    // Encloses what comes next by a span, or a chain of them. False when there is no room.
+    // Opens a span, or several as lists, around the words that follow. False when the span chain
+    // has no room.
     bool enter_span(std::string_view name, std::string_view value) {
         return spans_.enter(name, value);
     }
 
-    // At the default pause. False when the arena refused its storage: nothing is kept.
+    // Stores a word at the default pause. False when the arena refused its storage: no block is
+    // kept.
     bool store(std::string_view word) {
         constexpr std::size_t ZHUYIN_MIN = 128;
         constexpr std::size_t ZHUYIN_PER_CHARACTER = 10;
@@ -56,7 +59,7 @@ class WordFiller {
         }
         copy_short(syllable, word.data(), word.size());
         syllable[word.size()] = '\0';
-        // By pieces that become plain stores: of all of it, compilers make a string instruction,
+        // In two halves, which compile to plain stores. All at once would be a string instruction,
         // which is slow to start.
         constexpr std::size_t HALF = ZHUYIN_MIN / 2;
         std::memset(zhuyin, 0, HALF);

@@ -24,8 +24,8 @@ class AbbreviationSearch {
 
     // The row of the abbreviation whose first "." is at `dot`, or NO_ABBREVIATION. The search
     // begins at `stretch`: the start of the sentence, or the position after the last abbreviation
-    // or decimal point. `dot` is the first "." from there on. No call has a `stretch` before that
-    // of an earlier one.
+    // or decimal point. `dot` is the first "." of the stretch. No call has a stretch that begins
+    // before that of an earlier call.
     int find(const char* stretch, const char* dot);
 
   private:

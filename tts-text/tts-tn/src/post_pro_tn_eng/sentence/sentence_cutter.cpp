@@ -72,7 +72,7 @@ class SentenceCutter {
     const char* end() const { return next_; }
 
   private:
-    // Tells the observer that the target has for `source` what it has from offset `target_at` on.
+    // Tells the observer that the text of the target from offset `target_at` on is for `source`.
     void report(std::string_view source, int target_at) {
         if (observer_ == nullptr) return;
         observer_->on_replaced(observer_->context, source, target_at, target_.length() - target_at);

@@ -19,8 +19,8 @@ void set_breaktime(UtteranceSyllable& record, std::string_view value);
 // spans.
 class WordFiller {
   public:
-    // `record` is the first to fill. At least one precedes it; its fields, and those of the records
-    // after it, are zero.
+    // `record` is the first to fill. At least one precedes it. It and those after it have no
+    // attributes yet.
     WordFiller(mem_stack_handle arena, UtteranceSyllable* record)
         : arena_(arena), record_(record) {}
     WordFiller(const WordFiller&) = delete;

@@ -246,10 +246,10 @@ const Layer LAYERS[] = {
      }},
     {"ssml", SHORT_PIECES, LONG_PIECES,
      [](std::string& text) {
-         std::set<std::string> lost;
+         SsmlForm form(true);
          return read_everyday(text, [&](const HostSentence& sentence) {
              return measured([&] {
-                        static_cast<void>(ssml(sentence, text, true, lost));
+                        form.read(sentence, text);
                         return 1;
                     }) == 1;
          });

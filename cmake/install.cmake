@@ -23,7 +23,7 @@ install(FILES
     tts-text/tts-host/inc/tts_host.h tts-text/tts-host/inc/tts_findings.h
     tts-text/tts-host/inc/tts_explain.h tts-text/tts-host/inc/tts_plain.h tts-text/tts-host/inc/tts_ssml.h
     tts-text/tts-host/inc/tts_places.h tts-text/tts-host/inc/tts_names.h tts-text/tts-host/inc/tts_rewriter.h
-    tts-text/tts-host/inc/tts_stream.h
+    tts-text/tts-host/inc/tts_stream.h tts-text/tts-host/inc/tts_text_buffer.h
     tts-text/tts-everyday/inc/tts_everyday.h tts-text/tts-everyday/inc/tts_lexicon.h
     ${CMAKE_CURRENT_BINARY_DIR}/include/kavi_version.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavi COMPONENT development)

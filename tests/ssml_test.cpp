@@ -9,17 +9,18 @@ namespace {
 // The sentences of a text, and what was lost.
 TableRow document(const std::string& text, bool has_marks) {
     TableRow row{text, "", ""};
-    std::set<std::string> lost;
+    SsmlForm form(has_marks);
     TtsHost().read(
         text,
         [&](const HostSentence& sentence) {
-            std::string element = ssml(sentence, text, has_marks, lost);
+            form.read(sentence, text);
+            std::string element(form.all());
             if (!element.empty()) element.back() = '|';
             row[1] += element;
             return true;
         },
         nullptr);
-    for (const std::string& name : lost) row[2] += (row[2].empty() ? "" : " ") + name;
+    for (const std::string& name : form.lost()) row[2] += (row[2].empty() ? "" : " ") + name;
     return row;
 }
 

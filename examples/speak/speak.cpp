@@ -46,12 +46,13 @@ int take(short* samples, int n, espeak_EVENT* events) {
 
 Spoken speak(std::string_view text) {
     Spoken spoken;
-    std::set<std::string> lost;
+    kavi::SsmlForm form(false);
     spoken.document = kavi::SSML_BEGIN;
     kavi::TtsHost().read(
         text,
         [&](const kavi::HostSentence& sentence) {
-            spoken.document += kavi::ssml(sentence, text, false, lost);
+            form.read(sentence, text);
+            spoken.document += form.all();
             return true;
         },
         nullptr);

@@ -13,8 +13,8 @@
 #include "format.h"
 #include "html_page.h"
 #include "names.h"
-#include "text_buffer.h"
 #include "tts_explain.h"
+#include "tts_text_buffer.h"
 
 namespace kavi::tool {
 

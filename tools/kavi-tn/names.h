@@ -9,8 +9,8 @@
 
 #include "ShareObj.h"
 #include "options.h"
-#include "text_buffer.h"
 #include "tts_names.h"
+#include "tts_text_buffer.h"
 
 namespace kavi::tool {
 
@@ -19,18 +19,7 @@ std::optional<Field> field_of(std::string_view name);
 
 // Appends the punctuation names of a record, or its attributes that are set, separated by blanks.
 void append_punctuation(const UtteranceSyllable& record, TextBuffer& out);
-// Whether a word has attributes: most have none.
-inline bool has_attributes(const CssmlTag& tag) {
-    return (tag.emphasis[0] | tag.pro_pitch[0] | tag.pro_rate[0] | tag.pro_volume[0] |
-            tag.pro_spectrum[0] | tag.poem[0] | tag.quill_effect[0]) != 0;
-}
-
 void append_attributes(const CssmlTag& tag, TextBuffer& out);
-
-// The word of a record that is not the head record.
-inline std::string_view word_of(const UtteranceSyllable& record) {
-    return {record.syllable, static_cast<std::size_t>(record.syl_len - 1)};
-}
 
 // Whether there is something to tell about the head record.
 inline bool has_marks(const UtteranceSyllable& record) {

@@ -9,23 +9,23 @@ namespace {
 
 class SsmlFormat : public Format {
   public:
-    explicit SsmlFormat(bool marks) : marks_(marks) {}
+    explicit SsmlFormat(bool marks) : form_(marks) {}
 
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
-        out += ssml(sentence, place.text, marks_, lost_);
-        keep_least(LOST_MAX, lost_);
+        form_.read(sentence, place.text);
+        out += form_.all();
+        keep_least(LOST_MAX, form_.lost());
     }
 
     std::set<std::string> take_lost() override {
         std::set<std::string> lost;
-        lost.swap(lost_);
+        lost.swap(form_.lost());
         return lost;
     }
 
   private:
-    bool marks_;
-    std::set<std::string> lost_;
+    SsmlForm form_;
 };
 
 }  // namespace

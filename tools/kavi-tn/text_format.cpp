@@ -9,9 +9,9 @@
 
 #include "format.h"
 #include "names.h"
-#include "text_buffer.h"
 #include "tts_explain.h"
 #include "tts_plain.h"
+#include "tts_text_buffer.h"
 
 namespace kavi::tool {
 

@@ -2,11 +2,11 @@
 #ifndef KAVI_TTS_PLAIN_H
 #define KAVI_TTS_PLAIN_H
 
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "tts_host.h"
+#include "tts_text_buffer.h"
 
 namespace kavi {
 
@@ -23,7 +23,7 @@ class PlainForm {
     // before it is not there any more. What is handed out lives until the next call.
     void read(const HostSentence& sentence, std::string_view text, std::size_t text_begin = 0);
 
-    std::string_view all() const { return all_; }
+    std::string_view all() const { return all_.text(); }
 
     // What stands before the first word.
     std::string_view before() const { return after(0); }
@@ -43,8 +43,8 @@ class PlainForm {
     void add_gap(std::string_view gap);
     void end_before(std::string_view text, bool is_last);
 
-    std::string all_;
-    std::vector<Range> after_;    // of each record, in that
+    TextBuffer all_;
+    std::vector<Range> after_;    // of each record, in that, and more
     bool is_after_word_ = false;  // nothing follows the last word: its marks were read with it
 };
 

@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "tts_host.h"
+#include "tts_plain.h"
+#include "tts_text_buffer.h"
 
 namespace kavi {
 
@@ -14,17 +16,47 @@ namespace kavi {
 extern const char* const SSML_BEGIN;
 extern const char* const SSML_END;
 
-// An "s" element, and a line end; nothing for a sentence that has neither words nor a break. It was
-// read from `text`. Words and punctuation are as PlainForm has them. Breaks are "break" elements:
-// with their time, or for a forced pause with a strength. Words next to each other with the same
-// attributes share their elements. docs/ssml.md tells which value becomes which. What has no
-// counterpart is left out, and its name and value, as in "poem=a", added to `lost`.
-//
-// With `has_marks`, a "mark" element stands before each word, named OFFSET-LENGTH after the bytes
-// that it was read from. `text` begins at `text_begin` when what is before it is not there any
-// more.
-std::string ssml(const HostSentence& sentence, std::string_view text, bool has_marks,
-                 std::set<std::string>& lost, std::size_t text_begin = 0);
+// An "s" element, and a line end; nothing for a sentence that has neither words nor a break. Words
+// and punctuation are as PlainForm has them. Breaks are "break" elements: with their time, or for a
+// forced pause with a strength. Words next to each other with the same attributes share their
+// elements. docs/ssml.md tells which value becomes which.
+class SsmlForm {
+  public:
+    // With `has_marks`, a "mark" element stands before each word, named OFFSET-LENGTH after the
+    // bytes that it was read from.
+    explicit SsmlForm(bool has_marks) : has_marks_(has_marks) {}
+
+    // Of the next sentence that was read from `text`, which begins at `text_begin` when what is
+    // before it is not there any more.
+    void read(const HostSentence& sentence, std::string_view text, std::size_t text_begin = 0);
+
+    // That; it lives until the next call.
+    std::string_view all() const { return all_.text(); }
+
+    // What has no counterpart in the standard and was left out: names and values, as in "poem=a".
+    // It is added to; the caller may take it.
+    std::set<std::string>& lost() { return lost_; }
+
+  private:
+    // What a word stands in; empty: no such element. `prosody` is attributes, `level` a value.
+    struct Elements {
+        TextBuffer prosody;
+        std::string_view level;
+    };
+
+    std::string_view closing_marks(std::size_t record, bool is_last);
+    void enter_elements(const CssmlTag& tag);
+    bool write_break(const UtteranceSyllable& record);
+
+    bool has_marks_;
+    TextBuffer all_;
+    PlainForm plain_;
+    std::string_view between_;  // before the next word, outside of its elements,
+    std::string_view opening_;  // and inside
+    Elements open_;
+    Elements next_;  // of the word at hand
+    std::set<std::string> lost_;
+};
 
 }  // namespace kavi
 

@@ -1,6 +1,9 @@
 #include "tts_plain.h"
 
 #include <algorithm>
+#include <array>
+
+#include "tts_names.h"
 
 namespace kavi {
 
@@ -20,16 +23,26 @@ bool has(std::string_view characters, char c) {
     return characters.find(c) != std::string_view::npos;
 }
 
+// Whether a mark may begin with a character.
+constexpr std::array<bool, 256> begin_marks() {
+    std::array<bool, 256> begins{};
+    for (const char c : ASCII_MARKS) begins[static_cast<unsigned char>(c)] = true;
+    begins[static_cast<unsigned char>(GENERAL[0])] = true;
+    begins[static_cast<unsigned char>(LATIN[0])] = true;
+    return begins;
+}
+constexpr std::array<bool, 256> BEGINS_MARK = begin_marks();
+
 // How long the mark of English is that a text begins with; 0 for anything else.
 std::size_t mark_length(std::string_view text) {
+    if (!BEGINS_MARK[static_cast<unsigned char>(text[0])]) return 0;
     const auto begins = [&](std::string_view first, std::string_view last) {
         return text.size() > first.size() && text.substr(0, first.size()) == first &&
                has(last, text[first.size()]);
     };
-    if (has(ASCII_MARKS, text[0])) return 1;
     if (begins(GENERAL, GENERAL_MARKS)) return GENERAL.size() + 1;
     if (begins(LATIN, LATIN_MARKS)) return LATIN.size() + 1;
-    return 0;
+    return static_cast<unsigned char>(text[0]) < 0x80 ? 1 : 0;
 }
 
 bool ends_with_mark(std::string_view text) {
@@ -73,13 +86,12 @@ void PlainForm::read(const HostSentence& sentence, std::string_view text, std::s
     const std::size_t whole_begin = in_text(sentence.source.offset);
     const TextRange whole = {whole_begin, whole_end - whole_begin};
     all_.clear();
-    after_.clear();
+    if (after_.size() < n_records) after_.resize(n_records);
     const std::size_t begin_of_form = begin_of_blanks(text, whole);
     std::size_t at = begin_of_form;
     for (std::size_t i = 0; i < n_records; ++i) {
         if (i > 0) {
-            const UtteranceSyllable& record = sentence.records[i];
-            all_.append(record.syllable, static_cast<std::size_t>(record.syl_len - 1));
+            all_.add(word_of(sentence.records[i]));
             at = std::max(at, in_text(places[i].source.offset + places[i].source.length));
         }
         const std::size_t begin = all_.size();
@@ -90,40 +102,41 @@ void PlainForm::read(const HostSentence& sentence, std::string_view text, std::s
             at = next;
         }
         if (is_last) {
-            all_.resize(std::max(begin, all_.find_last_not_of(' ') + 1));
+            all_.cut_to(std::max(begin, all().find_last_not_of(' ') + 1));
         } else if (i > 0 && all_.size() == begin) {
-            all_ += ' ';
+            all_.add(' ');
         }
         if (i == 0) end_before(text.substr(0, begin_of_form), is_last);
-        after_.push_back({begin, all_.size()});
+        after_[i] = {begin, all_.size()};
     }
-    if (!all_.empty()) is_after_word_ = after_.back().begin == after_.back().end;
+    if (all_.size() > 0) is_after_word_ = after(n_records - 1).empty();
 }
 
 // All there is stands before the first word, and that is preceded by this text.
 void PlainForm::end_before(std::string_view text, bool is_last) {
     if (text.empty()) {
-        all_.erase(0, all_.find_first_not_of(' '));
-    } else if (all_.empty() && !is_last && (is_after_word_ || !ends_with_mark(text))) {
-        all_ = ' ';
+        all_.cut_front(std::min(all().find_first_not_of(' '), all_.size()));
+    } else if (all_.size() == 0 && !is_last && (is_after_word_ || !ends_with_mark(text))) {
+        all_.add(' ');
     }
 }
 
 // Appends what of a gap between words is punctuation or a blank.
 void PlainForm::add_gap(std::string_view gap) {
-    std::size_t n_blanks = 0;  // in the run that has been read,
-    bool has_other = false;    // not only these
+    if (gap.size() == 1 && gap[0] == ' ') return all_.add(' ');  // as most are
+    std::size_t n_blanks = 0;                                    // in the run that has been read,
+    bool has_other = false;                                      // not only these
     bool may_have_tags = true;
     const auto end_run = [&] {
-        all_.append(has_other ? std::min<std::size_t>(n_blanks, 1) : n_blanks, ' ');
-        n_blanks = 0;
+        if (has_other) n_blanks = std::min<std::size_t>(n_blanks, 1);
+        for (; n_blanks > 0; --n_blanks) all_.add(' ');
         has_other = false;
     };
     while (!gap.empty()) {
         std::size_t length = mark_length(gap);
         if (length > 0) {
             end_run();
-            all_ += gap.substr(0, length);
+            all_.add(gap.substr(0, length));
         } else {
             length = 1;
             if (is_blank(gap[0])) ++n_blanks;

@@ -1,9 +1,11 @@
 #include "tts_ssml.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
 #include <iterator>
 
-#include "tts_plain.h"
+#include "tts_names.h"
 
 namespace kavi {
 
@@ -51,173 +53,169 @@ bool is_quantity(std::string_view value, std::string_view unit, Sign sign) {
     return is_number(value.substr(has_sign ? 1 : 0));
 }
 
-// Each gives the standard's value for one of ours, or nothing. A number by itself is so many times
-// the usual rate.
-std::string rate_of(std::string_view value) {
-    if (is_one_of(value, RATES) || is_quantity(value, "%", Sign::none)) return std::string(value);
-    if (!is_number(value) || value.size() > 4 || value.find('.') != std::string_view::npos)
-        return {};
-    return std::string(value) + "00%";
+// A value as the standard has it, in two pieces; empty: it has none.
+struct Value {
+    std::string_view number;
+    std::string_view unit;
+};
+
+Value known(std::string_view value, bool is_known) {
+    return {is_known ? value : std::string_view(), {}};
 }
 
-std::string pitch_of(std::string_view value) {
-    const bool is_known = is_one_of(value, PITCHES) || is_quantity(value, "%", Sign::must) ||
-                          is_quantity(value, "st", Sign::must) ||
-                          is_quantity(value, "Hz", Sign::may);
-    return std::string(is_known ? value : std::string_view());
+// Each gives the standard's value for one of ours. A number by itself is so many times the usual
+// rate.
+Value rate_of(std::string_view value) {
+    const bool is_factor =
+        is_number(value) && value.size() <= 4 && value.find('.') == std::string_view::npos;
+    if (is_factor) return {value, "00%"};
+    return known(value, is_one_of(value, RATES) || is_quantity(value, "%", Sign::none));
 }
 
-std::string volume_of(std::string_view value) {
-    const bool is_known = is_one_of(value, VOLUMES) || is_quantity(value, "dB", Sign::must);
-    return std::string(is_known ? value : std::string_view());
+Value pitch_of(std::string_view value) {
+    return known(value, is_one_of(value, PITCHES) || is_quantity(value, "%", Sign::must) ||
+                            is_quantity(value, "st", Sign::must) ||
+                            is_quantity(value, "Hz", Sign::may));
+}
+
+Value volume_of(std::string_view value) {
+    return known(value, is_one_of(value, VOLUMES) || is_quantity(value, "dB", Sign::must));
 }
 
 // Any other value means that there is emphasis: the standard's usual level.
-std::string level_of(std::string_view value) {
-    if (value.empty()) return {};
-    return std::string(is_one_of(value, LEVELS) ? value : LEVELS[1]);
+std::string_view level_of(std::string_view value) {
+    return value.empty() || is_one_of(value, LEVELS) ? value : LEVELS[1];
 }
 
-// Up to a day.
-std::string time_of(std::string_view value) {
+// Milliseconds, up to a day.
+bool is_time(std::string_view value) {
     constexpr std::size_t LONGEST = 8;
-    const bool is_time =
-        value.size() <= LONGEST && is_number(value) && value.find('.') == std::string_view::npos;
-    return is_time ? std::string(value) + "ms" : "";
+    return value.size() <= LONGEST && is_number(value) && value.find('.') == std::string_view::npos;
 }
+
+// Whether words stand in the same elements; what is not of that is the same, too.
+bool have_same_attributes(const CssmlTag& a, const CssmlTag& b) {
+    constexpr std::size_t BEGIN = offsetof(CssmlTag, emphasis);
+    constexpr std::size_t END = offsetof(CssmlTag, ssml_w);
+    const auto begin = [](const CssmlTag& tag) {
+        return reinterpret_cast<const char*>(&tag) + BEGIN;
+    };
+    return std::memcmp(begin(a), begin(b), END - BEGIN) == 0;
+}
+
+constexpr PlainCharacters PLAIN("&<>");
 
 // A word that an unclosed tag got into has more than letters. What XML does not have, or is outside
 // ASCII, is U+FFFD.
-void append_escaped(std::string_view word, std::string& out) {
-    constexpr std::string_view SPECIAL = "&<>";
-    constexpr const char* ESCAPED[] = {"&amp;", "&lt;", "&gt;"};
+void append_escaped(std::string_view word, TextBuffer& out) {
+    if (out.add_plain(word, PLAIN)) return;
     for (const char c : word) {
-        const std::size_t special = SPECIAL.find(c);
-        const bool is_printable = static_cast<unsigned char>(c - ' ') <= '~' - ' ';
-        if (special != std::string_view::npos) {
-            out += ESCAPED[special];
-        } else if (is_printable) {
-            out += c;
-        } else {
-            out += "\xef\xbf\xbd";
+        switch (c) {
+            case '&': out.add("&amp;"); break;
+            case '<': out.add("&lt;"); break;
+            case '>': out.add("&gt;"); break;
+            default: PLAIN.have(c) ? out.add(c) : out.add("\xef\xbf\xbd");
         }
     }
 }
 
-class SentenceWriter {
-  public:
-    SentenceWriter(const HostSentence& sentence, std::string_view text, std::size_t text_begin,
-                   bool has_marks, std::set<std::string>& lost)
-        : sentence_(sentence), has_marks_(has_marks), lost_(lost) {
-        plain_.read(sentence, text, text_begin);
-    }
-
-    std::string write() {
-        for (int i = 0; i < sentence_.n_records; ++i) {
-            if (i > 0) write_word(i);
-            out_ += closing_marks(i);
-            write_break(sentence_.records[i]);
-        }
-        close_others("", "");
-        const bool is_silent = sentence_.n_records <= 1 && !has_break_;
-        return is_silent ? "" : "<s>" + out_ + "</s>\n";
-    }
-
-  private:
-    // Of what follows a record: up to the first blank, but that before the first word is not of it.
-    // The rest is kept for the next word: blanks, and what stands directly before it.
-    std::string_view closing_marks(int i) {
-        const std::string_view after = plain_.after(static_cast<std::size_t>(i));
-        if (i > 0 && i == sentence_.n_records - 1) return after;
-        const std::size_t begin = std::min(after.find_first_not_of(' '), after.size());
-        const std::size_t end = i > 0 ? std::min(after.find(' '), after.size()) : begin;
-        const std::size_t blanks_end = std::max(end, after.rfind(' ') + 1);
-        between_ = after.substr(end, blanks_end - end);
-        opening_ = after.substr(blanks_end);
-        return i > 0 ? after.substr(0, end) : std::string_view();
-    }
-
-    void write_word(int i) {
-        const UtteranceSyllable& record = sentence_.records[i];
-        const CssmlTag& tag = record.cssml_tag;
-        std::string prosody;
-        add_attribute("rate", tag.pro_rate, rate_of(tag.pro_rate), prosody);
-        add_attribute("pitch", tag.pro_pitch, pitch_of(tag.pro_pitch), prosody);
-        add_attribute("volume", tag.pro_volume, volume_of(tag.pro_volume), prosody);
-        std::string ignored;
-        add_attribute("spectrum", tag.pro_spectrum, "", ignored);
-        add_attribute("poem", tag.poem, "", ignored);
-        add_attribute("quill_effect", tag.quill_effect, "", ignored);
-        open(prosody, level_of(tag.emphasis));
-        if (has_marks_) {
-            const TextRange source = sentence_.places.of_record(i).source;
-            out_ += "<mark name=\"" + std::to_string(source.offset) + "-" +
-                    std::to_string(source.length) + "\"/>";
-        }
-        out_ += opening_;
-        append_escaped(record.syllable, out_);
-    }
-
-    // Nothing for a value that is not set; one that the standard does not know is lost.
-    void add_attribute(const char* name, const char* value, const std::string& known,
-                       std::string& attributes) {
-        if (*value == '\0') return;
-        if (known.empty()) {
-            lost_.insert(std::string(name) + "=" + value);
-        } else {
-            attributes.append(" ").append(name).append("=\"").append(known).append("\"");
-        }
-    }
-
-    // Before the next word, with the elements that it stands in; those that go on stay open.
-    void open(const std::string& prosody, const std::string& level) {
-        const bool is_other = prosody != prosody_;
-        close_others(prosody, level);
-        out_ += between_;
-        if (!prosody.empty() && is_other) out_ += "<prosody" + prosody + ">";
-        if (!level.empty() && (is_other || level != level_)) {
-            out_ += "<emphasis level=\"" + level + "\">";
-        }
-        prosody_ = prosody;
-        level_ = level;
-    }
-
-    void close_others(const std::string& prosody, const std::string& level) {
-        const bool is_other = prosody != prosody_;
-        if (!level_.empty() && (is_other || level != level_)) out_ += "</emphasis>";
-        if (!prosody_.empty() && is_other) out_ += "</prosody>";
-    }
-
-    void write_break(const UtteranceSyllable& record) {
-        const char* value = record.cssml_tag.breaktime;
-        const std::string time = time_of(value);
-        if (*value != '\0' && time.empty()) lost_.insert(std::string("breaktime=") + value);
-        const bool is_forced = record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE;
-        if (!time.empty()) {
-            out_ += "<break time=\"" + time + "\"/>";
-        } else if (is_forced) {
-            out_ += "<break strength=\"medium\"/>";
-        }
-        has_break_ = has_break_ || !time.empty() || is_forced;
-    }
-
-    const HostSentence& sentence_;
-    bool has_marks_;
-    std::set<std::string>& lost_;
-    std::string out_;
-    PlainForm plain_;
-    std::string_view between_;  // before the next word, outside of its elements,
-    std::string_view opening_;  // and inside
-    std::string prosody_;       // the attributes of the element that is open; none: no element
-    std::string level_;         // likewise, inside it
-    bool has_break_ = false;
-};
-
 }  // namespace
 
-std::string ssml(const HostSentence& sentence, std::string_view text, bool has_marks,
-                 std::set<std::string>& lost, std::size_t text_begin) {
-    return SentenceWriter(sentence, text, text_begin, has_marks, lost).write();
+void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::size_t text_begin) {
+    plain_.read(sentence, text, text_begin);
+    all_.clear();
+    all_.add("<s>");
+    bool has_break = false;
+    const auto n_records = static_cast<std::size_t>(sentence.n_records);
+    for (std::size_t i = 0; i < n_records; ++i) {
+        const UtteranceSyllable& record = sentence.records[i];
+        if (i > 0) {
+            const CssmlTag& before = sentence.records[i - 1].cssml_tag;
+            if (have_same_attributes(record.cssml_tag, before)) {
+                all_.add(between_);
+            } else {
+                enter_elements(record.cssml_tag);
+            }
+            if (has_marks_) {
+                const TextRange source = sentence.places.words()[i].source;
+                all_.add("<mark name=\"", source.offset, '-', source.length, "\"/>");
+            }
+            all_.add(opening_);
+            append_escaped(word_of(record), all_);
+        }
+        all_.add(closing_marks(i, i + 1 == n_records));
+        has_break |= write_break(record);
+    }
+    between_ = {};
+    enter_elements({});
+    all_.add("</s>\n");
+    if (n_records <= 1 && !has_break) all_.clear();
+}
+
+// Of what follows a record: up to the first blank, but that before the first word is not of it. The
+// rest is kept for the next word: blanks, and what stands directly before it.
+std::string_view SsmlForm::closing_marks(std::size_t record, bool is_last) {
+    const std::string_view after = plain_.after(record);
+    if (after.size() == 1 && record > 0 && !is_last && after[0] == ' ') {  // as most are
+        between_ = after;
+        opening_ = {};
+        return {};
+    }
+    const bool is_head = record == 0;
+    if (!is_head && is_last) return after;
+    const std::size_t begin = std::min(after.find_first_not_of(' '), after.size());
+    const std::size_t end = is_head ? begin : std::min(after.find(' '), after.size());
+    const std::size_t blanks_end = std::max(end, after.rfind(' ') + 1);
+    between_ = after.substr(end, blanks_end - end);
+    opening_ = after.substr(blanks_end);
+    return is_head ? std::string_view() : after.substr(0, end);
+}
+
+// Before the next word, with the elements that it stands in; those that go on stay open.
+void SsmlForm::enter_elements(const CssmlTag& tag) {
+    next_.prosody.clear();
+    const auto add = [&](const char* name, const char* value, const Value& known) {
+        if (*value == '\0') return;
+        if (known.number.empty()) {
+            lost_.insert(std::string(name) + "=" + value);
+        } else {
+            next_.prosody.add(' ', name, "=\"", known.number, known.unit, '"');
+        }
+    };
+    add("rate", tag.pro_rate, rate_of(tag.pro_rate));
+    add("pitch", tag.pro_pitch, pitch_of(tag.pro_pitch));
+    add("volume", tag.pro_volume, volume_of(tag.pro_volume));
+    add("spectrum", tag.pro_spectrum, {});
+    add("poem", tag.poem, {});
+    add("quill_effect", tag.quill_effect, {});
+    next_.level = level_of(tag.emphasis);
+
+    const std::string_view prosody = next_.prosody.text();
+    const bool is_other_prosody = prosody != open_.prosody.text();
+    const bool is_other_level = is_other_prosody || next_.level != open_.level;
+    if (!open_.level.empty() && is_other_level) all_.add("</emphasis>");
+    if (open_.prosody.size() > 0 && is_other_prosody) all_.add("</prosody>");
+    all_.add(between_);
+    if (!prosody.empty() && is_other_prosody) all_.add("<prosody", prosody, '>');
+    if (!next_.level.empty() && is_other_level) {
+        all_.add("<emphasis level=\"", next_.level, "\">");
+    }
+    std::swap(open_, next_);
+}
+
+// Whether there is one.
+bool SsmlForm::write_break(const UtteranceSyllable& record) {
+    if (record.cssml_tag.breaktime[0] != '\0') {
+        const std::string_view value = record.cssml_tag.breaktime;
+        if (is_time(value)) {
+            all_.add("<break time=\"", value, "ms\"/>");
+            return true;
+        }
+        lost_.insert("breaktime=" + std::string(value));
+    }
+    const bool is_forced = record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE;
+    if (is_forced) all_.add("<break strength=\"medium\"/>");
+    return is_forced;
 }
 
 }  // namespace kavi

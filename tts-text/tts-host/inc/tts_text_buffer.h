@@ -1,6 +1,6 @@
 // Text that many short pieces are put together to.
-#ifndef KAVI_TOOL_TEXT_BUFFER_H
-#define KAVI_TOOL_TEXT_BUFFER_H
+#ifndef KAVI_TTS_TEXT_BUFFER_H
+#define KAVI_TTS_TEXT_BUFFER_H
 
 #include <array>
 #include <charconv>
@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace kavi::tool {
+namespace kavi {
 
 // The characters that a format has unescaped: ASCII, but for control characters and
 // `special` ones.
@@ -41,6 +41,11 @@ class TextBuffer {
   public:
     void clear() { end_ = 0; }
     void cut_to(std::size_t size) { end_ = size; }
+    void cut_front(std::size_t size) {
+        end_ -= size;
+        std::memmove(bytes_.data(), bytes_.data() + size, end_);
+    }
+    std::size_t size() const { return end_; }
     std::string_view text() const { return {bytes_.data(), end_}; }
 
     // Characters, texts and numbers, one after the other.
@@ -108,6 +113,6 @@ class TextBuffer {
     std::size_t end_ = 0;
 };
 
-}  // namespace kavi::tool
+}  // namespace kavi
 
-#endif  // KAVI_TOOL_TEXT_BUFFER_H
+#endif  // KAVI_TTS_TEXT_BUFFER_H

@@ -58,6 +58,5 @@ install_npm_packages() {
 # What the command line is built with.
 need_tool_libraries() {
     need_file /usr/include/CLI/CLI.hpp libcli11-dev
-    need_file /usr/include/rapidjson/writer.h rapidjson-dev
     need_file /usr/include/utf8.h libutfcpp-dev
 }

@@ -1,34 +1,21 @@
 #include "findings_report.h"
 
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
-
-#include "names.h"
+#include "json_line.h"
 
 namespace kavi::tool {
 
 std::string json_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
                       const std::string& message) {
-    rapidjson::StringBuffer buffer;
-    rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
-    const auto add_text = [&](const char* key, std::string_view value) {
-        const std::string valid = valid_utf8(value);
-        writer.Key(key);
-        writer.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
-    };
-    const auto add_number = [&](const char* key, std::size_t value) {
-        writer.Key(key);
-        writer.Uint64(value);
-    };
-    writer.StartObject();
-    add_text("input", input);
-    add_number("line", line);
-    add_number("offset", diagnostic.offset);
-    add_number("length", diagnostic.length);
-    add_text("code", code_of(diagnostic.finding));
-    add_text("message", message);
-    writer.EndObject();
-    return std::string(buffer.GetString(), buffer.GetSize()) + "\n";
+    JsonLine object;
+    object.begin();
+    object.field("input", input);
+    object.field("line", line);
+    object.range({diagnostic.offset, diagnostic.length});
+    object.plain_field("code", code_of(diagnostic.finding));
+    object.field("message", message);
+    std::string text;
+    object.end(text);
+    return text;
 }
 
 std::string FindingsReport::take(const std::vector<FindingMessage>& messages) {

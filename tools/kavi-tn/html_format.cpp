@@ -20,10 +20,10 @@ namespace kavi::tool {
 
 namespace {
 
-constexpr PlainCharacters PLAIN("&<>\"");
+using Plain = PlainCharacters<'&', '<', '>', '"'>;
 
 void append_escaped(std::string_view text, TextBuffer& out) {
-    if (out.add_plain(text, PLAIN)) return;
+    if (out.add_plain(text, Plain())) return;
     constexpr const char* DIGITS = "0123456789abcdef";
     for (const char c : valid_utf8(text)) {
         const auto byte = static_cast<unsigned char>(c);

@@ -1,84 +1,17 @@
 // JSON Lines: an object a sentence. docs/kavi-tn.schema.json describes it.
 
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
-
 #include <algorithm>
 
 #include "finding_text.h"
 #include "format.h"
+#include "json_line.h"
 #include "names.h"
 #include "tts_explain.h"
 #include "tts_plain.h"
-#include "tts_text_buffer.h"
 
 namespace kavi::tool {
 
 namespace {
-
-constexpr PlainCharacters PLAIN("\"\\");
-
-// One object after the other. Text that is not UTF-8 has U+FFFD where it is not. A comma stands
-// after each value, until its object or array ends.
-class JsonLine {
-  public:
-    void begin() {
-        line_.clear();
-        line_ << '{';
-    }
-    void end(std::string& out) {
-        close('}');
-        out.append(line_.text().substr(0, line_.text().size() - 1)) += '\n';
-    }
-
-    void key(std::string_view name) { line_.add('"', name, "\":"); }
-    void text(std::string_view value) { PLAIN.are_all(value) ? name(value) : escape(value); }
-    void name(std::string_view plain) { line_.add('"', plain, "\","); }
-    void number(std::size_t value) { line_.add(value, ','); }
-    void null() { line_ << "null,"; }
-
-    template <typename Write>
-    void object(Write write) {
-        line_ << '{';
-        write();
-        close('}');
-    }
-    template <typename Write>
-    void array(Write write) {
-        line_ << '[';
-        write();
-        close(']');
-    }
-
-    void field(std::string_view name, std::string_view value) {
-        key(name);
-        text(value);
-    }
-    void field(std::string_view name, std::size_t value) {
-        line_.add('"', name, "\":", value, ',');
-    }
-    void range(const TextRange& range) {
-        field("offset", range.offset);
-        field("length", range.length);
-    }
-
-  private:
-    void close(char bracket) {
-        const std::string_view line = line_.text();
-        if (line.back() == ',') line_.cut_to(line.size() - 1);
-        line_.add(bracket, ',');
-    }
-
-    void escape(std::string_view text) {
-        const std::string valid = valid_utf8(text);
-        rapidjson::StringBuffer buffer;
-        rapidjson::Writer<rapidjson::StringBuffer> writer(buffer);
-        writer.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
-        line_.add(std::string_view(buffer.GetString(), buffer.GetSize()), ',');
-    }
-
-    TextBuffer line_;
-};
 
 class JsonFormat : public Format {
   public:
@@ -137,7 +70,8 @@ class JsonFormat : public Format {
     }
 
     void write_words(const HostSentence& sentence) {
-        const bool are_plain = PLAIN.are_all(sentence.speakable);  // which the words are pieces of
+        const bool are_plain =
+            JsonPlain::are_all(sentence.speakable);  // which the words are pieces of
         line_.array([&] {
             for (int i = 0; i < sentence.n_records; ++i) {
                 const UtteranceSyllable& record = sentence.records[i];
@@ -151,16 +85,16 @@ class JsonFormat : public Format {
     void write_word(const HostSentence& sentence, int number, bool is_plain) {
         const UtteranceSyllable& record = sentence.records[number];
         line_.object([&] {
-            line_.key("word");
             if (record.syllable == nullptr) {
+                line_.key("word");
                 line_.null();
             } else {
-                is_plain ? line_.name(word_of(record)) : line_.text(word_of(record));
+                const std::string_view word = word_of(record);
+                is_plain ? line_.plain_field("word", word) : line_.field("word", word);
                 line_.field("after", plain_.after(static_cast<std::size_t>(number)));
             }
             line_.range(sentence.places.of_record(number).source);
-            line_.key("pause");
-            line_.name(pause_name(record.pause_type));
+            line_.plain_field("pause", pause_name(record.pause_type));
             if (record.n_punc > 0) {
                 line_.key("marks");
                 line_.array([&] {

@@ -37,6 +37,12 @@ std::string in_quotes(std::string_view text);
 std::string shown(
     std::string_view name);  // quoted only where it must be: or with blanks at its ends
 
+inline bool is_ascii(std::string_view text) {
+    unsigned char bits = 0;
+    for (const char c : text) bits |= static_cast<unsigned char>(c);
+    return bits <= 0x7f;
+}
+
 // The same text with U+FFFD for what is not UTF-8.
 std::string valid_utf8(std::string_view text);
 

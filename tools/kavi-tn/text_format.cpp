@@ -17,12 +17,6 @@ namespace kavi::tool {
 
 namespace {
 
-bool is_ascii(std::string_view text) {
-    unsigned bits = 0;
-    for (const char c : text) bits |= static_cast<unsigned char>(c);
-    return bits <= '\x7f';
-}
-
 // How many characters a field has, if it is UTF-8.
 std::size_t width_of(std::string_view field) {
     constexpr unsigned CONTINUATION = 0x80;
@@ -34,8 +28,7 @@ std::size_t width_of(std::string_view field) {
     return width;
 }
 
-// Rows of fields in columns as wide as their widest field, two blanks between. The fields stand in
-// one text, one after the other.
+// Rows of fields in columns as wide as their widest field, two blanks between.
 template <std::size_t Columns>
 class Table {
   public:
@@ -48,32 +41,32 @@ class Table {
     // Leaves the titles.
     void clear() {
         n_fields_ = n_titles_;
-        text_.cut_to(n_titles_ > 0 ? fields_[n_titles_ - 1].end : 0);
+        composed_.clear();
+        composed_end_ = 0;
     }
 
-    // The text to append the next field to.
-    TextBuffer& field() { return text_; }
+    // A field that stays where it is until the table is written.
+    void add(std::string_view field) { add_field(field.data(), field.size()); }
 
-    // Ends the field, and after the last of a row the row.
+    // The text to append the next field to, which is kept here; and the end of the field.
+    TextBuffer& field() { return composed_; }
     void end_field() {
-        if (n_fields_ == fields_.size()) fields_.resize(2 * n_fields_ + Columns);
-        fields_[n_fields_++].end = text_.text().size();
-    }
-    void add(std::string_view field) {
-        text_ << field;
-        end_field();
+        add_field(nullptr, composed_.size() - composed_end_);
+        composed_end_ = composed_.size();
     }
 
-    // All rows, and an empty line. They are written over blanks.
-    void append_to(std::string& out) {
-        const Widths widths = measure();
+    // All rows, and an empty line. They are written over blanks. `are_bytes`: in what add() was
+    // given, each byte is a character.
+    void append_to(std::string& out, bool are_bytes) {
+        find_composed();
+        const std::size_t more = are_bytes && is_ascii(composed_.text()) ? 0 : find_widths();
+        const Widths widths = widest();
         const std::size_t row = std::accumulate(widths.begin(), widths.end(), 2 * Columns);
         const std::size_t begin = out.size();
-        out.resize(begin + text_.text().size() + n_fields_ / Columns * row + 1, ' ');
+        out.resize(begin + n_fields_ / Columns * row + more + 1, ' ');
         char* end = out.data() + begin;
-        const char* field = text_.text().data();
         for (std::size_t i = 0; i < n_fields_; i += Columns) {
-            end = write_row(&fields_[i], widths, field, end);
+            end = write_row(&fields_[i], widths, end);
         }
         *end++ = '\n';
         out.resize(static_cast<std::size_t>(end - out.data()));
@@ -81,51 +74,67 @@ class Table {
 
   private:
     struct Field {
-        std::size_t end;  // in the text
+        const char* begin;  // null: it was composed, after the last one that was
+        std::size_t size;
         std::size_t width;
     };
     using Widths = std::array<std::size_t, Columns>;
 
-    // Sets the widths of the fields; those of the columns.
-    Widths measure() {
+    void add_field(const char* begin, std::size_t size) {
+        if (n_fields_ == fields_.size()) fields_.resize(2 * n_fields_ + Columns);
+        fields_[n_fields_++] = {begin, size, size};
+    }
+
+    void find_composed() {
+        const char* composed = composed_.text().data();
+        for (std::size_t i = n_titles_; i < n_fields_; ++i) {
+            Field& field = fields_[i];
+            if (field.begin != nullptr) continue;
+            field.begin = composed;
+            composed += field.size;
+        }
+    }
+
+    // Of fields that may be other than ASCII; how many bytes more than characters they have.
+    std::size_t find_widths() {
+        std::size_t more = 0;
+        for (std::size_t i = n_titles_; i < n_fields_; ++i) {
+            Field& field = fields_[i];
+            field.width = width_of({field.begin, field.size});
+            more += field.size - field.width;
+        }
+        return more;
+    }
+
+    // Of each column.
+    Widths widest() const {
         Widths widths = {};
-        const std::string_view text = text_.text();
-        const bool are_bytes = is_ascii(text);
-        std::size_t begin = 0;
         for (std::size_t i = 0; i < n_fields_;) {
-            for (std::size_t& widest : widths) {
-                Field& field = fields_[i++];
-                const std::size_t size = field.end - begin;
-                field.width = are_bytes ? size : width_of(text.substr(begin, size));
-                widest = std::max(widest, field.width);
-                begin = field.end;
-            }
+            for (std::size_t& width : widths) width = std::max(width, fields_[i++].width);
         }
         return widths;
     }
 
-    // Writes a row from `target` on, whose fields begin at `field`; where the next goes.
-    char* write_row(const Field* fields, const Widths& widths, const char*& field,
-                    char* target) const {
+    // Writes a row from `target` on; where the next goes.
+    static char* write_row(const Field* fields, const Widths& widths, char* target) {
         char* end = target;  // after the last that is not empty
         for (std::size_t column = 0; column < Columns; ++column) {
-            const auto size =
-                static_cast<std::size_t>(text_.text().data() + fields[column].end - field);
-            if (size > 0) {
-                std::memcpy(target, field, size);
-                end = target + size;
+            const Field& field = fields[column];
+            if (field.size > 0) {
+                std::memcpy(target, field.begin, field.size);
+                end = target + field.size;
             }
-            target += size + widths[column] - fields[column].width + 2;
-            field += size;
+            target += field.size + widths[column] - field.width + 2;
         }
         *end++ = '\n';
         return end;
     }
 
-    TextBuffer text_;
     std::vector<Field> fields_;  // with room for more
     std::size_t n_fields_ = 0;
     std::size_t n_titles_ = 0;
+    TextBuffer composed_;
+    std::size_t composed_end_ = 0;  // of the last field there
 };
 
 class SentenceFormat : public Format {
@@ -167,20 +176,23 @@ class WordFormat : public Format {
     void write(const Place& place, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         table_.clear();
+        const WordPlace* const places = sentence.places.words();
         for (int i = 0; i < sentence.n_records; ++i) {
             const UtteranceSyllable& record = sentence.records[i];
             if (i == 0 && !has_marks(record)) continue;
-            const TextRange source = sentence.places.of_record(i).source;
+            const TextRange& source = places[i].source;
             table_.add(i == 0 ? "(head)" : word_of(record));
             table_.add(place.part(source));
             table_.add(pause_name(record.pause_type));
-            append_punctuation(record, table_.field());
+            if (record.n_punc > 0) append_punctuation(record, table_.field());
             table_.end_field();
-            table_.add(record.cssml_tag.breaktime);
+            const char* const breaktime = record.cssml_tag.breaktime;
+            table_.add(*breaktime == '\0' ? std::string_view() : breaktime);
             append_attributes(record.cssml_tag, table_.field());
             table_.end_field();
         }
-        table_.append_to(out);
+        const std::string_view written = place.part(sentence.source);
+        table_.append_to(out, is_ascii(sentence.speakable) && is_ascii(written));
     }
 
   private:
@@ -201,11 +213,13 @@ class ExplainFormat : public Format {
                 table_.field() << '[' << section << ']';
             }
             table_.end_field();
-            table_.add(run.rule);
-            table_.add(run.reading.substr(0, run.reading.find_last_not_of(' ') + 1));
+            table_.field() << run.rule;
+            table_.end_field();
+            table_.field() << run.reading.substr(0, run.reading.find_last_not_of(' ') + 1);
+            table_.end_field();
         };
         explain(sentence, place.text, on_run, place.text_begin);
-        table_.append_to(out);
+        table_.append_to(out, true);
     }
 
   private:

@@ -2,6 +2,7 @@
 #ifndef KAVI_TTS_TEXT_BUFFER_H
 #define KAVI_TTS_TEXT_BUFFER_H
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -12,27 +13,36 @@
 
 namespace kavi {
 
-// The characters that a format has unescaped: ASCII, but for control characters and
-// `special` ones.
+// The characters that a format has unescaped: ASCII, but for control characters and the `Special`
+// ones.
+template <char... Special>
 class PlainCharacters {
   public:
-    constexpr explicit PlainCharacters(std::string_view special) {
-        for (char c = ' '; c <= '~'; ++c) {
-            is_plain_[static_cast<unsigned char>(c)] = special.find(c) == std::string_view::npos;
+    static bool have(char c) { return IS_PLAIN[static_cast<unsigned char>(c)]; }
+
+    // Whether a text is nothing else. It is not left early, and characters of a longer text are
+    // compared instead of looked up, so that a compiler can do it for many at once: most texts are
+    // plain.
+    static bool are_all(std::string_view text) {
+        constexpr std::size_t AT_ONCE = 16;
+        if (text.size() < AT_ONCE) return std::all_of(text.begin(), text.end(), have);
+        unsigned char other = 0;
+        for (const char c : text) {
+            const auto special = static_cast<unsigned char>(((c == Special) | ...));
+            other |= static_cast<unsigned char>((c < ' ') | (c > '~') | special);
         }
-    }
-
-    bool have(char c) const { return is_plain_[static_cast<unsigned char>(c)]; }
-
-    // Whether a text is nothing else. It is not left early: most texts are plain.
-    bool are_all(std::string_view text) const {
-        bool plain = true;
-        for (const char c : text) plain &= have(c);
-        return plain;
+        return other == 0;
     }
 
   private:
-    std::array<bool, 256> is_plain_{};
+    static constexpr std::array<bool, 256> all() {
+        std::array<bool, 256> plain{};
+        for (char c = ' '; c <= '~'; ++c) {
+            plain[static_cast<unsigned char>(c)] = !((c == Special) || ...);
+        }
+        return plain;
+    }
+    static constexpr std::array<bool, 256> IS_PLAIN = all();
 };
 
 // Pieces that are added together cost a comparison, and a copy each, while std::string makes a call
@@ -61,7 +71,8 @@ class TextBuffer {
 
     // Adds a text of nothing but such characters and answers true, or nothing and answers false. It
     // is copied as it is looked at.
-    bool add_plain(std::string_view text, const PlainCharacters& characters) {
+    template <typename Characters>
+    bool add_plain(std::string_view text, Characters characters) {
         char* end = end_with(text.size());
         bool plain = true;
         for (const char c : text) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "for_host_layer.h"
+#include "sentence_source.h"
 
 namespace kavi {
 
@@ -143,17 +144,17 @@ class RunsOfText {
   public:
     RunsOfText(const HostSentence& sentence, std::string_view text, std::size_t text_begin,
                const RunHandler& on_run)
-        : sentence_(sentence),
-          text_(text),
+        : text_(text),
           text_begin_(text_begin),
           on_run_(on_run),
+          sources_(sentence.places.pieces()),
           piece_(sentence.places.pieces().data()),
           last_piece_(&sentence.places.pieces().back()) {}
 
     // The next run of the sentence; takes what it holds.
     void add(ExplainedRun& run) {
         const std::size_t at = run.source.offset;
-        run.source = sentence_.places.source_of(at, run.source.length);
+        run.source = sources_.source_of(at, run.source.length);
         if (any_ && run.source.length > 0 &&
             run.source.offset < run_.source.offset + run_.source.length) {
             // They share source, as the words of an abbreviation do.
@@ -163,7 +164,12 @@ class RunsOfText {
             return;
         }
         end();
-        std::swap(run_, run);
+        run_.sections.swap(run.sections);
+        run_.source = run.source;
+        run_.reading = run.reading;
+        run_.reading_at = run.reading_at;
+        run_.rule = run.rule;
+        run_.is_word = run.is_word;
         any_ = true;
         rewrite(at);
     }
@@ -188,10 +194,10 @@ class RunsOfText {
         run_.sections.assign(1, text_.substr(begin, run_.source.length));
     }
 
-    const HostSentence& sentence_;
     std::string_view text_;
     std::size_t text_begin_;
     const RunHandler& on_run_;
+    host::PieceCursor sources_;
     const SourcePiece* piece_;
     const SourcePiece* last_piece_;
     ExplainedRun run_ = {};  // the last one, which the next may go on

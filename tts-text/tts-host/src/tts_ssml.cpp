@@ -103,18 +103,18 @@ bool have_same_attributes(const CssmlTag& a, const CssmlTag& b) {
     return std::memcmp(begin(a), begin(b), END - BEGIN) == 0;
 }
 
-constexpr PlainCharacters PLAIN("&<>");
+using Plain = PlainCharacters<'&', '<', '>'>;
 
 // A word that an unclosed tag got into has more than letters. What XML does not have, or is outside
 // ASCII, is U+FFFD.
 void append_escaped(std::string_view word, TextBuffer& out) {
-    if (out.add_plain(word, PLAIN)) return;
+    if (out.add_plain(word, Plain())) return;
     for (const char c : word) {
         switch (c) {
             case '&': out.add("&amp;"); break;
             case '<': out.add("&lt;"); break;
             case '>': out.add("&gt;"); break;
-            default: PLAIN.have(c) ? out.add(c) : out.add("\xef\xbf\xbd");
+            default: Plain::have(c) ? out.add(c) : out.add("\xef\xbf\xbd");
         }
     }
 }

@@ -1,0 +1,78 @@
+// A JSON object that is written piece by piece.
+#ifndef KAVI_TOOL_JSON_LINE_H
+#define KAVI_TOOL_JSON_LINE_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "tts_places.h"
+#include "tts_text_buffer.h"
+
+namespace kavi::tool {
+
+using JsonPlain = PlainCharacters<'"', '\\'>;
+
+// One object after the other. A comma stands after each value, until its object or array ends.
+class JsonLine {
+  public:
+    void begin() {
+        line_.clear();
+        line_ << '{';
+    }
+    void end(std::string& out) {
+        close('}');
+        out.append(line_.text().substr(0, line_.text().size() - 1)) += '\n';
+    }
+
+    void key(std::string_view name) { line_.add('"', name, "\":"); }
+    void text(std::string_view value) { name(escaped(value)); }
+    void name(std::string_view plain) { line_.add('"', plain, "\","); }
+    void number(std::size_t value) { line_.add(value, ','); }
+    void null() { line_ << "null,"; }
+
+    template <typename Write>
+    void object(Write write) {
+        line_ << '{';
+        write();
+        close('}');
+    }
+    template <typename Write>
+    void array(Write write) {
+        line_ << '[';
+        write();
+        close(']');
+    }
+
+    void field(std::string_view name, std::string_view value) { plain_field(name, escaped(value)); }
+    void plain_field(std::string_view name, std::string_view value) {
+        line_.add('"', name, "\":\"", value, "\",");
+    }
+    void field(std::string_view name, std::size_t value) {
+        line_.add('"', name, "\":", value, ',');
+    }
+    void range(const TextRange& range) {
+        line_.add("\"offset\":", range.offset, ",\"length\":", range.length, ',');
+    }
+
+  private:
+    // A text as it stands between quotation marks; what is not UTF-8 is U+FFFD. It lives until the
+    // next call.
+    std::string_view escaped(std::string_view text) {
+        return JsonPlain::are_all(text) ? text : escape(text);
+    }
+    std::string_view escape(std::string_view text);
+
+    void close(char bracket) {
+        const std::string_view line = line_.text();
+        if (line.back() == ',') line_.cut_to(line.size() - 1);
+        line_.add(bracket, ',');
+    }
+
+    TextBuffer line_;
+    TextBuffer escaped_text_;
+};
+
+}  // namespace kavi::tool
+
+#endif  // KAVI_TOOL_JSON_LINE_H

@@ -82,6 +82,7 @@ class SentenceWriter {
                    const std::vector<Diagnostic>& diagnostics, TextBuffer& out)
         : place_(place),
           sentence_(sentence),
+          places_(sentence.places.words()),
           findings_(diagnostics),
           finding_(diagnostics.begin()),
           out_(out),
@@ -132,13 +133,12 @@ class SentenceWriter {
     void write_run(const ExplainedRun& run) {
         const std::string_view text = written(run.source);
         const int end = words_before(run.reading_at + run.reading.size());
-        const std::string_view mark = mark_in(run.reading);
         if (next_ < end) {
             begin_piece(text);
             for (; next_ < end; ++next_) write_word(sentence_.records[next_]);
             if (!run.is_word) append_element("small", run.rule, out_);
             out_ << "</u>";
-        } else if (!mark.empty()) {
+        } else if (const std::string_view mark = mark_in(run.reading); !mark.empty()) {
             begin_piece(text);
             append_element("b", glyph(mark), out_);
             out_ << "</u>";
@@ -158,8 +158,7 @@ class SentenceWriter {
     // The number of the first word at that offset of the speakable text, or after it.
     int words_before(std::size_t speakable_end) const {
         int end = next_;
-        while (end < sentence_.n_records && sentence_.places.of_record(end).at < speakable_end)
-            ++end;
+        while (end < sentence_.n_records && places_[end].at < speakable_end) ++end;
         return end;
     }
 
@@ -172,16 +171,22 @@ class SentenceWriter {
     }
 
     void write_word(const UtteranceSyllable& record) {
-        std::swap(attributes_, attributes_before_);
-        attributes_.clear();
-        append_attributes(record.cssml_tag, attributes_);
-        const std::string_view attributes = attributes_.text();
-        out_ << (attributes.empty() ? "<i>" : "<i class=m>");
+        const bool has_any = has_attributes(record.cssml_tag);
+        has_any ? out_ << "<i class=m>" : out_ << "<i>";
         append_escaped(word_of(record), out_);
         write_after_word(record);
         out_ << "</i>";
-        if (!attributes.empty() && attributes != attributes_before_.text()) {
-            append_element("small", attributes, out_);
+        if (has_any) write_attributes(record.cssml_tag);
+        is_in_span_ = has_any;
+    }
+
+    // Under the first of the words that have them.
+    void write_attributes(const CssmlTag& tag) {
+        std::swap(attributes_, attributes_before_);
+        attributes_.clear();
+        append_attributes(tag, attributes_);
+        if (!is_in_span_ || attributes_.text() != attributes_before_.text()) {
+            append_element("small", attributes_.text(), out_);
         }
     }
 
@@ -202,12 +207,14 @@ class SentenceWriter {
 
     const Place& place_;
     const HostSentence& sentence_;
+    const WordPlace* places_;
     const std::vector<Diagnostic>& findings_;
     std::vector<Diagnostic>::const_iterator finding_;  // the next
     TextBuffer& out_;
-    std::size_t at_;         // the next byte of the text
-    int next_ = 1;           // the next record
-    TextBuffer attributes_;  // of the last word
+    std::size_t at_;           // the next byte of the text
+    int next_ = 1;             // the next record
+    bool is_in_span_ = false;  // the last word
+    TextBuffer attributes_;    // of the last word that has any
     TextBuffer attributes_before_;
 };
 

@@ -18,13 +18,14 @@ namespace kavi {
 template <char... Special>
 class PlainCharacters {
   public:
+    static constexpr std::size_t AT_ONCE = 16;  // so many are worth it
+
     static bool have(char c) { return IS_PLAIN[static_cast<unsigned char>(c)]; }
 
     // Whether a text is nothing else. It is not left early, and characters of a longer text are
     // compared instead of looked up, so that a compiler can do it for many at once: most texts are
     // plain.
     static bool are_all(std::string_view text) {
-        constexpr std::size_t AT_ONCE = 16;
         if (text.size() < AT_ONCE) return std::all_of(text.begin(), text.end(), have);
         unsigned char other = 0;
         for (const char c : text) {
@@ -69,10 +70,15 @@ class TextBuffer {
         return *this;
     }
 
-    // Adds a text of nothing but such characters and answers true, or nothing and answers false. It
-    // is copied as it is looked at.
+    // Adds a text of nothing but such characters and answers true, or nothing and answers false. A
+    // short one is copied as it is looked at.
     template <typename Characters>
     bool add_plain(std::string_view text, Characters characters) {
+        if (text.size() >= Characters::AT_ONCE) {
+            const bool is_plain = characters.are_all(text);
+            if (is_plain) add(text);
+            return is_plain;
+        }
         char* end = end_with(text.size());
         bool plain = true;
         for (const char c : text) {

@@ -48,8 +48,8 @@ PARTS = [
          [TARGETS + "kavi_c_tests"],
          ["build/tests/kavi_c_tests --gtest_fail_fast"]),
     Part(["python/src", "python/kavi"],
-         ["/usr/bin/python3 -m compileall -q --invalidation-mode checked-hash python/kavi", TARGETS + "kavi_python"],
-         ["env KAVI_PROJECT={tree} PYTHONPATH={tree}/python PYTHONDONTWRITEBYTECODE=1"
+         ["/usr/bin/python3 -m compileall -q --invalidation-mode checked-hash python/kavi", TARGETS + "kavi_python kavi-tn"],
+         ["env KAVI_PROJECT={tree} KAVI_TN={tree}/build/tools/kavi-tn/kavi-tn PYTHONPATH={tree}/python PYTHONDONTWRITEBYTECODE=1"
           " /usr/bin/python3 -m pytest -q -x -p no:cacheprovider tests/python"]),
     # The modules are those of the project.
     Part(["web/kavi.js"],

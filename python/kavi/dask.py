@@ -19,6 +19,7 @@ import sys
 from typing import Any, Iterable, List, Optional, Sequence
 
 import kavi
+from kavi._tool import find_tool
 
 _RETRIES = 3
 
@@ -110,7 +111,10 @@ class _Work:
 
 
 def _run(arguments: Sequence[str]) -> subprocess.CompletedProcess[bytes]:
-    return subprocess.run([sys.executable, "-m", "kavi", *arguments], capture_output=True, check=False)
+    tool = find_tool()
+    if tool is None:
+        raise RuntimeError("no kavi-tn: it is neither in PATH nor named by KAVI_TN")
+    return subprocess.run([tool, *arguments], capture_output=True, check=False)
 
 
 def _size_and_time(name: str) -> str:
@@ -129,7 +133,7 @@ def _part(number: int, parts: int, files: Sequence[str], target: str, options: S
                      *files])
         if not os.path.exists(target):
             said = done.stderr.decode(errors="replace").strip().split("\n")[-1]
-            raise RuntimeError(f"{target}: kavi ended with {done.returncode}: {said}")
+            raise RuntimeError(f"{target}: kavi-tn ended with {done.returncode}: {said}")
     return target
 
 

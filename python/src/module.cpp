@@ -3,28 +3,15 @@
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
 
-#include <string>
-#include <vector>
-
 #include "kavi_version.h"
 #include "reader.h"
 #include "result.h"
-#include "run_tool.h"
 #include "stream.h"
 #include "tts_names.h"
 
 namespace py = pybind11;
 
 namespace {
-
-int run_tool(std::vector<std::string> arguments) {
-    if (arguments.empty()) throw py::value_error("the first argument is the program's name");
-    std::vector<char*> argv;
-    for (std::string& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    const py::gil_scoped_release released;
-    return kavi::tool::run_tool(static_cast<int>(arguments.size()), argv.data());
-}
 
 // Pauses from the least, marks from 0, codes of findings, classes of everyday English: in their
 // order.
@@ -52,7 +39,6 @@ py::tuple names() {
 
 PYBIND11_MODULE(_kavi, module) {
     module.attr("version") = KAVI_VERSION;
-    module.def("run_tool", run_tool);
     module.def("names", names);
     kavi::python::add_results(module);
     kavi::python::add_reader(module);

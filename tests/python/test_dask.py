@@ -43,6 +43,14 @@ def test_main_without_dask_names_it(folder, monkeypatch):
         kavi.dask.main(["OUT", "in"])
 
 
+def test_main_without_the_tool_names_it(folder, monkeypatch):
+    pytest.importorskip("distributed")
+    monkeypatch.delenv("KAVI_TN")
+    monkeypatch.setenv("PATH", "")
+    with pytest.raises(SystemExit, match="no kavi-tn: it is neither in PATH nor named by KAVI_TN"):
+        kavi.dask.main(["OUT", "in"])
+
+
 def test_convert_of_another_run_is_refused(folder):
     distributed = pytest.importorskip("distributed")
     options = ["--plain", "--lexicon", "lexicon"]
@@ -67,5 +75,5 @@ def test_convert_of_another_run_is_refused(folder):
         with pytest.raises(RuntimeError, match="OUT has parts, and no manifest"):
             kavi.dask.convert(client, ["in"], "OUT", 3, options)
         pathlib.Path("zip").write_bytes(b"PK\3\4")
-        with pytest.raises(RuntimeError, match="kavi ended with 1: kavi-tn: not all could be read"):
+        with pytest.raises(RuntimeError, match="kavi-tn ended with 1: kavi-tn: not all could be read"):
             kavi.dask.convert(client, ["zip"], "BAD", 1)

@@ -32,11 +32,20 @@ def test_examples_in_documentation() -> None:
     assert doctest.testmod(kavi) == (0, 2)
 
 
-def test_the_tool_is_the_filter() -> None:
+def test_the_program_is_the_tool_or_its_plain_form(tmp_path: pathlib.Path, monkeypatch: pytest.MonkeyPatch) -> None:
     golden = PROJECT / "tests/golden"
-    for stage in ("sentences", "plain", "words", "explain"):
-        spoken = tool(f"--{stage}", str(golden / "input.txt"), str(golden / "second <&\">.txt"))
-        assert spoken == (golden / f"{stage}.txt").read_bytes()
+    inputs = [str(golden / "input.txt"), str(golden / "second <&\">.txt")]
+    assert tool("--words", *inputs) == (golden / "words.txt").read_bytes()
+    (tmp_path / "lexicon").write_text("kavi\tkahvee\n")
+    commands = [("--plain", *inputs), ("--plain", "--everyday", "--american-dates", "--lexicon", str(tmp_path / "lexicon"))]
+    text = "kavi \ud800 won't \0 \u201c3/4/2020\u201d\r\n\nkavi".encode(errors="surrogatepass") + b" \xff 5"
+    by_tool = [tool(*command, text=text) for command in commands]
+    monkeypatch.delenv("KAVI_TN")
+    monkeypatch.setenv("PATH", "")
+    assert [tool(*command, text=text) for command in commands] == by_tool
+    for wrong, said in (["--words"], b"kavi-tn is not installed"), (["--plain", "none"], b"\npython3 -m kavi: [Errno 2]"):
+        run = subprocess.run([sys.executable, "-m", "kavi", *wrong], stderr=subprocess.PIPE)
+        assert run.returncode != 0 and said in b"\n" + run.stderr
 
 
 def test_enumerations_are_the_engine_s() -> None:
@@ -167,8 +176,6 @@ def test_what_is_no_str_is_refused() -> None:
         kavi.normalize_many("5 cats")
     with pytest.raises(ValueError, match="jobs"):
         kavi.normalize_many([], jobs=0)
-    with pytest.raises(ValueError, match="program's name"):
-        _kavi.run_tool([])
 
 
 @pytest.mark.parametrize("made", [_kavi.Reader, kavi.Result, kavi.Sentence])

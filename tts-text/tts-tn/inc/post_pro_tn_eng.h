@@ -242,9 +242,12 @@ class PostProTnEng {
     // Makes an array with one record for each word of `sz_source_text` (read only, of any length)
     // and with the punctuation, break times and attributes that its tags give the words. Record 0,
     // the head, has no word; it has the marks and break time before the first word. `p_utt`
-    // receives the array, `n_utt` the number of records: the words and the head. The array and the
-    // `syllable` and `zhuyin` of each record belong to the caller, who gives them back with their
-    // sizes: `n_utt` records, `syl_len` and `zy_len` bytes. 0 on success. -1 with `p_utt` null and
+    // receives the array, `n_utt` the number of records: the words and the head.
+    //
+    // The array and the `syllable` and `zhuyin` of each record belong to the caller, who gives them
+    // back with their sizes: `n_utt` records, `syl_len` and `zy_len` bytes.
+    //
+    // 0 on success. -1 with `p_utt` null and
     // `n_utt` 0 when the arena refused the array. -1 with both set when it refused the storage of a
     // word, or when the names or the values of nested spans are more than 199 characters: the
     // records before that are complete, the others zero.

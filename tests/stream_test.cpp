@@ -35,7 +35,8 @@ struct Told {
 
 // A stream on a host of its own.
 struct Stream {
-    explicit Stream(const TextRewriter* reads_by = nullptr) : rewriter(reads_by) {}
+    explicit Stream(const TextRewriter* reads_by = nullptr, std::size_t capacity = 0)
+        : rewriter(reads_by), host(capacity) {}
 
     const TextRewriter* rewriter;
     TtsHost host;
@@ -66,8 +67,8 @@ struct Stream {
     }
 };
 
-Told read_at_once(const TextRewriter* rewriter, std::string_view text) {
-    TtsHost host;
+Told read_at_once(const TextRewriter* rewriter, std::string_view text, std::size_t capacity = 0) {
+    TtsHost host(capacity);
     host.rewrite_by(rewriter);
     Told told;
     host.read(
@@ -100,17 +101,18 @@ TEST(Stream, HoweverATextIsCut_IsToldAsAtOnce) {
     std::mt19937 random(11);
     for (int round = 0; round < 120; ++round) {
         const TextRewriter* rewriter = round % 2 == 0 ? nullptr : &everyday();
-        std::string text;
+        const std::size_t capacity = round % 7 == 0 ? 4000 : 0;  // does not hold every sentence
+        std::string text = round % 5 == 0 ? "<pause=" + std::string(600, '3') + ">" : "";
         const std::size_t size = round % 10 == 0 ? 20000 : 400;
         while (text.size() < size) text += pieces[random() % pieces.size()][0];
-        Stream in_pieces(rewriter);
+        Stream in_pieces(rewriter, capacity);
         for (std::size_t at = 0; at < text.size();) {
             const std::size_t length = random() % (round % 3 == 0 ? 2000 : 9);
             ASSERT_TRUE(in_pieces.stream.add(std::string_view(text).substr(at, length)));
             at += length;
         }
-        EXPECT_TRUE(in_pieces.stream.end());
-        ASSERT_EQ(in_pieces.told.lines, read_at_once(rewriter, text).lines) << text;
+        EXPECT_TRUE(in_pieces.stream.end() || capacity > 0);
+        ASSERT_EQ(in_pieces.told.lines, read_at_once(rewriter, text, capacity).lines) << text;
     }
 }
 
@@ -139,6 +141,8 @@ TEST(Stream, BadCalls_HaveAClearAnswerAndLoseNothing) {
     Stream each;
     EXPECT_TRUE(each.stream.add(""));
     EXPECT_TRUE(each.stream.add(std::string_view("a\0d. c", 6)));
+    TtsHost other;
+    EXPECT_TRUE(TtsStream(other, nullptr, nullptr).add("One. </poem>. Two"));
     TtsStream second(each.host, nullptr, nullptr);
     EXPECT_FALSE(second.add("x. y"));
     second.forget();
@@ -178,10 +182,14 @@ TEST(Stream, AHandlerThatForgets_GetsNoMoreOfThatText) {
 TEST(Stream, AHandlerThatStopsOrThrows_EndsTheText) {
     Stream each;
     each.stop_at = 1;
-    EXPECT_FALSE(each.stream.add("One. Two. Three"));
+    EXPECT_FALSE(each.stream.add("One. Two." + std::string(2000, ' ')));
     EXPECT_FALSE(each.stream.add("Four. Five"));
     EXPECT_FALSE(each.stream.end());
     EXPECT_EQ(each.told.lines.size(), 1U);
+    Stream at_end;
+    at_end.stop_at = 1;
+    EXPECT_TRUE(at_end.stream.add("One"));
+    EXPECT_FALSE(at_end.stream.end());
     TtsHost host;
     TtsStream thrown(
         host, [](const HostSentence&) -> bool { throw std::runtime_error("handler"); }, nullptr);
@@ -193,9 +201,10 @@ TEST(Stream, AHandlerThatStopsOrThrows_EndsTheText) {
 
 TEST(Stream, MuchText_KeepsLittleOfIt) {
     Stream each;
+    const std::string blanks(9000, ' ');
     std::size_t most = 0;
     for (int i = 0; i < 30000; ++i) {
-        each.stream.add(i % 1000 == 0 ? "<poem=a" : "word, ");
+        each.stream.add(i % 1000 == 0 ? "<poem=a" : i % 1000 == 1 ? blanks : "word, ");
         most = std::max(most, each.stream.text().size());
         each.told.lines.clear();
     }

@@ -35,8 +35,9 @@ void read_shield(const Place& place, Found& found) {
         if (!ends_alike(word, abbreviation)) continue;
         // The abbreviation itself is left to the engine, but for words that are spelled alike.
         const bool is_star = word == "Sun" && place.word_before(word.size()) == "the";
+        const bool is_of_number = word == "b" && is_digit(place.before(2));  // "section 6b."
         const bool is_word = word.size() > abbreviation.size() || word == "May" || word == "may" ||
-                             word == "mar" || word == "B" || is_star;
+                             word == "mar" || word == "B" || is_star || is_of_number;
         if (!is_word) return;
         found.length = 1;
         found.words = " .";

@@ -1,6 +1,7 @@
 #include "sentence_source.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kavi::host {
 
@@ -11,17 +12,18 @@ TextRange source_of_byte(const SourcePiece& piece, std::size_t at) {
     return piece.is_copy ? TextRange{piece.source.offset + (at - piece.at), 1} : piece.source;
 }
 
+bool is_same_in_any_case(std::string_view one, std::string_view other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](char a, char b) { return tn::to_lower(a) == tn::to_lower(b); });
+}
+
 // Whether an abbreviation is written as in the first row that has it in any case: of that one, no
 // other case is looked for.
 bool is_in_first_case(std::string_view abbreviation) {
-    for (const auto& row : s_spec_word_abbrevi) {
-        const std::string_view written = row[0];
-        const bool is_row =
-            std::equal(written.begin(), written.end(), abbreviation.begin(), abbreviation.end(),
-                       [](char a, char b) { return tn::to_lower(a) == tn::to_lower(b); });
-        if (is_row) return written == abbreviation;
-    }
-    return false;
+    const auto* const first =
+        std::find_if(std::begin(s_spec_word_abbrevi), std::end(s_spec_word_abbrevi),
+                     [=](const auto& row) { return is_same_in_any_case(row[0], abbreviation); });
+    return (*first)[0] == abbreviation;
 }
 
 }  // namespace

@@ -280,10 +280,9 @@ bool TextWindow::feed_run() {
 // Where a run has to end that must not go on after `end` yet: before bytes outside ASCII that more
 // may follow.
 std::size_t TextWindow::without_open_stretch(std::size_t end) const {
-    const bool has_ended = end < text_.size() && (!is_outside_ascii(text_[end]) ||
-                                                  (has_rewriting_ && end == next_rewriting_));
+    const bool has_ended = end < text_.size() && (!is_outside_ascii(text_[end]) || has_rewriting_);
+    if (has_ended) return end;
     const std::size_t first = std::max(next_, not_spoken_end_);
-    if (has_ended || end <= first) return end;
     std::size_t begin = end;
     while (begin > first && is_outside_ascii(text_[begin - 1])) --begin;
     return begin + (end - begin) / STRETCH_MAX * STRETCH_MAX;

@@ -41,7 +41,7 @@ TtsStream::~TtsStream() {
 }
 
 bool TtsStream::add(std::string_view piece) {
-    if (!is_open_ || reader_.is_reading()) return false;
+    if (!is_open_) return false;
     for (; piece.size() > PART; piece.remove_prefix(PART)) {
         if (!take(piece.substr(0, PART))) return false;
     }
@@ -58,8 +58,7 @@ bool TtsStream::take(std::string_view part) {
 }
 
 bool TtsStream::end() {
-    if (!is_open_ || reader_.is_reading()) return false;
-    if (!read(true)) return false;
+    if (!is_open_ || !read(true)) return false;
     is_open_ = false;
     return reader_.all_read();
 }
@@ -82,7 +81,7 @@ bool TtsStream::may_tell(std::string_view part) const {
     return !reader_.is_rewritten() || std::any_of(part.begin(), part.end(), is_blank);
 }
 
-// It stays closed when a handler throws.
+// It is closed for handlers, and stays so when one throws.
 bool TtsStream::read(bool is_complete) {
     is_open_ = false;
     const auto goes_on = [this](const auto& handler, const auto& told) {

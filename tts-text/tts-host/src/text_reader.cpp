@@ -43,8 +43,8 @@ bool TextReader::read(std::string_view text, std::size_t offset, bool is_complet
             const HostSentence sentence = {{sentence_begin_, end - sentence_begin_},
                                            {normalized_, static_cast<std::size_t>(cut_.length)},
                                            speakable_,
-                                           utt_,
-                                           n_utt_,
+                                           records_.records(),
+                                           records_.size(),
                                            *this,
                                            ends_sentence()};
             if (on_sentence && !on_sentence(sentence)) return false;
@@ -127,7 +127,6 @@ bool TextReader::read_sentence(std::size_t cut) {
 }
 
 void TextReader::cut_sentence(std::size_t cut) {
-    release_records();
     normalized_[0] = '\0';
     speakable_[0] = '\0';
     char* text = window_.text();
@@ -146,9 +145,11 @@ bool TextReader::build_sentence() {
     findings_.begin(normalized_, speakable_);
     reading_places_.begin(normalized_, speakable_);
     const tn::ReadingObserver observer = reading_observer();
-    return cut_.is_well_formed && cut_.length <= SENTENCE_MAX &&
-           tn::tokenize(normalized_, speakable_, &observer) == 0 &&
-           tn::build_utterance(speakable_, arena_, utt_, n_utt_, events_) == 0;
+    const bool is_built = cut_.is_well_formed && cut_.length <= SENTENCE_MAX &&
+                          tn::tokenize(normalized_, speakable_, &observer) == 0 &&
+                          records_.build(speakable_, events_);
+    if (!is_built) records_.release();  // the next try has all of the arena
+    return is_built;
 }
 
 // Not where only a clause does, or where it was cut since it is too long.
@@ -156,20 +157,6 @@ bool TextReader::ends_sentence() const {
     constexpr std::string_view ENDS = ".?!";
     return ENDS.find(cut_.end[-1]) != std::string_view::npos ||
            (window_.holds_rest() && rest_ == window_.text() + window_.length());
-}
-
-void TextReader::release_records() {
-    const auto release = [arena = arena_](void* block) {
-        mem_stack_release_buf(block, 0, MEM_COMMON, arena);
-    };
-    const UtteranceSyllable* const end = utt_ + n_utt_;
-    for (const UtteranceSyllable* record = utt_; record != end; ++record) {
-        release(record->syllable);
-        release(record->zhuyin);
-    }
-    release(utt_);
-    utt_ = nullptr;
-    n_utt_ = 0;
 }
 
 // What was found in the sentence, with offsets in the text.

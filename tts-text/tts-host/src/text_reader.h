@@ -11,6 +11,7 @@
 #include "for_host_layer.h"
 #include "reading_findings.h"
 #include "reading_places.h"
+#include "sentence_records.h"
 #include "sentence_source.h"
 #include "text_window.h"
 
@@ -50,7 +51,7 @@ class TextReader final : SentencePlaces {
   public:
     // cppcheck-suppress uninitMemberVar ; of the places, those of a sentence's words are set
     TextReader(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
-        : arena_(arena), destroy_(destroy) {}
+        : arena_(arena), destroy_(destroy), records_(arena) {}
     ~TextReader() { destroy_(arena_); }
     TextReader(const TextReader&) = delete;
     TextReader& operator=(const TextReader&) = delete;
@@ -94,7 +95,7 @@ class TextReader final : SentencePlaces {
       public:
         explicit Session(TextReader& reader) : reader_(reader) { reader_.is_reading_ = true; }
         ~Session() {
-            reader_.release_records();
+            reader_.records_.release();
             reader_.is_reading_ = false;
         }
         Session(const Session&) = delete;
@@ -112,7 +113,6 @@ class TextReader final : SentencePlaces {
     void cut_sentence(std::size_t cut);
     bool build_sentence();
     bool ends_sentence() const;
-    void release_records();
     void collect_diagnostics(bool done);
     bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
@@ -151,6 +151,7 @@ class TextReader final : SentencePlaces {
     const char* rest_ = nullptr;                           // in the window, after that
     std::vector<Diagnostic> diagnostics_;                  // of that
     ReadingPlaces reading_places_;
+    SentenceRecords records_;
     tn::TextEvents events_;                            // in the speakable text
     WordPlace places_[tn::TextEvents::WORDS_MAX + 1];  // of its records
     bool was_passed_over_ = false;  // the last piece, since the arena did not hold it
@@ -158,8 +159,6 @@ class TextReader final : SentencePlaces {
     bool are_words_known_ = false;
     char normalized_[SZ_TEXT_MAX_LEN] = {};
     char speakable_[SZ_TEXT_MAX_LEN] = {};
-    UtteranceSyllable* utt_ = nullptr;
-    int n_utt_ = 0;
 };
 
 }  // namespace kavi::host

@@ -1,6 +1,6 @@
 // The only private headers that the host layer may include: for cutting sentences, reading them
-// step by step and building records, with the offsets that the layer reports, and for the markup
-// tags.
+// step by step, listing the items of what was read and filling records with them, with the offsets
+// that the layer reports, and for the markup tags.
 #ifndef KAVI_TN_FOR_HOST_LAYER_H
 #define KAVI_TN_FOR_HOST_LAYER_H
 
@@ -11,6 +11,7 @@
 #include "sentence/sentence_cutter.h"   // IWYU pragma: export
 #include "tokenize/reading_observer.h"  // IWYU pragma: export
 #include "tokenize/tokenize.h"          // IWYU pragma: export
-#include "utterance/builder.h"          // IWYU pragma: export
+#include "utterance/text_reader.h"      // IWYU pragma: export
+#include "utterance/word_filler.h"      // IWYU pragma: export
 
 #endif  // KAVI_TN_FOR_HOST_LAYER_H

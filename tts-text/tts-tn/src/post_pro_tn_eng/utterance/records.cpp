@@ -120,7 +120,7 @@ static void add_punc(UtteranceSyllable& record, std::uint64_t key) {
     ++record.n_punc;
 }
 
-bool tn::WordFiller::take_tag(const TextEvent& event) {
+bool tn::RecordFiller::take_tag(const TextEvent& event) {
     const std::string_view text = event.text();
     if (event.kind == TextEventKind::punc) {  // the most frequent
         add_punc(record_[-1], key_of(text));

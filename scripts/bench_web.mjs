@@ -5,7 +5,7 @@ import {readFileSync} from 'node:fs';
 import {pathToFileURL} from 'node:url';
 
 const [folder, file, native] = process.argv.slice(2);
-const {load} = await import(pathToFileURL(`${folder}/kavi.js`));
+const {load} = await import(pathToFileURL(`${folder}/node.js`));
 const {normalize} = await load();
 const lines = readFileSync(file, 'latin1').split('\n').slice(0, -1);
 let best = Infinity;

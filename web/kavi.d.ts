@@ -152,11 +152,20 @@ export interface Kavi {
   stream: Reader['stream'];
 }
 
+export interface LoadOptions {
+  everyday?: boolean;
+  /** The bytes of kavi.wasm or kavi-everyday.wasm. */
+  wasm?: BufferSource | Promise<BufferSource>;
+  /** Where a file is, kavi.wasm or kavi-everyday.wasm; node takes a path, too. "kavi-tn/inline" looks nowhere. */
+  locate?: (file: string) => string | URL;
+}
+
 /**
- * Loads the engine: 75 KB; with everyday English and lexicons, 198 KB. `wasm` is the bytes of kavi.wasm or
- * kavi-everyday.wasm where they are not beside this file. Throws what fetch() or the file system throws.
+ * Loads the engine, or, with `everyday`, the engine with everyday English and lexicons. The modules are looked for beside
+ * this file unless `locate` or `wasm` say otherwise. Throws what fetch() or the file system throws, and an Error that
+ * names the file where a server has another answer than that file.
  *
  * A call that has no memory or stack left throws, and all readers read the next text. Options that are not listed
  * here are a TypeError.
  */
-export function load(options?: {everyday?: boolean; wasm?: BufferSource | Promise<BufferSource>}): Promise<Kavi>;
+export function load(options?: LoadOptions): Promise<Kavi>;

@@ -1,7 +1,7 @@
-// kavi for browsers and node: the functions of kavi.h in WebAssembly, with JavaScript's own strings
-// and places. kavi.d.ts has the contract of all that is exported.
+// What browser.js, node.js and inline.js share: the functions of kavi.h in WebAssembly, with JavaScript's own strings
+// and places. kavi.d.ts has the contract of what they export.
 
-// The layout of the structures of kavi.h where pointers have four bytes, as src/layout.cpp asserts it.
+// The layout of the structures of kavi.h where pointers have four bytes, as tts-c/src/layout.cpp asserts it.
 const WORD = {size: 76, text: 0, after: 8, source: 16, pause: 24, nMarks: 28, marks: 32, breakTime: 44, attributes: 48};
 const SENTENCE = {source: 0, normalized: 8, speakable: 16, plain: 24, before: 32, head: 40, words: 44, nWords: 48,
   runs: 52, nRuns: 56, endsSentence: 60};
@@ -513,17 +513,11 @@ class Reader {
   }
 }
 
-async function bytesOf(file) {
-  const url = new URL(file, import.meta.url);
-  if (url.protocol !== 'file:') return (await fetch(url)).arrayBuffer();
-  const {readFile} = await import('node:fs/promises');
-  return readFile(url);
-}
-
-export async function load(options = {}) {
-  refuseOthers(options, ['everyday', 'wasm']);
-  const {everyday = false, wasm} = options;
-  const module = await WebAssembly.compile(await (wasm ?? bytesOf(everyday ? './kavi-everyday.wasm' : './kavi.wasm')));
+// A load() that takes the bytes of a module from `bytesOf(file, locate)`.
+export const loading = bytesOf => async function load(options = {}) {
+  refuseOthers(options, ['everyday', 'wasm', 'locate']);
+  const {everyday = false, wasm, locate} = options;
+  const module = await WebAssembly.compile(await (wasm ?? bytesOf(everyday ? 'kavi-everyday.wasm' : 'kavi.wasm', locate)));
   const imports = {
     env: {emscripten_notify_memory_growth() {}},
     wasi_snapshot_preview1: {proc_exit(status) {
@@ -542,4 +536,4 @@ export async function load(options = {}) {
   return {reader, normalize: text => theUsual().normalize(text), read: (text, settings) => theUsual().read(text, settings),
     lines: (chunks, settings) => theUsual().lines(chunks, settings),
     stream: (pieces, settings) => theUsual().stream(pieces, settings)};
-}
+};

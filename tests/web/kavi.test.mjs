@@ -8,7 +8,7 @@ import {readdirSync, readFileSync} from 'node:fs';
 import test from 'node:test';
 import {pathToFileURL} from 'node:url';
 
-const {EVERYDAY, load} = await import(pathToFileURL(`${process.env.KAVI_PACKAGE}/kavi.js`));
+const {EVERYDAY, load} = await import(pathToFileURL(`${process.env.KAVI_PACKAGE}/node.js`));
 const small = await load();
 const large = await load({everyday: true});
 
@@ -188,7 +188,7 @@ test('does what the pages show', async () => {
   for (const page of ['README.md', 'web/README.md']) {
     const [, program] = /```js\n([^]*?)```/.exec(readFileSync(page).toString());
     const lines = program.replace(/import .* from 'kavi-tn';/, `const {load} = await import('${pathToFileURL(
-      `${process.env.KAVI_PACKAGE}/kavi.js`)}');`).replaceAll('console.log(', '(');
+      `${process.env.KAVI_PACKAGE}/node.js`)}');`).replaceAll('console.log(', '(');
     for (const [, call, expected] of lines.matchAll(/^\(?(normalize\(.*?\))\)?; \/\/ '?(.*?)'?$/gm)) {
       assert.equal(Function('normalize', `return ${call}`)(small.normalize), expected);
     }

@@ -8,7 +8,7 @@ import {join} from 'node:path';
 import test from 'node:test';
 import {pathToFileURL} from 'node:url';
 
-const {load} = await import(pathToFileURL(`${process.env.KAVI_PACKAGE}/kavi.js`));
+const {load} = await import(pathToFileURL(`${process.env.KAVI_PACKAGE}/node.js`));
 const small = await load();
 const large = await load({everyday: true});
 const TEXT = 'Zürich, “Dr. Smith” paid <prosody=rate="2">$5.50</prosody> on 3/1/2020, </poem>ok? 😀 It\'s 10:30!  Wait... what is 中 \ud83d <poem=a>this. '

@@ -10,7 +10,7 @@ const SAMPLES = {
 const SLICE = 8; // milliseconds of work without a look at what was typed; more when a look takes more
 
 const byId = id => document.getElementById(id);
-const kavi = await load({wasm: Uint8Array.from(atob(WASM), c => c.charCodeAt(0))});
+const kavi = await globalThis.kavi.load();
 const reader = {plain: kavi.reader(), everyday: kavi.reader({everyday: true})};
 const current = () => reader[byId('everyday').checked ? 'everyday' : 'plain'];
 

@@ -29,9 +29,13 @@ install(FILES
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavi COMPONENT development)
 if(TARGET kavi_c)
     set_target_properties(kavi_c PROPERTIES EXPORT_NAME c)
-    target_include_directories(kavi_c INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-    install(TARGETS kavi_c EXPORT kaviTargets
-        LIBRARY COMPONENT clibrary NAMELINK_COMPONENT development)
+    set_target_properties(kavi_c_static PROPERTIES EXPORT_NAME c_static)
+    foreach(library kavi_c kavi_c_static)
+        target_include_directories(${library} INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    endforeach()
+    install(TARGETS kavi_c kavi_c_static EXPORT kaviTargets
+        LIBRARY COMPONENT clibrary NAMELINK_COMPONENT development
+        ARCHIVE COMPONENT development)
     install(FILES tts-text/tts-c/inc/kavi.h
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 endif()
@@ -61,9 +65,11 @@ function(kavi_pkg_config name libraries installed_include build_includes)
     set(KAVI_PC_LIBDIR ${CMAKE_CURRENT_BINARY_DIR})
     configure_file(cmake/kavi.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}-uninstalled.pc @ONLY)
 endfunction()
+set(KAVI_PC_STATIC "")
 kavi_pkg_config(kavi "-lkavi_host -lkavi_services" ${CMAKE_INSTALL_INCLUDEDIR}/kavi
     "${KAVI_HOST_INC};${KAVI_INCLUDES}")
 if(TARGET kavi_c)
+    set(KAVI_PC_STATIC -lstdc++)
     kavi_pkg_config(kavi-c -lkavi ${CMAKE_INSTALL_INCLUDEDIR} ${KAVI_C_INC})
 endif()
 

@@ -45,7 +45,10 @@ pkg_config_host() {
     says "$1" "./$1"
 }
 
-cmake --install "$build" --prefix "$work/prefix" >/dev/null
+# What the README has, for the build and the prefix that are tried.
+line=$(grep -oE '^    cmake --install .*' "$source/README.md")
+line=${line/build\/release/'"$build"'}
+eval "${line/\~\/.local/'"$work/prefix"'}" >/dev/null
 cmake_host installed 'find_package(kavi 0.1 CONFIG REQUIRED)' "-DCMAKE_PREFIX_PATH=$work/prefix"
 cmake_host build-tree 'find_package(kavi 0.1 CONFIG REQUIRED)' "-Dkavi_DIR=$build"
 cmake_host subdirectory "add_subdirectory([=[$source]=] kavi)"
@@ -56,6 +59,28 @@ FetchContent_Declare(kavi SOURCE_DIR $work/source)
 FetchContent_MakeAvailable(kavi)"
 PKG_CONFIG_PATH=$(dirname "$(find prefix -name kavi.pc)") pkg_config_host pkg-config-installed
 PKG_CONFIG_PATH=$build pkg_config_host pkg-config-build-tree
+
+# c_host NAME OPTION...: a program in C, by pkg-config.
+c_host() {
+    local name=$1 flags
+    shift
+    mapfile -t flags < <(PKG_CONFIG_PATH=$(dirname "$(find prefix -name kavi-c.pc)") pkg-config "$@" --cflags --libs kavi-c |
+        xargs printf '%s\n')
+    cc "$source/examples/speakable.c" "${@/#--static/-static}" "${flags[@]}" -o "$name"
+    [ "$(LD_LIBRARY_PATH=$(dirname "$(find prefix -name libkavi.so)") "./$name")" = 'It is ten thirty, ok?' ]
+    echo "ok: $name"
+}
+c_host c-shared
+c_host c-static --static
+if command -v clang >/dev/null; then
+    echo '@import kavi; const char* version(void) { return kavi_version(); }' >module.m
+    clang -fmodules -fmodules-cache-path="$work/modules" -fsyntax-only "-I$source/tts-text/tts-c/inc" module.m
+    echo 'ok: module.modulemap'
+fi
+# What the README has without a build system.
+line=$(sed -n 's/^    \(g++ .*\)/\1/p' "$source/README.md")
+(cd "$source" && shopt -s globstar && eval "${line/%program.cpp/examples\/link_the_engine.cpp -o '$work/plain'}")
+says 'plain g++' ./plain
 
 # The shared libraries show the public interface alone.
 for library in engine host services; do

@@ -22,7 +22,9 @@ rm -rf "$source"/build/python/{lib,bdist}*
 (cd "$1" && /usr/bin/python3 -B -c 'from setuptools import build_meta; import sys
 build_meta.build_sdist(sys.argv[1])' "$work") >"$work/said" 2>&1 || { cat "$work/said"; exit 1; }
 tar -xzf "$work"/kavi-*.tar.gz -C "$source" --strip-components 1
-pip install --no-build-isolation --no-deps --no-index "$source"
+# What the README has, for what is installed already.
+export PIP_NO_DEPS=1 PIP_NO_INDEX=1
+(cd "$source" && eval "$(grep -oE '^    pip install .*' "$1/README.md")")
 exec 9>&-
 cd "$work"
 ln -s "$1/tests/python" tests # pytest takes no path with brackets

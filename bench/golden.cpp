@@ -5,6 +5,11 @@
 #include <cstdio>
 #include <cstring>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 #include "post_pro_tn_eng.h"
 
 namespace {
@@ -68,6 +73,9 @@ void read(char* source) {
 }  // namespace
 
 int main(int n_files, char** files) {
+#ifdef _WIN32
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
     arena = mem_stack_create(0);
     engine.init(arena);
     for (int i = 1; i < n_files; ++i) {

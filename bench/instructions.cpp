@@ -4,6 +4,7 @@
 //   bench_instructions host TIMES KIND    the same through the host layer
 //   bench_instructions places TIMES KIND  the same, with the places of all words
 //   bench_instructions long TIMES KIND    the same without them as one text
+//   bench_instructions everyday TIMES KIND  the same through everyday English, without the calls
 //   bench_instructions arena TIMES        requests and releases of small blocks; how many of each
 //   bench_instructions build BYTES KIND   one text of the kind straight into the builder
 //   bench_instructions print BYTES [KIND] prints so much of that corpus, of prose without
@@ -15,6 +16,7 @@
 #include "calls.h"
 #include "corpus.h"
 #include "peers.h"
+#include "tts_everyday.h"
 
 namespace kavi::bench {
 
@@ -67,8 +69,11 @@ std::size_t run(const std::string& what, std::size_t n, const std::string& kind)
     }
     auto texts = paragraphs(kind_named(kind), 20000);
     if (what == "long") texts = {std::accumulate(texts.begin(), texts.end(), std::string())};
+    Everyday everyday(nullptr);
+    everyday.set_all(true);
     const auto read = [&](const std::string& text) {
         if (what == "loop") return count_words(text) > 0;
+        if (what == "everyday") return !rewritten(everyday, text).empty();
         if (what == "places") return read_by_host(text, true) > 0;
         if (what == "host" || what == "long") return read_by_host(text, false) > 0;
         return read_bare(calls, text) > 0;

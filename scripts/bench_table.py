@@ -68,6 +68,9 @@ for corpus in ("news", "licences"):
     goal(f"the places of all words on {corpus}, of the host layer's instructions (at most 0.1)", share, share <= 0.1)
     share = 1 - rate[f"{corpus}/places"] / rate[f"{corpus}/host"]
     print(f"        in time: {share:.2f}")
+for corpus, most in (("news", 130), ("numbers", 330)):
+    goal(f"the everyday rules on {corpus}, instructions a byte (at most {most})", instructions[f"{corpus}/everyday"],
+         instructions[f"{corpus}/everyday"] <= most)
 ratio = rate["news/all"] / rate["news/everyday"]
 goal("the everyday rules on news, times the calls (at most 2)", ratio, ratio <= 2)
 goal("a lexicon of 100,000 lines on news, nanoseconds a byte (at most 10)", 1e9 / rate["news/lexicon"],

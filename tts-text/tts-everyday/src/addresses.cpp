@@ -6,15 +6,29 @@ namespace kavi::everyday {
 
 namespace {
 
-// "d" in a shape is any digit.
-bool has_shape(const Place& place, std::string_view shape) {
-    for (std::size_t i = 0; i < shape.size(); ++i) {
-        const char c = place.peek(i);
-        if (shape[i] == 'd' ? !is_digit(c) : c != shape[i]) return false;
-    }
-    const char after = place.peek(shape.size());
-    return !place.is_joined(shape.size()) &&
-           !((after == '-' || after == '.') && is_digit(place.peek(shape.size() + 1)));
+// Whether a telephone number may end at `end`.
+bool may_end_number(const Place& place, std::size_t end) {
+    const char after = place.peek(end);
+    return !place.is_joined(end) &&
+           !((after == '-' || after == '.') && is_digit(place.peek(end + 1)));
+}
+
+// The longest shape of a telephone number at the cursor, or empty; "d" in a shape is any digit.
+std::string_view shape_at(const Place& place) {
+    const auto longest_from = [&](char first) {
+        const Row* row = find_longest(TELEPHONE_SHAPES, [&](std::size_t at) {
+            if (at == 0) return first;
+            const char c = place.peek(at);
+            return is_digit(c) ? 'd' : is_letter(c) ? '\0' : c;
+        });
+        while (row != nullptr && !may_end_number(place, row->written.size()))
+            row = find_shorter(TELEPHONE_SHAPES, *row);
+        return row;
+    };
+    const char first = place.peek();
+    const Row* row = longest_from(is_digit(first) ? 'd' : first);
+    if (row == nullptr && first == '0') row = longest_from(first);
+    return row != nullptr ? row->written : std::string_view();
 }
 
 void say_group(std::string_view digits, std::string& out) {
@@ -73,11 +87,7 @@ void read_telephone(const Place& place, Found& found) {
     const char c = place.peek();
     if (!is_digit(c) && c != '+' && c != '(') return;
     if (place.before() == '-' || place.before() == '.' || is_digit(place.before())) return;
-    std::string_view shape;
-    // Of those that begin alike, the longest comes last.
-    for (const Row& row : TELEPHONE_SHAPES) {
-        if (has_shape(place, row.written)) shape = row.written;
-    }
+    const std::string_view shape = shape_at(place);
     found.length = shape.size();
     if (c == '+' && !shape.empty()) say("plus", found.words);
     for (std::size_t at = 0; at < shape.size(); ++at) {

@@ -102,7 +102,6 @@ void read_numbered(const Place& place, Found& found) {
 void read_plural_number(const Place& place, Found& found) {
     constexpr std::size_t LONGEST = 7;
     const Number number = number_at(place, 0);
-    const std::string_view digits = number.whole;
     const std::size_t end = number.length;
     const std::size_t mark = place.apostrophe(end);
     const std::size_t s = end + mark;
@@ -110,6 +109,7 @@ void read_plural_number(const Place& place, Found& found) {
         place.before() == ',' || place.before() == '$')
         return;
     if (place.peek(s) != 's' || place.is_joined(s + 1)) return;
+    const std::string digits = number.digits();
     const bool is_round = digits.find_first_not_of('0', 1) == std::string_view::npos;
     if (is_round && digits[0] == '1' && end > 2) {  // "1000s of", not "one thousands"
         std::string words;

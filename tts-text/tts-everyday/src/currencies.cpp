@@ -30,9 +30,9 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
         return say_currency(number.is_one() && scale == nullptr);
     }
     const bool is_whole = number.fraction == "00";
-    const bool has_whole = number.whole.find_first_not_of('0') != std::string::npos;
+    const bool has_whole = number.whole.find_first_not_of("0,") != std::string::npos;
     if (has_whole || is_whole) {
-        say_cardinal(number.whole, found.words);
+        say_cardinal(number.digits(), found.words);
         say_currency(number.whole == "1");
     } else {
         found.name = {symbol, currency.written.size(), 0, 0};

@@ -146,22 +146,6 @@ void read_days(const Place& place, const Month& month, std::size_t ahead, Found&
     found.length = end;
 }
 
-// "May 5, 2021", "Jan. 5", "March 2020".
-void read_month_first(const Place& place, Found& found) {
-    const std::string_view name = place.letters();
-    const Month month = {month_number(name), 0, name.size()};
-    if (month.number == 0) return;
-    std::size_t at = name.size();
-    if (place.peek(at) == '.') ++at;
-    if (place.peek(at) != ' ') return;
-    const std::string_view year = place.digits(at + 1);
-    const std::size_t end = at + 1 + year.size();
-    if (!may_be_year(year) || place.letter(end) > 0) return read_days(place, month, at + 1, found);
-    month.say(found);
-    say_year(year, found.words);
-    found.length = end;
-}
-
 // "5 May 2021", "21st of June".
 void read_day_first(const Place& place, Found& found) {
     const std::string_view day = place.digits();
@@ -199,8 +183,23 @@ bool read_dashed_date(const Place& place, Found& found) {
 
 }  // namespace
 
+// "May 5, 2021", "Jan. 5", "March 2020".
+void read_month(const Place& place, Found& found) {
+    const std::string_view name = place.letters();
+    const Month month = {month_number(name), 0, name.size()};
+    if (month.number == 0) return;
+    std::size_t at = name.size();
+    if (place.peek(at) == '.') ++at;
+    if (place.peek(at) != ' ') return;
+    const std::string_view year = place.digits(at + 1);
+    const std::size_t end = at + 1 + year.size();
+    if (!may_be_year(year) || place.letter(end) > 0) return read_days(place, month, at + 1, found);
+    month.say(found);
+    say_year(year, found.words);
+    found.length = end;
+}
+
 void read_date(const Place& place, Found& found) {
-    if (is_letter(place.peek())) return read_month_first(place, found);
     if (read_iso_date(place, found) || read_dashed_date(place, found)) return;
     if (read_month_and_day(place, found)) return;
     read_day_first(place, found);
@@ -208,7 +207,7 @@ void read_date(const Place& place, Found& found) {
 }
 
 void read_american_date(const Place& place, Found& found) {
-    if (is_digit(place.peek())) read_numeric_date(place, true, found);
+    read_numeric_date(place, true, found);
 }
 
 }  // namespace kavi::everyday

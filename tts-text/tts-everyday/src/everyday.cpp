@@ -1,12 +1,10 @@
 // One pass over a text: at each place where a word, a number or a mark begins, the lexicon and the
-// rules that may read what begins with such a character.
+// rules that may read it.
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
-#include <iterator>
+#include <utility>
 
-#include "for_everyday.h"
+#include "dispatch.h"
 #include "own_words.h"
 #include "tokens.h"
 #include "tts_everyday.h"
@@ -18,60 +16,11 @@ namespace {
 using everyday::Found;
 using everyday::is_digit;
 using everyday::is_letter;
-using everyday::is_lower;
 using everyday::is_outside_ascii;
 using everyday::OwnWords;
 using everyday::Place;
-
-struct RuleRow {
-    EverydayClass everyday_class;
-    everyday::Rule rule;
-};
-
-// The rules for what begins with a digit, a letter or another mark, in the order in which they are
-// tried. American dates are tried where the option says so.
-constexpr RuleRow DIGIT_RULES[] = {
-    {EverydayClass::addresses, everyday::read_telephone},
-    {EverydayClass::years, everyday::read_date},
-    {EverydayClass::numbers, everyday::read_version},
-    {EverydayClass::numbers, everyday::read_long_code},
-    {EverydayClass::times, everyday::read_time},
-    {EverydayClass::currencies, everyday::read_amount_after},
-    {EverydayClass::units, everyday::read_unit},
-    {EverydayClass::numbers, everyday::read_numbered},
-    {EverydayClass::years, everyday::read_year},
-    {EverydayClass::numbers, everyday::read_plural_number},
-    {EverydayClass::numbers, everyday::read_number},
-};
-constexpr RuleRow WORD_RULES[] = {
-    {EverydayClass::addresses, everyday::read_address},
-    {EverydayClass::currencies, everyday::read_currency},
-    {EverydayClass::titles, everyday::read_scripture},
-    {EverydayClass::titles, everyday::read_state},
-    {EverydayClass::titles, everyday::read_title},
-    {EverydayClass::years, everyday::read_date},
-    {EverydayClass::roman, everyday::read_roman},
-    {EverydayClass::contractions, everyday::read_contraction},
-    {EverydayClass::numbers, everyday::read_code},
-    {EverydayClass::numbers, everyday::read_sign},
-    {EverydayClass::marks, everyday::read_slashed_words},
-    {EverydayClass::marks, everyday::read_named_mark},
-    {EverydayClass::letters, everyday::read_letters},
-};
-constexpr RuleRow MARK_RULES[] = {
-    {EverydayClass::addresses, everyday::read_telephone},
-    {EverydayClass::currencies, everyday::read_currency},
-    {EverydayClass::years, everyday::read_year},
-    {EverydayClass::units, everyday::read_unit},
-    {EverydayClass::units, everyday::read_rate},
-    {EverydayClass::numbers, everyday::read_point},
-    {EverydayClass::numbers, everyday::read_sign},
-    {EverydayClass::contractions, everyday::read_contraction},
-    {EverydayClass::marks, everyday::read_mark},
-    {EverydayClass::marks, everyday::read_named_mark},
-    {EverydayClass::shields, everyday::read_shield},
-    {EverydayClass::letters, everyday::read_typography},
-};
+using everyday::RuleRow;
+using everyday::RuleSet;
 
 // What an explanation says: the name of the class, after a prefix.
 constexpr std::string_view PREFIX = "everyday: ";
@@ -91,17 +40,6 @@ const char* rule_name_of(EverydayClass everyday_class) {
         case EverydayClass::marks: return "everyday: marks";
     }
     return "";
-}
-
-struct Rules {
-    const RuleRow* begin;
-    const RuleRow* end;
-};
-
-Rules rules_for(const Place& place) {
-    if (is_digit(place.peek())) return {std::begin(DIGIT_RULES), std::end(DIGIT_RULES)};
-    if (place.letter(0) > 0) return {std::begin(WORD_RULES), std::end(WORD_RULES)};
-    return {std::begin(MARK_RULES), std::end(MARK_RULES)};
 }
 
 // Whether a text that ends where `text` does may go on as the name of a markup tag.
@@ -125,37 +63,13 @@ std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& searc
     return 0;
 }
 
-// The first two letters of the abbreviations that are written without a full stop, "vs" and "tsp":
-// for each first one, by its last five bits, a bit for each second one.
-using Beginnings = std::array<std::uint32_t, 32>;
-constexpr unsigned bits_of(char letter) {
-    return static_cast<unsigned>(letter) & 31U;
-}
-constexpr Beginnings BEGINNINGS = [] {
-    Beginnings beginnings{};
-    for (const everyday::Row& row : everyday::TITLES) {
-        if (row.kind != everyday::Kind::never || !is_lower(row.written[0])) continue;
-        const bool is_one_letter = row.written.size() == 1;
-        beginnings[bits_of(row.written[0])] |= is_one_letter ? ~0U : 1U << bits_of(row.written[1]);
-    }
-    return beginnings;
-}();
-
-// Most words: in small letters, with nothing after them that any rule reads, and no abbreviations.
-bool is_plain_word(const Place& place) {
-    if (!is_lower(place.peek())) return false;
-    if ((BEGINNINGS[bits_of(place.peek())] >> bits_of(place.peek(1)) & 1U) != 0) return false;
-    const char after = place.peek(place.run(is_letter));
-    return after == ' ' || after == ',' || after == '\0' || after == ';' || after == '?' ||
-           after == '!' || after == ')' || after == '"' || after == '<';
-}
-
 // Whether a rule reads what begins at a place, within the bound of what it can see. `is_open`: more
 // text would tell.
 bool has_found(everyday::Rule rule, const Place& place, Found& found, bool& is_open) {
     found.length = 0;
     found.words.clear();
     found.name = {};
+    place.forget_bound();
     rule(place, found);
     is_open = is_open || place.has_met_end();
     return found.length > 0 && !place.has_met_bound();
@@ -166,29 +80,24 @@ struct Settings {
     bool american_dates;
 };
 
-// The first of the rules that are on and read what begins at `at`, where the user's words allow it,
-// or null. `entry` is that of a word that the user has in its place, or null. `is_open`: more text
-// could make it another.
-const RuleRow* find_rule(std::string_view text, std::size_t at, const Settings& settings,
-                         OwnWords& own_words, Found& found, const Lexicon::Entry*& entry,
-                         bool& is_open) {
+// The first of some rules that is on and reads what begins at `at`, where the user's words allow
+// it, or null. `entry` is that of a word that the user has in its place, or null. `is_open`: more
+// text could make it another.
+const RuleRow* find_rule(std::string_view text, std::size_t at, RuleSet rules,
+                         const Settings& settings, OwnWords& own_words, Found& found,
+                         const Lexicon::Entry*& entry, bool& is_open) {
     const Place place(text, at);
-    const bool is_plain = is_plain_word(place);
-    is_open = is_open || place.has_met_end();
-    if (is_plain) return nullptr;
-    const Rules rules = rules_for(place);
-    is_open = is_open || place.has_met_end();
-    for (const RuleRow* row = rules.begin; row != rules.end; ++row) {
-        if ((settings.classes >> static_cast<unsigned>(row->everyday_class) & 1U) == 0) continue;
-        const bool is_found =
-            (settings.american_dates && row->rule == everyday::read_date &&
-             has_found(everyday::read_american_date, Place(text, at), found, is_open)) ||
-            has_found(row->rule, Place(text, at), found, is_open);
+    while (rules != 0) {
+        const RuleRow& row = everyday::take_first(rules);
+        if ((settings.classes >> static_cast<unsigned>(row.everyday_class) & 1U) == 0) continue;
+        const bool is_found = (settings.american_dates && row.rule == everyday::read_date &&
+                               has_found(everyday::read_american_date, place, found, is_open)) ||
+                              has_found(row.rule, place, found, is_open);
         if (!is_found) continue;
         // An address is one word, whatever is in it.
         entry = nullptr;
-        if (row->everyday_class == EverydayClass::addresses) return row;
-        if (own_words.allow(at, found, entry)) return row;
+        if (row.everyday_class == EverydayClass::addresses) return &row;
+        if (own_words.allow(at, found, entry)) return &row;
     }
     return nullptr;
 }
@@ -207,10 +116,12 @@ void set_apart(char before, char after, std::string& words) {
     if (is_letter(words.back()) && joins(after)) words += ' ';
 }
 
-// Where the next word, number or mark begins after that at `at`, past blanks. `is_open`: more text
-// would tell.
-std::size_t next_place(std::string_view text, std::size_t at, bool& is_open) {
-    std::size_t next = at + everyday::cluster_length(text, at);
+// Where the next word, number or mark begins after that at `at`, past blanks; `run_end` is where
+// what it has of ASCII ends. `is_open`: more text would tell.
+std::size_t next_place(std::string_view text, std::size_t at, std::size_t run_end, bool& is_open) {
+    const bool is_whole =
+        !is_outside_ascii(text[at]) && (run_end == text.size() || !is_outside_ascii(text[run_end]));
+    std::size_t next = is_whole ? run_end : at + everyday::cluster_length(text, at);
     is_open = !everyday::is_there(text, next);
     while (next < text.size() && text[next] == ' ') ++next;
     return next;
@@ -258,11 +169,12 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
     const std::size_t words_end = rewriting.source.length > 0 ? from : text.size();
     OwnWords own_words(lexicon_, text);
     Found found;
-    found.words.swap(rewriting.words);  // for its memory
+    found.words = std::move(rewriting.words);  // for its memory
     std::size_t at = std::max(from, rewriting.decided);
     bool is_open = false;  // more text could make the answer another
     if (rewriting.is_inside_word) {
-        const std::size_t next = next_place(text, at, is_open);
+        const std::size_t run_end = everyday::run_at(text, at).end;
+        const std::size_t next = next_place(text, at, run_end, is_open);
         if (is_open && rewriting.may_go_on) return wait_inside_word(text, rewriting);
         rewriting.is_inside_word = false;
         at = next;
@@ -276,8 +188,13 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
         const unsigned classes = at == words_end ? classes_ & ~shields : classes_;
         const Lexicon::Match own = own_words.at(at);
         const Lexicon::Entry* entry = nullptr;
-        const RuleRow* row =
-            find_rule(text, at, {classes, american_dates_}, own_words, found, entry, is_open);
+        const everyday::Run run = everyday::run_at(text, at);
+        is_open = is_open || run.is_open;
+        const Settings settings = {classes, american_dates_};
+        const RuleRow* row = nullptr;
+        if (run.rules != 0) {
+            row = find_rule(text, at, run.rules, settings, own_words, found, entry, is_open);
+        }
         if (row == nullptr) entry = own.entry;
         if (row == nullptr && entry != nullptr) {
             found.length = own.length;
@@ -288,7 +205,7 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
         is_open = is_open || own_words.reaches_end() || (is_found && end == text.size());
         if (is_open && rewriting.may_go_on) return wait_at(at, rewriting);
         if (!is_found) {
-            const std::size_t next = next_place(text, at, is_open);
+            const std::size_t next = next_place(text, at, run.end, is_open);
             if (is_open && rewriting.may_go_on) {
                 const bool is_long = text.size() - at > LONG_WORD;
                 return is_long ? wait_inside_word(text, rewriting) : wait_at(at, rewriting);
@@ -302,7 +219,7 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
             rewriting.by.line_number = entry->line_number;
         }
         rewriting.source = {at, found.length};
-        rewriting.words.swap(found.words);
+        rewriting.words = std::move(found.words);
         const char after = end < text.size() ? text[end] : '\0';
         shield(after, rewriting.words);
         const char before = at == from ? rewriting.last : text[at - 1];
@@ -311,7 +228,7 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
         return true;
     }
     rewriting.decided = text.size();
-    rewriting.words.swap(found.words);
+    rewriting.words = std::move(found.words);
     return false;
 }
 

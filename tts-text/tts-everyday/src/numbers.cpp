@@ -13,7 +13,7 @@ bool read_ordinal(const Place& place, const Number& number, Found& found) {
         return !place.is_joined(number.length + row.written.size());
     });
     if (suffix == nullptr) return false;
-    say_ordinal(number.whole, found.words);
+    say_ordinal(number.digits(), found.words);
     found.length = number.length + suffix->written.size();
     return true;
 }
@@ -21,8 +21,8 @@ bool read_ordinal(const Place& place, const Number& number, Found& found) {
 // "221B": three digits and more before a letter are said one by one.
 bool read_house_number(const Place& place, const Number& number, Found& found) {
     const std::size_t end = number.length;
-    const bool is_one = number.whole.size() > 2 && number.whole.size() == end &&
-                        is_upper(place.peek(end)) && !place.is_joined(end + 1);
+    const bool is_one = end > 2 && place.digits().size() == end && is_upper(place.peek(end)) &&
+                        !place.is_joined(end + 1);
     if (!is_one) return false;
     say_digits(number.whole, found.words);
     found.length = end;
@@ -177,7 +177,7 @@ void read_number(const Place& place, Found& found) {
     if (read_ordinal(place, number, found) || read_house_number(place, number, found)) return;
     const bool is_code =
         number.whole.size() > 1 && number.whole[0] == '0' && number.fraction.empty();
-    is_code ? say_digits(number.whole, found.words) : number.say(found.words);
+    is_code ? say_digits(number.digits(), found.words) : number.say(found.words);
     std::size_t end = number.length;
     end += say_power_of_ten(place, number, found.words);
     if (end == number.length) end += say_out_of(place, number, found.words);

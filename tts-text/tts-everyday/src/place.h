@@ -20,7 +20,7 @@ using tn::is_lower;
 using tn::is_upper;
 using tn::to_lower;
 
-inline bool is_outside_ascii(char c) {
+constexpr bool is_outside_ascii(char c) {
     return static_cast<unsigned char>(c) > 127;
 }
 
@@ -45,6 +45,8 @@ class Place {
 
     // Whether a rule tried to read beyond LOOK_AHEAD: a word or a number may be longer than it saw.
     bool has_met_bound() const { return has_met_end_ && is_cut_; }
+    // As if none had.
+    void forget_bound() const { has_met_end_ = false; }
 
     // Whether something would read what the text does not have.
     bool has_met_end() const { return has_met_end_ && !is_cut_; }

@@ -34,6 +34,7 @@ struct Found {
 using Rule = void (*)(const Place& place, Found& found);
 
 void read_title(const Place& place, Found& found);         // titles.cpp
+void read_bare_title(const Place& place, Found& found);    // the same without a full stop
 void read_state(const Place& place, Found& found);         // states.cpp
 void read_scripture(const Place& place, Found& found);     // scripture.cpp
 void read_contraction(const Place& place, Found& found);   // contractions.cpp
@@ -42,7 +43,8 @@ void read_amount_after(const Place& place, Found& found);  // the same, its symb
 void read_unit(const Place& place, Found& found);          // units.cpp
 void read_rate(const Place& place, Found& found);
 void read_year(const Place& place, Found& found);          // years.cpp
-void read_date(const Place& place, Found& found);          // dates.cpp
+void read_month(const Place& place, Found& found);         // dates.cpp, from the month on
+void read_date(const Place& place, Found& found);          // from a number on
 void read_american_date(const Place& place, Found& found);
 void read_time(const Place& place, Found& found);       // times.cpp
 void read_telephone(const Place& place, Found& found);  // addresses.cpp
@@ -62,6 +64,11 @@ void read_shield(const Place& place, Found& found);  // shields.cpp
 void read_mark(const Place& place, Found& found);    // marks.cpp
 void read_named_mark(const Place& place, Found& found);
 void read_slashed_words(const Place& place, Found& found);
+
+// Whether a row of TITLES may do without its full stop; titles.cpp.
+constexpr bool is_bare_title(const Row& row) {
+    return row.kind == Kind::never || row.kind == Kind::before_date;
+}
 
 // Appends "per" and the unit after a slash at offset `ahead`. Returns their length, 0 if none;
 // units.cpp.

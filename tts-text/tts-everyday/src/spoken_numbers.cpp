@@ -11,12 +11,13 @@ namespace {
 
 // Words of the engine's operations have blanks of their own.
 void say_reading(const tn::Reading& reading, std::string& out) {
-    std::string_view rest = reading.text();
-    while (!rest.empty()) {
-        const std::string_view word = rest.substr(0, rest.find(' '));
-        if (!word.empty()) say(word, out);
-        rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+    char words[WORD_MAX_LEN];
+    std::size_t length = 0;
+    for (const char c : reading.text()) {
+        if (c != ' ' || (length > 0 && words[length - 1] != ' ')) words[length++] = c;
     }
+    if (length > 0 && words[length - 1] == ' ') --length;
+    say({words, length}, out);
 }
 
 }  // namespace
@@ -31,8 +32,8 @@ void say_cardinal(std::string_view digits, std::string& out) {
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
     if (digits.empty()) return say("zero", out);
     if (digits.size() > LONGEST) return say_digits(digits, out);
-    char buffer[WORD_MAX_LEN] = "";
-    tn::Reading reading(buffer);
+    char buffer[WORD_MAX_LEN];
+    tn::Reading reading(buffer, 0);
     // A group of zeros has no words, not even its scale.
     while (!digits.empty()) {
         const std::size_t groups_after = (digits.size() - 1) / tn::GROUP_DIGITS;
@@ -80,19 +81,24 @@ void say_decimal(std::string_view whole, std::string_view fraction, std::string&
     say_digits(fraction, out);
 }
 
+std::string Number::digits() const {
+    std::string digits(whole);
+    digits.erase(std::remove(digits.begin(), digits.end(), ','), digits.end());
+    return digits;
+}
+
 Number number_at(const Place& place, std::size_t ahead) {
     constexpr std::size_t GROUP = 3;
     Number number;
-    number.whole = place.digits(ahead);
+    const std::size_t n_digits = place.digits(ahead).size();
     const bool has_no_zero = place.peek(ahead) == '.' && is_digit(place.peek(ahead + 1));  // ".35"
-    if (number.whole.empty() && !has_no_zero) return number;
-    std::size_t end = ahead + number.whole.size();
-    while (!has_no_zero && (number.has_commas || number.whole.size() <= GROUP) &&
-           place.peek(end) == ',' && place.digits(end + 1).size() == GROUP) {
-        number.whole += place.digits(end + 1);
+    if (n_digits == 0 && !has_no_zero) return number;
+    std::size_t end = ahead + n_digits;
+    while (n_digits > 0 && n_digits <= GROUP && place.peek(end) == ',' &&
+           place.digits(end + 1).size() == GROUP) {
         end += 1 + GROUP;
-        number.has_commas = true;
     }
+    number.whole = place.part(ahead, end - ahead);
     if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) {
         number.fraction = place.digits(end + 1);
         end += 1 + number.fraction.size();

@@ -24,13 +24,14 @@ void say_decimal(std::string_view whole, std::string_view fraction, std::string&
 
 // A number as it is written: groups of three with commas, and a decimal point.
 struct Number {
-    std::string whole;  // without commas
+    std::string_view whole;  // with its commas
     std::string_view fraction;
     std::size_t length = 0;  // as written; 0 for none
-    bool has_commas = false;
 
+    // Of `whole`.
+    std::string digits() const;
     bool is_one() const { return whole == "1" && fraction.empty(); }
-    void say(std::string& out) const { say_decimal(whole, fraction, out); }
+    void say(std::string& out) const { say_decimal(digits(), fraction, out); }
 };
 Number number_at(const Place& place, std::size_t ahead);
 

@@ -51,23 +51,16 @@ struct Table {
 // NUL after its end; it is asked for no byte after the first that no row has there.
 template <typename ByteAt>
 const Row* find_longest(Table table, ByteAt byte_at) {
+    const auto byte_of = [](const Row& row) { return static_cast<unsigned char>(row.written[0]); };
+    const auto byte = static_cast<unsigned char>(byte_at(0));
+    const Row* row = std::partition_point(table.first, table.end,
+                                          [&](const Row& r) { return byte_of(r) < byte; });
     const Row* longest = nullptr;
-    // Those that have the first `length` bytes of the text, the shortest of them first.
-    auto [first, end] = table;
-    for (std::size_t length = 0; first != end; ++length) {
-        if (first->written.size() == length) {
-            longest = first++;
-            if (first == end) break;
-        }
-        const auto byte = static_cast<unsigned char>(byte_at(length));
-        const auto byte_of = [length](const Row& row) {
-            return static_cast<unsigned char>(row.written[length]);
-        };
-        first =
-            std::partition_point(first, end, [&](const Row& row) { return byte_of(row) < byte; });
-        if (first == end || byte_of(*first) != byte) break;
-        end =
-            std::partition_point(first, end, [&](const Row& row) { return byte_of(row) == byte; });
+    for (; row != table.end && byte_of(*row) == byte; ++row) {
+        std::size_t n_alike = 1;
+        while (n_alike < row->written.size() && row->written[n_alike] == byte_at(n_alike))
+            ++n_alike;
+        if (n_alike == row->written.size()) longest = row;
     }
     return longest;
 }

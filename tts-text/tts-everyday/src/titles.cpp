@@ -120,17 +120,22 @@ bool fits(const Place& place, const Row& row) {
     }
 }
 
+bool read_row(const Place& place, Found& found) {
+    const Row* row = place.find_row(TITLES, 0, [&](const Row& r) { return fits(place, r); });
+    if (row == nullptr) return false;
+    take(place, row->written.size(), row->spoken, ends_sentence(row->kind), found);
+    return true;
+}
+
 }  // namespace
 
 void read_title(const Place& place, Found& found) {
-    const std::string_view word = place.letters();
-    const char after = place.peek(word.size());
-    if (word.empty() || (after != '.' && after != ' ' && after != ',')) return;
-    if (read_drive(place, found)) return;
-    if (const Row* row = place.find_row(TITLES, 0, [&](const Row& r) { return fits(place, r); })) {
-        return take(place, row->written.size(), row->spoken, ends_sentence(row->kind), found);
-    }
+    if (read_drive(place, found) || read_row(place, found)) return;
     if (!read_saint_or_street(place, found)) read_initials(place, found);
+}
+
+void read_bare_title(const Place& place, Found& found) {
+    read_row(place, found);
 }
 
 }  // namespace kavi::everyday

@@ -140,6 +140,10 @@ void read_code(const Place& place, Found& found) {
         end += n_letters + digits.size();
         if (digits.empty()) break;
         has_digits = true;
+        if (may_be_year(digits) && find(BEFORE_YEAR, place.part(0, n_letters)) != nullptr) {
+            say_year(digits, found.words);  // "FY2031"
+            break;
+        }
         digits.size() < LONGEST ? say_cardinal(digits, found.words)
                                 : say_digits(digits, found.words);
     }

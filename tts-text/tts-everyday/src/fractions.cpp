@@ -79,30 +79,39 @@ bool is_rating(const Place& place, std::string_view above, std::string_view belo
            place.starts_with(" stars", end) || place.starts_with(" points", end);
 }
 
+// "120/80", "355/113": three digits above; after a name they are two numbers, "Boeing 757/767".
+bool is_ratio(const Place& place, std::string_view above, std::string_view below) {
+    if (above.size() != 3 || above[0] == '0' || below.empty() || below[0] == '0') return false;
+    const std::string_view name = place.word_before();
+    return below.size() < 3 || (below.size() == 3 && (name.empty() || !is_upper(name[0])));
+}
+
+// What is said between two numbers that are no fraction, perhaps nothing; null where they are one.
+const char* words_between(const Place& place, std::string_view above, std::string_view below,
+                          std::size_t end) {
+    if (find(FRACTIONS, place.part(0, end)) != nullptr) return nullptr;
+    if (is_rating(place, above, below, end)) return "out of";
+    if (above == below && above.size() < 4 && above != "1") {  // "20/20"
+        const bool is_sight =
+            place.starts_with(" vision", end) || place.starts_with(" hindsight", end);
+        return is_sight ? "" : "out of";
+    }
+    return is_ratio(place, above, below) && !place.is_joined(end) ? "over" : nullptr;
+}
+
 // "1/2", with no other slash before it or after it
 bool read_slash(const Place& place, std::string_view above, Found& found) {
     if (place.peek(above.size()) != '/' || place.before() == '/') return false;
     const std::string_view below = place.digits(above.size() + 1);
     const std::size_t end = above.size() + 1 + below.size();
-    if (place.peek(end) != '/' && is_rating(place, above, below, end)) {
+    if (place.peek(end) == '/') return false;
+    if (const char* words = words_between(place, above, below, end)) {
         say_cardinal(above, found.words);
-        say("out of", found.words);
+        if (*words != '\0') say(words, found.words);
         say_cardinal(below, found.words);
-        found.length = end;
-        return true;
+    } else if (!say_fraction(above, below, found.words)) {
+        return false;
     }
-    const bool is_named = find(FRACTIONS, place.part(0, end)) != nullptr;
-    const bool is_same = above == below && above.size() < 4 && above != "1";
-    if (place.peek(end) != '/' && is_same && !is_named) {  // "20/20"
-        const bool is_sight =
-            place.starts_with(" vision", end) || place.starts_with(" hindsight", end);
-        say_cardinal(above, found.words);
-        if (!is_sight) say("out of", found.words);
-        say_cardinal(below, found.words);
-        found.length = end;
-        return true;
-    }
-    if (place.peek(end) == '/' || !say_fraction(above, below, found.words)) return false;
     found.length = end;
     return true;
 }

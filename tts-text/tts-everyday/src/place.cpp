@@ -36,6 +36,7 @@ bool Place::begins_line(std::size_t back) const {
 }
 
 std::string_view Place::letters_before(std::size_t back) const {
+    if (back > behind_.size()) return {};
     std::size_t begin = back;
     while (is_letter(before(begin + 1))) ++begin;
     if (begin >= behind_.size() && is_cut_behind_) return {};

@@ -109,7 +109,7 @@ class Place {
         return peek(ahead) == '-' ? 1 : 0;
     }
 
-    // The letters that end at `back`; empty if they begin before LOOK_BACK.
+    // The letters that end at `back`; empty outside the text, and if they begin before LOOK_BACK.
     std::string_view letters_before(std::size_t back = 0) const;
     // The same, blanks skipped.
     std::string_view word_before(std::size_t back = 0) const;

@@ -1,4 +1,5 @@
-// Roman numerals after names of rulers, after what is counted by them, and after other names.
+// Roman numerals after names of rulers, after what is counted by them, and after other names. A "C"
+// or an "L" alone is a letter: "Appendix C".
 
 #include "rules.h"
 
@@ -40,49 +41,86 @@ bool is_name(std::string_view word) {
     return word.size() > 1 && is_upper(word[0]) && is_lower(word.back());
 }
 
+bool is_link(std::string_view word) {
+    return word == "and" || word == "or" || word == "to" || word == "through";
+}
+
+// How far before the cursor the first of several numerals begins: "I and " before "II", "I, II, and
+// " before "III".
+std::size_t numerals_before(const Place& place) {
+    constexpr std::size_t MOST = 4;
+    std::size_t back = 0;
+    for (std::size_t i = 0; i < MOST && place.before(back + 1) == ' '; ++i) {
+        std::size_t end = back + 1;
+        const std::string_view link = place.letters_before(end);
+        if (is_link(link)) end += link.size() + 1;
+        if (place.before(end + 1) == ',') ++end;
+        if (end == back + 1) break;
+        const std::string_view numeral = place.letters_before(end);
+        if (value_of_roman(numeral) == 0) break;
+        back = end + numeral.size();
+    }
+    return back;
+}
+
+// "I and II", "I, II": the first is a numeral too.
+bool has_numeral_after(const Place& place) {
+    std::size_t at = place.peek(1) == ',' ? 2 : 1;
+    if (place.peek(at) != ' ') return false;
+    const std::string_view link = place.letters(at + 1);
+    if (is_link(link)) at += 1 + link.size();
+    if (at == 1 || place.peek(at) != ' ') return false;
+    const std::string_view numeral = place.letters(at + 1);
+    return numeral != "I" && value_of_roman(numeral) > 0 &&
+           !place.is_joined(at + 1 + numeral.size());
+}
+
 // "Barrera III" after "Joseph S. ", "Joseph ": a person has a given name, and may have an initial.
-bool is_person(const Place& place, std::string_view name) {
-    const std::size_t blank = 1 + name.size() + 1;
+bool is_person(const Place& place, std::size_t back, std::string_view name) {
+    const std::size_t blank = back + 1 + name.size() + 1;
     if (place.before(blank) != ' ') return false;
     const bool has_initial = place.before(blank + 1) == '.' && is_upper(place.before(blank + 2)) &&
                              place.before(blank + 3) == ' ';
-    const std::size_t back = has_initial ? blank + 3 : blank;
-    const std::string_view given = place.letters_before(back);
+    const std::string_view given = place.letters_before(has_initial ? blank + 3 : blank);
     return has_initial ? is_name(given) : find(RULERS, given) != nullptr;
 }
 
 // "Queen Elizabeth II"
-bool has_royal_title(const Place& place, std::string_view name) {
-    return find(ROYAL_TITLES, place.word_before(1 + name.size())) != nullptr;
+bool has_royal_title(const Place& place, std::size_t back, std::string_view name) {
+    return find(ROYAL_TITLES, place.word_before(back + 1 + name.size())) != nullptr;
 }
 
 // After a ruler's name "I" is also the one who speaks: "Henry I am".
 bool may_be_speaker(const Place& place, std::string_view name) {
-    if (place.peek(1) != ' ' || has_royal_title(place, name)) return false;
+    if (place.peek(1) != ' ' || has_royal_title(place, 0, name)) return false;
     return find(SPEAKER_VERBS, place.letters(2)) != nullptr;
 }
 
 enum class Counting { none, ordinal, cardinal };
 
 Counting counting_after(const Place& place, std::string_view numeral) {
-    if (place.before() != ' ') return Counting::none;
-    const std::string_view before = place.word_before();
-    if (find(RULERS, before) != nullptr || (is_name(before) && has_royal_title(place, before))) {
+    const std::size_t back = numeral != "I" ? numerals_before(place) : 0;
+    if (place.before(back + 1) != ' ') return Counting::none;
+    const std::string_view before = place.word_before(back);
+    if (find(RULERS, before) != nullptr ||
+        (is_name(before) && has_royal_title(place, back, before))) {
         const bool is_speaker = numeral == "I" && may_be_speaker(place, before);
         return is_speaker ? Counting::none : Counting::ordinal;
     }
-    const bool has_stop = place.before(2) == '.';  // "Vol. IV"
-    const std::string_view counted = has_stop ? place.letters_before(2) : before;
+    const bool has_stop = place.before(back + 2) == '.';  // "Vol. IV"
+    const std::string_view counted = has_stop ? place.letters_before(back + 2) : before;
     const Row* title = has_stop ? find(TITLES, counted) : nullptr;
     const bool is_counted = has_stop ? title != nullptr && title->kind == Kind::before_number
                                      : find(COUNTED_BY_ROMAN, counted) != nullptr;
-    if (is_counted)
-        return is_lower(counted[0]) && numeral == "I" ? Counting::none : Counting::cardinal;
+    if (is_counted) {
+        const bool is_speaker = is_lower(counted[0]) && numeral == "I" && !has_numeral_after(place);
+        return is_speaker ? Counting::none : Counting::cardinal;
+    }
     constexpr std::size_t SHORTEST = 4;  // "The II Corps"
     const bool is_numbered_name =
         is_name(before) && before.size() >= SHORTEST && is_plain_numeral(numeral);
     if (!is_numbered_name) return Counting::none;
-    return is_person(place, before) ? Counting::ordinal : Counting::cardinal;
+    return is_person(place, back, before) ? Counting::ordinal : Counting::cardinal;
 }
 
 }  // namespace
@@ -107,7 +145,7 @@ void read_roman(const Place& place, Found& found) {
         found.length = numeral.size();
         return;
     }
-    if (value_of_letter(place.peek()) == 0) return;
+    if (value_of_letter(place.peek()) == 0 || numeral == "C") return;
     const int value = value_of_roman(numeral);
     if (value == 0 || place.letter(numeral.size()) > 0) return;
     std::size_t end = numeral.size();

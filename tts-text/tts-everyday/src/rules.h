@@ -65,8 +65,10 @@ void read_mark(const Place& place, Found& found);    // marks.cpp
 void read_named_mark(const Place& place, Found& found);
 void read_slashed_words(const Place& place, Found& found);
 
-// Whether a row of TITLES may do without its full stop; titles.cpp.
+// Whether the first word of a row of TITLES may have no full stop after it: "Mr", "et al".
 constexpr bool is_bare_title(const Row& row) {
+    const std::size_t end = row.written.find_first_of(" .");
+    if (end != std::string_view::npos) return row.written[end] == ' ';
     return row.kind == Kind::never || row.kind == Kind::before_date;
 }
 

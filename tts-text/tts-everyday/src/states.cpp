@@ -31,10 +31,10 @@ void read_state(const Place& place, Found& found) {
     const Row* row = find(STATES, written);
     if (row == nullptr || place.is_joined(written.size()) || place.dash(written.size()) > 0) return;
     std::size_t end = written.size();
-    if (written == "Miss" && is_upper(place.peek(end + 2))) return;  // "Well, Miss. Smith"
+    if (row->kind == Kind::inside && is_upper(place.peek(end + 2))) return;
     if (place.peek(end) == '.') {
         if (!place.may_end_sentence(end + 1)) ++end;
-    } else if (row->kind == Kind::needed) {
+    } else if (row->kind == Kind::needed || row->kind == Kind::inside) {
         return;
     }
     const std::size_t zip = zip_length(place, end);

@@ -102,14 +102,11 @@ bool fits(const Place& place, const Row& row) {
     const bool is_of_path =
         after == '.' && is_lower(row.written[0]) &&
         (place.before() == '.' || place.before() == '/' || is_lower(place.peek(length + 1)));
-    // Before a rank or an office it is a lieutenant.
-    const bool is_rank =
-        row.written == "lt" && (place.starts_with(". gov", 2) || place.starts_with(". col", 2) ||
-                                place.starts_with(". gen", 2));
-    if (is_of_path || is_rank) return false;  // "misc.c"
-    if (row.written == "Sun" && (place.word_before() == "the" || place.word_before() == "The"))
-        return false;  // no day
-    if (row.kind == Kind::before_date && after != '.') return is_date_part(place, length);
+    if (is_of_path) return false;  // "misc.c"
+    if (row.kind == Kind::anywhere) return !place.is_joined(length);
+    const bool is_day = row.kind == Kind::before_date;
+    if (is_day && (place.word_before() == "the" || place.word_before() == "The")) return false;
+    if (is_day && after != '.') return is_date_part(place, length);
     if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');
     switch (row.kind) {
         case Kind::before_number: return is_before_number(place, length + 1);
@@ -123,7 +120,13 @@ bool fits(const Place& place, const Row& row) {
 bool read_row(const Place& place, Found& found) {
     const Row* row = place.find_row(TITLES, 0, [&](const Row& r) { return fits(place, r); });
     if (row == nullptr) return false;
-    take(place, row->written.size(), row->spoken, ends_sentence(row->kind), found);
+    const std::size_t length = row->written.size();
+    if (row->kind == Kind::anywhere) {
+        found.length = length;
+        found.say_name(0, length, row->spoken);
+    } else {
+        take(place, length, row->spoken, ends_sentence(row->kind), found);
+    }
     return true;
 }
 

@@ -36,12 +36,11 @@ bool may_begin_number(const Place& place) {
            (before == '\0' || before == ' ' || before == '(' || before == '\n');
 }
 
-// "A" is an article and a letter of lists too.
-bool may_be_unit(const Place& place, const Row& row, std::size_t ahead) {
+bool fits_unit(const Place& place, const Row& row, std::size_t ahead) {
     const std::size_t end = ahead + row.written.size();
-    if (row.written == "A") return place.is_before_noun(end);
-    if (row.written.back() != '.') return true;
-    return row.written != "in." || is_lower(place.peek(end + 1)) || place.peek(end) != ' ';
+    if (place.is_joined(end)) return false;
+    if (row.kind == Kind::before_noun) return place.is_before_noun(end);
+    return row.kind != Kind::inside || place.peek(end) != ' ' || !is_upper(place.peek(end + 1));
 }
 
 // " x 5 ft", " × 5 m" after a length: the cross and the blank before it.
@@ -84,9 +83,8 @@ void read_unit(const Place& place, Found& found) {
     const bool is_duration = end < 3 && find(BEFORE_SECONDS, place.word_before()) != nullptr;
     const bool may_be_plural = blank == 0 && number.fraction.empty() && !is_duration;  // "the 5s"
     const Row* row = place.find_row(UNITS, end + blank, [&](const Row& candidate) {
-        return !place.is_joined(end + blank + candidate.written.size()) &&
-               !(candidate.written == "s" && may_be_plural) &&
-               may_be_unit(place, candidate, end + blank);
+        return fits_unit(place, candidate, end + blank) &&
+               !(candidate.written == "s" && may_be_plural);
     });
     if (row == nullptr) return;
     number.say(found.words);

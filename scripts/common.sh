@@ -26,18 +26,25 @@ install_missing() {
     fi
     say "Installing ${missing[*]}"
     export DEBIAN_FRONTEND=noninteractive
-    apt-get update -q >/dev/null
-    "${command[@]}" >/dev/null
+    local log
+    log=$(mktemp)
+    { apt-get update -q && "${command[@]}"; } >"$log" 2>&1 || {
+        say "They could not be installed. Without the network, install them by hand; what apt said is in $log"
+        exit 1
+    }
+    rm "$log"
     missing=()
 }
 
 # say WORDS: what takes long now.
 say() { echo "$*" >&2; }
 
+# What is built with, in this folder. `need_compiler any`: clang++ will do as well.
 need_compiler() {
+    [ -w "$project" ] || { say "Everything is built in $project/build, and $project cannot be written to"; exit 1; }
     need cmake cmake
     need ninja ninja-build
-    need g++ g++
+    [ "${1:-}" = any ] && command -v clang++ >/dev/null || need g++ g++
 }
 
 need_browser() {

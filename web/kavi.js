@@ -187,18 +187,20 @@ class Memory {
   u32(at) {
     return this.view().getUint32(at, true);
   }
-  i32(at) {
-    return this.view().getInt32(at, true);
-  }
   bytes(at, length) {
     return new Uint8Array(this.exports.memory.buffer, at, length);
   }
   text(at) {
-    return decoder.decode(this.bytes(this.u32(at), this.u32(at + 4)));
+    const length = this.u32(at + 4);
+    return length > 0 ? decoder.decode(this.bytes(this.u32(at), length)) : '';
   }
   // NUL-terminated, at the address stored there.
   chars(at) {
-    return this.charsAt(this.u32(at));
+    return this.charsOf(this.view(), at);
+  }
+  charsOf(view, at) {
+    const begin = view.getUint32(at, true);
+    return view.getUint8(begin) === 0 ? '' : this.charsAt(begin); // as most are
   }
   charsAt(begin) {
     const bytes = new Uint8Array(this.exports.memory.buffer);
@@ -206,9 +208,11 @@ class Memory {
   }
   // What a function says for a number; asked once.
   name(of, number) {
-    const key = `${of} ${number}`;
-    if (!this.names.has(key)) this.names.set(key, this.charsAt(this.exports[of](number)));
-    return this.names.get(key);
+    let names = this.names.get(of);
+    if (names === undefined) this.names.set(of, names = new Map());
+    let name = names.get(number);
+    if (name === undefined) names.set(number, name = this.charsAt(this.exports[of](number)));
+    return name;
   }
   take(size) {
     const at = this.exports.malloc(Math.max(size, 1));
@@ -470,8 +474,10 @@ class Reader {
   #sentence(at, units) {
     const memory = this.#memory;
     const range = this.#range(at + SENTENCE.source, units);
-    const words = Array.from({length: memory.u32(at + SENTENCE.nWords)},
-      (_, i) => this.#word(memory.u32(at + SENTENCE.words) + i * WORD.size, units));
+    const plain = memory.text(at + SENTENCE.plain);
+    const before = memory.text(at + SENTENCE.before);
+    const view = memory.view();
+    const words = this.#words(at, plain, before, units, view);
     const runs = Array.from({length: memory.u32(at + SENTENCE.nRuns)}, (_, i) => {
       const run = memory.u32(at + SENTENCE.runs) + i * RUN.size;
       return {...this.#range(run + RUN.source, units), rule: memory.chars(run + RUN.rule),
@@ -479,24 +485,47 @@ class Reader {
     });
     return {...range, source: units.slice(range),
       normalized: memory.text(at + SENTENCE.normalized), speakable: memory.text(at + SENTENCE.speakable),
-      plain: memory.text(at + SENTENCE.plain), before: memory.text(at + SENTENCE.before),
-      head: this.#word(memory.u32(at + SENTENCE.head), units), words, runs,
-      endsSentence: memory.i32(at + SENTENCE.endsSentence) !== 0};
+      plain, before, head: this.#word(memory.u32(at + SENTENCE.head), '', '', units, view), words, runs,
+      endsSentence: memory.u32(at + SENTENCE.endsSentence) !== 0};
   }
 
-  #word(at, units) {
+  // The plain form is what stands before the first word, and each word with what is after it. So they are cut out of
+  // that, which is decoded once, where each of its bytes is a unit.
+  #words(at, plain, before, units, view) {
     const memory = this.#memory;
-    const word = {word: memory.text(at + WORD.text), after: memory.text(at + WORD.after),
-      ...this.#range(at + WORD.source, units),
-      pause: memory.name('kavi_pause_name', memory.i32(at + WORD.pause))};
-    const nMarks = memory.i32(at + WORD.nMarks);
+    const isCut = view.getUint32(at + SENTENCE.plain + 4, true) === plain.length;
+    const first = view.getUint32(at + SENTENCE.words, true);
+    const words = [];
+    let place = before.length;
+    for (let i = 0, n = view.getUint32(at + SENTENCE.nWords, true); i < n; ++i) {
+      const word = first + i * WORD.size;
+      if (isCut) {
+        const end = place + view.getUint32(word + WORD.text + 4, true);
+        const next = end + view.getUint32(word + WORD.after + 4, true);
+        words.push(this.#word(word, plain.slice(place, end), plain.slice(end, next), units, view));
+        place = next;
+      } else {
+        words.push(this.#word(word, memory.text(word + WORD.text), memory.text(word + WORD.after), units, view));
+      }
+    }
+    return words;
+  }
+
+  #word(at, text, after, units, view) {
+    const memory = this.#memory;
+    const begin = view.getUint32(at + WORD.source, true);
+    const offset = units.at(begin);
+    const length = units.at(begin + view.getUint32(at + WORD.source + 4, true)) - offset;
+    const word = {word: text, after, offset, length,
+      pause: memory.name('kavi_pause_name', view.getInt32(at + WORD.pause, true))};
+    const nMarks = view.getInt32(at + WORD.nMarks, true);
     if (nMarks > 0) {
       word.marks = Array.from(memory.bytes(at + WORD.marks, nMarks), mark => memory.name('kavi_mark_name', mark));
     }
-    const breakTime = memory.chars(at + WORD.breakTime);
+    const breakTime = memory.charsOf(view, at + WORD.breakTime);
     if (breakTime !== '') word.breaktime = breakTime;
     for (let i = 0; i < ATTRIBUTES; ++i) {
-      const value = memory.chars(at + WORD.attributes + 4 * i);
+      const value = memory.charsOf(view, at + WORD.attributes + 4 * i);
       if (value !== '') word[memory.name('kavi_attribute_name', i)] = value;
     }
     return word;
@@ -504,7 +533,7 @@ class Reader {
 
   #finding(at, units) {
     const memory = this.#memory;
-    const code = memory.i32(at + FINDING.code);
+    const code = memory.u32(at + FINDING.code);
     const begin = memory.u32(at + FINDING.offset);
     const offset = units.at(begin);
     return {code: memory.name('kavi_finding_code', code), message: memory.name('kavi_finding_message', code), offset,

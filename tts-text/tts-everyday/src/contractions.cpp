@@ -56,6 +56,18 @@ bool is_has(const Place& place, std::size_t ahead) {
     return next == "been" || next == "got" || next == "had" || next == "become";
 }
 
+// "an ‘s’": after the quotation mark, of `mark` bytes, this is a letter and no verb, as the engine
+// has it.
+void read_quoted_letter(const Place& place, std::size_t mark, Found& found) {
+    const std::size_t end = mark + 1 + place.apostrophe(mark + 1);
+    const char c = place.peek(mark);
+    const bool is_one = (c == 's' || c == 't' || c == 'm') && end > mark + 1 &&
+                        !place.is_joined(end) && !place.is_joined_before();
+    if (!is_one) return;
+    found.length = end;
+    found.words = place.part(mark, 1);
+}
+
 }  // namespace
 
 void read_contraction(const Place& place, Found& found) {
@@ -70,7 +82,7 @@ void read_contraction(const Place& place, Found& found) {
         if (is_upper(place.peek())) capitalise(found.words);
         return;
     }
-    if (stem.empty()) return;
+    if (stem.empty()) return read_quoted_letter(place, mark, found);
     const std::string_view ending = place.letters(stem.size() + mark);
     if (ending.empty()) {  // "the boys' bikes"
         if (to_lower(stem.back()) != 's') return;

@@ -113,8 +113,14 @@ void read_year(const Place& place, Found& found) {
     const bool is_year = is_era || stands_alone || is_after_circa(place) ||
                          find(BEFORE_YEAR, place.word_before()) != nullptr;
     if (!is_year) return;
+    const std::size_t mark = place.apostrophe(4);
+    const bool is_genitive = mark > 0 && place.peek(4 + mark) == 's' && !place.is_joined(5 + mark);
+    if (is_genitive && digits[3] == '0') return;  // "1000's of"; a decade is read before
     say_year(digits, found.words);
     found.length = 4;
+    if (!is_genitive) return;
+    found.words += 's';
+    found.length += mark + 1;
 }
 
 }  // namespace kavi::everyday

@@ -199,6 +199,11 @@ TEST(Everyday, ReadsNoMoreThanItShould) {
     }
 }
 
+TEST(Everyday, WordBeyondWhatARuleSees_IsLeft) {
+    const std::string word(300, 'a');
+    EXPECT_EQ(rewritten(all_classes(), "www." + word + ".com"), "www." + word + " dot com");
+}
+
 TEST(Everyday, EachClassIsSwitchedByItself) {
     const std::pair<EverydayClass, const char*> texts[] = {
         {EverydayClass::titles, "Mr. X"},      {EverydayClass::contractions, "won't"},

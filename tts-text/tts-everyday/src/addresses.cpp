@@ -56,8 +56,7 @@ void say_address(std::string_view address, std::string& out) {
                 say(address.substr(0, length), out);
             }
         } else if (is_digit(address[0])) {
-            length = place.digits().size();
-            say_digits(address.substr(0, length), out);
+            say_digits(address.substr(0, 1), out);
         } else {
             const Row* mark = find(ADDRESS_MARKS, address.substr(0, 1));
             if (mark != nullptr) say(mark->spoken, out);

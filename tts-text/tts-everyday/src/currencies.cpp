@@ -48,8 +48,7 @@ const Row* code_before(const Place& place) {
     const std::string_view code = place.letters();
     if (code.size() != 3) return nullptr;
     const Row* row = find(CURRENCIES, code);
-    if (row == nullptr || row->kind != Kind::after) return nullptr;
-    return place.peek(3) == ' ' && is_digit(place.peek(4)) ? row : nullptr;
+    return row != nullptr && place.peek(3) == ' ' && is_digit(place.peek(4)) ? row : nullptr;
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ bool read_hash(const Place& place, Found& found) {
 // "~/notes", "~bob"; alone it is an ornament.
 bool read_tilde(const Place& place, Found& found) {
     const bool is_name = begins_word(place) && (place.peek(1) == '/' || place.letter(1) > 0);
-    keep_silent(1, found);
+    found.length = 1;
     if (is_name) found.words = "tilde";
     return true;
 }

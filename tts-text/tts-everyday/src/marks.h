@@ -22,12 +22,6 @@ inline bool begins_word(const Place& place) {
     return may_precede_word(before) || (is_outside_ascii(before) && !place.is_joined_before());
 }
 
-// For a blank the engine says nothing.
-inline void keep_silent(std::size_t length, Found& found) {
-    found.length = length;
-    found.words = " ";
-}
-
 // Each answers whether it has read the mark at the cursor.
 bool read_rule(const Place& place, Found& found);  // silent_marks.cpp
 bool read_stress(const Place& place, Found& found);

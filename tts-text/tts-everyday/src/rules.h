@@ -8,7 +8,7 @@
 
 namespace kavi::everyday {
 
-// What a rule has read: the length of the text and the words for it.
+// What a rule has read: the length of the text and the words for it; without words it is silent.
 struct Found {
     std::size_t length = 0;  // 0: nothing
     std::string words;

@@ -65,7 +65,7 @@ bool read_rule(const Place& place, Found& found) {
     const std::size_t length = run_of(place, mark, 0, SHORTEST + 1);
     const bool goes_on = place.before(1) == mark && place.before(2) == mark;
     if (length < SHORTEST && !goes_on) return false;
-    keep_silent(length, found);
+    found.length = length;
     return true;
 }
 
@@ -79,7 +79,7 @@ bool read_stress(const Place& place, Found& found) {
     const bool ends = !begins && !is_blank_or_end(place.before()) && !place.is_joined(length) &&
                       has_begin_of_stress(place, length);
     if (!begins && !ends) return false;
-    keep_silent(length, found);
+    found.length = length;
     return true;
 }
 
@@ -91,7 +91,7 @@ bool read_silent_asterisk(const Place& place, Found& found) {
     const bool is_left_out = length > 1 && is_letter(place.before());
     const bool is_edge = length == 1 && place.before() == ' ' && place.peek(1) == '\n';
     if (!is_bullet && !is_edge && !is_footnote && !is_left_out) return false;
-    keep_silent(length, found);
+    found.length = length;
     return true;
 }
 
@@ -114,7 +114,7 @@ bool read_quotation(const Place& place, Found& found) {
     const bool is_quotation = place.begins_line() && (is_blank_or_end(after) || after == '>' ||
                                                       (place.peek() == '>' && is_letter(after)));
     if (!is_quotation && (place.peek() != '>' || !closes_bracket(place))) return false;
-    keep_silent(1, found);
+    found.length = 1;
     return true;
 }
 

@@ -77,13 +77,15 @@ def in_document(text, mark, lines):
 
 def main():
     table = ["| text | cases | engine | everyday | flite |", "|---|---|---|---|---|"]
-    all_lost, still, faults = [], [], []
+    all_lost, still, faults, sealed_lost = [], [], [], 0
     for name, goal in GOALS.items():
         for part in ("open",) if ONLY_RULES else ("open", "sealed"):
             rows, lost, missed, reached = rows_of(name, part)
             table += rows
-            all_lost += lost
-            if part == "open":
+            if part == "sealed":  # the cases stay unread
+                sealed_lost += len(lost)
+            else:
+                all_lost += lost
                 still += missed
                 if reached < goal:
                     faults.append(f"{reached:.1f} % of {name}, {goal} % wanted")
@@ -96,9 +98,9 @@ def main():
     if ONLY_RULES:
         sys.exit(new != old)
     new = in_document(new, "table", table)
-    new = in_document(new, "lost", [f"- «{case}»" for case in all_lost] or ["None."])
+    new = in_document(new, "lost", [*(f"- «{case}»" for case in all_lost), f"- {sealed_lost} of the sealed cases"])
     print("\n".join(table))
-    print(f"{good} of {total} regression cases; {len(all_lost)} cases worse than the engine alone; all in {DOCUMENT}")
+    print(f"{good} of {total} regression cases; {len(all_lost) + sealed_lost} cases worse than the engine alone; all in {DOCUMENT}")
     if sys.argv[3:] == ["--check"] and new != old:
         sys.exit(f"{DOCUMENT} tells something else: run scripts/quality")
     DOCUMENT.write_text(new, encoding="utf-8")

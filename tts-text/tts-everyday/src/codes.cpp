@@ -84,7 +84,7 @@ void read_long_code(const Place& place, Found& found) {
     found.length = end;
 }
 
-// "Flight 370", "Biology 101", "PO Box 1410"
+// "Flight 370", "Biology 101", "PO Box 1410", "call 911"
 void read_numbered(const Place& place, Found& found) {
     const std::string_view digits = place.digits();
     const std::size_t end = digits.size();
@@ -93,7 +93,14 @@ void read_numbered(const Place& place, Found& found) {
     const bool goes_on = (after == '.' || after == ',' || after == ':' || after == '/') &&
                          is_digit(place.peek(end + 1));
     if (goes_on || after == '%' || place.dash(end) > 0) return;
-    if (find(NUMBERED_IN_PAIRS, place.word_before()) == nullptr) return;
+    const std::string_view before = place.word_before();
+    if (find(EMERGENCY_NUMBERS, digits) != nullptr &&
+        find(BEFORE_DIALLED, in_lower_case(before)) != nullptr) {
+        say_digits(digits, found.words);
+        found.length = end;
+        return;
+    }
+    if (find(NUMBERED_IN_PAIRS, before) == nullptr) return;
     say_in_pairs(digits, found.words);
     found.length = end;
 }

@@ -52,6 +52,7 @@ constexpr Spec RULES[] = {
     {EverydayClass::titles, read_state, "A", ""},
     {EverydayClass::titles, read_title, "aA", "."},
     {EverydayClass::titles, read_bare_title, "aA", ", Z9z"},
+    {EverydayClass::titles, read_capitals, "A", ""},
     {EverydayClass::years, read_month, "A", ".9"},
     {EverydayClass::years, read_date, "0", "-./ Za"},
     {EverydayClass::numbers, read_version, "0", "."},

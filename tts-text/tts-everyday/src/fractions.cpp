@@ -6,13 +6,9 @@ namespace kavi::everyday {
 
 namespace {
 
-// "1/2", "3/4", "24/7": up to two digits above, three below.
+// "1/2", "3/4": up to two digits above, three below.
 bool say_fraction(std::string_view above, std::string_view below, std::string& out) {
     if (above.size() > 2 || below.empty() || below.size() > 3 || below[0] == '0') return false;
-    if (const Row* row = find(FRACTIONS, std::string(above) + "/" + std::string(below))) {
-        say(row->spoken, out);
-        return true;
-    }
     if (below == "1") return false;
     say_cardinal(above, out);
     const bool is_one = above == "1";
@@ -69,14 +65,13 @@ bool read_whole_and_slash(const Place& place, std::string_view whole, Found& fou
     return true;
 }
 
-// "rated 9/10", "a 7/10", "4/5 stars"
+// "a 7/10", "4/5 stars"
 bool is_rating(const Place& place, std::string_view above, std::string_view below,
                std::size_t end) {
     if (!is_best_mark(below) || is_less(below, above)) return false;
     const std::string_view before = place.word_before();
     const bool has_article = (before == "a" || before == "an") && below != "5" && above != "1";
-    return has_article || find(BEFORE_RATING, before) != nullptr ||
-           place.starts_with(" stars", end) || place.starts_with(" points", end);
+    return has_article || place.starts_with(" stars", end) || place.starts_with(" points", end);
 }
 
 // "120/80", "355/113": three digits above; after a name they are two numbers, "Boeing 757/767".
@@ -89,8 +84,11 @@ bool is_ratio(const Place& place, std::string_view above, std::string_view below
 // What is said between two numbers that are no fraction, perhaps nothing; null where they are one.
 const char* words_between(const Place& place, std::string_view above, std::string_view below,
                           std::size_t end) {
-    if (find(FRACTIONS, place.part(0, end)) != nullptr) return nullptr;
     if (is_rating(place, above, below, end)) return "out of";
+    if (const Row* row = find(BEFORE_SLASH, in_lower_case(place.word_before()))) {
+        const bool is_mark = is_best_mark(below) && !is_less(below, above);
+        if (is_mark || std::string_view(row->spoken) == "of") return row->spoken;
+    }
     if (above == below && above.size() < 4 && above != "1") {  // "20/20"
         const bool is_sight =
             place.starts_with(" vision", end) || place.starts_with(" hindsight", end);
@@ -105,7 +103,10 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
     const std::string_view below = place.digits(above.size() + 1);
     const std::size_t end = above.size() + 1 + below.size();
     if (place.peek(end) == '/') return false;
-    if (const char* words = words_between(place, above, below, end)) {
+    const Row* named = find(FRACTIONS, place.part(0, end));
+    if (named != nullptr && !place.starts_with(" of ", end)) {  // "9/11 of them" are a part
+        say(named->spoken, found.words);
+    } else if (const char* words = words_between(place, above, below, end)) {
         say_cardinal(above, found.words);
         if (*words != '\0') say(words, found.words);
         say_cardinal(below, found.words);

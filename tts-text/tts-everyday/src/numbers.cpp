@@ -72,7 +72,8 @@ std::size_t say_range(const Place& place, std::size_t ahead, std::string& out) {
     const std::size_t end = ahead + dash + last.length;
     if (last.length == 0 || (place.dash(end) > 0 && is_digit(place.peek(end + place.dash(end)))))
         return 0;
-    say("to", out);
+    const bool is_even = last.whole == "50" && place.starts_with("50");  // "50-50"
+    if (!is_even) say("to", out);
     last.say(out);
     return dash + last.length;
 }

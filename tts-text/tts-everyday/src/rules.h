@@ -35,6 +35,7 @@ using Rule = void (*)(const Place& place, Found& found);
 
 void read_title(const Place& place, Found& found);         // titles.cpp
 void read_bare_title(const Place& place, Found& found);    // the same without a full stop
+void read_capitals(const Place& place, Found& found);      // capitals.cpp
 void read_state(const Place& place, Found& found);         // states.cpp
 void read_scripture(const Place& place, Found& found);     // scripture.cpp
 void read_contraction(const Place& place, Found& found);   // contractions.cpp
@@ -42,9 +43,9 @@ void read_currency(const Place& place, Found& found);      // currencies.cpp
 void read_amount_after(const Place& place, Found& found);  // the same, its symbol after the number
 void read_unit(const Place& place, Found& found);          // units.cpp
 void read_rate(const Place& place, Found& found);
-void read_year(const Place& place, Found& found);          // years.cpp
-void read_month(const Place& place, Found& found);         // dates.cpp, from the month on
-void read_date(const Place& place, Found& found);          // from a number on
+void read_year(const Place& place, Found& found);   // years.cpp
+void read_month(const Place& place, Found& found);  // dates.cpp, from the month on
+void read_date(const Place& place, Found& found);   // from a number on
 void read_american_date(const Place& place, Found& found);
 void read_time(const Place& place, Found& found);       // times.cpp
 void read_telephone(const Place& place, Found& found);  // addresses.cpp

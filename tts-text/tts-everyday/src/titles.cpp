@@ -6,17 +6,22 @@ namespace kavi::everyday {
 
 namespace {
 
-// Takes the full stop after `length` characters too, unless it may end the sentence.
-void take(const Place& place, std::size_t length, const char* spoken, bool may_end, Found& found) {
-    const bool keeps_stop = may_end && place.may_end_sentence(length + 1);
-    found.length = length + (place.peek(length) == '.' && !keeps_stop ? 1 : 0);
-    found.say_name(0, length, spoken);
-    const std::size_t mark = place.apostrophe(found.length);  // "Corp.'s"
+// "Corp.'s", "the U.S.'s"
+void take_genitive(const Place& place, Found& found) {
+    const std::size_t mark = place.apostrophe(found.length);
     const std::size_t end = found.length + mark + 1;
     if (mark > 0 && place.peek(end - 1) == 's' && !place.is_joined(end)) {
         found.words += 's';
         found.length = end;
     }
+}
+
+// Takes the full stop after `length` characters too, unless it may end the sentence.
+void take(const Place& place, std::size_t length, const char* spoken, bool may_end, Found& found) {
+    const bool keeps_stop = may_end && place.may_end_sentence(length + 1);
+    found.length = length + (place.peek(length) == '.' && !keeps_stop ? 1 : 0);
+    found.say_name(0, length, spoken);
+    take_genitive(place, found);
 }
 
 // A number, or a Roman numeral that is not "I".
@@ -61,6 +66,7 @@ void read_initials(const Place& place, Found& found) {
         !is_initial && place.may_end_sentence(length) && !is_upper(place.peek(length + 1));
     found.length = length - (ends ? 1 : 0);
     found.words = words;
+    if (!ends) take_genitive(place, found);
 }
 
 // "St. John" is a saint, "Main St." a street.
@@ -77,16 +83,65 @@ bool read_saint_or_street(const Place& place, Found& found) {
     return true;
 }
 
-// "King Dr. across": after a name and before no other, a street.
+// "King Dr. across", "Watson Dr and": after a name and before no other, a street.
 bool read_drive(const Place& place, Found& found) {
-    if (place.letters() != "Dr" || place.peek(2) != '.' || place.before() != ' ') return false;
+    if (place.letters() != "Dr" || place.before() != ' ') return false;
     const std::string_view name = place.word_before();
-    const bool is_street = name.size() > 3 && is_upper(name[0]) && is_lower(name[1]) &&
-                           (is_lower(place.peek(4)) || place.may_end_sentence(3)) &&
-                           !is_upper(place.peek(4));
-    if (!is_street) return false;
+    const bool is_after_name = name.size() > 3 && is_upper(name[0]) && is_lower(name[1]);
+    const bool is_bare = place.peek(2) == ' ' && is_lower(place.peek(3));
+    const bool has_stop = place.peek(2) == '.' && !is_upper(place.peek(4)) &&
+                          (is_lower(place.peek(4)) || place.may_end_sentence(3));
+    if (!is_after_name || (!is_bare && !has_stop)) return false;
     take(place, 2, "drive", true, found);
     return true;
+}
+
+// "Sr. Agnes"; after a name it is a senior
+bool read_sister(const Place& place, Found& found) {
+    if (place.letters() != "Sr" || place.peek(2) != '.') return false;
+    const std::string_view name = place.word_before();
+    const bool is_after_name = !name.empty() && is_upper(name[0]) && place.before(2) != '.';
+    if (is_after_name || place.peek(3) != ' ' || !is_upper(place.peek(4))) return false;
+    take(place, 2, "sister", false, found);
+    return true;
+}
+
+// "12 E. Elm St."
+bool read_compass_point(const Place& place, Found& found) {
+    if (place.before() != ' ' || !is_digit(place.before(2))) return false;
+    const std::string_view letters = place.letters();
+    const Row* row = find(COMPASS, letters);
+    const std::size_t stop = letters.size();
+    const bool is_before_street = row != nullptr && place.peek(stop) == '.' &&
+                                  place.peek(stop + 1) == ' ' && is_upper(place.peek(stop + 2)) &&
+                                  is_lower(place.peek(stop + 3));
+    if (!is_before_street) return false;
+    take(place, stop, row->spoken, false, found);
+    return true;
+}
+
+// "Keats, b. 1795", "est. 1901"
+bool read_word_of_life(const Place& place, Found& found) {
+    const std::string_view letters = place.letters();
+    const Row* row = find(WORDS_OF_LIFE, letters);
+    if (row == nullptr || place.peek(letters.size()) != '.') return false;
+    const std::size_t at = letters.size() + 1 + place.blanks(letters.size() + 1);
+    const std::string_view year = place.digits(at);
+    const std::size_t end = at + year.size();
+    const bool goes_on =
+        place.is_joined(end) || (place.peek(end) == ',' && is_digit(place.peek(end + 1)));
+    const char before = place.before() == ' ' ? place.before(2) : place.before();
+    const bool is_after_mark = before == '(' || before == ',' || before == ';' || before == ':';
+    if (!may_be_year(year) || goes_on || (letters.size() == 1 && !is_after_mark)) return false;
+    take(place, letters.size(), row->spoken, false, found);
+    return true;
+}
+
+// "Did he? No. 5 had", "Say no. 9 times out of 10"
+bool is_answer(const Place& place) {
+    return place.before() == ' ' &&
+           (place.before(2) == '?' ||
+            find(BEFORE_ANSWER, in_lower_case(place.word_before())) != nullptr);
 }
 
 // "2nd ed."
@@ -109,9 +164,13 @@ bool fits(const Place& place, const Row& row) {
     if (is_day && after != '.') return is_date_part(place, length);
     if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');
     switch (row.kind) {
-        case Kind::before_number: return is_before_number(place, length + 1);
+        case Kind::before_number:
+            if ((row.written == "No" || row.written == "no") && is_answer(place)) return false;
+            return is_before_number(place, length + 1);
         case Kind::before_name:
             return place.peek(length + 1) == ' ' && is_upper(place.peek(length + 2));
+        case Kind::inside:
+            return is_lower(place.peek(length + 2)) || is_before_number(place, length + 1);
         case Kind::after_ordinal: return is_after_ordinal(place);
         default: return true;
     }
@@ -133,12 +192,14 @@ bool read_row(const Place& place, Found& found) {
 }  // namespace
 
 void read_title(const Place& place, Found& found) {
-    if (read_drive(place, found) || read_row(place, found)) return;
+    if (read_drive(place, found) || read_sister(place, found) || read_compass_point(place, found) ||
+        read_word_of_life(place, found) || read_row(place, found))
+        return;
     if (!read_saint_or_street(place, found)) read_initials(place, found);
 }
 
 void read_bare_title(const Place& place, Found& found) {
-    read_row(place, found);
+    if (!read_drive(place, found)) read_row(place, found);
 }
 
 }  // namespace kavi::everyday

@@ -28,6 +28,22 @@ bool read_height(const Place& place, Found& found) {
     return true;
 }
 
+// "a 12\" pizza", "2.5\" disks"; a quotation may end in a number too
+bool read_inches(const Place& place, const Number& number, Found& found) {
+    const std::size_t end = number.length + 1;
+    if (place.peek(number.length) != '"' || place.peek(end) != ' ' || place.letter(end + 1) == 0)
+        return false;
+    const std::string_view before = place.word_before();
+    if (number.fraction.empty() && before != "a" && before != "an") return false;
+    for (std::size_t back = 1; back <= LOOK_BACK; ++back) {
+        if (place.before(back) == '"') return false;
+    }
+    number.say(found.words);
+    say("inch", found.words);
+    found.length = end;
+    return true;
+}
+
 // ".5 km", but not "fig.5 m" or "...5 m"
 bool may_begin_number(const Place& place) {
     if (is_digit(place.peek())) return true;
@@ -73,7 +89,7 @@ void read_unit(const Place& place, Found& found) {
     if (read_height(place, found)) return;
     if (!may_begin_number(place)) return;
     const Number number = number_at(place, 0);
-    if (number.length == 0) return;
+    if (number.length == 0 || read_inches(place, number, found)) return;
     std::size_t end = number.length;
     Number second;  // of a range
     const std::size_t dash = place.dash(end);

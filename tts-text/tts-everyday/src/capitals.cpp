@@ -1,0 +1,33 @@
+// Capitals that are said letter by letter though they look like a word: "the US team".
+
+#include "rules.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+bool is_capitals(std::string_view word) {
+    return word.size() > 1 && std::all_of(word.begin(), word.end(), is_upper);
+}
+
+// Where other words are in capitals too, they tell nothing.
+bool is_among_capitals(const Place& place, std::size_t ahead) {
+    return is_capitals(place.word_before()) || is_capitals(place.letters(ahead + 1));
+}
+
+}  // namespace
+
+void read_capitals(const Place& place, Found& found) {
+    const std::string_view letters = place.letters();
+    const Row* row = find(CAPITALS, letters);
+    const std::size_t end = letters.size();
+    if (row == nullptr || place.is_joined(end) || place.is_joined_before()) return;
+    if (place.peek(end) == '$' || is_among_capitals(place, end)) return;
+    const std::string_view before = place.word_before();
+    const bool has_article = before == "the" || before == "The" || before == "an" || before == "An";
+    if (row->kind == Kind::after && !has_article) return;
+    found.say_name(0, end, row->spoken);
+    found.length = end;
+}
+
+}  // namespace kavi::everyday

@@ -144,6 +144,8 @@ export interface Reader {
 }
 
 export interface Kavi {
+  /** The same number has read the same text the same. */
+  readonly readingsVersion: number;
   reader(options?: ReaderOptions): Reader;
   /** Those of a reader without options; after load({everyday: true}), of one with everyday English. */
   normalize(text: string): string;

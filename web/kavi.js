@@ -562,7 +562,8 @@ export const loading = bytesOf => async function load(options = {}) {
   let usual;
   const reader = settings => new Reader(memory, settings);
   const theUsual = () => usual ??= reader({everyday});
-  return {reader, normalize: text => theUsual().normalize(text), read: (text, settings) => theUsual().read(text, settings),
+  return {readingsVersion: memory.exports.kavi_readings_version(), reader,
+    normalize: text => theUsual().normalize(text), read: (text, settings) => theUsual().read(text, settings),
     lines: (chunks, settings) => theUsual().lines(chunks, settings),
     stream: (pieces, settings) => theUsual().stream(pieces, settings)};
 };

@@ -23,6 +23,7 @@ from kavi._types import Everyday, Finding, FindingCode, Mark, Pause, Run, Uttera
 __all__ = ["Everyday", "Finding", "FindingCode", "Line", "Mark", "Pause", "Reader", "Result", "Run", "Sentence",
            "Stream", "Utterance", "Word", "normalize", "normalize_many", "read", "read_file"]
 __version__ = _kavi.version
+readings_version = _kavi.readings_version  # the same number, the same readings
 
 _BATCH = 512  # texts that a thread is given at once
 

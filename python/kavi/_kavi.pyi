@@ -3,6 +3,7 @@ from typing import Any, List, Tuple
 from kavi._types import Finding, Run, Word
 
 version: str
+readings_version: int
 
 class Sentence:
     """One sentence. Offsets and lengths are code points of the text. Can be compared, printed and pickled."""

@@ -39,6 +39,7 @@ py::tuple names() {
 
 PYBIND11_MODULE(_kavi, module) {
     module.attr("version") = KAVI_VERSION;
+    module.attr("readings_version") = kavi::READINGS_VERSION;
     module.def("names", names);
     kavi::python::add_results(module);
     kavi::python::add_reader(module);

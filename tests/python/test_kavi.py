@@ -35,6 +35,7 @@ def test_examples_in_documentation() -> None:
 def test_the_program_is_the_tool_or_its_plain_form(tmp_path: pathlib.Path, monkeypatch: pytest.MonkeyPatch) -> None:
     golden = PROJECT / "tests/golden"
     inputs = [str(golden / "input.txt"), str(golden / "second <&\">.txt")]
+    assert tool("--version").split()[-1] == str(kavi.readings_version).encode()
     assert tool("--words", *inputs) == (golden / "words.txt").read_bytes()
     (tmp_path / "lexicon").write_text("kavi\tkahvee\n")
     commands = [("--plain", *inputs), ("--plain", "--everyday", "--american-dates", "--lexicon", str(tmp_path / "lexicon"))]

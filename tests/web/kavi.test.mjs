@@ -60,6 +60,7 @@ function listed({sentences, findings}, text) {
 }
 
 test('answers as C does', () => {
+  assert.ok(execFileSync(process.env.KAVI_TN, ['--version']).toString().endsWith(` ${small.readingsVersion}\n`));
   const golden = readFileSync('tests/golden/answers.txt').toString();
   const everyday = large.reader({everyday: true});
   const answers = golden.match(/^>.*$/gm).map(line => {

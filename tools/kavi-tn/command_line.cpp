@@ -31,7 +31,8 @@ What is written of each sentence, a line or a table each:
 How it is written:
   --format FORMAT      text (the default), jsonl (an object a sentence), html (a page) or ssml
   --fields LIST        of jsonl: input,line,sentence,offset,length,source,normalized,speakable,
-                       plain,before,words,findings,runs; without it all but runs
+                       plain,before,words,findings,runs,version; without it
+                       all but runs and version
   --marks              of ssml: before each word a mark named OFFSET-LENGTH, its place in the line
   -o, --output FILE    to FILE, which changes only when all is written, and may be an input
 
@@ -286,7 +287,7 @@ std::optional<Options> parse_command_line(int argc, char** argv, int& status) {
     if (parser.wants_help()) {
         std::cout << HELP;
     } else if (parser.wants_version()) {
-        std::cout << "kavi-tn " KAVI_VERSION "\n";
+        std::cout << "kavi-tn " KAVI_VERSION ", readings " << READINGS_VERSION << "\n";
     } else if (!wrong.empty()) {
         write_messages("kavi-tn: " + wrong + "\nTry \"kavi-tn --help\".\n");
         status = WRONG_USAGE;

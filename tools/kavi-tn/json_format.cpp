@@ -6,6 +6,7 @@
 #include "format.h"
 #include "json_line.h"
 #include "names.h"
+#include "tts_everyday.h"
 #include "tts_explain.h"
 #include "tts_plain.h"
 
@@ -66,6 +67,7 @@ class JsonFormat : public Format {
             case Field::words: return write_words(sentence);
             case Field::findings: return write_findings(place, diagnostics);
             case Field::runs: return write_runs(place, sentence);
+            case Field::version: return line_.number(READINGS_VERSION);
         }
     }
 

@@ -27,6 +27,7 @@ constexpr FieldRow FIELDS[] = {
     {Field::words, "words"},
     {Field::findings, "findings"},
     {Field::runs, "runs"},
+    {Field::version, "version"},
 };
 
 // A field is found by its place.
@@ -35,7 +36,7 @@ constexpr bool are_in_order() {
     for (const FieldRow& row : FIELDS) {
         if (static_cast<int>(row.field) != place++) return false;
     }
-    return place == static_cast<int>(Field::runs) + 1;
+    return place == static_cast<int>(Field::version) + 1;
 }
 static_assert(are_in_order());
 

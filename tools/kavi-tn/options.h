@@ -27,12 +27,13 @@ enum class Field {
     words,
     findings,
     runs,
+    version,  // of the readings
 };
 
 struct Options {
     Stage stage = Stage::speakable;
     FormatName format = FormatName::text;
-    std::vector<Field> fields;       // of JSON Lines; empty: all but the runs
+    std::vector<Field> fields;       // of JSON Lines; empty: all but runs and version
     bool marks = false;              // of SSML: a mark before each word
     std::vector<std::string> files;  // "-" is standard input
     bool has_text = false;

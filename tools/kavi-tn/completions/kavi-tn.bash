@@ -10,7 +10,7 @@ _kavi_tn() {
             local before=
             [[ $current == *,* ]] && before=${current%,*},
             mapfile -t COMPREPLY < <(compgen -P "$before" -W "input line sentence offset length source
-                normalized speakable plain before words findings runs" -- "${current##*,}") && return ;;
+                normalized speakable plain before words findings runs version" -- "${current##*,}") && return ;;
         --without) mapfile -t COMPREPLY < <(compgen -W "titles contractions currencies units years times
                 addresses roman numbers letters shields marks" -- "$current") && return ;;
         -t | --text | -j | --jobs | --part) return ;;

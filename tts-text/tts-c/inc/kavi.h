@@ -43,6 +43,10 @@ extern "C" {
 /* The version of the library that runs, as KAVI_VERSION; a constant text. */
 KAVI_API const char* kavi_version(void);
 
+/* The version of the readings: another number in a library that reads anything otherwise. What the
+ * same number has read is the same. */
+KAVI_API int32_t kavi_readings_version(void);
+
 typedef enum kavi_status {
     KAVI_OK,
     KAVI_INCOMPLETE, /* read, but for pieces that the capacity does not hold; findings tell where */

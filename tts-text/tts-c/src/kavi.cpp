@@ -10,6 +10,7 @@
 #include <new>
 
 #include "reader.h"
+#include "tts_everyday.h"
 #include "tts_names.h"
 
 namespace {
@@ -81,6 +82,10 @@ bool is_finding(std::int32_t code) {
 
 const char* kavi_version(void) {
     return KAVI_VERSION;
+}
+
+int32_t kavi_readings_version(void) {
+    return kavi::READINGS_VERSION;
 }
 
 const char* kavi_status_text(kavi_status status) {

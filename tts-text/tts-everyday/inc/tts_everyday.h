@@ -10,6 +10,10 @@
 
 namespace kavi {
 
+// Changes in a release when anything is read otherwise than in the one before it; scripts/release
+// compares.
+inline constexpr int READINGS_VERSION = 1;
+
 // What is rewritten, each by rules of its own.
 enum class EverydayClass {
     titles,        // Mr. etc. U.S.

@@ -7,13 +7,12 @@
 
 from __future__ import annotations
 
-import concurrent.futures
 import itertools
 import os
 import threading
 from collections import deque
-from typing import (Any, AsyncIterable, AsyncIterator, Deque, Iterable, Iterator, List, NamedTuple, Optional, Tuple,
-                    Union, overload)
+from typing import (Any, AsyncIterable, AsyncIterator, Callable, Deque, Iterable, Iterator, List, NamedTuple, Optional,
+                    Tuple, TypeVar, Union, overload)
 
 from kavi import _kavi
 from kavi._kavi import Result, Sentence
@@ -21,11 +20,12 @@ from kavi._stream import Stream
 from kavi._types import Everyday, Finding, FindingCode, Mark, Pause, Run, Utterance, Word
 
 __all__ = ["Everyday", "Finding", "FindingCode", "Line", "Mark", "Pause", "Reader", "Result", "Run", "Sentence",
-           "Stream", "Utterance", "Word", "normalize", "normalize_many", "read", "read_file"]
+           "Stream", "Utterance", "Word", "normalize", "normalize_many", "read", "read_file", "read_many"]
 __version__ = _kavi.version
 readings_version = _kavi.readings_version  # the same number, the same readings
 
 _BATCH = 512  # texts that a thread is given at once
+_T = TypeVar("_T")
 
 
 _CLASSES = {str(one.name).lower(): one for one in Everyday if one not in (Everyday.NONE, Everyday.ALL)}
@@ -126,28 +126,36 @@ class Reader:
         Holds a few thousand texts at a time; `texts` is advanced in the calling thread. Raises TypeError for a str,
         which is one text, ValueError for fewer jobs than one, and MemoryError as normalize().
         """
+        return self._many(texts, jobs, lambda reader, batch: reader.normalize_batch(batch))
+
+    def read_many(self, texts: Iterable[str], rules: bool = False, jobs: int = 1) -> Iterator[Result]:
+        """Yields what read() returns for each text; all else as normalize_many()."""
+        return self._many(texts, jobs, lambda reader, batch: reader.read_batch(batch, rules))
+
+    def _many(self, texts: Iterable[str], jobs: int, read: Callable[[_kavi.Reader, List[str]], List[_T]]) -> Iterator[_T]:
         if isinstance(texts, str):
-            raise TypeError("texts is a str: one text is for normalize()")
+            raise TypeError("texts is a str: one text is not many")
         if jobs < 1:
             raise ValueError("jobs must be at least 1")
         source = iter(texts)
-        return self._normalize_batches(iter(lambda: list(itertools.islice(source, _BATCH)), []), jobs)
+        return self._batches(iter(lambda: list(itertools.islice(source, _BATCH)), []), jobs, read)
 
-    def _normalize_batches(self, batches: Iterator[List[str]], jobs: int) -> Iterator[str]:
+    def _batches(self, batches: Iterator[List[str]], jobs: int, read: Callable[[_kavi.Reader, List[str]], List[_T]]) -> Iterator[_T]:
         if jobs == 1:
             for batch in batches:
-                yield from self._reader.normalize_batch(batch)
+                yield from read(self._reader, batch)
             return
+        from concurrent.futures import Future, ThreadPoolExecutor  # most of what it would take to import this package
+
         local = threading.local()
 
-        def work(batch: List[str]) -> List[str]:
+        def work(batch: List[str]) -> List[_T]:
             if not hasattr(local, "reader"):
                 local.reader = _kavi.reader(*self._settings)
-            spoken: List[str] = local.reader.normalize_batch(batch)
-            return spoken
+            return read(local.reader, batch)
 
-        with concurrent.futures.ThreadPoolExecutor(jobs) as threads:
-            ahead: Deque[concurrent.futures.Future[List[str]]] = deque()
+        with ThreadPoolExecutor(jobs) as threads:
+            ahead: Deque[Future[List[_T]]] = deque()
             for batch in batches:
                 ahead.append(threads.submit(work, batch))
                 if len(ahead) > 2 * jobs:
@@ -195,6 +203,11 @@ def read(text: str, rules: bool = False) -> Result:
 def normalize_many(texts: Iterable[str], jobs: int = 1) -> Iterator[str]:
     """Yields what normalize() returns for each text, in order, by so many threads at once."""
     return Reader().normalize_many(texts, jobs)
+
+
+def read_many(texts: Iterable[str], rules: bool = False, jobs: int = 1) -> Iterator[Result]:
+    """Yields what read() returns for each text, in order, by so many threads at once."""
+    return Reader().read_many(texts, rules, jobs)
 
 
 def read_file(path: Union[str, "os.PathLike[str]"], rules: bool = False) -> Iterator[Line]:

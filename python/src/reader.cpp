@@ -22,8 +22,25 @@ py::str python_text(std::string_view text) {
     return py::reinterpret_steal<py::str>(object);
 }
 
+std::vector<Utf8> utf8_of(const py::list& texts) {
+    std::vector<Utf8> all;
+    all.reserve(texts.size());
+    for (const py::handle text : texts) {
+        if (!PyUnicode_Check(text.ptr())) throw py::type_error("a text is not a str");
+        all.emplace_back(py::reinterpret_borrow<py::str>(text));
+    }
+    return all;
+}
+
+[[noreturn]] void fail_for_capacity() {
+    PyErr_SetString(PyExc_MemoryError, "the capacity does not hold what this text is read as");
+    throw py::error_already_set();
+}
+
+}  // namespace
+
 // Lets the interpreter answer signals while a long text is read without its lock.
-class Signals {
+class Reader::Signals {
   public:
     // After each sentence; throws what a handler has raised.
     void look() {
@@ -36,13 +53,6 @@ class Signals {
   private:
     unsigned n_sentences_ = 0;
 };
-
-[[noreturn]] void fail_for_capacity() {
-    PyErr_SetString(PyExc_MemoryError, "the capacity does not hold what this text is read as");
-    throw py::error_already_set();
-}
-
-}  // namespace
 
 // The reader is this thread's until the end of the call.
 class Reader::Turn {
@@ -107,12 +117,7 @@ py::str Reader::normalize(const py::str& text) {
 }
 
 py::list Reader::normalize_batch(const py::list& texts) {
-    std::vector<Utf8> all;
-    all.reserve(texts.size());
-    for (const py::handle text : texts) {
-        if (!PyUnicode_Check(text.ptr())) throw py::type_error("a text is not a str");
-        all.emplace_back(py::reinterpret_borrow<py::str>(text));
-    }
+    const std::vector<Utf8> all = utf8_of(texts);
     std::string spoken;
     std::vector<std::size_t> ends;
     ends.reserve(all.size());
@@ -135,20 +140,15 @@ py::list Reader::normalize_batch(const py::list& texts) {
     return result;
 }
 
-Result Reader::read(const py::str& text, bool rules) {
-    const Utf8 utf8(text);
-    CodePoints of_sentences(utf8.bytes(), utf8.is_ascii());
-    CodePoints of_findings(utf8.bytes(), utf8.is_ascii());
-    Result result;
-    result.text = text;
-    Signals signals;
-    const Turn turn(*this);
-    const py::gil_scoped_release released;
+// Reads the text into its result, without the interpreter's lock.
+void Reader::read_into(Result& result, const Utf8& text, bool rules, Signals& signals) {
+    CodePoints of_sentences(text.bytes(), text.is_ascii());
+    CodePoints of_findings(text.bytes(), text.is_ascii());
     result.complete = host_.read(
-        utf8.bytes(),
+        text.bytes(),
         [&](const HostSentence& sentence) {
             result.sentences.push_back(
-                std::make_shared<Sentence>(sentence, utf8.bytes(), rules, plain_, of_sentences));
+                std::make_shared<Sentence>(sentence, text.bytes(), rules, plain_, of_sentences));
             signals.look();
             return true;
         },
@@ -159,7 +159,32 @@ Result Reader::read(const py::str& text, bool rules) {
                 {found.finding, {begin, end - begin}, result.sentences.size()});
             return true;
         });
+}
+
+Result Reader::read(const py::str& text, bool rules) {
+    const Utf8 utf8(text);
+    Result result;
+    result.text = text;
+    Signals signals;
+    const Turn turn(*this);
+    const py::gil_scoped_release released;
+    read_into(result, utf8, rules, signals);
     return result;
+}
+
+py::list Reader::read_batch(const py::list& texts, bool rules) {
+    const std::vector<Utf8> all = utf8_of(texts);
+    std::vector<Result> results(all.size());
+    for (std::size_t i = 0; i < all.size(); ++i) results[i].text = texts[i];
+    {
+        Signals signals;
+        const Turn turn(*this);
+        const py::gil_scoped_release released;
+        for (std::size_t i = 0; i < all.size(); ++i) read_into(results[i], all[i], rules, signals);
+    }
+    py::list list(all.size());
+    for (std::size_t i = 0; i < all.size(); ++i) list[i] = std::move(results[i]);
+    return list;
 }
 
 void add_reader(py::module_& module) {
@@ -170,7 +195,8 @@ void add_reader(py::module_& module) {
     py::class_<Reader>(module, "Reader", not_made_by_python())
         .def("normalize", &Reader::normalize)
         .def("normalize_batch", &Reader::normalize_batch)
-        .def("read", &Reader::read);
+        .def("read", &Reader::read)
+        .def("read_batch", &Reader::read_batch);
 }
 
 }  // namespace kavi::python

@@ -21,6 +21,7 @@ class Reader {
     pybind11::str normalize(const pybind11::str& text);
     pybind11::list normalize_batch(const pybind11::list& texts);
     Result read(const pybind11::str& text, bool rules);
+    pybind11::list read_batch(const pybind11::list& texts, bool rules);
 
     // For streams that read alike; they stay as long as the reader.
     std::size_t capacity() const { return capacity_; }
@@ -28,9 +29,11 @@ class Reader {
 
   private:
     class Turn;
+    class Signals;
 
     // Appends what is spoken for the text; false when the capacity does not hold it.
     bool append_plain(std::string_view text, std::string& spoken);
+    void read_into(Result& result, const Utf8& text, bool rules, Signals& signals);
 
     std::size_t capacity_;
     TtsHost host_;

@@ -2,6 +2,9 @@
 
 #include <pybind11/stl.h>
 
+#include <array>
+#include <map>
+
 #include "tts_explain.h"
 #include "tts_names.h"
 
@@ -48,21 +51,61 @@ py::str shown(std::string_view text) {
 
 namespace {
 
-py::object word_of(const Word& word) {
+// A member of an enumeration; looked up once. The values are -2 to 29.
+py::object member_of(const char* type, int value) {
+    constexpr int LEAST = -2;
+    constexpr std::size_t MEMBERS = 32;
+    static auto& found = *new std::map<const char*, std::array<py::object, MEMBERS>>();
+    const auto place = static_cast<std::size_t>(value - LEAST);
+    if (place >= MEMBERS) return python_type(type)(value);
+    py::object& member = found[type][place];
+    if (!member) member = python_type(type)(value);
+    return member;
+}
+
+// A named tuple of these fields, without a call of its class.
+template <typename... Fields>
+py::object named_tuple(const char* type, const Fields&... fields) {
+    auto* const made_by = reinterpret_cast<PyTypeObject*>(python_type(type).ptr());
+    PyObject* const made = made_by->tp_alloc(made_by, sizeof...(fields));
+    if (made == nullptr) throw py::error_already_set();
+    Py_ssize_t place = 0;
+    (PyTuple_SET_ITEM(made, place++, fields.inc_ref().ptr()), ...);
+    return py::reinterpret_steal<py::object>(made);
+}
+
+py::tuple marks_of(const Word& word) {
     py::tuple marks(word.marks.size());
-    for (std::size_t i = 0; i < word.marks.size(); ++i) marks[i] = python_type(MARK)(word.marks[i]);
+    for (std::size_t i = 0; i < word.marks.size(); ++i) marks[i] = member_of(MARK, word.marks[i]);
+    return marks;
+}
+
+py::object word_of(const Word& word, std::string_view plain) {
+    static const Markup none;
+    const Markup& markup = word.markup ? *word.markup : none;
     py::dict attributes;
-    for (const auto& [name, value] : word.attributes) attributes[py::str(name)] = shown(value);
-    return python_type(WORD)(shown(word.text), word.source.offset, word.source.length,
-                             python_type(PAUSE)(word.pause), marks, shown(word.breaktime),
-                             attributes, shown(word.after));
+    for (const auto& [name, value] : markup.attributes) attributes[py::str(name)] = shown(value);
+    return named_tuple(WORD, shown(plain.substr(word.begin, word.length)),
+                       py::int_(word.source.offset), py::int_(word.source.length),
+                       member_of(PAUSE, word.pause), marks_of(word), shown(markup.breaktime),
+                       attributes, shown(plain.substr(word.begin + word.length, word.after)));
 }
 
 py::tuple words_of(const SentenceOfText& of) {
-    const std::vector<Word>& words = of.sentence->words;
-    py::tuple all(words.size() - 1);
-    for (std::size_t i = 1; i < words.size(); ++i) all[i - 1] = word_of(words[i]);
+    const Sentence& sentence = *of.sentence;
+    py::tuple all(sentence.words.size() - 1);
+    for (std::size_t i = 1; i < sentence.words.size(); ++i) {
+        all[i - 1] = word_of(sentence.words[i], sentence.plain);
+    }
     return all;
+}
+
+py::object head_of(const SentenceOfText& of) {
+    return word_of(of.sentence->words[0], of.sentence->plain);
+}
+
+py::str before_of(const SentenceOfText& of) {
+    return shown(std::string_view(of.sentence->plain).substr(0, of.sentence->before));
 }
 
 py::tuple runs_of(const SentenceOfText& of) {
@@ -95,19 +138,14 @@ py::tuple findings_of(const Result& result) {
     return all;
 }
 
-Word word_of(const UtteranceSyllable& record, std::string_view after, const WordPlace& place,
-             CodePoints& code_points) {
-    Word word = {record.syllable != nullptr ? record.syllable : "",
-                 std::string(after),
-                 place_of(place.source, code_points),
-                 record.pause_type,
-                 {record.punc_arr, record.punc_arr + record.n_punc},
-                 record.cssml_tag.breaktime,
-                 {}};
-    for (const auto& [name, value] : attributes(record.cssml_tag)) {
-        if (*value != '\0') word.attributes.emplace_back(name, value);
+std::unique_ptr<Markup> markup_of(const CssmlTag& tag) {
+    if (tag.breaktime[0] == '\0' && !has_attributes(tag)) return nullptr;
+    auto markup = std::make_unique<Markup>();
+    markup->breaktime = tag.breaktime;
+    for (const auto& [name, value] : attributes(tag)) {
+        if (*value != '\0') markup->attributes.emplace_back(name, value);
     }
-    return word;
+    return markup;
 }
 
 // ---- all that a sentence or a result is, in Python's own types, and back ----
@@ -116,8 +154,8 @@ py::tuple state_of(const SentenceOfText& of) {
     const Sentence& sentence = *of.sentence;
     return py::make_tuple(of.text, sentence.source.offset, sentence.source.length,
                           shown(sentence.normalized), shown(sentence.speakable),
-                          shown(sentence.plain), shown(sentence.before), word_of(sentence.words[0]),
-                          words_of(of), runs_of(of), sentence.ends_sentence, of.text_offset);
+                          shown(sentence.plain), before_of(of), head_of(of), words_of(of),
+                          runs_of(of), sentence.ends_sentence, of.text_offset);
 }
 
 py::tuple state_of(const Result& result) {
@@ -129,19 +167,21 @@ std::string bytes_of(const py::handle& text) {
     return std::string(Utf8(text.cast<py::str>()).bytes());
 }
 
-Word word_from(const py::handle& object) {
+// A word that stands at `begin` of the plain form.
+Word word_from(const py::handle& object, std::size_t begin) {
     const auto fields = object.cast<py::tuple>();
-    Word word = {bytes_of(fields[0]),
-                 bytes_of(fields[7]),
-                 {fields[1].cast<std::size_t>(), fields[2].cast<std::size_t>()},
-                 fields[3].cast<int>(),
-                 fields[4].cast<std::vector<int>>(),
-                 bytes_of(fields[5]),
-                 {}};
+    auto markup = std::make_unique<Markup>();
+    markup->breaktime = bytes_of(fields[5]);
     for (const auto& [name, value] : fields[6].cast<py::dict>()) {
-        word.attributes.emplace_back(bytes_of(name), bytes_of(value));
+        markup->attributes.emplace_back(bytes_of(name), bytes_of(value));
     }
-    return word;
+    return {begin,
+            bytes_of(fields[0]).size(),
+            bytes_of(fields[7]).size(),
+            {fields[1].cast<std::size_t>(), fields[2].cast<std::size_t>()},
+            fields[3].cast<int>(),
+            fields[4].cast<std::vector<int>>(),
+            std::move(markup)};
 }
 
 SentenceOfText sentence_from(const py::str& text, std::size_t offset, std::size_t length,
@@ -154,9 +194,15 @@ SentenceOfText sentence_from(const py::str& text, std::size_t offset, std::size_
     sentence->normalized = bytes_of(normalized);
     sentence->speakable = bytes_of(speakable);
     sentence->plain = bytes_of(plain);
-    sentence->before = bytes_of(before);
-    sentence->words.push_back(word_from(head));
-    for (const py::handle word : words) sentence->words.push_back(word_from(word));
+    sentence->before = bytes_of(before).size();
+    sentence->words.push_back(word_from(head, 0));
+    std::size_t begin = sentence->before;
+    for (const py::handle word : words) {
+        sentence->words.push_back(word_from(word, begin));
+        begin += sentence->words.back().length + sentence->words.back().after;
+    }
+    if (begin != sentence->plain.size())
+        throw py::value_error("the words are not those of the plain form");
     for (const py::handle object : runs) {
         const auto run = object.cast<py::tuple>();
         sentence->runs.push_back({{run[0].cast<std::size_t>(), run[1].cast<std::size_t>()},
@@ -223,13 +269,23 @@ Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wan
       ends_sentence(sentence.ends_sentence) {
     form.read(sentence, text, text_begin);
     plain = form.all();
-    before = form.before();
+    before = form.before().size();
     const auto n_records = static_cast<std::size_t>(sentence.n_records);
     const WordPlace* const places = sentence.places.words();
     words.reserve(n_records);
+    std::size_t begin = before;
     for (std::size_t i = 0; i < n_records; ++i) {
-        words.push_back(word_of(sentence.records[i], i > 0 ? form.after(i) : std::string_view(),
-                                places[i], code_points));
+        const UtteranceSyllable& record = sentence.records[i];
+        const std::size_t length = i > 0 ? kavi::word_of(record).size() : 0;
+        const std::size_t after = i > 0 ? form.after(i).size() : 0;
+        words.push_back({begin,
+                         length,
+                         after,
+                         place_of(places[i].source, code_points),
+                         record.pause_type,
+                         {record.punc_arr, record.punc_arr + record.n_punc},
+                         markup_of(record.cssml_tag)});
+        begin += length + after;
     }
     if (!wants_runs) return;
     explain(
@@ -263,10 +319,8 @@ void add_results(py::module_& module) {
             "speakable", [](const SentenceOfText& of) { return shown(of.sentence->speakable); })
         .def_property_readonly("plain",
                                [](const SentenceOfText& of) { return shown(of.sentence->plain); })
-        .def_property_readonly("before",
-                               [](const SentenceOfText& of) { return shown(of.sentence->before); })
-        .def_property_readonly(
-            "head", [](const SentenceOfText& of) { return word_of(of.sentence->words[0]); })
+        .def_property_readonly("before", before_of)
+        .def_property_readonly("head", head_of)
         .def_property_readonly("words", words_of)
         .def_property_readonly("ends_sentence",
                                [](const SentenceOfText& of) { return of.sentence->ends_sentence; })

@@ -20,14 +20,20 @@ struct Place {
     std::size_t length;
 };
 
+// What few words have.
+struct Markup {
+    std::string breaktime;
+    std::vector<std::pair<std::string, std::string>> attributes;
+};
+
 struct Word {
-    std::string text;
-    std::string after;
+    std::size_t begin;   // in the plain form of the sentence, in bytes
+    std::size_t length;  // there,
+    std::size_t after;   // and of what is after it
     Place source;
     int pause;
     std::vector<int> marks;
-    std::string breaktime;
-    std::vector<std::pair<std::string, std::string>> attributes;
+    std::unique_ptr<Markup> markup;  // null: none
 };
 
 struct Run {
@@ -48,7 +54,7 @@ struct Sentence {
     std::string normalized;
     std::string speakable;
     std::string plain;
-    std::string before;
+    std::size_t before = 0;   // of that, what is before the first word, in bytes
     std::vector<Word> words;  // the first is the head
     std::vector<Run> runs;
     bool ends_sentence = true;

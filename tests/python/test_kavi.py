@@ -258,6 +258,7 @@ def test_lexicon_and_everyday_english(tmp_path: pathlib.Path) -> None:
 def test_many_texts_come_in_order(jobs: int) -> None:
     texts = [f"{n} cats, {n * 7}" for n in range(5000)]
     assert list(kavi.normalize_many(iter(texts), jobs)) == [kavi.normalize(text) for text in texts]
+    assert list(kavi.read_many(iter(texts), jobs=jobs)) == [kavi.read(text) for text in texts]
 
 
 def test_many_texts_are_taken_as_they_are_needed() -> None:

@@ -208,9 +208,9 @@ class ExplainFormat : public Format {
         table_.clear();
         const auto on_run = [&](const ExplainedRun& run) {
             if (run.sections.size() == 1 && run.sections[0] == " ") return;
-            table_.field() << "  ";
-            for (const std::string_view section : run.sections) {
-                table_.field() << '[' << section << ']';
+            table_.field().add("  [", run.sections[0], ']');
+            for (std::size_t i = 1; i < run.sections.size(); ++i) {
+                table_.field().add('[', run.sections[i], ']');
             }
             table_.end_field();
             table_.field() << run.rule;

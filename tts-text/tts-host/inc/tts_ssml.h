@@ -44,15 +44,20 @@ class SsmlForm {
         std::string_view level;
     };
 
-    std::string_view closing_marks(std::size_t record, bool is_last);
-    void enter_elements(const CssmlTag& tag);
+    std::size_t end_of_closing_marks(std::size_t record) const;
+    std::size_t begin_of_opening_marks(std::size_t record) const;
+    std::size_t place_of(std::string_view part) const;
+    void copy_to(std::size_t end);
+    void enter_elements(const CssmlTag& tag, std::size_t begin);
     bool write_break(const UtteranceSyllable& record);
 
     bool has_marks_;
     TextBuffer all_;
     PlainForm plain_;
-    std::string_view between_;  // before the next word, outside of its elements,
-    std::string_view opening_;  // and inside
+    bool is_plain_ = false;      // nothing in that is escaped
+    std::size_t copied_ = 0;     // of that
+    std::size_t next_word_ = 1;  // that has not been copied
+    std::size_t n_records_ = 0;
     Elements open_;
     Elements next_;  // of the word at hand
     std::set<std::string> lost_;

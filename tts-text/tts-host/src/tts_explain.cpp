@@ -154,6 +154,13 @@ class RunsOfText {
     // The next run of the sentence; takes what it holds.
     void add(ExplainedRun& run) {
         const std::size_t at = run.source.offset;
+        if (sources_.is_copied(at, run.source.length)) {  // as most are: it stands for itself
+            end();
+            any_ = false;
+            run.source.offset = sources_.copied_from(at);
+            on_run_(run);
+            return;
+        }
         run.source = sources_.source_of(at, run.source.length);
         if (any_ && run.source.length > 0 &&
             run.source.offset < run_.source.offset + run_.source.length) {

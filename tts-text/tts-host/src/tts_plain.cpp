@@ -91,12 +91,21 @@ void PlainForm::read(const HostSentence& sentence, std::string_view text, std::s
     std::size_t at = begin_of_form;
     for (std::size_t i = 0; i < n_records; ++i) {
         if (i > 0) {
-            all_.add(word_of(sentence.records[i]));
             at = std::max(at, in_text(places[i].source.offset + places[i].source.length));
         }
-        const std::size_t begin = all_.size();
         const bool is_last = i + 1 == n_records;
         const std::size_t next = is_last ? whole_end : in_text(places[i + 1].source.offset);
+        if (i > 0) {
+            const std::string_view word = word_of(sentence.records[i]);
+            if (next == at + 1 && text[at] == ' ' && !is_last) {  // as after most words
+                all_.add(word, ' ');
+                after_[i] = {all_.size() - 1, all_.size()};
+                at = next;
+                continue;
+            }
+            all_.add(word);
+        }
+        const std::size_t begin = all_.size();
         if (next > at) {
             add_gap(text.substr(at, next - at));
             at = next;
@@ -123,9 +132,8 @@ void PlainForm::end_before(std::string_view text, bool is_last) {
 
 // Appends what of a gap between words is punctuation or a blank.
 void PlainForm::add_gap(std::string_view gap) {
-    if (gap.size() == 1 && gap[0] == ' ') return all_.add(' ');  // as most are
-    std::size_t n_blanks = 0;                                    // in the run that has been read,
-    bool has_other = false;                                      // not only these
+    std::size_t n_blanks = 0;  // in the run that has been read,
+    bool has_other = false;    // not only these
     bool may_have_tags = true;
     const auto end_run = [&] {
         if (has_other) n_blanks = std::min<std::size_t>(n_blanks, 1);

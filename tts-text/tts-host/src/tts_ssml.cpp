@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstring>
 #include <iterator>
+#include <utility>
 
 #include "tts_names.h"
 
@@ -93,6 +94,11 @@ bool is_time(std::string_view value) {
     return value.size() <= LONGEST && is_number(value) && value.find('.') == std::string_view::npos;
 }
 
+bool may_have_break(const UtteranceSyllable& record) {
+    return record.cssml_tag.breaktime[0] != '\0' ||
+           record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE;
+}
+
 // Whether words stand in the same elements; what is not of that is the same, too.
 bool have_same_attributes(const CssmlTag& a, const CssmlTag& b) {
     constexpr std::size_t BEGIN = offsetof(CssmlTag, emphasis);
@@ -121,58 +127,88 @@ void append_escaped(std::string_view word, TextBuffer& out) {
 
 }  // namespace
 
+// What the plain form has is copied in stretches, up to where something else stands.
 void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::size_t text_begin) {
     plain_.read(sentence, text, text_begin);
+    is_plain_ = Plain::are_all(plain_.all());
+    copied_ = std::min(plain_.before().find_first_not_of(' '), plain_.before().size());
+    next_word_ = 1;
+    n_records_ = static_cast<std::size_t>(sentence.n_records);
     all_.clear();
     all_.add("<s>");
     bool has_break = false;
-    const auto n_records = static_cast<std::size_t>(sentence.n_records);
-    for (std::size_t i = 0; i < n_records; ++i) {
+    bool has_any = false;  // attributes, the last word
+    for (std::size_t i = 0; i < n_records_; ++i) {
         const UtteranceSyllable& record = sentence.records[i];
-        if (i > 0) {
-            const CssmlTag& before = sentence.records[i - 1].cssml_tag;
-            if (have_same_attributes(record.cssml_tag, before)) {
-                all_.add(between_);
-            } else {
-                enter_elements(record.cssml_tag);
-            }
-            if (has_marks_) {
-                const TextRange source = sentence.places.words()[i].source;
-                all_.add("<mark name=\"", source.offset, '-', source.length, "\"/>");
-            }
-            all_.add(opening_);
-            append_escaped(word_of(record), all_);
+        if (may_have_break(record)) {
+            copy_to(end_of_closing_marks(i));
+            has_break |= write_break(record);
         }
-        all_.add(closing_marks(i, i + 1 == n_records));
-        has_break |= write_break(record);
+        if (i + 1 == n_records_) break;
+        const CssmlTag& next = sentence.records[i + 1].cssml_tag;
+        const bool had_any = std::exchange(has_any, has_attributes(next));
+        if ((has_any || had_any) && !have_same_attributes(record.cssml_tag, next)) {
+            copy_to(end_of_closing_marks(i));
+            enter_elements(next, begin_of_opening_marks(i));
+        }
+        if (has_marks_) {
+            const TextRange source = sentence.places.words()[i + 1].source;
+            copy_to(begin_of_opening_marks(i));
+            all_.add("<mark name=\"", source.offset, '-', source.length, "\"/>");
+        }
     }
-    between_ = {};
-    enter_elements({});
+    if (n_records_ > 1) copy_to(plain_.all().size());
+    if (has_any) enter_elements({}, copied_);
     all_.add("</s>\n");
-    if (n_records <= 1 && !has_break) all_.clear();
+    if (n_records_ <= 1 && !has_break) all_.clear();
 }
 
-// Of what follows a record: up to the first blank, but that before the first word is not of it. The
-// rest is kept for the next word: blanks, and what stands directly before it.
-std::string_view SsmlForm::closing_marks(std::size_t record, bool is_last) {
+// Of what follows a record, marks up to the first blank are its own; all of it after the last. What
+// stands directly before the next word is of that; the blanks between are of neither. Those before
+// the first word are not copied.
+std::size_t SsmlForm::end_of_closing_marks(std::size_t record) const {
     const std::string_view after = plain_.after(record);
-    if (after.size() == 1 && record > 0 && !is_last && after[0] == ' ') {  // as most are
-        between_ = after;
-        opening_ = {};
-        return {};
-    }
-    const bool is_head = record == 0;
-    if (!is_head && is_last) return after;
-    const std::size_t begin = std::min(after.find_first_not_of(' '), after.size());
-    const std::size_t end = is_head ? begin : std::min(after.find(' '), after.size());
-    const std::size_t blanks_end = std::max(end, after.rfind(' ') + 1);
-    between_ = after.substr(end, blanks_end - end);
-    opening_ = after.substr(blanks_end);
-    return is_head ? std::string_view() : after.substr(0, end);
+    const std::size_t begin = place_of(after);
+    if (record == 0) return copied_;
+    if (record + 1 == n_records_) return begin + after.size();
+    return begin + std::min(after.find(' '), after.size());
 }
 
-// Before the next word, with the elements that it stands in; those that go on stay open.
-void SsmlForm::enter_elements(const CssmlTag& tag) {
+std::size_t SsmlForm::begin_of_opening_marks(std::size_t record) const {
+    const std::string_view after = plain_.after(record);
+    const std::size_t after_blanks = place_of(after) + after.rfind(' ') + 1;
+    return after.find(' ') == std::string_view::npos ? end_of_closing_marks(record)
+                                                     : std::max(after_blanks, copied_);
+}
+
+std::size_t SsmlForm::place_of(std::string_view part) const {
+    return static_cast<std::size_t>(part.data() - plain_.all().data());
+}
+
+// The plain form up to a place that is in no word; words are escaped.
+void SsmlForm::copy_to(std::size_t end) {
+    const std::string_view plain = plain_.all();
+    if (is_plain_) {
+        all_.add(plain.substr(copied_, end - copied_));
+        copied_ = end;
+        return;
+    }
+    while (copied_ < end) {
+        const std::string_view before = plain_.after(next_word_ - 1);
+        const std::size_t word = place_of(before) + before.size();
+        const std::size_t gap_end = std::min(word, end);
+        all_.add(plain.substr(copied_, gap_end - copied_));
+        copied_ = gap_end;
+        if (gap_end == end) break;
+        const std::size_t word_end = place_of(plain_.after(next_word_++));
+        append_escaped(plain.substr(word, word_end - word), all_);
+        copied_ = word_end;
+    }
+}
+
+// The elements that the next word stands in begin at a place of the plain form; those that go on
+// stay open.
+void SsmlForm::enter_elements(const CssmlTag& tag, std::size_t begin) {
     next_.prosody.clear();
     const auto add = [&](const char* name, const char* value, const Value& known) {
         if (*value == '\0') return;
@@ -195,7 +231,7 @@ void SsmlForm::enter_elements(const CssmlTag& tag) {
     const bool is_other_level = is_other_prosody || next_.level != open_.level;
     if (!open_.level.empty() && is_other_level) all_.add("</emphasis>");
     if (open_.prosody.size() > 0 && is_other_prosody) all_.add("</prosody>");
-    all_.add(between_);
+    copy_to(begin);
     if (!prosody.empty() && is_other_prosody) all_.add("<prosody", prosody, '>');
     if (!next_.level.empty() && is_other_level) {
         all_.add("<emphasis level=\"", next_.level, "\">");

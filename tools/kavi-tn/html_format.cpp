@@ -65,7 +65,8 @@ const char* strokes(PAUSE_type pause) {
 }
 
 bool is_blank(std::string_view text) {
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; });
 }
 
 // The name in the "<punc=" tag that a reading begins with; empty when there is none.
@@ -95,7 +96,7 @@ class SentenceWriter {
             write_left_out(run.source.offset);
             write_run(run);
             at_ = std::max(at_, run.source.offset + run.source.length);
-            write_numbers_of_findings(at_);
+            if (finding_ != findings_.end()) write_numbers_of_findings(at_);
         });
         write_left_out(sentence_.source.offset + sentence_.source.length);
         write_numbers_of_findings(place_.text.size());

@@ -16,7 +16,7 @@ using tn::ReadingStep;
 
 struct RuleName {
     ReadingRule rule;
-    const char* name;
+    std::string_view name;
 };
 
 constexpr RuleName RULE_NAMES[] = {
@@ -53,7 +53,7 @@ constexpr bool are_in_order() {
 }
 static_assert(are_in_order());
 
-const char* name_of(const ReadingStep& step, bool is_written) {
+std::string_view name_of(const ReadingStep& step, bool is_written) {
     if (step.outcome == Outcome::full) return "output full";
     const bool incomplete = step.outcome == Outcome::ended && !is_written;
     return incomplete ? "incomplete, not read" : RULE_NAMES[static_cast<int>(step.rule)].name;

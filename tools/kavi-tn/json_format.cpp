@@ -86,30 +86,30 @@ class JsonFormat : public Format {
     // The head record, which holds what comes before the first word, has no word.
     void write_word(const HostSentence& sentence, int number, bool is_plain) {
         const UtteranceSyllable& record = sentence.records[number];
-        line_.object([&] {
-            if (record.syllable == nullptr) {
-                line_.key("word");
-                line_.null();
-            } else {
-                const std::string_view word = word_of(record);
-                is_plain ? line_.plain_field("word", word) : line_.field("word", word);
-                line_.field("after", plain_.after(static_cast<std::size_t>(number)));
-            }
-            line_.range(sentence.places.of_record(number).source);
-            line_.plain_field("pause", pause_name(record.pause_type));
-            if (record.n_punc > 0) {
-                line_.key("marks");
-                line_.array([&] {
-                    for (int i = 0; i < record.n_punc; ++i) {
-                        line_.name(punctuation_name(record.punc_arr[i]));
-                    }
-                });
-            }
-            const char* breaktime = record.cssml_tag.breaktime;
-            if (*breaktime != '\0') line_.field("breaktime", breaktime);
-            if (!has_attributes(record.cssml_tag)) return;
+        const TextRange& source = sentence.places.words()[number].source;
+        const char* const pause = pause_name(record.pause_type);
+        if (number == 0) {
+            line_.begin_head(source, pause);
+        } else {
+            const std::string_view after = plain_.after(static_cast<std::size_t>(number));
+            line_.begin_word(word_of(record), is_plain, after, source, pause);
+        }
+        if (record.n_punc > 0) write_marks(record);
+        const char* breaktime = record.cssml_tag.breaktime;
+        if (*breaktime != '\0') line_.field("breaktime", breaktime);
+        if (has_attributes(record.cssml_tag)) {
             for (const auto& [name, value] : attributes(record.cssml_tag)) {
                 if (*value != '\0') line_.field(name, value);
+            }
+        }
+        line_.close('}');
+    }
+
+    void write_marks(const UtteranceSyllable& record) {
+        line_.key("marks");
+        line_.array([&] {
+            for (int i = 0; i < record.n_punc; ++i) {
+                line_.name(punctuation_name(record.punc_arr[i]));
             }
         });
     }

@@ -28,18 +28,18 @@ void append_special(char c, TextBuffer& out) {
 
 }  // namespace
 
-std::string_view JsonLine::escape(std::string_view text) {
+std::string_view JsonLine::escape(std::string_view text, TextBuffer& out) {
     const std::string valid = is_ascii(text) ? std::string() : valid_utf8(text);
     if (!valid.empty()) text = valid;
-    escaped_text_.clear();
+    out.clear();
     while (!text.empty()) {
         const auto* const special = std::find_if(text.begin(), text.end(), is_special);
         const auto size = static_cast<std::size_t>(special - text.begin());
-        escaped_text_ << text.substr(0, size);
-        if (special != text.end()) append_special(*special, escaped_text_);
+        out << text.substr(0, size);
+        if (special != text.end()) append_special(*special, out);
         text.remove_prefix(std::min(size + 1, text.size()));
     }
-    return escaped_text_.text();
+    return out.text();
 }
 
 }  // namespace kavi::tool

@@ -29,7 +29,6 @@ class JsonLine {
     void text(std::string_view value) { name(escaped(value)); }
     void name(std::string_view plain) { line_.add('"', plain, "\","); }
     void number(std::size_t value) { line_.add(value, ','); }
-    void null() { line_ << "null,"; }
 
     template <typename Write>
     void object(Write write) {
@@ -42,6 +41,27 @@ class JsonLine {
         line_ << '[';
         write();
         close(']');
+    }
+
+    // The usual begin of the object of a word, which close() ends; `is_plain`: the word is.
+    void begin_word(std::string_view word, bool is_plain, std::string_view after,
+                    const TextRange& source, std::string_view pause) {
+        if (!is_plain) word = escaped(word);
+        if (!JsonPlain::are_all(after)) after = escape(after, escaped_after_);
+        line_.add("{\"word\":\"", word, "\",\"after\":\"", after, "\",\"offset\":", source.offset,
+                  ",\"length\":", source.length, ",\"pause\":\"", pause, "\",");
+    }
+    // That of what comes before the first word.
+    void begin_head(const TextRange& source, std::string_view pause) {
+        line_ << "{\"word\":null,";
+        range(source);
+        plain_field("pause", pause);
+    }
+
+    void close(char bracket) {
+        const std::string_view line = line_.text();
+        if (line.back() == ',') line_.cut_to(line.size() - 1);
+        line_.add(bracket, ',');
     }
 
     void field(std::string_view name, std::string_view value) { plain_field(name, escaped(value)); }
@@ -59,18 +79,13 @@ class JsonLine {
     // A text as it stands between quotation marks; what is not UTF-8 is U+FFFD. It lives until the
     // next call.
     std::string_view escaped(std::string_view text) {
-        return JsonPlain::are_all(text) ? text : escape(text);
+        return JsonPlain::are_all(text) ? text : escape(text, escaped_text_);
     }
-    std::string_view escape(std::string_view text);
-
-    void close(char bracket) {
-        const std::string_view line = line_.text();
-        if (line.back() == ',') line_.cut_to(line.size() - 1);
-        line_.add(bracket, ',');
-    }
+    static std::string_view escape(std::string_view text, TextBuffer& out);
 
     TextBuffer line_;
     TextBuffer escaped_text_;
+    TextBuffer escaped_after_;
 };
 
 }  // namespace kavi::tool

@@ -16,10 +16,12 @@
 namespace kavi {
 
 struct HostSentence {
-    TextRange source;                  // begins where that of the last sentence ended
-    std::string_view normalized;       // what eng_text_normalize made of it; NUL-terminated
-    std::string_view speakable;        // what eng_text_tokenize made of that; NUL-terminated
-    const UtteranceSyllable* records;  // what eng_text_to_utterance_syllable made of that
+    TextRange source;             // begins where that of the last sentence ended
+    std::string_view normalized;  // what eng_text_normalize made of it; NUL-terminated
+    std::string_view speakable;   // what eng_text_tokenize made of that; NUL-terminated
+    // What eng_text_to_utterance_syllable makes of that; but the words of all records stand in one
+    // block of the arena with them, which is kept for the sentences to come.
+    const UtteranceSyllable* records;
     int n_records;
     SentencePlaces& places;  // where its parts come from
 

@@ -50,9 +50,10 @@ void read_shield(const Place& place, Found& found) {
     if (abbreviation == nullptr) return;
     // The abbreviation itself is left to the engine, but for words that are spelled alike.
     const bool is_star = word == "Sun" && place.word_before(word.size()) == "the";
-    const bool is_of_number = word == "b" && is_digit(place.before(2));  // "section 6b."
+    // "section 6b.", "b. The second"; "(b. 1970)" is somebody's birth.
+    const bool is_label = word == "b" && (is_digit(place.before(2)) || !is_digit(place.peek(2)));
     const bool is_word = word.size() > abbreviation->size() || word == "May" || word == "may" ||
-                         word == "mar" || word == "B" || is_star || is_of_number;
+                         word == "mar" || word == "B" || is_star || is_label;
     if (!is_word) return;
     found.length = 1;
     found.words = " .";

@@ -56,14 +56,15 @@ std::size_t foreign_tag_length(std::string_view text) {
     return is_name_alone || has_attributes ? end + 1 : 0;
 }
 
-// Whether more text would tell if such a tag begins there, where no markup tag may.
+// Whether more text would tell if such a tag begins there, where no markup tag may: so it has more
+// than "<" or "</".
 bool may_make_foreign_tag(std::string_view text) {
     if (text.size() >= FOREIGN_TAG_MAX || text.find_first_of("<>", 1) != std::string_view::npos)
         return false;
     std::string_view inside = text.substr(1);
     if (tn::begins_with(inside, "!") || tn::begins_with(inside, "?")) return true;
     if (tn::begins_with(inside, "/")) inside.remove_prefix(1);
-    assert(!inside.empty());  // else a markup tag may begin there
+    assert(!inside.empty());
     const auto* after_name = std::find_if_not(inside.begin(), inside.end(), is_of_tag_name);
     const bool may_end_name =
         after_name == inside.end() || *after_name == '/' || *after_name == ' ';

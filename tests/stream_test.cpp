@@ -144,6 +144,7 @@ TEST(Stream, BadCalls_HaveAClearAnswerAndLoseNothing) {
     EXPECT_TRUE(each.stream.add(std::string_view("a\0d. c", 6)));
     TtsHost other;
     EXPECT_TRUE(TtsStream(other, nullptr, nullptr).add("One. </poem>. Two"));
+    EXPECT_TRUE(other.read("x. y", nullptr, nullptr)) << "a stream without an end has left it";
     TtsStream second(each.host, nullptr, nullptr);
     EXPECT_FALSE(second.add("x. y"));
     second.forget();

@@ -18,6 +18,7 @@ install(TARGETS ${KAVI_LIBRARIES} kavi_tn EXPORT kaviTargets
     ARCHIVE COMPONENT development)
 install(FILES
     tts-common/inc/MemoryStack.h tts-common/inc/TtsString.h tts-common/inc/EngLexicon.h
+    tts-common/inc/kavi_compiler.h
     tts-common/front_end_share/inc/ShareObj.h
     tts-text/tts-tn/inc/post_pro_tn_eng.h tts-text/tts-tn/inc/PostProcTN.h
     tts-text/tts-host/inc/tts_host.h tts-text/tts-host/inc/tts_findings.h

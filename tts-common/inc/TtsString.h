@@ -3,6 +3,8 @@
 #ifndef KAVI_TTS_STRING_H
 #define KAVI_TTS_STRING_H
 
+#include "kavi_compiler.h"
+
 namespace kavi {
 
 // Appends the first `n` characters of `src`, or all when `src` ends before, to the NUL-terminated
@@ -14,7 +16,7 @@ int safe_strncat(char* dst, const char* src, int n, int cap);
 // Prints at most `size` bytes, terminator included, to `buf`. Returns the length of the whole text,
 // which may be more than was written; negative when the format is faulty; -1, with nothing written,
 // when `size` is not positive.
-int tts_snprintf(char* buf, int size, const char* fmt, ...) __attribute__((format(printf, 3, 4)));
+KAVI_PRINTF(3, 4) int tts_snprintf(char* buf, int size, const char* fmt, ...);
 
 }  // namespace kavi
 

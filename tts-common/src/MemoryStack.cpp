@@ -17,6 +17,8 @@
 #include <limits>
 #include <new>
 
+#include "kavi_compiler.h"
+
 namespace kavi {
 
 namespace {
@@ -90,8 +92,7 @@ SizeClass class_of(std::size_t size) {
     }
     if (size > CLASS_MAX) return {CLASSES, round_up(size, ALIGNMENT)};
     const unsigned long last = static_cast<unsigned long>(size - 1);
-    const int top_bit = std::numeric_limits<unsigned long>::digits - 1 - __builtin_clzl(last);
-    const int shift = top_bit - 2;
+    const int shift = highest_bit(last) - 2;
     const std::size_t quarters = (last >> shift) + 1;
     const auto doubling = static_cast<std::size_t>(shift - SMALL_SHIFT);
     return {SMALL_CLASSES + 4 * doubling + quarters - 5, quarters << shift};
@@ -318,7 +319,7 @@ namespace {
 inline void* take_free(tag_mem_stack_array& arena, std::size_t index) {
     FreeBlock* block = arena.free_list[index];
     std::size_t below_peak = 0;
-    if (__builtin_sub_overflow(arena.below_peak, block->header().cost, &below_peak)) return nullptr;
+    if (subtract_overflows(arena.below_peak, block->header().cost, below_peak)) return nullptr;
     arena.below_peak = below_peak;
     arena.free_list[index] = block->next;
     return block;
@@ -326,7 +327,7 @@ inline void* take_free(tag_mem_stack_array& arena, std::size_t index) {
 
 // Serves a request that take_free cannot. Out of line, so that the fast path does not save
 // registers for it.
-__attribute__((noinline)) void* serve(std::size_t size, tag_mem_stack_array& arena) {
+KAVI_NOINLINE void* serve(std::size_t size, tag_mem_stack_array& arena) {
     const SizeClass wanted = class_of(size);
     const std::size_t left = arena.capacity - arena.used();
     if (size > std::min(left, REQUEST_MAX)) return nullptr;
@@ -344,7 +345,7 @@ __attribute__((noinline)) void* serve(std::size_t size, tag_mem_stack_array& are
 // Serves a request above SMALL_MAX. The lengths of texts, and so of these blocks, vary: a free
 // block of one of the next two classes (at most half as large again) is cheaper than a new one, for
 // which a merge may be needed.
-__attribute__((noinline)) void* request_large(std::size_t size, tag_mem_stack_array& arena) {
+KAVI_NOINLINE void* request_large(std::size_t size, tag_mem_stack_array& arena) {
     const std::size_t first = class_of(size).index;
     const std::size_t end = std::min(first + CLASSES_SERVING, CLASSES);
     for (std::size_t index = first; index < end; ++index) {

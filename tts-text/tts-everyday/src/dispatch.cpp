@@ -3,6 +3,8 @@
 #include <array>
 #include <iterator>
 
+#include "kavi_compiler.h"
+
 namespace kavi::everyday {
 
 namespace {
@@ -146,7 +148,7 @@ RuleSet rules_after(std::string_view text, std::size_t end) {
 }  // namespace
 
 const RuleRow& take_first(RuleSet& rules) {
-    const int first = __builtin_ctz(rules);
+    const int first = lowest_bit(rules);
     rules &= rules - 1;
     return ROWS[static_cast<std::size_t>(first)];
 }

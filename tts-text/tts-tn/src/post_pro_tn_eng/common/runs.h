@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "ascii.h"
+#include "kavi_compiler.h"
 
 namespace kavi::tn {
 
@@ -111,7 +112,7 @@ constexpr Eight no_digit(Eight c) {
 
 // The index, 0 to 7, of the first marked character. `marked` is not 0.
 inline std::size_t first_of(Eight marked) {
-    return static_cast<unsigned>(__builtin_ctzll(marked)) / 8;
+    return static_cast<unsigned>(lowest_bit(marked)) / 8;
 }
 
 // Copies lower-case words with single blanks between them, and one blank at their end, from `text`

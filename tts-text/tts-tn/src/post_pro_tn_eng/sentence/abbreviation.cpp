@@ -7,6 +7,7 @@
 
 #include "../common/ascii.h"
 #include "../common/bounded_text.h"
+#include "kavi_compiler.h"
 
 namespace kavi {
 
@@ -104,7 +105,7 @@ bool AbbreviationSearch::is_accepted(int row, const char* stretch, const char* d
 
 int AbbreviationSearch::find(const char* stretch, const char* dot) {
     for (unsigned rows = dot > stretch ? rows_ending_in(dot[-1]) : 0; rows != 0; rows &= rows - 1) {
-        const int row = __builtin_ctz(rows);
+        const int row = lowest_bit(rows);
         if (begins_alike(row, stretch, dot) && is_accepted(row, stretch, dot)) return row;
     }
     return NO_ABBREVIATION;

@@ -166,7 +166,7 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
     const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
     if (!may_begin || !is_digit(place.peek(length + blank))) return;
     found.length = length + blank;
-    found.words = std::string(sign.spoken) + " ";
+    found.words = sign.spoken;
 }
 
 }  // namespace

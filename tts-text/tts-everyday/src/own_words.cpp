@@ -50,7 +50,6 @@ bool OwnWords::is_part_of_word(const OwnWord& word) {
 }
 
 bool OwnWords::allow(std::size_t at, Found& found, const Lexicon::Entry*& entry) {
-    entry = nullptr;
     if (lexicon_ == nullptr) return true;
     look_from(at, at + found.length);
     const Found::Name& name = found.name;

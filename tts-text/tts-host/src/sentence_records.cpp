@@ -1,15 +1,16 @@
 #include "sentence_records.h"
 
+#include <algorithm>
+#include <cassert>
 #include <cstring>
 
 namespace kavi::host {
 
 namespace {
 
-// What the words of a text need, and in how many lists they come.
+// What the words of a text need, in bytes, and how many lists they come in.
 struct Needs {
-    std::size_t n_words = 0;
-    std::size_t syllables = 0;  // bytes
+    std::size_t syllables = 0;
     std::size_t zhuyins = 0;
     int n_lists = 0;
 };
@@ -18,7 +19,6 @@ bool add_needs(void* context, const tn::TextEvents& events) {
     auto& needs = *static_cast<Needs*>(context);
     for (const tn::TextEvent& event : events) {
         if (event.kind != tn::TextEventKind::word) continue;
-        ++needs.n_words;
         needs.syllables += tn::syllable_size(event.text());
         needs.zhuyins += tn::zhuyin_size(event.text());
     }
@@ -31,30 +31,28 @@ struct BlockFiller {
     tn::RecordFiller records;
     char* zhuyin;
     char* syllable;
-};
 
-bool store_words(void* context, const tn::TextEvents& events) {
-    auto& filler = *static_cast<BlockFiller*>(context);
-    for (const tn::TextEvent& event : events) {
-        if (event.kind != tn::TextEventKind::word) {
-            if (!filler.records.take_tag(event)) return false;
-            continue;
-        }
+    // False when the chain of spans has no room: no more items may be stored.
+    bool take(const tn::TextEvent& event) {
+        if (event.kind != tn::TextEventKind::word) return records.take_tag(event);
         const std::string_view word = event.text();
-        filler.records.store(word, filler.syllable, filler.zhuyin);
-        filler.syllable += tn::syllable_size(word);
-        filler.zhuyin += tn::zhuyin_size(word);
+        records.store(word, syllable, zhuyin);
+        syllable += tn::syllable_size(word);
+        zhuyin += tn::zhuyin_size(word);
+        return true;
     }
-    return true;
-}
+};
 
 }  // namespace
 
 // The block is the records, the room for pronunciations, which is cleared with them, and the words.
+// A list has room for all items of a sentence: tags stand apart from words there, so none is put
+// together.
 bool SentenceRecords::build(std::string_view speakable, tn::TextEvents& events) {
     Needs needs;
     tn::read_text(speakable, arena_, events, add_needs, &needs);
-    const std::size_t n_records = needs.n_words + 1;
+    assert(needs.n_lists == 1);
+    const auto n_records = static_cast<std::size_t>(events.n_words()) + 1;
     const std::size_t array_size = n_records * sizeof(UtteranceSyllable);
     const std::size_t cleared = array_size + needs.zhuyins;
     if (!reserve(cleared + needs.syllables)) return false;
@@ -63,8 +61,8 @@ bool SentenceRecords::build(std::string_view speakable, tn::TextEvents& events) 
     char* const begin = static_cast<char*>(block_);
     BlockFiller filler = {tn::RecordFiller(static_cast<UtteranceSyllable*>(block_) + 1),
                           begin + array_size, begin + cleared};
-    return needs.n_lists == 1 ? store_words(&filler, events)
-                              : tn::read_text(speakable, arena_, events, store_words, &filler);
+    return std::all_of(events.begin(), events.end(),
+                       [&](const tn::TextEvent& event) { return filler.take(event); });
 }
 
 // The block before is given back first, so that an arena has to hold one only.

@@ -18,9 +18,9 @@ class SentenceRecords {
     SentenceRecords(const SentenceRecords&) = delete;
     SentenceRecords& operator=(const SentenceRecords&) = delete;
 
-    // Those of a speakable text, which a NUL follows, in the place of those before. `events` is
-    // room for lists of its items; the last one is left, with all of it when that has room. False
-    // when the arena has no room for a block, or the builder would fail.
+    // Those of the speakable text of a sentence, which a NUL follows, in the place of those before.
+    // `events` is left with its items. False when the arena has no room for a block, or the builder
+    // would fail.
     bool build(std::string_view speakable, tn::TextEvents& events);
 
     // The records, with the head record, until the next call.

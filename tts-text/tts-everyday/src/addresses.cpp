@@ -21,14 +21,14 @@ std::string_view shape_at(const Place& place) {
             const char c = place.peek(at);
             return is_digit(c) ? 'd' : is_letter(c) ? '\0' : c;
         });
-        while (row != nullptr && !may_end_number(place, row->written.size()))
+        while (row != nullptr && !may_end_number(place, row->written().size()))
             row = find_shorter(TELEPHONE_SHAPES, *row);
         return row;
     };
     const char first = place.peek();
     const Row* row = longest_from(is_digit(first) ? 'd' : first);
     if (row == nullptr && first == '0') row = longest_from(first);
-    return row != nullptr ? row->written : std::string_view();
+    return row != nullptr ? row->written() : std::string_view();
 }
 
 void say_group(std::string_view digits, std::string& out) {

@@ -20,7 +20,7 @@ const char* scale_at(const Place& place, std::size_t ahead, std::size_t& length)
 void say_amount(const Number& number, const char* scale, const Row& currency, std::size_t symbol,
                 Found& found) {
     const auto say_currency = [&](bool is_one) {
-        found.say_name(symbol, currency.written.size(), is_one ? currency.spoken : currency.many);
+        found.say_name(symbol, currency.written().size(), is_one ? currency.spoken : currency.many);
     };
     const bool may_have_coins = scale == nullptr && number.fraction.size() == 2;
     const Row* coin = may_have_coins ? find(HUNDREDTHS, currency.spoken) : nullptr;
@@ -35,7 +35,7 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
         say_cardinal(number.digits(), found.words);
         say_currency(number.whole == "1");
     } else {
-        found.name = {symbol, currency.written.size(), 0, 0};
+        found.name = {symbol, currency.written().size(), 0, 0};
     }
     if (is_whole) return;
     if (has_whole) say("and", found.words);
@@ -58,20 +58,20 @@ void read_currency(const Place& place, Found& found) {
     if (is_letter(place.before())) return;
     const Row* row = place.find_row(CURRENCIES, minus, [&](const Row& candidate) {
         return (candidate.kind == Kind::before || candidate.kind == Kind::both) &&
-               number_at(place, minus + candidate.written.size()).length > 0;
+               number_at(place, minus + candidate.written().size()).length > 0;
     });
     const bool has_blank = row == nullptr && minus == 0;
     if (has_blank) row = code_before(place);
     if (row == nullptr) return;
     if (minus > 0) say("minus", found.words);
-    const std::size_t begin = minus + row->written.size() + (has_blank ? 1 : 0);
+    const std::size_t begin = minus + row->written().size() + (has_blank ? 1 : 0);
     const Number number = number_at(place, begin);
     const std::size_t end = begin + number.length;
     std::size_t scale_length = 0;
     // "$5-10 million": both are of the same.
     const std::size_t dash = place.dash(end);
     const std::size_t second_symbol =
-        place.starts_with(row->written, end + dash) ? row->written.size() : 0;
+        place.starts_with(row->written(), end + dash) ? row->written().size() : 0;
     const Number second = dash > 0 ? number_at(place, end + dash + second_symbol) : Number{};
     if (second.length > 0) {
         const std::size_t second_end = end + dash + second_symbol + second.length;
@@ -87,7 +87,7 @@ void read_currency(const Place& place, Found& found) {
     if (number.fraction.size() != 2 && place.is_before_noun(found.length)) {
         number.say(found.words);
         if (scale != nullptr) say(scale, found.words);
-        found.say_name(minus, row->written.size(), row->spoken);
+        found.say_name(minus, row->written().size(), row->spoken);
     } else {
         say_amount(number, scale, *row, minus, found);
         found.length += say_per(place, found.length, found.words);
@@ -103,11 +103,11 @@ void read_amount_after(const Place& place, Found& found) {
     const bool is_glued = blank == 0 && scale == nullptr;
     const Row* row = place.find_row(CURRENCIES, end + blank, [&](const Row& candidate) {
         return candidate.kind != Kind::before && (candidate.kind != Kind::glued || is_glued) &&
-               !place.is_joined(end + blank + candidate.written.size());
+               !place.is_joined(end + blank + candidate.written().size());
     });
     if (row == nullptr) return;
     say_amount(number, scale, *row, end + blank, found);
-    found.length = end + blank + row->written.size();
+    found.length = end + blank + row->written().size();
     found.length += say_per(place, found.length, found.words);
 }
 

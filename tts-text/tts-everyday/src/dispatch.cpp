@@ -85,7 +85,7 @@ static_assert(N_RULES <= 32);
 // A word in small letters is most often none of these.
 constexpr bool begins_bare_title(char c) {
     for (const Row& row : TITLES) {
-        if (is_bare_title(row) && row.written[0] == c) return true;
+        if (is_bare_title(row) && row.written()[0] == c) return true;
     }
     return false;
 }
@@ -124,7 +124,7 @@ constexpr bool begins_all(Rule rule, const Row (&rows)[N]) {
         bool has_begin = false;
         for (const Spec& spec : RULES) {
             has_begin =
-                has_begin || (spec.rule == rule && has(spec.begins, sort_of(row.written[0])));
+                has_begin || (spec.rule == rule && has(spec.begins, sort_of(row.written()[0])));
         }
         if (!has_begin) return false;
     }

@@ -46,7 +46,7 @@ bool read_whole_and_sign(const Place& place, std::string_view whole, Found& foun
         part.remove_prefix(ONE.size());
     }
     say(part, found.words);
-    found.length = at + sign->written.size();
+    found.length = at + sign->written().size();
     return true;
 }
 

@@ -36,7 +36,7 @@ void read_typography(const Place& place, Found& found) {
     found.words = row->spoken;
     // In a sentence, an ellipsis is a pause.
     const std::size_t next = c.length + place.blanks(c.length);
-    if (row->written == "…" && is_lower(place.peek(next))) found.words = ", ";
+    if (row->written() == "…" && is_lower(place.peek(next))) found.words = ", ";
 }
 
 }  // namespace kavi::everyday

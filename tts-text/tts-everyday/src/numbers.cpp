@@ -10,11 +10,11 @@ namespace {
 bool read_ordinal(const Place& place, const Number& number, Found& found) {
     if (!number.fraction.empty()) return false;
     const Row* suffix = place.find_row(ORDINAL_SUFFIXES, number.length, [&](const Row& row) {
-        return !place.is_joined(number.length + row.written.size());
+        return !place.is_joined(number.length + row.written().size());
     });
     if (suffix == nullptr) return false;
     say_ordinal(number.digits(), found.words);
-    found.length = number.length + suffix->written.size();
+    found.length = number.length + suffix->written().size();
     return true;
 }
 
@@ -105,7 +105,7 @@ bool is_size(const Place& place, std::size_t ahead) {
     // No row: its abbreviation is a word.
     if (word == "inches" || place.starts_with("in.", ahead)) return true;
     return std::any_of(std::begin(UNITS), std::end(UNITS), [word](const Row& row) {
-        return word == row.written || word == row.spoken || word == row.many;
+        return word == row.written() || word == row.spoken || word == row.many;
     });
 }
 
@@ -162,7 +162,7 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
     const char before = place.before();
     const bool may_begin =
         before == '\0' || before == ' ' || before == '(' || before == '\n' || before == ':';
-    const std::size_t length = sign.written.size();
+    const std::size_t length = sign.written().size();
     const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
     if (!may_begin || !is_digit(place.peek(length + blank))) return;
     found.length = length + blank;
@@ -212,7 +212,7 @@ void read_point(const Place& place, Found& found) {
 void read_sign(const Place& place, Found& found) {
     if (const Row* fraction = fraction_sign_at(place, 0)) {
         found.words = fraction->spoken;
-        found.length = fraction->written.size();
+        found.length = fraction->written().size();
         return;
     }
     const Row* sign = place.find_row(SIGNS, 0);
@@ -223,8 +223,8 @@ void read_sign(const Place& place, Found& found) {
 
 // "πr", but not the first letter of "πόλις".
 void say_sign(const Place& place, const Row& sign, Found& found) {
-    if (place.letter(0) > 0 && place.letter(sign.written.size()) > 1) return;
-    found.length = sign.written.size();
+    if (place.letter(0) > 0 && place.letter(sign.written().size()) > 1) return;
+    found.length = sign.written().size();
     found.words = sign.spoken;
 }
 

@@ -51,7 +51,7 @@ bool is_comparison_alone(const Place& place, std::size_t length) {
 
 bool fits_operator(const Place& place, const Row& row, const Gap& gap) {
     const bool has_blanks = gap.before > 0;
-    if (has_blanks != (gap.after > row.written.size())) return false;
+    if (has_blanks != (gap.after > row.written().size())) return false;
     const bool has_words = is_word_before(place, gap.before) && is_word_after(place, gap.after);
     if (row.kind == Kind::words) return has_words;
     const bool has_quantities =
@@ -60,19 +60,19 @@ bool fits_operator(const Place& place, const Row& row, const Gap& gap) {
         is_digit(place.before(gap.before + 1)) && is_digit(place.peek(gap.after));
     // Without blanks "a<b>c" is markup.
     if (row.kind == Kind::compared) return has_blanks ? has_words : has_numbers;
-    if (row.written == "/") return has_numbers && has_blanks;
+    if (row.written() == "/") return has_numbers && has_blanks;
     // "6 - 4 = 2", but no range and no score.
-    if (row.written == "-") {
+    if (row.written() == "-") {
         const std::size_t end = gap.after + number_at(place, gap.after).length;
         return has_numbers && has_blanks && place.peek(end + place.blanks(end)) == '=';
     }
     // "mc^2"
-    if (row.written == "^" && is_letter(place.before()) && is_digit(place.peek(gap.after)))
+    if (row.written() == "^" && is_letter(place.before()) && is_digit(place.peek(gap.after)))
         return true;
     // "f**k" is no power.
     const bool has_number =
         is_digit(place.before(gap.before + 1)) || is_digit(place.peek(gap.after));
-    if (row.written == "**" && !has_number) return false;
+    if (row.written() == "**" && !has_number) return false;
     // "^C^Z" are keys.
     return has_quantities && !(is_upper(place.before()) && is_upper(place.peek(gap.after)));
 }
@@ -93,19 +93,19 @@ bool read_small_power(const Place& place, std::size_t ahead, Found& found) {
 bool read_operator(const Place& place, Found& found) {
     const Row* row = place.find_row(OPERATORS, 0);
     if (row == nullptr) return false;
-    const std::size_t length = row->written.size();
+    const std::size_t length = row->written().size();
     Gap gap = {0, length + place.blanks(length)};
     while (place.before(gap.before + 1) == ' ') ++gap.before;
     const bool is_read = fits_operator(place, *row, gap) ||
                          (row->kind == Kind::compared && is_comparison_alone(place, length));
     if (!is_read) return false;
-    if (row->written == "^" && gap.before == 0 && read_small_power(place, length, found))
+    if (row->written() == "^" && gap.before == 0 && read_small_power(place, length, found))
         return true;
     found.length = length;
     found.words = row->spoken;
     // "File > Save": a way through menus.
-    const bool is_menu = row->written == ">" && gap.before > 0 && is_upper(place.peek(gap.after)) &&
-                         is_lower(place.peek(gap.after + 1));
+    const bool is_menu = row->written() == ">" && gap.before > 0 &&
+                         is_upper(place.peek(gap.after)) && is_lower(place.peek(gap.after + 1));
     if (is_menu) found.words = ", ";
     return true;
 }

@@ -96,6 +96,14 @@ bool may_be_speaker(const Place& place, std::string_view name) {
     return find(SPEAKER_VERBS, place.letters(2)) != nullptr;
 }
 
+// "Part", "Parts"
+bool is_counted_by_roman(std::string_view word) {
+    if (find(COUNTED_BY_ROMAN, word) != nullptr) return true;
+    if (word.empty() || word.back() != 's') return false;
+    word.remove_suffix(1);
+    return find(COUNTED_BY_ROMAN, word) != nullptr;
+}
+
 enum class Counting { none, ordinal, cardinal };
 
 Counting counting_after(const Place& place, std::string_view numeral) {
@@ -111,7 +119,7 @@ Counting counting_after(const Place& place, std::string_view numeral) {
     const std::string_view counted = has_stop ? place.letters_before(back + 2) : before;
     const Row* title = has_stop ? find(TITLES, counted) : nullptr;
     const bool is_counted = has_stop ? title != nullptr && title->kind == Kind::before_number
-                                     : find(COUNTED_BY_ROMAN, counted) != nullptr;
+                                     : is_counted_by_roman(counted);
     if (is_counted) {
         const bool is_speaker = is_lower(counted[0]) && numeral == "I" && !has_numeral_after(place);
         return is_speaker ? Counting::none : Counting::cardinal;

@@ -68,8 +68,8 @@ void read_slashed_words(const Place& place, Found& found);
 
 // Whether the first word of a row of TITLES may have no full stop after it: "Mr", "et al".
 constexpr bool is_bare_title(const Row& row) {
-    const std::size_t end = row.written.find_first_of(" .");
-    if (end != std::string_view::npos) return row.written[end] == ' ';
+    const std::size_t end = row.written().find_first_of(" .");
+    if (end != std::string_view::npos) return row.written()[end] == ' ';
     return row.kind == Kind::never || row.kind == Kind::before_date;
 }
 

@@ -9,16 +9,13 @@ namespace kavi::everyday {
 
 namespace {
 
-constexpr std::size_t N_ABBREVIATIONS = std::size(s_spec_word_abbrevi);
-
-// Without their full stops.
-constexpr auto ABBREVIATIONS = [] {
-    std::array<std::string_view, N_ABBREVIATIONS> abbreviations{};
-    for (std::size_t i = 0; i < N_ABBREVIATIONS; ++i) {
-        const std::string_view written = s_spec_word_abbrevi[i][0];
-        abbreviations[i] = written.substr(0, written.find('.'));
+// The lengths of the engine's abbreviations without their full stops.
+constexpr auto LENGTHS = [] {
+    std::array<unsigned char, std::size(s_spec_word_abbrevi)> lengths{};
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        while (s_spec_word_abbrevi[i][0][lengths[i]] != '.') ++lengths[i];
     }
-    return abbreviations;
+    return lengths;
 }();
 
 bool ends_alike(std::string_view word, std::string_view abbreviation) {
@@ -30,30 +27,31 @@ bool ends_alike(std::string_view word, std::string_view abbreviation) {
     return true;
 }
 
-// The first abbreviation that a word ends like, or null.
-const std::string_view* abbreviation_at_end(std::string_view word) {
-    const auto* found = std::find_if(ABBREVIATIONS.begin(), ABBREVIATIONS.end(),
-                                     [&](std::string_view a) { return ends_alike(word, a); });
-    return found != ABBREVIATIONS.end() ? found : nullptr;
+// The length of the first abbreviation that a word ends like, or 0.
+std::size_t abbreviation_at_end(std::string_view word) {
+    for (std::size_t i = 0; i < LENGTHS.size(); ++i) {
+        if (ends_alike(word, {s_spec_word_abbrevi[i][0], LENGTHS[i]})) return LENGTHS[i];
+    }
+    return 0;
 }
 
 }  // namespace
 
 bool ends_like_abbreviation(std::string_view words) {
-    return abbreviation_at_end(words) != nullptr;
+    return abbreviation_at_end(words) > 0;
 }
 
 void read_shield(const Place& place, Found& found) {
     if (place.peek() != '.' || !is_letter(place.before())) return;
     const std::string_view word = place.letters_before();
-    const std::string_view* abbreviation = abbreviation_at_end(word);
-    if (abbreviation == nullptr) return;
+    const std::size_t length = abbreviation_at_end(word);
+    if (length == 0) return;
     // The abbreviation itself is left to the engine, but for words that are spelled alike.
     const bool is_star = word == "Sun" && place.word_before(word.size()) == "the";
     // "section 6b.", "b. The second"; "(b. 1970)" is somebody's birth.
     const bool is_label = word == "b" && (is_digit(place.before(2)) || !is_digit(place.peek(2)));
-    const bool is_word = word.size() > abbreviation->size() || word == "May" || word == "may" ||
-                         word == "mar" || word == "B" || is_star || is_label;
+    const bool is_word = word.size() > length || word == "May" || word == "may" || word == "mar" ||
+                         word == "B" || is_star || is_label;
     if (!is_word) return;
     found.length = 1;
     found.words = " .";

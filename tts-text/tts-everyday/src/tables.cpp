@@ -13,11 +13,11 @@ const Row* find_longest_in(Table table, std::string_view text) {
 
 const Row* find(Table table, std::string_view written) {
     const Row* row = find_longest_in(table, written);
-    return row != nullptr && row->written.size() == written.size() ? row : nullptr;
+    return row != nullptr && row->written().size() == written.size() ? row : nullptr;
 }
 
 const Row* find_shorter(Table table, const Row& row) {
-    return find_longest_in(table, row.written.substr(0, row.written.size() - 1));
+    return find_longest_in(table, row.written().substr(0, row.written().size() - 1));
 }
 
 }  // namespace kavi::everyday

@@ -11,7 +11,7 @@
 namespace kavi::everyday {
 
 // Where a row is read, or how; the head of each table says what its kinds mean.
-enum class Kind {
+enum class Kind : unsigned char {
     none,
     never,
     needed,
@@ -32,11 +32,23 @@ enum class Kind {
     compared,
 };
 
-// A column that a table does not have is empty, and its kind is none.
+// A column that a table does not have is empty, and its kind is none. There are many: each is
+// small.
 struct Row {
-    std::string_view written;  // not empty; no two of a table are the same
+    constexpr Row(std::string_view written, const char* words, const char* words_of_many, Kind k)
+        : text(written.data()),
+          spoken(words),
+          many(words_of_many),
+          length(static_cast<unsigned char>(written.size())),
+          kind(k) {}
+
+    // Not empty; no two of a table are the same.
+    constexpr std::string_view written() const { return {text, length}; }
+
+    const char* text;
     const char* spoken;
     const char* many;
+    unsigned char length;
     Kind kind;
 };
 
@@ -53,16 +65,18 @@ struct Table {
 // NUL after its end; it is asked for no byte after the first that no row has there.
 template <typename ByteAt>
 const Row* find_longest(Table table, ByteAt byte_at) {
-    const auto byte_of = [](const Row& row) { return static_cast<unsigned char>(row.written[0]); };
+    const auto byte_of = [](const Row& row) {
+        return static_cast<unsigned char>(row.written()[0]);
+    };
     const auto byte = static_cast<unsigned char>(byte_at(0));
     const Row* row = std::partition_point(table.first, table.end,
                                           [&](const Row& r) { return byte_of(r) < byte; });
     const Row* longest = nullptr;
     for (; row != table.end && byte_of(*row) == byte; ++row) {
         std::size_t n_alike = 1;
-        while (n_alike < row->written.size() && row->written[n_alike] == byte_at(n_alike))
+        while (n_alike < row->written().size() && row->written()[n_alike] == byte_at(n_alike))
             ++n_alike;
-        if (n_alike == row->written.size()) longest = row;
+        if (n_alike == row->written().size()) longest = row;
     }
     return longest;
 }

@@ -152,10 +152,10 @@ bool is_after_ordinal(const Place& place) {
 }
 
 bool fits(const Place& place, const Row& row) {
-    const std::size_t length = row.written.size();
+    const std::size_t length = row.written().size();
     const char after = place.peek(length);
     const bool is_of_path =
-        after == '.' && is_lower(row.written[0]) &&
+        after == '.' && is_lower(row.written()[0]) &&
         (place.before() == '.' || place.before() == '/' || is_lower(place.peek(length + 1)));
     if (is_of_path) return false;  // "misc.c"
     if (row.kind == Kind::anywhere) return !place.is_joined(length);
@@ -165,7 +165,7 @@ bool fits(const Place& place, const Row& row) {
     if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');
     switch (row.kind) {
         case Kind::before_number:
-            if ((row.written == "No" || row.written == "no") && is_answer(place)) return false;
+            if ((row.written() == "No" || row.written() == "no") && is_answer(place)) return false;
             return is_before_number(place, length + 1);
         case Kind::before_name:
             return place.peek(length + 1) == ' ' && is_upper(place.peek(length + 2));
@@ -179,7 +179,7 @@ bool fits(const Place& place, const Row& row) {
 bool read_row(const Place& place, Found& found) {
     const Row* row = place.find_row(TITLES, 0, [&](const Row& r) { return fits(place, r); });
     if (row == nullptr) return false;
-    const std::size_t length = row->written.size();
+    const std::size_t length = row->written().size();
     if (row->kind == Kind::anywhere) {
         found.length = length;
         found.say_name(0, length, row->spoken);

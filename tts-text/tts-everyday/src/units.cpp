@@ -53,7 +53,7 @@ bool may_begin_number(const Place& place) {
 }
 
 bool fits_unit(const Place& place, const Row& row, std::size_t ahead) {
-    const std::size_t end = ahead + row.written.size();
+    const std::size_t end = ahead + row.written().size();
     if (place.is_joined(end)) return false;
     if (row.kind == Kind::before_noun) return place.is_before_noun(end);
     return row.kind != Kind::inside || place.peek(end) != ' ' || !is_upper(place.peek(end + 1));
@@ -100,7 +100,7 @@ void read_unit(const Place& place, Found& found) {
     const bool may_be_plural = blank == 0 && number.fraction.empty() && !is_duration;  // "the 5s"
     const Row* row = place.find_row(UNITS, end + blank, [&](const Row& candidate) {
         return fits_unit(place, candidate, end + blank) &&
-               !(candidate.written == "s" && may_be_plural);
+               !(candidate.written() == "s" && may_be_plural);
     });
     if (row == nullptr) return;
     number.say(found.words);
@@ -108,13 +108,13 @@ void read_unit(const Place& place, Found& found) {
         say("to", found.words);
         second.say(found.words);
     }
-    const std::size_t after = end + blank + row->written.size();
+    const std::size_t after = end + blank + row->written().size();
     const bool is_adjective = place.peek(end) == '-' || place.is_before_noun(after);
     const bool is_one = (number.is_one() && second.length == 0) || is_adjective;
-    if (row->written == "m" && is_after_hours(place)) {
+    if (row->written() == "m" && is_after_hours(place)) {
         say(number.is_one() ? "minute" : "minutes", found.words);
     } else {
-        found.say_name(end + blank, row->written.size(), is_one ? row->spoken : row->many);
+        found.say_name(end + blank, row->written().size(), is_one ? row->spoken : row->many);
     }
     std::size_t link = say_per(place, after, found.words);
     if (link == 0) link = say_by(place, after, found.words);
@@ -122,7 +122,7 @@ void read_unit(const Place& place, Found& found) {
         found.length = after + link;
         return;
     }
-    if (row->written.back() == '.') {  // the sentence's too
+    if (row->written().back() == '.') {  // the sentence's too
         found.length = after - (place.may_end_sentence(after) ? 1 : 0);
         return;
     }

@@ -229,6 +229,8 @@ TEST(Everyday, AmericanDatesPutTheMonthFirst) {
     Everyday everyday = all_classes();
     everyday.set_american_dates(true);
     EXPECT_EQ(rewritten(everyday, "3/1/2020"), "March first twenty twenty");
+    everyday.set(EverydayClass::years, false);
+    EXPECT_EQ(rewritten(everyday, "3/1/2020").find("March"), std::string::npos);
 }
 
 }  // namespace

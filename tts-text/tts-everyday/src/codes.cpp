@@ -22,7 +22,7 @@ void say_in_pairs(std::string_view digits, std::string& out) {
     if (digits.size() > LONGEST || digits[0] == '0') return say_digits(digits, out);
     const std::string_view first = digits.substr(0, digits.size() - 2);
     const std::string_view last = digits.substr(digits.size() - 2);
-    if (last == "00" && (first.size() == 1 || first[1] == '0')) return say_cardinal(digits, out);
+    if (last == "00" && first.back() == '0') return say_cardinal(digits, out);
     say_cardinal(first, out);
     if (last == "00") return say("hundred", out);
     if (last[0] == '0') say("oh", out);

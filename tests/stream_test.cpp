@@ -206,7 +206,7 @@ TEST(Stream, MuchText_KeepsLittleOfIt) {
     const std::string blanks(9000, ' ');
     std::size_t most = 0;
     for (int i = 0; i < 30000; ++i) {
-        each.stream.add(i % 1000 == 0 ? "<poem=a" : i % 1000 == 500 ? blanks : "word, ");
+        each.stream.add(i % 1000 == 999 ? "<poem=a" : i == 300 ? blanks : "word, ");
         most = std::max(most, each.stream.text().size());
         each.told.lines.clear();
     }

@@ -119,8 +119,7 @@ class TextBuffer {
         return end + 1;
     }
     static char* put(std::string_view piece, char* end) {
-        std::memcpy(end, piece.data(), piece.size());
-        return end + piece.size();
+        return end + piece.copy(end, piece.size());
     }
     static char* put(std::size_t number, char* end) {
         return std::to_chars(end, end + room_for(number), number).ptr;

@@ -52,7 +52,7 @@ bool TextReader::read(std::string_view text, std::size_t offset, bool is_complet
         }
         window_.consume(rest_, cut_.open_tags);
         searched_ = 0;
-        needs_full_window_ = false;
+        needs_full_window_ = was_passed_over_;
     }
     if (!window_.holds_rest()) return true;
     diagnostics_.clear();

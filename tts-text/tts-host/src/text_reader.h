@@ -81,7 +81,7 @@ class TextReader final : SentencePlaces {
     // No mark before this, in the text, ends the next sentence: unless the window has to be full
     // for that to be known.
     std::size_t searched_to() const;
-    bool needs_full_window() const { return needs_full_window_ || was_passed_over_; }
+    bool needs_full_window() const { return needs_full_window_; }
 
   private:
     // Sentences that normalise to more are tried again as a shorter piece, so that there is always

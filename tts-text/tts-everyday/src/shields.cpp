@@ -9,9 +9,11 @@ namespace kavi::everyday {
 
 namespace {
 
+constexpr std::size_t N_ABBREVIATIONS = std::size(s_spec_word_abbrevi);
+
 // The lengths of the engine's abbreviations without their full stops.
 constexpr auto LENGTHS = [] {
-    std::array<unsigned char, std::size(s_spec_word_abbrevi)> lengths{};
+    std::array<unsigned char, N_ABBREVIATIONS> lengths{};
     for (std::size_t i = 0; i < lengths.size(); ++i) {
         while (s_spec_word_abbrevi[i][0][lengths[i]] != '.') ++lengths[i];
     }

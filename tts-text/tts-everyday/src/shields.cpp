@@ -14,7 +14,7 @@ constexpr std::size_t N_ABBREVIATIONS = std::size(s_spec_word_abbrevi);
 // The lengths of the engine's abbreviations without their full stops.
 constexpr auto LENGTHS = [] {
     std::array<unsigned char, N_ABBREVIATIONS> lengths{};
-    for (std::size_t i = 0; i < lengths.size(); ++i) {
+    for (std::size_t i = 0; i != N_ABBREVIATIONS; ++i) {
         while (s_spec_word_abbrevi[i][0][lengths[i]] != '.') ++lengths[i];
     }
     return lengths;

@@ -109,17 +109,16 @@ bool have_same_attributes(const CssmlTag& a, const CssmlTag& b) {
     return std::memcmp(begin(a), begin(b), END - BEGIN) == 0;
 }
 
-using Plain = PlainCharacters<'&', '<', '>'>;
+using Plain = PlainCharacters<'&', '<'>;
 
-// A word that an unclosed tag got into has more than letters. What XML does not have, or is outside
-// ASCII, is U+FFFD.
+// A word that an unclosed tag got into has more than letters, but no ">", which would end the tag.
+// What XML does not have, or is outside ASCII, is U+FFFD.
 void append_escaped(std::string_view word, TextBuffer& out) {
     if (out.add_plain(word, Plain())) return;
     for (const char c : word) {
         switch (c) {
             case '&': out.add("&amp;"); break;
             case '<': out.add("&lt;"); break;
-            case '>': out.add("&gt;"); break;
             default: Plain::have(c) ? out.add(c) : out.add("\xef\xbf\xbd");
         }
     }
@@ -144,7 +143,7 @@ void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::si
             copy_to(end_of_closing_marks(i));
             has_break |= write_break(record);
         }
-        if (i + 1 == n_records_) break;
+        if (i + 1 == n_records_) continue;
         const CssmlTag& next = sentence.records[i + 1].cssml_tag;
         const bool had_any = std::exchange(has_any, has_attributes(next));
         if ((has_any || had_any) && !have_same_attributes(record.cssml_tag, next)) {

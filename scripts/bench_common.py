@@ -27,7 +27,7 @@ def instructions(command, function=None):
 
 
 def median_seconds(work, times=7):
-    """Of so many runs, by the clock."""
+    """The median of `times` runs, by the clock."""
     seconds = []
     for _ in range(times):
         begin = time.perf_counter()

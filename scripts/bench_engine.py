@@ -58,7 +58,7 @@ for name in rate:
         lengths[kind, what][int(more[0])] = 1e9 / rate[name]
 for (kind, what), cost in lengths.items():
     short, most = {"length": (256, 1.3), "builder": (100000, 1.2), "host": (10000, 1.2)}[what]
-    if what == "builder":  # so many records do not fit a cache: counted, since timed it measures the memory
+    if what == "builder":  # counted: the records do not fit a cache, so the clock would measure the memory
         cost = {length: a_byte(ENGINE + "to_utterance_syllable", "build", length, kind) for length in cost}
     goal(f"{kind}, {what}: a byte of {max(cost)} to one of {short}", cost[max(cost)] / cost[short], most=most, noise=TIMED)
 end()

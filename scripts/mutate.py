@@ -22,8 +22,8 @@ SECONDS = 60  # a fault that makes a test run so much longer than three times is
 class Part(NamedTuple):
     """Folders and files; how what is made of them is built; the programs that must notice a fault, the quickest first.
 
-    {tree} is the copy of the project in which they run, {project} the project. Where nothing else is asked for, so many
-    of the faults are tried; of those that are tried, that share must be noticed or explained.
+    {tree} is the copy of the project in which they run, {project} the project. Of the faults, `sample`
+    are tried unless a number is given; of those tried, the share `noticed` must be noticed or explained.
     """
 
     paths: List[str]

@@ -489,8 +489,8 @@ class Reader {
       endsSentence: memory.u32(at + SENTENCE.endsSentence) !== 0};
   }
 
-  // The plain form is what stands before the first word, and each word with what is after it. So they are cut out of
-  // that, which is decoded once, where each of its bytes is a unit.
+  // The plain form is the text before the first word, then each word with the text after it. So it is
+  // decoded once, and where each of its bytes is a unit, the words are cut out of it.
   #words(at, plain, before, units, view) {
     const memory = this.#memory;
     const isCut = view.getUint32(at + SENTENCE.plain + 4, true) === plain.length;

@@ -121,7 +121,7 @@ class Reader:
         return stream.aread(pieces) if isinstance(pieces, AsyncIterable) else stream.read(pieces)
 
     def normalize_many(self, texts: Iterable[str], jobs: int = 1) -> Iterator[str]:
-        """Yields what normalize() returns for each text, in order, by so many threads at once.
+        """Yields what normalize() returns for each text, in order, by `jobs` threads at once.
 
         Holds a few thousand texts at a time; `texts` is advanced in the calling thread. Raises TypeError for a str,
         which is one text, ValueError for fewer jobs than one, and MemoryError as normalize().
@@ -201,12 +201,12 @@ def read(text: str, rules: bool = False) -> Result:
 
 
 def normalize_many(texts: Iterable[str], jobs: int = 1) -> Iterator[str]:
-    """Yields what normalize() returns for each text, in order, by so many threads at once."""
+    """Yields what normalize() returns for each text, in order, by `jobs` threads at once."""
     return Reader().normalize_many(texts, jobs)
 
 
 def read_many(texts: Iterable[str], rules: bool = False, jobs: int = 1) -> Iterator[Result]:
-    """Yields what read() returns for each text, in order, by so many threads at once."""
+    """Yields what read() returns for each text, in order, by `jobs` threads at once."""
     return Reader().read_many(texts, rules, jobs)
 
 

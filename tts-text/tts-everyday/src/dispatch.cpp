@@ -36,7 +36,7 @@ constexpr char sort_of_blank(char next) {
     }
 }
 
-struct Spec {
+struct RuleEntry {
     EverydayClass everyday_class;
     Rule rule;
     std::string_view begins;   // the sorts of the first byte
@@ -46,7 +46,7 @@ struct Spec {
 // Where two rules could read the same, the first does. American dates are tried where the option
 // says so. "a", "A" and "0" are a letter and a digit, "\x7f" is outside ASCII, and " ", "Z", "9"
 // and "z" are blanks.
-constexpr Spec RULES[] = {
+constexpr RuleEntry RULES[] = {
     {EverydayClass::addresses, read_telephone, "0+(", "-./9z"},
     {EverydayClass::addresses, read_address, "aA", ".@:-_+%0"},
     {EverydayClass::currencies, read_currency, "A$-\x7f", "$.09\x7f"},
@@ -105,11 +105,12 @@ constexpr std::array<RuleSet, N> rules_by(May may) {
     return rules;
 }
 
-constexpr auto BY_FIRST = rules_by<SORTS>([](const Spec& spec, char c) {
-    return has(spec.begins, sort_of(c)) && (spec.rule != read_bare_title || begins_bare_title(c));
+constexpr auto BY_FIRST = rules_by<SORTS>([](const RuleEntry& entry, char c) {
+    return has(entry.begins, sort_of(c)) && (entry.rule != read_bare_title || begins_bare_title(c));
 });
-constexpr auto BY_FOLLOWING = rules_by<SORTS>(
-    [](const Spec& spec, char sort) { return spec.follows.empty() || has(spec.follows, sort); });
+constexpr auto BY_FOLLOWING = rules_by<SORTS>([](const RuleEntry& entry, char sort) {
+    return entry.follows.empty() || has(entry.follows, sort);
+});
 
 constexpr auto ROWS = [] {
     std::array<RuleRow, N_RULES> rows{};
@@ -122,9 +123,9 @@ template <std::size_t N>
 constexpr bool begins_all(Rule rule, const Row (&rows)[N]) {
     for (const Row& row : rows) {
         bool has_begin = false;
-        for (const Spec& spec : RULES) {
+        for (const RuleEntry& entry : RULES) {
             has_begin =
-                has_begin || (spec.rule == rule && has(spec.begins, sort_of(row.written()[0])));
+                has_begin || (entry.rule == rule && has(entry.begins, sort_of(row.written()[0])));
         }
         if (!has_begin) return false;
     }

@@ -31,7 +31,7 @@ struct Rewriting {
     void drop(std::size_t length);
 };
 
-// A tag of the markup language has at most so many bytes: what has no ">" by then is none.
+// The most bytes of a tag of the markup language: a "<" without a ">" within them begins none.
 constexpr std::size_t TAG_MAX = 16384;
 
 // The next `c` among the `most` bytes from `at` on; npos for none. `searched` is 0 at first, and

@@ -22,7 +22,7 @@ extern const char* const SSML_END;
 // elements. docs/ssml.md tells which value becomes which.
 class SsmlForm {
   public:
-    // With `has_marks`, a "mark" element stands before each word, named OFFSET-LENGTH after the
+    // With `has_marks`, a "mark" element precedes each word, named OFFSET-LENGTH after the
     // bytes that it was read from.
     explicit SsmlForm(bool has_marks) : has_marks_(has_marks) {}
 

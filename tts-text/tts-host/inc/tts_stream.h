@@ -15,7 +15,7 @@ namespace kavi {
 // same sentences, records, places and findings in the same order, each as soon as nothing that may
 // follow can change it. For a clause that is mostly when the next word has begun, or, where a
 // rewriter reads, ended. At most about 100 KB of text are kept, and a megabyte of bytes outside
-// ASCII in a row. All offsets count from the begin of the stream.
+// ASCII in a row. All offsets count from the start of the stream.
 class TtsStream {
   public:
     // Has the host, which outlives it, to itself: meanwhile that reads nothing else, and a second
@@ -43,7 +43,7 @@ class TtsStream {
     void forget();
 
     // In a handler: what is there of the text, from the offset text_begin() on, for PlainForm,
-    // ssml() and explain(). It has all of the sentence, but for the begin of one of more than
+    // SsmlForm and explain(). It has all of the sentence, but for the begin of one of more than
     // 64 KB.
     std::string_view text() const { return kept_; }
     std::size_t text_begin() const { return kept_begin_; }

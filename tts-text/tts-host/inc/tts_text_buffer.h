@@ -18,7 +18,7 @@ namespace kavi {
 template <char... Special>
 class PlainCharacters {
   public:
-    static constexpr std::size_t AT_ONCE = 16;  // so many are worth it
+    static constexpr std::size_t AT_ONCE = 16;  // from this length on, comparing pays
 
     static bool have(char c) { return IS_PLAIN[static_cast<unsigned char>(c)]; }
 

@@ -1,5 +1,5 @@
 // What scripts/bench counts the instructions of. It says how many bytes it has read. Usage:
-//   bench_instructions all TIMES KIND     a corpus through the three calls, so many times
+//   bench_instructions all TIMES KIND     a corpus through the three calls, TIMES times
 //   bench_instructions floor TIMES KIND   the same through the least that they promise
 //   bench_instructions loop TIMES KIND    the same through a loop over its bytes
 //   bench_instructions host TIMES KIND    the same through the host layer

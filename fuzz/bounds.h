@@ -1,4 +1,4 @@
-// Bounds of what a target does: on a stack of 64 KB, and in so many steps.
+// Bounds of what a target does: a stack of 64 KB, and a number of steps.
 #ifndef KAVI_FUZZ_BOUNDS_H
 #define KAVI_FUZZ_BOUNDS_H
 

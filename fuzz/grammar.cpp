@@ -44,7 +44,7 @@ void add_word(std::string& text, Random& random) {
     }
 }
 
-// In a pattern, "9" stands for some digits, "w" for a word and "A" for an abbreviation; all else
+// In a pattern, "9" is some digits, "w" for a word and "A" for an abbreviation; all else
 // for itself.
 std::string piece(Random& random) {
     static const std::vector<std::string> patterns = first_fields("fuzz_patterns");

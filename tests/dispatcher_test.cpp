@@ -124,7 +124,7 @@ TEST_F(Dispatcher, APatternIsSeenToItsEnd) {
     }
 }
 
-// What stands far ahead is looked for once, and again when it has been passed.
+// A tag far ahead is searched once, and again when it has been passed.
 TEST_F(Dispatcher, LooksForDollarsAndGreaterSignsAlongALongQueue) {
     std::string text;
     for (int i = 0; i < 20; ++i) text += "5.5$ 6.5 < 7.7 > a-";

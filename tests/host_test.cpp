@@ -114,10 +114,10 @@ TEST(Host, PlainTextAsInTheTable) {
 }
 
 TEST(Host, NamesOfWhatNoSentenceHas) {
-    EXPECT_STREQ(pause_name(PAUSE_SYL_FE), "syl");
-    EXPECT_STREQ(pause_name(static_cast<PAUSE_type>(PAUSE_SYL_FE - 1)), "unknown");
-    EXPECT_STREQ(punctuation_name(POIE_FE), "POIE");
-    EXPECT_STREQ(punctuation_name(static_cast<PUNC_type>(POIE_FE + 1)), "unknown");
+    EXPECT_EQ(pause_name(PAUSE_SYL_FE), "syl");
+    EXPECT_EQ(pause_name(static_cast<PAUSE_type>(PAUSE_SYL_FE - 1)), "unknown");
+    EXPECT_EQ(punctuation_name(POIE_FE), "POIE");
+    EXPECT_EQ(punctuation_name(static_cast<PUNC_type>(POIE_FE + 1)), "unknown");
 }
 
 TEST(Host, SourcesOfSentencesAsInTheTable) {

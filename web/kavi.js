@@ -314,7 +314,7 @@ class Reader {
     return {...this.#result(() => new Units(bytes, text)), complete: status === OK};
   }
 
-  // What stands where a function has left a result.
+  // Decodes the result that a function has left.
   #result(makeUnits) {
     const {exports} = this.#memory;
     const result = this.#memory.u32(this.#out);
@@ -359,7 +359,7 @@ class Reader {
     let rest = '';
     let first = 0;
     let firstByte = 0;
-    // Where each "<" stands, by its byte: tags that nothing closes are told at the end, when the text is gone.
+    // The index of each "<", by its byte offset: tags that nothing closes are told at the end, when the text is gone.
     let tags = new Map();
     let nUnits = 0;
     let nBytes = 0;

@@ -167,7 +167,7 @@ std::string bytes_of(const py::handle& text) {
     return std::string(Utf8(text.cast<py::str>()).bytes());
 }
 
-// A word that stands at `begin` of the plain form.
+// A word at offset `begin` of the plain form.
 Word word_from(const py::handle& object, std::size_t begin) {
     const auto fields = object.cast<py::tuple>();
     auto markup = std::make_unique<Markup>();

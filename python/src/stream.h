@@ -39,7 +39,7 @@ class Stream {
     PlainForm plain_;
     Result result_;          // what is told by this call, without its text
     std::string told_text_;  // that
-    // Where each "<" stands, in bytes and in code points: tags that nothing closes are told at the
+    // The offset of each "<", in bytes and in code points: tags that nothing closes are told at the
     // end, when the text is not there any more.
     std::vector<std::pair<std::size_t, std::size_t>> tags_;
     std::size_t n_bytes_ = 0;      // of all pieces

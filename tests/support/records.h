@@ -14,8 +14,9 @@ namespace kavi {
 // markup gives it. The head record has no word.
 inline std::string to_text(const UtteranceSyllable& record) {
     std::string text = record.syllable != nullptr ? record.syllable : "";
-    for (int i = 0; i < record.n_punc; ++i)
-        text += std::string("+") + punctuation_name(record.punc_arr[i]);
+    for (int i = 0; i < record.n_punc; ++i) {
+        text.append("+") += punctuation_name(record.punc_arr[i]);
+    }
     if (record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE) text += "!";
     if (record.pause_type != record.pause_type_tn) text += "?";
     const CssmlTag& tag = record.cssml_tag;

@@ -87,7 +87,7 @@ class JsonFormat : public Format {
     void write_word(const HostSentence& sentence, int number, bool is_plain) {
         const UtteranceSyllable& record = sentence.records[number];
         const TextRange& source = sentence.places.words()[number].source;
-        const char* const pause = pause_name(record.pause_type);
+        const std::string_view pause = pause_name(record.pause_type);
         if (number == 0) {
             line_.begin_head(source, pause);
         } else {

@@ -13,7 +13,7 @@ namespace kavi::tool {
 
 using JsonPlain = PlainCharacters<'"', '\\'>;
 
-// One object after the other. A comma stands after each value, until its object or array ends.
+// One object after the other. A comma follows each value, until its object or array ends.
 class JsonLine {
   public:
     void begin() {
@@ -76,8 +76,8 @@ class JsonLine {
     }
 
   private:
-    // A text as it stands between quotation marks; what is not UTF-8 is U+FFFD. It lives until the
-    // next call.
+    // A text as it is written between quotation marks; what is not UTF-8 is U+FFFD. It lives until
+    // the next call.
     std::string_view escaped(std::string_view text) {
         return JsonPlain::are_all(text) ? text : escape(text, escaped_text_);
     }

@@ -50,7 +50,7 @@ std::optional<int> number_of_open_file(const std::string& path) {
     return {};
 }
 
-// The file that a name stands for, whether it is there or not: links are followed, but not into the
+// The file that a name denotes, whether it exists or not: links are followed, but not into the
 // open files of this process.
 std::string end_of_links(std::filesystem::path path) {
     constexpr int LINKS_MAX = 40;

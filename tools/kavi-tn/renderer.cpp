@@ -74,7 +74,7 @@ void Renderer::render_text(Place place, After after) {
     ++piece_.texts;
 }
 
-// Hands over what there is, which stands for the block up to `end`.
+// Hands over what has been written, which was made from the block up to `end`.
 void Renderer::hand_over_if_large(std::size_t end, const Take& take) {
     constexpr std::size_t OUTPUT_BYTES = std::size_t{4} << 20U;
     constexpr std::size_t FINDINGS = 10000;

@@ -19,7 +19,7 @@ namespace kavi::tool {
 struct Rendered {
     std::string output;  // whole lines
     std::vector<FindingMessage> findings;
-    std::size_t bytes = 0;  // of the block, that it stands for
+    std::size_t bytes = 0;  // of the block, that it was made from
     std::size_t texts = 0;  // read
     bool all_read = true;
     std::set<std::string> lost;  // what the format has no word for
@@ -46,7 +46,7 @@ class Renderer {
     char delimiter_;
     bool writes_findings_;
     Rendered piece_;         // the one at hand
-    std::size_t taken_ = 0;  // bytes of the block that the pieces before it stand for
+    std::size_t taken_ = 0;  // bytes of the block that the pieces before it were made from
     TtsHost host_;
     std::unique_ptr<Format> format_;
     std::vector<Diagnostic> diagnostics_;  // of the sentence to come

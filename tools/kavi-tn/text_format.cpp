@@ -153,7 +153,7 @@ class SpeakableFormat : public Format {
     }
 };
 
-// A line for each text, also for one without words, so that the lines can stand beside those of the
+// A line for each text, also for one without words, so that the lines correspond to those of the
 // input.
 class PlainFormat : public Format {
   public:

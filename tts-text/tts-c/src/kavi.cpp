@@ -94,11 +94,11 @@ const char* kavi_status_text(kavi_status status) {
 }
 
 const char* kavi_pause_name(int32_t pause) {
-    return kavi::pause_name(static_cast<kavi::PAUSE_type>(pause));
+    return kavi::pause_name(static_cast<kavi::PAUSE_type>(pause)).data();
 }
 
 const char* kavi_mark_name(int32_t mark) {
-    return kavi::punctuation_name(static_cast<kavi::PUNC_type>(mark));
+    return kavi::punctuation_name(static_cast<kavi::PUNC_type>(mark)).data();
 }
 
 const char* kavi_attribute_name(kavi_attribute attribute) {

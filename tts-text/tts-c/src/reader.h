@@ -1,4 +1,4 @@
-// What stands between the C functions and the host layer.
+// The layer between the C functions and the host layer.
 #ifndef KAVI_C_READER_H
 #define KAVI_C_READER_H
 

@@ -122,7 +122,7 @@ bool read_military(const Place& place, Found& found) {
     return true;
 }
 
-// "in 35:20": minutes and seconds, since no day has so many hours; "60:40" is a division
+// "in 35:20": minutes and seconds, since a day has 24 hours; "60:40" is a division
 bool read_minutes_and_seconds(const Place& place, Found& found) {
     const std::string_view minutes = place.digits();
     const std::string_view seconds = place.digits(minutes.size() + 1);

@@ -11,7 +11,7 @@ namespace kavi::everyday {
 constexpr std::size_t CODE_POINT_BYTES = 4;
 
 struct CodePoint {
-    char32_t value;      // NO_CODE_POINT for a byte that is none
+    char32_t value;      // NO_CODE_POINT for an invalid byte
     std::size_t length;  // 1 then
 };
 constexpr char32_t NO_CODE_POINT = 0xFFFFFFFF;

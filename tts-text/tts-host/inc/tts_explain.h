@@ -24,7 +24,7 @@ struct ExplainedRun {
 using RunHandler = std::function<void(const ExplainedRun&)>;
 
 // Calls `on_run` with the runs of one sentence as eng_text_normalize wrote it (at most 4095 bytes),
-// in order: together they are the sentence as it stands, or as much of it as fits the engine's
+// in order: together they are the whole sentence, or as much of it as fits the engine's
 // output. Their sources are places in `normalized`.
 void explain(std::string_view normalized, const RunHandler& on_run);
 

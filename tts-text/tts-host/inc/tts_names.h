@@ -16,11 +16,11 @@ inline std::string_view word_of(const UtteranceSyllable& record) {
     return {record.syllable, static_cast<std::size_t>(record.syl_len - 1)};
 }
 
-// As in "intonation phrase, forced"; "unknown" for a value that is none.
-const char* pause_name(PAUSE_type pause);
+// As in "intonation phrase, forced"; "unknown" for any other value. A NUL follows the name.
+std::string_view pause_name(PAUSE_type pause);
 
-// As in "<punc=" tags; "unknown" for no mark.
-const char* punctuation_name(PUNC_type punc);
+// As in "<punc=" tags; "unknown" for no mark. A NUL follows the name.
+std::string_view punctuation_name(PUNC_type punc);
 
 // Whether a word has attributes, break time aside: most have none.
 inline bool has_attributes(const CssmlTag& tag) {

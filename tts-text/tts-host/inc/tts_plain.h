@@ -25,7 +25,7 @@ class PlainForm {
 
     std::string_view all() const { return all_.text(); }
 
-    // What stands before the first word.
+    // The text before the first word.
     std::string_view before() const { return after(0); }
 
     // What follows the word of a record, up to the next word; of the head record, before().

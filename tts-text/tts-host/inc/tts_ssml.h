@@ -38,7 +38,7 @@ class SsmlForm {
     std::set<std::string>& lost() { return lost_; }
 
   private:
-    // What a word stands in; empty: no such element. `prosody` is attributes, `level` a value.
+    // The elements around a word; empty: no such element. `prosody` is attributes, `level` a value.
     struct Elements {
         TextBuffer prosody;
         std::string_view level;

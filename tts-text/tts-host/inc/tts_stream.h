@@ -3,10 +3,10 @@
 #define KAVI_TTS_STREAM_H
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 #include "tts_host.h"
+#include "tts_text_buffer.h"
 
 namespace kavi {
 
@@ -45,20 +45,20 @@ class TtsStream {
     // In a handler: what is there of the text, from the offset text_begin() on, for PlainForm,
     // SsmlForm and explain(). It has all of the sentence, but for the begin of one of more than
     // 64 KB.
-    std::string_view text() const { return kept_; }
+    std::string_view text() const { return kept_.text(); }
     std::size_t text_begin() const { return kept_begin_; }
 
   private:
     bool read(bool is_complete);
     bool take(std::string_view part);
-    bool may_tell(std::string_view part) const;
+    bool may_tell(std::size_t added) const;
     void drop_told();
 
     TtsHost& host_;
     host::TextReader& reader_;
     TtsHost::SentenceHandler on_sentence_;
     TtsHost::DiagnosticHandler on_diagnostic_;
-    std::string kept_;            // of the text
+    TextBuffer kept_;             // of the text
     std::size_t kept_begin_ = 0;  // its offset
     std::size_t unread_ = 0;      // bytes at its end that have been added since it was read
     std::size_t mark_ = 0;        // in it, the first mark that may end a clause; its size for none

@@ -118,10 +118,29 @@ class TextBuffer {
         *end = c;
         return end + 1;
     }
+    // Words and names are copied as two halves of fixed size that may overlap, since a call of
+    // memcpy costs more than they do.
     static char* put(std::string_view piece, char* end) {
-        return end + piece.copy(end, piece.size());
+        const std::size_t size = piece.size();
+        if (size < 2 || size > 16) {
+            std::memcpy(end, piece.data(), size);
+        } else if (size < 4) {
+            put_ends<2>(piece, end);
+        } else if (size < 8) {
+            put_ends<4>(piece, end);
+        } else {
+            put_ends<8>(piece, end);
+        }
+        return end + size;
     }
+    template <std::size_t Size>
+    static void put_ends(std::string_view piece, char* end) {
+        std::memcpy(end, piece.data(), Size);
+        std::memcpy(end + piece.size() - Size, piece.data() + piece.size() - Size, Size);
+    }
+    // Lengths mostly have one digit.
     static char* put(std::size_t number, char* end) {
+        if (number < 10) return put(static_cast<char>('0' + number), end);
         return std::to_chars(end, end + room_for(number), number).ptr;
     }
 

@@ -6,8 +6,28 @@ namespace kavi::host {
 
 namespace {
 
-// Signs that are words of a text, not its punctuation.
-constexpr std::string_view SIGNS = "#%&+\\^_`|<>=*~@$";
+// Whether a character is a word of a text, not its punctuation.
+bool is_sign(char c) {
+    switch (c) {
+        case '#':
+        case '%':
+        case '&':
+        case '+':
+        case '\\':
+        case '^':
+        case '_':
+        case '`':
+        case '|':
+        case '<':
+        case '>':
+        case '=':
+        case '*':
+        case '~':
+        case '@':
+        case '$': return true;
+        default: return false;
+    }
+}
 
 // After "Tel." none comes here, since that full stop ends a sentence.
 bool is_telephone_number(tn::ReadingRule rule) {
@@ -69,7 +89,7 @@ void ReadingFindings::add_step(const tn::ReadingStep& step) {
 
 // A sign for which the speakable text has no letter is told once in a text.
 void ReadingFindings::add_mark(std::string_view mark, int speakable_length) {
-    if (SIGNS.find(mark[0]) == std::string_view::npos) return;
+    if (!is_sign(mark[0])) return;
     if (mark[0] == '$' && is_after_money_) return;
     const bool is_said =
         std::any_of(speakable_ + speakable_length_, speakable_ + speakable_length, tn::is_letter);

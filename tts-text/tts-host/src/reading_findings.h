@@ -11,8 +11,8 @@
 
 namespace kavi::host {
 
-// Looks on while a sentence is read, and notes digits that are not, marks without a word, readings
-// that were cut, and tags that were passed over; with offsets in the sentence.
+// Observes the reading of a sentence, and notes digits that are not read, marks without a word,
+// readings that were cut, and tags that were passed over; with offsets in the sentence.
 class ReadingFindings {
   public:
     // Before a text.

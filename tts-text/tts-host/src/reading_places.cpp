@@ -19,7 +19,7 @@ TextRange ReadingPlaces::source_of_word(const Reading& reading, std::size_t offs
     return pieces.source_of(reading.at + offset, std::min(rest.find(' '), rest.size()));
 }
 
-// All that changes from word to word stands in variables here, so that it can stay in registers.
+// What changes from word to word is in local variables, which can stay in registers.
 void ReadingPlaces::find_places(const std::vector<SourcePiece>& pieces,
                                 const tn::TextEvents& events, WordPlace* place) {
     readings_.emplace_back().target_at = SZ_TEXT_MAX_LEN;  // after the last

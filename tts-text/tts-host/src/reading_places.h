@@ -12,7 +12,7 @@
 
 namespace kavi::host {
 
-// Looks on while a sentence is read.
+// Observes the reading of a sentence.
 class ReadingPlaces {
   public:
     // Before a sentence is read to `speakable`.
@@ -23,8 +23,8 @@ class ReadingPlaces {
         target_end_ = 0;
     }
 
-    // The speakable text is so long after it. What begins with a letter is words that are copied,
-    // and a blank, or one that is written out: then it is longer.
+    // `target_length`: of the speakable text after it. A piece that begins with a letter is copied
+    // with a blank after it, or is a word that is written out, and then longer.
     void add_plain_text(std::string_view source, int target_length) {
         const auto target_end = static_cast<std::size_t>(target_length);
         const bool is_copy = target_end - target_end_ == source.size() + 1;

@@ -26,7 +26,7 @@ bool add_needs(void* context, const tn::TextEvents& events) {
     return true;
 }
 
-// Stores words in records that stand one after the other, as their storage does.
+// Stores words in consecutive records, with consecutive storage.
 struct BlockFiller {
     tn::RecordFiller records;
     char* zhuyin;
@@ -46,7 +46,7 @@ struct BlockFiller {
 }  // namespace
 
 // The block is the records, the room for pronunciations, which is cleared with them, and the words.
-// A list has room for all items of a sentence: tags stand apart from words there, so none is put
+// One list has room for all items of a sentence: no tag interrupts a word there, so no word is put
 // together.
 bool SentenceRecords::build(std::string_view speakable, tn::TextEvents& events) {
     Needs needs;

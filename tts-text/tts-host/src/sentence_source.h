@@ -1,4 +1,4 @@
-// Which bytes of the text each byte of a sentence stands for.
+// Which bytes of the text each byte of a sentence comes from.
 #ifndef KAVI_HOST_SENTENCE_SOURCE_H
 #define KAVI_HOST_SENTENCE_SOURCE_H
 
@@ -13,11 +13,10 @@
 
 namespace kavi::host {
 
-// Which pieces stand for what, asked for one place after the other.
+// A cursor over the pieces of a sentence: offsets are asked for in increasing order.
 class PieceCursor {
   public:
-    // Of the pieces of a sentence that is not empty; the first question is about `at` or a place
-    // after it.
+    // Over the pieces of a sentence that is not empty; the first offset asked for is `at` or later.
     explicit PieceCursor(const std::vector<SourcePiece>& pieces, std::size_t at = 0)
         : piece_(piece_at(pieces, at)), last_(&pieces.back()) {
         look_at_piece();
@@ -56,7 +55,7 @@ class PieceCursor {
     std::size_t after_copy_;  // one more than where the piece ends, if it is a copy; else 0
 };
 
-// Looks on while a sentence is cut, and tells then what its pieces stand for.
+// Observes the cutting of a sentence, and tells afterwards where its pieces come from.
 class SentenceSource {
   public:
     // Before a sentence is cut from what the window holds.
@@ -76,7 +75,7 @@ class SentenceSource {
 
     const std::vector<SourcePiece>& pieces() const { return map_.pieces(); }
 
-    // Whether an abbreviation was read as one since no other case of it stands in the text ahead.
+    // Whether an abbreviation was read as one since the text ahead has no other case of it.
     bool depends_on_text_ahead() const;
 
   private:

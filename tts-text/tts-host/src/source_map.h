@@ -24,7 +24,7 @@ class SourceMap {
     // A copy of `length` bytes at `offset`, where the source of a copy before it ends.
     void copied(std::size_t offset, std::size_t length);
 
-    // `length` bytes that stand for `source` as a whole, or go on with what does; without a length:
+    // `length` bytes that come from `source` as a whole, or continue such bytes; without a length:
     // what was removed, and without a source: what was added. `by` may name the rule that wrote
     // them.
     void replaced(std::size_t length, TextRange source, const RuleId& by = {});

@@ -65,9 +65,9 @@ std::size_t TextReader::searched_to() const {
                                         : window_.next_offset();
 }
 
-// The first sentence of a window that is not full, if it is what it would be in a full one: its end
-// stands there, what the engine looks at after that, and where the next one begins. What a buffer
-// or the arena does not hold is cut as a full window says.
+// The first sentence of a window that is not full, if it is what it would be in a full one: the
+// window has its end, what the engine looks at after that, and the begin of the next one. A
+// sentence that a buffer or the arena does not hold waits for a full window.
 bool TextReader::read_early() {
     if (needs_full_window() || !may_end_early()) return false;
     cut_sentence(window_.length());
@@ -154,8 +154,8 @@ bool TextReader::build_sentence() {
 
 // Not where only a clause does, or where it was cut since it is too long.
 bool TextReader::ends_sentence() const {
-    constexpr std::string_view ENDS = ".?!";
-    return ENDS.find(cut_.end[-1]) != std::string_view::npos ||
+    const char last = cut_.end[-1];
+    return last == '.' || last == '?' || last == '!' ||
            (window_.holds_rest() && rest_ == window_.text() + window_.length());
 }
 

@@ -10,7 +10,7 @@ namespace kavi::host {
 
 namespace {
 
-// As much as a sentence may have and come out as from the engine itself, and some more.
+// More than the longest sentence that the engine itself cuts.
 constexpr std::size_t FILL_BELOW = SZ_TEXT_MAX_LEN;
 
 // A removed tag beyond this is left out of the text before the engine removes it.
@@ -18,7 +18,7 @@ constexpr std::size_t REMOVED_TAG_MAX = 500;
 
 constexpr std::size_t FOREIGN_TAG_MAX = 256;
 
-// Of bytes outside ASCII that are reported as one; a longer stretch is reported in parts.
+// Of bytes outside ASCII that are one finding; a longer stretch is reported in parts.
 constexpr std::size_t STRETCH_MAX = std::size_t{1} << 20U;
 
 bool is_continuation(char c) {
@@ -96,8 +96,8 @@ bool is_outside_ascii(char c) {
     return static_cast<unsigned char>(c) > 127;
 }
 
-// The first byte outside ASCII from `at` on, else `end`, or `at` when it stands after that: by
-// eights as long as there are so many.
+// The first byte outside ASCII in [at, end), else `end`; `at` when that is after `end`. Looks at
+// eight bytes at a time while there are eight.
 std::size_t find_outside_ascii(std::string_view text, std::size_t at, std::size_t end) {
     constexpr std::uint64_t TOP_BITS = 0x8080808080808080;
     for (std::uint64_t eight = 0; at + sizeof eight <= end; at += sizeof eight) {
@@ -243,7 +243,7 @@ bool TextWindow::feed() {
     }
 }
 
-// As many of the words as there is room for. They must not make a tag with what is before them.
+// As much of the words as there is room for. They must not form a tag with the text before them.
 bool TextWindow::feed_rewriting() {
     const std::string_view words = std::string_view(rewriting_.words).substr(words_fed_, room());
     if (words_fed_ == 0) {
@@ -340,7 +340,7 @@ bool TextWindow::feed_kept(std::string_view tag) {
     return feed_as_text(Finding::tag_too_long, tag.find('<', 1) == std::string_view::npos);
 }
 
-// A tag that the engine reads as text. Its "<" is kept only when no ">" can come to stand nearer:
+// A tag that the engine reads as text. Its "<" is kept only when no ">" can end up nearer:
 // because nothing is left out in it, and no span is open that is closed at the end of a sentence.
 // Otherwise it would make a tag with that, and the words between be lost.
 bool TextWindow::feed_as_text(Finding finding, bool keep) {
@@ -348,7 +348,7 @@ bool TextWindow::feed_as_text(Finding finding, bool keep) {
     return keep && !spans_.any_fed() ? copy(rest().substr(0, 1)) : leave_out(1);
 }
 
-// The engine takes it out, and what stood before and after it could make a tag together.
+// The engine removes it, and the text before and after it could form a tag.
 bool TextWindow::feed_removed(std::string_view tag) {
     const std::string_view before = tag_beginning();
     const bool joins = may_make_tag(before, before);
@@ -417,7 +417,7 @@ bool TextWindow::copy_without_nuls(std::string_view piece) {
     return true;
 }
 
-// Puts a blank in the place of what is left out: without it, what stands before and after could
+// Puts a blank in the place of what is left out: without it, the text before and after could
 // make a tag together.
 bool TextWindow::leave_out(std::size_t length) {
     buffer_[end_++] = ' ';

@@ -22,7 +22,7 @@ class FedSpans {
     void clear();
 
     // Whether the engine's record has room for one more, and the builder's chain for its value:
-    // ten names are never too long. What stands inside of the deepest is left out with it.
+    // ten names are never too long. Tags inside the deepest are left out with it.
     bool has_room() const {
         return n_open_ < tn::OPEN_TAGS_MAX && deeper_ == 0 && spans_.size() < SPANS_MAX;
     }
@@ -72,9 +72,9 @@ class TextWindow {
     // look back at. More may be given later unless it `is_complete`.
     void give(std::string_view text, std::size_t offset, bool is_complete);
 
-    // Tops the buffer up when little is left in it, as far as what is there of the text cannot be
-    // read otherwise, whatever follows. False when there is nothing left to read. `changed` tells
-    // whether there is more in the buffer, or what is left stands elsewhere now.
+    // Refills the buffer when little is left in it, with the text whose reading cannot depend on
+    // what follows. False when there is nothing left to read. `changed` tells
+    // whether bytes were added to the buffer or moved in it.
     bool fill(bool& changed);
 
     // Whether the buffer holds what it would hold if the whole text had been given at once.
@@ -91,7 +91,7 @@ class TextWindow {
     // Where in the text it goes on after what has been fed.
     std::size_t next_offset() const { return text_offset_ + next_; }
 
-    // Where to cut so that at most about `size` bytes of new text stand before the cut: after a
+    // Where to cut so that at most about `size` bytes of new text are before the cut: after a
     // blank if there is one, never inside a tag or a word that fits a section, and inside the words
     // of a rewriting only where `inside_rewritings` allows it. Always some text, and no more than
     // there is.
@@ -181,7 +181,7 @@ class TextWindow {
     SourceMap map_;           // of what has been fed
     std::size_t origin_ = 0;  // the position there of the first byte of the buffer
 
-    // Where the next of these stands in the text, as far as it is known.
+    // The position of the next of these in the text, as far as it is known.
     std::size_t next_tag_ = 0;
     std::size_t next_tag_end_ = 0;
     std::size_t next_nul_ = 0;

@@ -154,7 +154,7 @@ class RunsOfText {
     // The next run of the sentence; takes what it holds.
     void add(ExplainedRun& run) {
         const std::size_t at = run.source.offset;
-        if (sources_.is_copied(at, run.source.length)) {  // as most are: it stands for itself
+        if (sources_.is_copied(at, run.source.length)) {  // as most are
             end();
             any_ = false;
             run.source.offset = sources_.copied_from(at);
@@ -186,7 +186,7 @@ class RunsOfText {
     }
 
   private:
-    // What stands at `at` of the sentence may have been rewritten by a rule.
+    // The text at offset `at` of the sentence may be the words of a rewriting.
     void rewrite(std::size_t at) {
         while (piece_ != last_piece_ && piece_->at + piece_->length <= at) ++piece_;
         const RuleId& by = piece_->by;

@@ -6,7 +6,7 @@ namespace {
 
 struct PauseRow {
     PAUSE_type pause;
-    const char* name;
+    std::string_view name;
 };
 
 constexpr PauseRow PAUSES[] = {
@@ -26,7 +26,7 @@ constexpr PauseRow PAUSES[] = {
 
 struct PunctuationRow {
     PUNC_type punc;
-    const char* name;
+    std::string_view name;
 };
 
 constexpr PunctuationRow PUNCTUATION[] = {
@@ -54,17 +54,17 @@ constexpr bool are_in_order() {
 static_assert(are_in_order());
 
 template <typename Row, int N>
-const char* name_at(const Row (&rows)[N], int place) {
+std::string_view name_at(const Row (&rows)[N], int place) {
     return place >= 0 && place < N ? rows[place].name : "unknown";
 }
 
 }  // namespace
 
-const char* pause_name(PAUSE_type pause) {
+std::string_view pause_name(PAUSE_type pause) {
     return name_at(PAUSES, pause - PAUSE_SYL_FE);
 }
 
-const char* punctuation_name(PUNC_type punc) {
+std::string_view punctuation_name(PUNC_type punc) {
     return name_at(PUNCTUATION, punc);
 }
 

@@ -121,7 +121,7 @@ void PlainForm::read(const HostSentence& sentence, std::string_view text, std::s
     if (all_.size() > 0) is_after_word_ = after(n_records - 1).empty();
 }
 
-// All there is stands before the first word, and that is preceded by this text.
+// What has been added is the text before the first word; `text` precedes it.
 void PlainForm::end_before(std::string_view text, bool is_last) {
     if (text.empty()) {
         all_.cut_front(std::min(all().find_first_not_of(' '), all_.size()));

@@ -44,7 +44,7 @@ bool ends_with(std::string_view value, std::string_view end) {
     return value.size() > end.size() && value.substr(value.size() - end.size()) == end;
 }
 
-// A number with a unit, and a sign before it where one may stand or must.
+// A number with a unit, with an optional or required sign before it.
 enum class Sign { none, may, must };
 bool is_quantity(std::string_view value, std::string_view unit, Sign sign) {
     if (!ends_with(value, unit)) return false;
@@ -64,7 +64,7 @@ Value known(std::string_view value, bool is_known) {
     return {is_known ? value : std::string_view(), {}};
 }
 
-// Each gives the standard's value for one of ours. A number by itself is so many times the usual
+// Each gives the standard's value for one of ours. A number by itself is a factor of the usual
 // rate.
 Value rate_of(std::string_view value) {
     const bool is_factor =
@@ -99,7 +99,7 @@ bool may_have_break(const UtteranceSyllable& record) {
            record.pause_type == PAUSE_INTONATION_PHRASE_FORCE_FE;
 }
 
-// Whether words stand in the same elements; what is not of that is the same, too.
+// Whether two words have the same elements around them.
 bool have_same_attributes(const CssmlTag& a, const CssmlTag& b) {
     constexpr std::size_t BEGIN = offsetof(CssmlTag, emphasis);
     constexpr std::size_t END = offsetof(CssmlTag, ssml_w);
@@ -126,7 +126,7 @@ void append_escaped(std::string_view word, TextBuffer& out) {
 
 }  // namespace
 
-// What the plain form has is copied in stretches, up to where something else stands.
+// What the plain form has is copied in stretches, up to the next difference.
 void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::size_t text_begin) {
     plain_.read(sentence, text, text_begin);
     is_plain_ = Plain::are_all(plain_.all());
@@ -163,7 +163,7 @@ void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::si
 }
 
 // Of what follows a record, marks up to the first blank are its own; all of it after the last. What
-// stands directly before the next word is of that; the blanks between are of neither. Those before
+// is directly before the next word belongs to that; the blanks between to neither. Those before
 // the first word are not copied.
 std::size_t SsmlForm::end_of_closing_marks(std::size_t record) const {
     const std::string_view after = plain_.after(record);
@@ -205,7 +205,7 @@ void SsmlForm::copy_to(std::size_t end) {
     }
 }
 
-// The elements that the next word stands in begin at a place of the plain form; those that go on
+// The elements around the next word begin at an offset of the plain form; those that go on
 // stay open.
 void SsmlForm::enter_elements(const CssmlTag& tag, std::size_t begin) {
     next_.prosody.clear();

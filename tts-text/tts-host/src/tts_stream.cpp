@@ -51,9 +51,10 @@ bool TtsStream::add(std::string_view piece) {
 // Pieces are short: most of them are kept, and that is all.
 bool TtsStream::take(std::string_view part) {
     if (mark_ == kept_.size()) mark_ += host::find_clause_mark(part, 0);
-    kept_.append(part.data(), part.size());
+    kept_.add(part);
     unread_ += part.size();
-    const bool has_clause = mark_ + host::CLAUSE_LOOK_AHEAD < kept_.size() && may_tell(part);
+    const bool may_have_clause = mark_ + host::CLAUSE_LOOK_AHEAD < kept_.size();
+    const bool has_clause = may_have_clause && may_tell(part.size());
     return (!has_clause && unread_ < PART) || read(false);
 }
 
@@ -74,11 +75,14 @@ void TtsStream::forget() {
     is_open_ = true;
 }
 
-// Whether a clause may have ended with this part that was not told when it was read last. Where it
-// is rewritten, the word after it has to end.
-bool TtsStream::may_tell(std::string_view part) const {
+// Whether the last `added` bytes may have shown the end of a clause that was not told when it was
+// read last. Where it is rewritten, the word after it has to end.
+bool TtsStream::may_tell(std::size_t added) const {
     if (reader_.needs_full_window()) return false;
-    return !reader_.is_rewritten() || std::any_of(part.begin(), part.end(), is_blank);
+    if (!reader_.is_rewritten()) return true;
+    const std::size_t word = mark_ + host::CLAUSE_LOOK_AHEAD;
+    const std::string_view text = kept_.text().substr(std::max(word, kept_.size() - added));
+    return std::any_of(text.begin(), text.end(), is_blank);
 }
 
 // It is closed for handlers, and stays so when one throws.
@@ -88,7 +92,7 @@ bool TtsStream::read(bool is_complete) {
         return (!handler || handler(told)) && !is_forgotten_;
     };
     is_open_ = reader_.read(
-        kept_, kept_begin_, is_complete,
+        text(), kept_begin_, is_complete,
         [&](const HostSentence& sentence) { return goes_on(on_sentence_, sentence); },
         [&](const Diagnostic& found) { return goes_on(on_diagnostic_, found); });
     if (is_forgotten_) {
@@ -96,7 +100,7 @@ bool TtsStream::read(bool is_complete) {
         return false;
     }
     unread_ = 0;
-    mark_ = host::find_clause_mark(kept_, reader_.searched_to() - kept_begin_);
+    mark_ = host::find_clause_mark(text(), reader_.searched_to() - kept_begin_);
     drop_told();
     return is_open_;
 }
@@ -108,8 +112,8 @@ void TtsStream::drop_told() {
         std::max(reader_.sentence_begin() - kept_begin_, fed - std::min(fed, KEPT_MAX));
     if (told < 2 * TOLD_MAX) return;
     std::size_t begin = told - TextRewriter::LOOK_BACK_MAX;
-    while (begin > told - TOLD_MAX && is_blank(kept_[begin])) --begin;
-    kept_.erase(0, begin);
+    while (begin > told - TOLD_MAX && is_blank(text()[begin])) --begin;
+    kept_.cut_front(begin);
     kept_begin_ += begin;
     mark_ -= std::min(mark_, begin);
 }

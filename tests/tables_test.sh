@@ -20,7 +20,7 @@ told() {
 }
 
 make '' 'µl\tmicrolitre\tglued\nkg\tkilogram\tglued\n' >/dev/null
-[[ $(cat "$folder/everyday_tables.h") == *'{"kg", "kilogram", "", Kind::glued},'*'{"µl", '* ]] || { echo 'FAILED: the rows in order'; exit 1; }
+[[ $(cat "$folder/everyday_tables.h") == *'{"kg\0" "kilogram", 2, 3, 11, Kind::glued},'*'{"µl\0" "microlitre", 3, '* ]] || { echo 'FAILED: the rows in order'; exit 1; }
 good='kg\tkilogram\tglued\n'
 told 'not as many fields as columns' "$good"'g\tgram\n'
 told 'an empty field' "$good"'g\t\tglued\n'

@@ -59,7 +59,7 @@ void say_address(std::string_view address, std::string& out) {
             say_digits(address.substr(0, 1), out);
         } else {
             const Row* mark = find(ADDRESS_MARKS, address.substr(0, 1));
-            if (mark != nullptr) say(mark->spoken, out);
+            if (mark != nullptr) say(mark->spoken(), out);
         }
         address.remove_prefix(length);
     }

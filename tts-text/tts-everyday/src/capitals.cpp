@@ -26,7 +26,7 @@ void read_capitals(const Place& place, Found& found) {
     const std::string_view before = place.word_before();
     const bool has_article = before == "the" || before == "The" || before == "an" || before == "An";
     if (row->kind == Kind::after && !has_article) return;
-    found.say_name(0, end, row->spoken);
+    found.say_name(0, end, row->spoken());
     found.length = end;
 }
 

@@ -78,7 +78,7 @@ void read_contraction(const Place& place, Found& found) {
     const std::string word = word_with_apostrophes(place, length);
     if (const Row* row = find(CONTRACTIONS, word)) {
         found.length = length;
-        found.words = row->spoken;
+        found.words = row->spoken();
         if (is_upper(place.peek())) capitalise(found.words);
         return;
     }
@@ -105,7 +105,7 @@ void read_contraction(const Place& place, Found& found) {
             say(verb, found.words);
         }
     } else if (const Row* row = find(CONTRACTION_ENDINGS, lower)) {
-        say(row->spoken, found.words);
+        say(row->spoken(), found.words);
     } else if (lower == "s" && find(BEFORE_IS, in_lower_case(stem)) != nullptr) {
         say(is_has(place, found.length) ? "has" : "is", found.words);
     } else {

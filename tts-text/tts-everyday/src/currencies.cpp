@@ -13,17 +13,18 @@ const char* scale_at(const Place& place, std::size_t ahead, std::size_t& length)
     const Row* row = find(SCALES, word);
     if (row == nullptr || (blank > 0 && row->kind == Kind::glued)) return nullptr;
     length = blank + word.size();
-    return row->spoken;
+    return row->spoken();
 }
 
 // `symbol` is where the currency is written.
 void say_amount(const Number& number, const char* scale, const Row& currency, std::size_t symbol,
                 Found& found) {
     const auto say_currency = [&](bool is_one) {
-        found.say_name(symbol, currency.written().size(), is_one ? currency.spoken : currency.many);
+        found.say_name(symbol, currency.written().size(),
+                       is_one ? currency.spoken() : currency.many());
     };
     const bool may_have_coins = scale == nullptr && number.fraction.size() == 2;
-    const Row* coin = may_have_coins ? find(HUNDREDTHS, currency.spoken) : nullptr;
+    const Row* coin = may_have_coins ? find(HUNDREDTHS, currency.spoken()) : nullptr;
     if (coin == nullptr) {
         number.say(found.words);
         if (scale != nullptr) say(scale, found.words);
@@ -40,7 +41,7 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
     if (is_whole) return;
     if (has_whole) say("and", found.words);
     say_cardinal(number.fraction, found.words);
-    say(number.fraction == "01" ? coin->spoken : coin->many, found.words);
+    say(number.fraction == "01" ? coin->spoken() : coin->many(), found.words);
 }
 
 // A code before its amount, "USD 10 million"; its row, or null.
@@ -87,7 +88,7 @@ void read_currency(const Place& place, Found& found) {
     if (number.fraction.size() != 2 && place.is_before_noun(found.length)) {
         number.say(found.words);
         if (scale != nullptr) say(scale, found.words);
-        found.say_name(minus, row->written().size(), row->spoken);
+        found.say_name(minus, row->written().size(), row->spoken());
     } else {
         say_amount(number, scale, *row, minus, found);
         found.length += say_per(place, found.length, found.words);

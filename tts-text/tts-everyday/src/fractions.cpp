@@ -40,7 +40,7 @@ bool read_whole_and_sign(const Place& place, std::string_view whole, Found& foun
     const Row* sign = fraction_sign_at(place, at);
     if (sign == nullptr) return false;
     say_whole_and(whole, found.words);
-    std::string_view part = sign->spoken;
+    std::string_view part = sign->spoken();
     if (part.substr(0, ONE.size()) == ONE) {
         say("a", found.words);
         part.remove_prefix(ONE.size());
@@ -87,7 +87,7 @@ const char* words_between(const Place& place, std::string_view above, std::strin
     if (is_rating(place, above, below, end)) return "out of";
     if (const Row* row = find(BEFORE_SLASH, in_lower_case(place.word_before()))) {
         const bool is_mark = is_best_mark(below) && !is_less(below, above);
-        if (is_mark || std::string_view(row->spoken) == "of") return row->spoken;
+        if (is_mark || std::string_view(row->spoken()) == "of") return row->spoken();
     }
     if (above == below && above.size() < 4 && above != "1") {  // "20/20"
         const bool is_sight =
@@ -105,7 +105,7 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
     if (place.peek(end) == '/') return false;
     const Row* named = find(FRACTIONS, place.part(0, end));
     if (named != nullptr && !place.starts_with(" of ", end)) {  // "9/11 of them" are a part
-        say(named->spoken, found.words);
+        say(named->spoken(), found.words);
     } else if (const char* words = words_between(place, above, below, end)) {
         say_cardinal(above, found.words);
         if (*words != '\0') say(words, found.words);

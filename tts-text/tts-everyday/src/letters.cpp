@@ -33,7 +33,7 @@ void read_typography(const Place& place, Found& found) {
     const Row* row = find(TYPOGRAPHY, place.part(0, c.length));
     if (row == nullptr) return;
     found.length = c.length;
-    found.words = row->spoken;
+    found.words = row->spoken();
     // In a sentence, an ellipsis is a pause.
     const std::size_t next = c.length + place.blanks(c.length);
     if (row->written() == "…" && is_lower(place.peek(next))) found.words = ", ";

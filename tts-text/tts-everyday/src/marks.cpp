@@ -152,7 +152,7 @@ void read_slashed_words(const Place& place, Found& found) {
     const Row* row = find(SLASHED_WORDS, in_lower_case(place.part(0, length)));
     if (row == nullptr) return;
     found.length = length;
-    found.words = row->spoken;
+    found.words = row->spoken();
 }
 
 }  // namespace kavi::everyday

@@ -105,7 +105,7 @@ bool is_size(const Place& place, std::size_t ahead) {
     // No row: its abbreviation is a word.
     if (word == "inches" || place.starts_with("in.", ahead)) return true;
     return std::any_of(std::begin(UNITS), std::end(UNITS), [word](const Row& row) {
-        return word == row.written() || word == row.spoken || word == row.many;
+        return word == row.written() || word == row.spoken() || word == row.many();
     });
 }
 
@@ -166,7 +166,7 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
     const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
     if (!may_begin || !is_digit(place.peek(length + blank))) return;
     found.length = length + blank;
-    found.words = sign.spoken;
+    found.words = sign.spoken();
 }
 
 }  // namespace
@@ -211,7 +211,7 @@ void read_point(const Place& place, Found& found) {
 // "-5", "+3", "#5", "№ 5", "½", "&", "~5", "2²" and the like.
 void read_sign(const Place& place, Found& found) {
     if (const Row* fraction = fraction_sign_at(place, 0)) {
-        found.words = fraction->spoken;
+        found.words = fraction->spoken();
         found.length = fraction->written().size();
         return;
     }
@@ -225,7 +225,7 @@ void read_sign(const Place& place, Found& found) {
 void say_sign(const Place& place, const Row& sign, Found& found) {
     if (place.letter(0) > 0 && place.letter(sign.written().size()) > 1) return;
     found.length = sign.written().size();
-    found.words = sign.spoken;
+    found.words = sign.spoken();
 }
 
 }  // namespace kavi::everyday

@@ -102,7 +102,7 @@ bool read_operator(const Place& place, Found& found) {
     if (row->written() == "^" && gap.before == 0 && read_small_power(place, length, found))
         return true;
     found.length = length;
-    found.words = row->spoken;
+    found.words = row->spoken();
     // "File > Save": a way through menus.
     const bool is_menu = row->written() == ">" && gap.before > 0 &&
                          is_upper(place.peek(gap.after)) && is_lower(place.peek(gap.after + 1));

@@ -43,7 +43,7 @@ void read_scripture(const Place& place, Found& found) {
     const std::size_t length = say_verse(place, stop + 1, words);
     std::size_t end = stop + 1 + length;
     if (length == 0 || is_time_of_day(place, end)) return;
-    found.say_name(0, name.size(), book->spoken);
+    found.say_name(0, name.size(), book->spoken());
     say(words, found.words);
     const std::size_t dash = place.dash(end);
     const std::size_t link = place.starts_with(" to ", end) ? 4 : dash;

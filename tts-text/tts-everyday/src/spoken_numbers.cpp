@@ -53,7 +53,7 @@ void say_ordinal(std::string_view digits, std::string& out) {
     const std::size_t begin = out.rfind(' ') + 1;
     const std::string last = out.substr(begin);
     if (const Row* row = find(ORDINALS, last)) {
-        out.replace(begin, last.size(), row->spoken);
+        out.replace(begin, last.size(), row->spoken());
         return;
     }
     if (out.back() == 'y') out.replace(out.size() - 1, 1, "ie");

@@ -40,7 +40,7 @@ void read_state(const Place& place, Found& found) {
     const std::size_t zip = zip_length(place, end);
     if (row->kind == Kind::before_number && zip == 0) return;
     found.length = end + zip;
-    found.say_name(0, written.size(), row->spoken);
+    found.say_name(0, written.size(), row->spoken());
     for (std::size_t at = end; at < found.length; ++at) {
         if (is_digit(place.peek(at))) say_digits(place.part(at, 1), found.words);
     }

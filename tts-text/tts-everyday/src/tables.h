@@ -32,24 +32,19 @@ enum class Kind : unsigned char {
     compared,
 };
 
-// A column that a table does not have is empty, and its kind is none. There are many: each is
-// small.
+// A row has its columns one after the other in `text`, NUL after each. A column that a table does
+// not have is empty, and its kind is none. There are many rows: each is small.
 struct Row {
-    constexpr Row(std::string_view written, const char* words, const char* words_of_many, Kind k)
-        : text(written.data()),
-          spoken(words),
-          many(words_of_many),
-          length(static_cast<unsigned char>(written.size())),
-          kind(k) {}
+    const char* text;
+    unsigned char length;  // of what is written
+    unsigned char spoken_at;
+    unsigned char many_at;
+    Kind kind;
 
     // Not empty; no two of a table are the same.
     constexpr std::string_view written() const { return {text, length}; }
-
-    const char* text;
-    const char* spoken;
-    const char* many;
-    unsigned char length;
-    Kind kind;
+    const char* spoken() const { return text + spoken_at; }
+    const char* many() const { return text + many_at; }
 };
 
 // All rows of a table, in the order of what is written.

@@ -116,7 +116,7 @@ bool read_compass_point(const Place& place, Found& found) {
                                   place.peek(stop + 1) == ' ' && is_upper(place.peek(stop + 2)) &&
                                   is_lower(place.peek(stop + 3));
     if (!is_before_street) return false;
-    take(place, stop, row->spoken, false, found);
+    take(place, stop, row->spoken(), false, found);
     return true;
 }
 
@@ -133,7 +133,7 @@ bool read_word_of_life(const Place& place, Found& found) {
     const char before = place.before() == ' ' ? place.before(2) : place.before();
     const bool is_after_mark = before == '(' || before == ',' || before == ';' || before == ':';
     if (!may_be_year(year) || goes_on || (letters.size() == 1 && !is_after_mark)) return false;
-    take(place, letters.size(), row->spoken, false, found);
+    take(place, letters.size(), row->spoken(), false, found);
     return true;
 }
 
@@ -182,9 +182,9 @@ bool read_row(const Place& place, Found& found) {
     const std::size_t length = row->written().size();
     if (row->kind == Kind::anywhere) {
         found.length = length;
-        found.say_name(0, length, row->spoken);
+        found.say_name(0, length, row->spoken());
     } else {
-        take(place, length, row->spoken, ends_sentence(row->kind), found);
+        take(place, length, row->spoken(), ends_sentence(row->kind), found);
     }
     return true;
 }

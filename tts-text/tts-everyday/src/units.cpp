@@ -81,7 +81,7 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out) {
     if ((row == nullptr && unit == nullptr) || place.is_joined(end) || place.peek(end) == '/')
         return 0;
     say("per", out);
-    say(row != nullptr ? word : unit->spoken, out);
+    say(row != nullptr ? word : unit->spoken(), out);
     return end - ahead;
 }
 
@@ -114,7 +114,7 @@ void read_unit(const Place& place, Found& found) {
     if (row->written() == "m" && is_after_hours(place)) {
         say(number.is_one() ? "minute" : "minutes", found.words);
     } else {
-        found.say_name(end + blank, row->written().size(), is_one ? row->spoken : row->many);
+        found.say_name(end + blank, row->written().size(), is_one ? row->spoken() : row->many());
     }
     std::size_t link = say_per(place, after, found.words);
     if (link == 0) link = say_by(place, after, found.words);

@@ -17,16 +17,16 @@ std::string word_with_apostrophes(const Place& place, std::size_t& length) {
     constexpr std::size_t LONGEST = 64;  // so that a chain of apostrophes is not read from each
     length = 0;
     while (length < LONGEST) {
-        const std::size_t mark = place.apostrophe(length);
-        if (mark > 0 && (is_letter(place.peek(length + mark)) || word == "'n")) {
-            word += '\'';
-            length += mark;
-        } else if (is_letter(place.peek(length))) {
-            word += to_lower(place.peek(length));
+        const char c = place.peek(length);
+        if (is_letter(c)) {
+            word += to_lower(c);
             ++length;
-        } else {
-            break;
+            continue;
         }
+        const std::size_t mark = place.apostrophe(length);
+        if (mark == 0 || (!is_letter(place.peek(length + mark)) && word != "'n")) break;
+        word += '\'';
+        length += mark;
     }
     return word;
 }

@@ -3,8 +3,6 @@
 #include <array>
 #include <iterator>
 
-#include "kavi_compiler.h"
-
 namespace kavi::everyday {
 
 namespace {
@@ -119,9 +117,8 @@ constexpr auto ROWS = [] {
 }();
 
 // A row that is never asked for would never be read.
-template <std::size_t N>
-constexpr bool begins_all(Rule rule, const Row (&rows)[N]) {
-    for (const Row& row : rows) {
+constexpr bool begins_all(Rule rule, const Table& table) {
+    for (const Row& row : table) {
         bool has_begin = false;
         for (const RuleEntry& entry : RULES) {
             has_begin =
@@ -148,11 +145,7 @@ RuleSet rules_after(std::string_view text, std::size_t end) {
 
 }  // namespace
 
-const RuleRow& take_first(RuleSet& rules) {
-    const int first = lowest_bit(rules);
-    rules &= rules - 1;
-    return ROWS[static_cast<std::size_t>(first)];
-}
+const RuleRow* const ALL_RULES = ROWS.data();
 
 Run run_at(std::string_view text, std::size_t at) {
     const char first = text[at];

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "kavi_compiler.h"
 #include "rules.h"
 #include "tts_everyday.h"
 
@@ -20,8 +21,14 @@ struct RuleRow {
 // The rules in the order in which they are tried: a bit for each, the first in the lowest.
 using RuleSet = std::uint32_t;
 
+extern const RuleRow* const ALL_RULES;
+
 // Takes the first rule out of a set that has one.
-const RuleRow& take_first(RuleSet& rules);
+inline const RuleRow& take_first(RuleSet& rules) {
+    const int first = lowest_bit(rules);
+    rules &= rules - 1;
+    return ALL_RULES[first];
+}
 
 // A run of letters or of digits, or one other byte; only of ASCII.
 struct Run {

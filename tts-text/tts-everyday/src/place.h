@@ -121,11 +121,11 @@ class Place {
     }
 
     // The longest row of a table at `ahead` that fits, or null.
-    const Row* find_row(Table table, std::size_t ahead) const {
+    const Row* find_row(const Table& table, std::size_t ahead) const {
         return find_longest(table, [&](std::size_t at) { return peek(ahead + at); });
     }
     template <typename Fits>
-    const Row* find_row(Table table, std::size_t ahead, Fits fits) const {
+    const Row* find_row(const Table& table, std::size_t ahead, Fits fits) const {
         const Row* row = find_row(table, ahead);
         while (row != nullptr && !fits(*row)) row = find_shorter(table, *row);
         return row;

@@ -11,13 +11,20 @@ namespace {
 
 constexpr std::size_t N_ABBREVIATIONS = std::size(s_spec_word_abbrevi);
 
-// The lengths of the engine's abbreviations without their full stops.
-constexpr auto LENGTHS = [] {
-    std::array<unsigned char, N_ABBREVIATIONS> lengths{};
+// One of the engine's abbreviations, without its full stop.
+struct Abbreviation {
+    std::string_view text;
+    char last;  // letter, in lower case
+};
+constexpr auto ABBREVIATIONS = [] {
+    std::array<Abbreviation, N_ABBREVIATIONS> all{};
     for (std::size_t i = 0; i != N_ABBREVIATIONS; ++i) {
-        while (s_spec_word_abbrevi[i][0][lengths[i]] != '.') ++lengths[i];
+        std::size_t length = 0;
+        while (s_spec_word_abbrevi[i][0][length] != '.') ++length;
+        all[i] = {{s_spec_word_abbrevi[i][0], length},
+                  to_lower(s_spec_word_abbrevi[i][0][length - 1])};
     }
-    return lengths;
+    return all;
 }();
 
 bool ends_alike(std::string_view word, std::string_view abbreviation) {
@@ -31,8 +38,11 @@ bool ends_alike(std::string_view word, std::string_view abbreviation) {
 
 // The length of the first abbreviation that a word ends like, or 0.
 std::size_t abbreviation_at_end(std::string_view word) {
-    for (std::size_t i = 0; i < LENGTHS.size(); ++i) {
-        if (ends_alike(word, {s_spec_word_abbrevi[i][0], LENGTHS[i]})) return LENGTHS[i];
+    if (word.empty()) return 0;
+    const char last = to_lower(word.back());
+    for (const Abbreviation& abbreviation : ABBREVIATIONS) {
+        if (abbreviation.last == last && ends_alike(word, abbreviation.text))
+            return abbreviation.text.size();
     }
     return 0;
 }

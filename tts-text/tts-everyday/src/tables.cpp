@@ -4,19 +4,19 @@ namespace kavi::everyday {
 
 namespace {
 
-const Row* find_longest_in(Table table, std::string_view text) {
+const Row* find_longest_in(const Table& table, std::string_view text) {
     return find_longest(table,
                         [text](std::size_t at) { return at < text.size() ? text[at] : '\0'; });
 }
 
 }  // namespace
 
-const Row* find(Table table, std::string_view written) {
+const Row* find(const Table& table, std::string_view written) {
     const Row* row = find_longest_in(table, written);
     return row != nullptr && row->written().size() == written.size() ? row : nullptr;
 }
 
-const Row* find_shorter(Table table, const Row& row) {
+const Row* find_shorter(const Table& table, const Row& row) {
     return find_longest_in(table, row.written().substr(0, row.written().size() - 1));
 }
 

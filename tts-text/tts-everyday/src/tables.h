@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <string_view>
 
@@ -48,26 +49,41 @@ struct Row {
 };
 
 // All rows of a table, in the order of what is written.
-struct Table {
-    const Row* first;
-    const Row* end;
-
+class Table {
+  public:
     template <std::size_t N>
-    constexpr Table(const Row (&rows)[N]) : first(std::begin(rows)), end(std::end(rows)) {}
+    constexpr Table(const Row (&rows)[N]) : first_(std::begin(rows)), end_(std::end(rows)) {
+        for (const Row& row : rows) begins_ |= bit_of(row.text[0]);
+    }
+
+    constexpr const Row* begin() const { return first_; }
+    constexpr const Row* end() const { return end_; }
+
+    // False where no row begins with a byte.
+    bool may_begin(char c) const { return (begins_ & bit_of(c)) != 0; }
+
+  private:
+    static constexpr std::uint64_t bit_of(char c) {
+        return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64);
+    }
+
+    const Row* first_;
+    const Row* end_;
+    std::uint64_t begins_ = 0;
 };
 
 // The longest row that a text begins with, or null. `byte_at` gives the text's byte at an offset,
 // NUL after its end; it is asked for no byte after the first that no row has there.
 template <typename ByteAt>
-const Row* find_longest(Table table, ByteAt byte_at) {
-    const auto byte_of = [](const Row& row) {
-        return static_cast<unsigned char>(row.written()[0]);
-    };
-    const auto byte = static_cast<unsigned char>(byte_at(0));
-    const Row* row = std::partition_point(table.first, table.end,
+const Row* find_longest(const Table& table, ByteAt byte_at) {
+    const char first = byte_at(0);
+    if (!table.may_begin(first)) return nullptr;
+    const auto byte_of = [](const Row& row) { return static_cast<unsigned char>(row.text[0]); };
+    const auto byte = static_cast<unsigned char>(first);
+    const Row* row = std::partition_point(table.begin(), table.end(),
                                           [&](const Row& r) { return byte_of(r) < byte; });
     const Row* longest = nullptr;
-    for (; row != table.end && byte_of(*row) == byte; ++row) {
+    for (; row != table.end() && byte_of(*row) == byte; ++row) {
         std::size_t n_alike = 1;
         while (n_alike < row->written().size() && row->written()[n_alike] == byte_at(n_alike))
             ++n_alike;
@@ -77,10 +93,10 @@ const Row* find_longest(Table table, ByteAt byte_at) {
 }
 
 // The row for all of what is written, or null.
-const Row* find(Table table, std::string_view written);
+const Row* find(const Table& table, std::string_view written);
 
 // The longest row that is shorter than one, and that it begins with; or null.
-const Row* find_shorter(Table table, const Row& row);
+const Row* find_shorter(const Table& table, const Row& row);
 
 #include "everyday_tables.h"
 

@@ -71,7 +71,7 @@ void read_initials(const Place& place, Found& found) {
 
 // "St. John" is a saint, "Main St." a street.
 bool read_saint_or_street(const Place& place, Found& found) {
-    if (place.letters() != "St" || place.peek(2) != '.') return false;
+    if (!place.starts_with("St.")) return false;
     const bool is_saint = place.peek(3) == ' ' && is_upper(place.peek(4)) &&
                           (place.word_before().empty() || !is_upper(place.word_before()[0]) ||
                            place.word_before().size() < 4);
@@ -85,7 +85,7 @@ bool read_saint_or_street(const Place& place, Found& found) {
 
 // "King Dr. across", "Watson Dr and": after a name and before no other, a street.
 bool read_drive(const Place& place, Found& found) {
-    if (place.letters() != "Dr" || place.before() != ' ') return false;
+    if (!place.starts_with("Dr") || is_letter(place.peek(2)) || place.before() != ' ') return false;
     const std::string_view name = place.word_before();
     const bool is_after_name = name.size() > 3 && is_upper(name[0]) && is_lower(name[1]);
     const bool is_bare = place.peek(2) == ' ' && is_lower(place.peek(3));
@@ -98,7 +98,7 @@ bool read_drive(const Place& place, Found& found) {
 
 // "Sr. Agnes"; after a name it is a senior
 bool read_sister(const Place& place, Found& found) {
-    if (place.letters() != "Sr" || place.peek(2) != '.') return false;
+    if (!place.starts_with("Sr.")) return false;
     const std::string_view name = place.word_before();
     const bool is_after_name = !name.empty() && is_upper(name[0]) && place.before(2) != '.';
     if (is_after_name || place.peek(3) != ' ' || !is_upper(place.peek(4))) return false;
@@ -176,6 +176,23 @@ bool fits(const Place& place, const Row& row) {
     }
 }
 
+// A bit for the first two letters of a word.
+constexpr std::uint64_t bit_of_begin(char first, char second) {
+    constexpr unsigned FACTOR = 5;
+    return std::uint64_t{1} << (static_cast<unsigned char>(first) * FACTOR +
+                                static_cast<unsigned char>(second)) %
+                                   64;
+}
+
+// The bits of titles that may have no full stop: most other words have none of these.
+constexpr std::uint64_t BARE_BEGINS = [] {
+    std::uint64_t bits = 0;
+    for (const Row& row : TITLES) {
+        if (is_bare_title(row)) bits |= bit_of_begin(row.text[0], row.text[1]);
+    }
+    return bits;
+}();
+
 bool read_row(const Place& place, Found& found) {
     const Row* row = place.find_row(TITLES, 0, [&](const Row& r) { return fits(place, r); });
     if (row == nullptr) return false;
@@ -199,6 +216,7 @@ void read_title(const Place& place, Found& found) {
 }
 
 void read_bare_title(const Place& place, Found& found) {
+    if ((BARE_BEGINS & bit_of_begin(place.peek(), place.peek(1))) == 0) return;
     if (!read_drive(place, found)) read_row(place, found);
 }
 

@@ -24,8 +24,10 @@ void read_capitals(const Place& place, Found& found) {
     if (row == nullptr || place.is_joined(end) || place.is_joined_before()) return;
     if (place.peek(end) == '$' || is_among_capitals(place, end)) return;
     const std::string_view before = place.word_before();
-    const bool has_article = before == "the" || before == "The" || before == "an" || before == "An";
+    const bool has_an = before == "an" || before == "An";
+    const bool has_article = has_an || before == "the" || before == "The";
     if (row->kind == Kind::after && !has_article) return;
+    if (row->kind == Kind::after_an && !has_an) return;
     found.say_name(0, end, row->spoken());
     found.length = end;
 }

@@ -132,9 +132,36 @@ void read_plural_number(const Place& place, Found& found) {
     found.length = s + 1;
 }
 
+// "IPv6", "TLSv1.2"
+bool read_version_of_capitals(const Place& place, Found& found) {
+    const std::size_t v = place.run(is_upper);
+    if (v < 2 || place.peek(v) != 'v') return false;
+    const Number version = number_at(place, v + 1);
+    const std::size_t end = v + 1 + version.length;
+    if (version.length == 0 || place.is_joined(end)) return false;
+    found.words = place.part(0, v);
+    say("v", found.words);
+    version.say(found.words);
+    found.length = end;
+    return true;
+}
+
+// "i386", "x509"
+bool read_small_letter(const Place& place, Found& found) {
+    const std::string_view digits = place.digits(1);
+    if (!is_lower(place.peek()) || digits.size() != 3) return false;
+    const bool goes_on = place.is_joined(4) || (place.peek(4) != ' ' && is_digit(place.peek(5)));
+    if (goes_on || place.is_joined_before()) return false;
+    found.words = place.part(0, 1);
+    say_in_pairs(digits, found.words);
+    found.length = 4;
+    return true;
+}
+
 // "CO2", "BA249", "H2O", "SW3 4ND": capitals letter by letter; up to two digits as a number, more
 // one by one.
 void read_code(const Place& place, Found& found) {
+    if (read_small_letter(place, found) || read_version_of_capitals(place, found)) return;
     constexpr std::size_t LONGEST = 3;
     std::size_t end = 0;
     bool has_digits = false;

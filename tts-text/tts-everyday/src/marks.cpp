@@ -43,8 +43,8 @@ bool read_tilde(const Place& place, Found& found) {
     return true;
 }
 
-// "spam/ham", "/usr/bin", "~/notes", "X11/bin"; not the last of "/usr/bin/", and nothing between
-// numbers or capitals: "I/O", "1/2".
+// "spam/ham", "/usr/bin", "root=/dev", "~/notes", "X11/bin"; not the last of "/usr/bin/", and
+// nothing between numbers or capitals: "I/O", "1/2".
 bool read_slash(const Place& place, Found& found) {
     const char before = place.before();
     const char after = place.peek(1);
@@ -56,7 +56,8 @@ bool read_slash(const Place& place, Found& found) {
     while (is_digit(place.before(n_digits + 1))) ++n_digits;
     const bool is_word_before = place.is_joined_before() && !is_digit(place.before(n_digits + 1)) &&
                                 place.is_joined_before(n_digits);
-    const bool is_path = begins_word(place) || before == '~' || before == '.' || before == '*';
+    const bool is_path =
+        begins_word(place) || before == '~' || before == '.' || before == '*' || before == '=';
     if (!is_word_before && !is_path) return false;
     if (is_upper(before) && is_upper(after) && !is_lower(place.peek(2))) return false;
     found.length = 1;
@@ -107,6 +108,18 @@ bool read_option(const Place& place, Found& found) {
     return true;
 }
 
+// "an A-", "a B-"
+bool read_grade(const Place& place, Found& found) {
+    const char grade = place.before();
+    if (grade < 'A' || grade > 'F' || place.before(2) != ' ') return false;
+    const std::string_view article = place.word_before(2);
+    if ((article != "a" && article != "an") || place.is_joined(1) || place.dash(1) > 0)
+        return false;
+    found.length = 1;
+    found.words = "minus";
+    return true;
+}
+
 bool read_asterisk(const Place& place, Found& found) {
     return read_operator(place, found) || read_stress(place, found) ||
            read_silent_asterisk(place, found) || read_wildcard(place, found);
@@ -123,7 +136,9 @@ bool read_one_mark(const Place& place, Found& found) {
         case '~': return read_tilde(place, found);
         case '/': return read_operator(place, found) || read_slash(place, found);
         case '.': return read_dot(place, found);
-        case '-': return read_operator(place, found) || read_option(place, found);
+        case '-':
+            return read_operator(place, found) || read_option(place, found) ||
+                   read_grade(place, found);
         default: return read_operator(place, found);
     }
 }
@@ -134,9 +149,8 @@ void read_mark(const Place& place, Found& found) {
     if (!read_rule(place, found)) read_one_mark(place, found);
 }
 
-// "α", "√", "20º"
+// "α", "√", "20º", "(tm)"
 void read_named_mark(const Place& place, Found& found) {
-    if (!is_outside_ascii(place.peek())) return;
     const Row* row = place.find_row(NAMED_MARKS, 0);
     if (row == nullptr) return;
     if (row->kind == Kind::after && !is_digit(place.before())) return;

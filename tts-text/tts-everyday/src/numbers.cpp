@@ -188,11 +188,28 @@ void read_number(const Place& place, Found& found) {
     found.length = end;
 }
 
+// "a .38 revolver", ".22-caliber", "drew a .45."
+bool read_calibre(const Place& place, Found& found) {
+    const std::string_view digits = place.digits(1);
+    const Row* calibre = find(CALIBRES, digits);
+    if (calibre == nullptr) return false;
+    const std::size_t end = 1 + digits.size();
+    const char after = place.peek(end);
+    const bool is_joined = after == ' ' || after == '-';
+    const bool has_gun = is_joined && find(GUNS, in_lower_case(place.letters(end + 1))) != nullptr;
+    const bool is_alone = place.word_before() == "a" && !is_joined && !place.is_joined(end) &&
+                          after != '%' && !is_digit(place.peek(end + 1));
+    if (!has_gun && !is_alone) return false;
+    found.words = calibre->spoken();
+    found.length = end;
+    return true;
+}
+
 // ".35"; not "end.5", "...5"
 void read_point(const Place& place, Found& found) {
     const char before = place.before();
     const bool may_begin = before == '\0' || before == ' ' || before == '(' || before == '\n';
-    if (place.peek() != '.' || !may_begin) return;
+    if (place.peek() != '.' || !may_begin || read_calibre(place, found)) return;
     const Number number = number_at(place, 0);
     if (number.length == 0 || place.is_joined(number.length) || place.peek(number.length) == '-')
         return;

@@ -54,6 +54,8 @@ bool fits_operator(const Place& place, const Row& row, const Gap& gap) {
     if (has_blanks != (gap.after > row.written().size())) return false;
     const bool has_words = is_word_before(place, gap.before) && is_word_after(place, gap.after);
     if (row.kind == Kind::words) return has_words;
+    if (row.kind == Kind::inside)
+        return !has_blanks && is_letter(place.before()) && is_letter(place.peek(gap.after));
     const bool has_quantities =
         is_quantity_before(place, gap.before) && is_quantity_after(place, gap.after);
     const bool has_numbers =

@@ -23,6 +23,12 @@ bool is_after_place(const Place& place) {
     return name.size() > 2 && is_upper(name[0]) && is_lower(name.back());
 }
 
+// "from Salem, "
+bool has_preposition(const Place& place) {
+    const std::string_view name = place.letters_before(2);
+    return find(BEFORE_PLACE, place.word_before(2 + name.size())) != nullptr;
+}
+
 }  // namespace
 
 void read_state(const Place& place, Found& found) {
@@ -39,6 +45,7 @@ void read_state(const Place& place, Found& found) {
     }
     const std::size_t zip = zip_length(place, end);
     if (row->kind == Kind::before_number && zip == 0) return;
+    if (row->kind == Kind::after_place && zip == 0 && !has_preposition(place)) return;
     found.length = end + zip;
     found.say_name(0, written.size(), row->spoken());
     for (std::size_t at = end; at < found.length; ++at) {

@@ -23,6 +23,8 @@ enum class Kind : unsigned char {
     before_name,
     before_date,
     after_ordinal,
+    after_an,
+    after_place,
     before,
     after,
     both,

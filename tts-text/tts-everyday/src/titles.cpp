@@ -57,9 +57,11 @@ void read_initials(const Place& place, Found& found) {
         say(place.part(length, 1), words);
         length += 2;
     }
+    // "a CD-R. Our", but "J.-P. Sartre"
+    const bool is_after_hyphen = place.before() == '-' && is_letter(place.before(2));
     const bool is_initial = length == 2 && is_upper(place.peek()) && place.peek(2) == ' ' &&
                             (is_upper(place.peek(3)) || place.peek(3) == '(') &&
-                            place.peek() != 'I';
+                            place.peek() != 'I' && !is_after_hyphen;
     if ((length < 4 && !is_initial) || is_letter(place.peek(length))) return;
     // The last full stop is the sentence's too where that may end; after an initial it does not.
     const bool ends =

@@ -47,10 +47,14 @@ with open("/usr/share/unicode/UnicodeData.txt") as data:
                 ranges.append([code, code])
         last = (code, is_letter and code > 127)
 
+texts = sorted({text for _, text in letters})
 print("// Written by scripts/latin_letters from Unicode's data.\n")
-print("// In the order of their code points.\nconstexpr LatinLetter LATIN_LETTERS[] = {")
+print("constexpr char LETTERS_OF_ASCII[][4] = {")
+for i in range(0, len(texts), 12):
+    print("    " + " ".join(f'"{text}",' for text in texts[i:i + 12]))
+print("};\n\n// In the order of their code points.\nconstexpr LatinLetter LATIN_LETTERS[] = {")
 for i in range(0, len(letters), 8):
-    print("    " + " ".join(f'{{0x{code:X}, "{text}"}},' for code, text in letters[i:i + 8]))
+    print("    " + " ".join(f"{{0x{code:X}, {texts.index(text)}}}," for code, text in letters[i:i + 8]))
 print("};\n\nconstexpr CodePointRange LETTERS_OF_ANY_SCRIPT[] = {")
 for i in range(0, len(ranges), 6):
     print("    " + " ".join(f"{{0x{first:X}, 0x{end:X}}}," for first, end in ranges[i:i + 6]))

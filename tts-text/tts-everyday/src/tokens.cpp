@@ -3,6 +3,7 @@
 #include <utf8.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 
 #include "place.h"
@@ -12,8 +13,8 @@ namespace kavi::everyday {
 namespace {
 
 struct LatinLetter {
-    char32_t letter;
-    char text[4];
+    std::uint32_t letter : 21;
+    std::uint32_t ascii : 11;  // where LETTERS_OF_ASCII has it
 };
 
 struct CodePointRange {
@@ -91,7 +92,8 @@ const char* latin_letter(char32_t c) {
     const auto* row =
         std::lower_bound(std::begin(LATIN_LETTERS), std::end(LATIN_LETTERS), c,
                          [](const LatinLetter& letter, char32_t v) { return letter.letter < v; });
-    return row != std::end(LATIN_LETTERS) && row->letter == c ? row->text : nullptr;
+    if (row == std::end(LATIN_LETTERS) || row->letter != c) return nullptr;
+    return LETTERS_OF_ASCII[row->ascii];
 }
 
 std::string_view token_at(std::string_view text, std::size_t at) {

@@ -4,7 +4,7 @@ import assert from 'node:assert/strict';
 import {execFileSync} from 'node:child_process';
 import {copyFileSync, mkdirSync, mkdtempSync, rmSync, symlinkSync} from 'node:fs';
 import {tmpdir} from 'node:os';
-import {join} from 'node:path';
+import {join, resolve} from 'node:path';
 import test from 'node:test';
 import {pathToFileURL} from 'node:url';
 
@@ -74,7 +74,7 @@ test('the example says what it should', () => {
   const folder = mkdtempSync(join(tmpdir(), 'kavi-'));
   try {
     mkdirSync(join(folder, 'node_modules'));
-    symlinkSync(process.env.KAVI_PACKAGE, join(folder, 'node_modules/kavi-tn'));
+    symlinkSync(resolve(process.env.KAVI_PACKAGE), join(folder, 'node_modules/kavi-tn'));
     copyFileSync(new URL('../../examples/stream.mjs', import.meta.url), join(folder, 'stream.mjs'));
     assert.equal(execFileSync('node', [join(folder, 'stream.mjs')]).toString(), `It is on January third twenty twenty four.
 We meet at five thirty p m and it costs one point five million dollars!

@@ -53,7 +53,7 @@ while IFS= read -r line; do
     written=${written//$'\n['/[}
     expect "$name: $command" "${expected//\$work/$work}" "${written//$'\n'/|}"
 done <"$table"
-[ -z "${3:-}" ] || exit $failures
+[ -z "${3:-}" ] && [ $failures = 0 ] || exit $failures # what follows takes longer
 
 # The parts of files, however many, are the run over all of them.
 seq 3000 | sed 's/.*/Line & <\/poem> costs $&, and it is 10:30 in the garden & of the house now./' >long

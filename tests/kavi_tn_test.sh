@@ -197,7 +197,7 @@ def told(arguments, **environment):
         pass
     os.waitpid(child, 0)
     return text.decode()
-one = (seconds(["corpus"] * 5) - seconds(["corpus"])) / 4
+one = seconds(["corpus"] * 5) / 5
 files = ["corpus"] * max(2, round(3 / max(one, 0.001)))  # three seconds, however it was compiled
 size = len(files) * os.path.getsize("corpus") / 1e6
 text = told([*json, *files, "in"])  # with a message at the end

@@ -92,11 +92,19 @@ TEST(CStream, WhatIsForgotten_IsNotTold) {
 }
 
 TEST(CStream, BadArguments_HaveAnAnswer) {
-    kavi_stream* none = nullptr;
-    kavi_result* result = nullptr;
+    int object = 0;
+    auto* none = reinterpret_cast<kavi_stream*>(&object);  // any pointer but null
+    auto* result = reinterpret_cast<kavi_result*>(&object);
+    kavi_reader* reader = nullptr;
+    ASSERT_EQ(kavi_reader_new(0, &reader), KAVI_OK);
+    EXPECT_EQ(kavi_stream_new(reader, 0, nullptr), KAVI_BAD_ARGUMENT);
+    EXPECT_EQ(kavi_stream_new(reader, 2, &none), KAVI_BAD_ARGUMENT);
+    EXPECT_EQ(none, nullptr);
+    kavi_reader_free(reader);
     EXPECT_EQ(kavi_stream_new(nullptr, 0, &none), KAVI_BAD_ARGUMENT);
     EXPECT_EQ(kavi_stream_add(nullptr, "a", 1, &result), KAVI_BAD_ARGUMENT);
     EXPECT_EQ(kavi_stream_end(nullptr, &result), KAVI_BAD_ARGUMENT);
+    EXPECT_EQ(result, nullptr);
     EXPECT_EQ(kavi_stream_forget(nullptr), KAVI_BAD_ARGUMENT);
     kavi_stream_free(nullptr);
     Stream each;

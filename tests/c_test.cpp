@@ -100,12 +100,12 @@ kavi_handlers listing(Listing& listing) {
     return {[](void* user, const kavi_sentence* sentence) {
                 auto* to = static_cast<Listing*>(user);
                 to->all += listed(*sentence);
-                return to->go_on() ? 1 : 0;
+                return to->go_on() ? 2 : 0;
             },
             [](void* user, const kavi_finding* finding) {
                 auto* to = static_cast<Listing*>(user);
                 to->all += listed(*finding);
-                return to->go_on() ? 1 : 0;
+                return to->go_on() ? 2 : 0;
             },
             &listing};
 }
@@ -337,14 +337,27 @@ TEST(C, AnswersThatThereIsNoMemory) {
         kavi_status lexicon = KAVI_NO_MEMORY;
         kavi_status read = KAVI_NO_MEMORY;
         kavi_status normalized = KAVI_NO_MEMORY;
+        kavi_status streamed = KAVI_NO_MEMORY;
+        kavi_stream* stream = nullptr;
+        kavi_result* told = nullptr;
         if (made == KAVI_OK) {
             lexicon = kavi_reader_set_lexicon(reader, "a", "kavi\tkahvee\n", 12);
             kavi_reader_set_everyday(reader, KAVI_ALL_EVERYDAY);
             read = kavi_read(reader, text.data(), text.size(), KAVI_RUNS, &result);
             normalized =
                 kavi_normalize(reader, text.data(), text.size(), KAVI_PLAIN, &spoken, nullptr);
+            static_cast<void>(kavi_stream_new(reader, KAVI_RUNS, &stream));
         }
+        if (stream != nullptr) streamed = kavi_stream_add(stream, text.data(), text.size(), &told);
         allocations_left = -1;
+        kavi_result_free(told);
+        if (stream != nullptr && streamed == KAVI_NO_MEMORY) {
+            EXPECT_EQ(kavi_stream_add(stream, "a", 1, &told), KAVI_ENDED);
+            EXPECT_EQ(kavi_stream_forget(stream), KAVI_OK);
+            EXPECT_EQ(kavi_stream_end(stream, &told), KAVI_OK);
+            EXPECT_EQ(told, nullptr);
+        }
+        kavi_stream_free(stream);
         EXPECT_EQ(reader == nullptr, made == KAVI_NO_MEMORY);
         if (reader != nullptr) {
             EXPECT_EQ(result == nullptr, read == KAVI_NO_MEMORY);
@@ -355,7 +368,8 @@ TEST(C, AnswersThatThereIsNoMemory) {
             kavi_result_free(result);
         }
         kavi_reader_free(reader);
-        const bool is_complete = lexicon == KAVI_OK && read == KAVI_OK && normalized == KAVI_OK;
+        const bool is_complete =
+            lexicon == KAVI_OK && read == KAVI_OK && normalized == KAVI_OK && streamed == KAVI_OK;
         if (is_complete) break;
         ++refused;
     }

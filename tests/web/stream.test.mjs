@@ -12,7 +12,7 @@ const {load} = await import(pathToFileURL(`${process.env.KAVI_PACKAGE}/node.js`)
 const small = await load();
 const large = await load({everyday: true});
 const TEXT = 'Zürich, “Dr. Smith” paid <prosody=rate="2">$5.50</prosody> on 3/1/2020, </poem>ok? 😀 It\'s 10:30!  Wait... what is 中 \ud83d <poem=a>this. '
-  .repeat(20);
+  .repeat(20) + 'Told at the end. So. ';
 
 async function collected(utterances) {
   const all = [];

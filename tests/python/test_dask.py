@@ -1,6 +1,8 @@
 """kavi.dask: what it refuses, and its parts."""
 
+import os
 import pathlib
+import subprocess
 import sys
 
 import pytest
@@ -13,12 +15,15 @@ def folder(tmp_path, monkeypatch):
     monkeypatch.chdir(tmp_path)
     pathlib.Path("in").write_text("".join(f"{i}</poem>\n" for i in range(1, 21)))
     pathlib.Path("lexicon").write_text("a\tb\n")
+    pathlib.Path("a=b").write_text("a\tb\n")
+    for name in "in", "lexicon":
+        os.utime(name, ns=(5, 2 * 10**9 + 5))
     return tmp_path
 
 
 @pytest.mark.parametrize("arguments, message", [
     (["--parts", "0", "OUT", "in"], 'argument --parts: takes a number from 1 to 99999, not "0"'),
-    (["--workers", "x", "OUT", "in"], 'argument --workers: takes a number from 1 to 99999, not "x"'),
+    (["--workers", "100000", "OUT", "in"], 'argument --workers: takes a number from 1 to 99999, not "100000"'),
     (["OUT", "in", "--", "--plian"], "kavi-tn: no such option: --plian"),
     (["OUT", "missing"], "missing: cannot be read: No such file or directory"),
 ])
@@ -56,6 +61,11 @@ def test_convert_of_another_run_is_refused(folder):
     options = ["--plain", "--lexicon", "lexicon"]
     with distributed.Client(processes=False, n_workers=1, threads_per_worker=2, dashboard_address=None) as client:
         names = kavi.dask.convert(client, ["in"], "OUT", 3, options)
+        assert names == [f"{folder}/OUT/part-0000{i}" for i in (1, 2, 3)]
+        version = subprocess.run([os.environ["KAVI_TN"], "--version"], stdout=subprocess.PIPE, text=True).stdout
+        assert pathlib.Path("OUT/manifest").read_text() == (
+            f"{version}parts 3\noption --plain\noption --lexicon\noption {folder}/lexicon\n"
+            f"lexicon 4 2.000000005 {folder}/lexicon\ninput 191 2.000000005 {folder}/in\n")
         parts = [pathlib.Path(name).read_text() for name in names]
         assert "".join(parts).split("\n")[2:20:17] == ["three", "twenty"]
         assert sum(len(pathlib.Path(name + ".findings").read_text().splitlines()) for name in names) == 20
@@ -63,8 +73,10 @@ def test_convert_of_another_run_is_refused(folder):
         pathlib.Path(names[1]).unlink()
         assert kavi.dask.convert(client, ["in"], "OUT", 3, options) == names
         assert [pathlib.Path(name).read_text() for name in names] == ["kept", *parts[1:]]
-        for parts_now, options_now in ((4, options), (3, ["--plain"]), (3, ["--plain", "--lexicon=lexicon"])):
-            with pytest.raises(RuntimeError, match='OUT is of another run: ".*" there, ".*" now'):
+        for parts_now, options_now, there, now in (
+                (4, options, "parts 3", "parts 4"), (3, ["--plain"], "option --lexicon", "input .*/in"),
+                (3, ["--plain", "--lexicon=a=b"], "option --lexicon", f"option --lexicon={folder}/a=b")):
+            with pytest.raises(RuntimeError, match=f'OUT is of another run: "{there}" there, "{now}" now'):
                 kavi.dask.convert(client, ["in"], "OUT", parts_now, options_now)
         with pytest.raises(RuntimeError, match="parts is a number from 1, not 0"):
             kavi.dask.convert(client, ["in"], "OUT", 0)
@@ -76,4 +88,18 @@ def test_convert_of_another_run_is_refused(folder):
             kavi.dask.convert(client, ["in"], "OUT", 3, options)
         pathlib.Path("zip").write_bytes(b"PK\3\4")
         with pytest.raises(RuntimeError, match="kavi-tn ended with 1: kavi-tn: not all could be read"):
-            kavi.dask.convert(client, ["zip"], "BAD", 1)
+            kavi.dask.convert(client, ["zip"], "deep/BAD", 1)
+        kavi.dask.main(["--scheduler", client.scheduler.address, "ALL", "in"])
+        parts = sorted(pathlib.Path("ALL").glob("part-?????"))
+        assert len(parts) == 16 and "".join(part.read_text() for part in parts).count('"sentence":1,') == 20
+
+
+def test_bags_are_read_by_the_settings(monkeypatch):
+    frames = pytest.importorskip("dask.dataframe")
+    bag = pytest.importorskip("dask.bag").from_sequence(["5 km", "a 2"], npartitions=2)
+    assert kavi.dask.normalize_bag(bag, everyday="units").compute(scheduler="sync") == ["five kilometres", "a two"]
+    written = []
+    monkeypatch.setattr(frames.DataFrame, "to_parquet",
+                        lambda rows, folder, engine: written.append((rows.compute(scheduler="sync").values.tolist(), folder)))
+    kavi.dask.to_parquet(bag, "OUT", everyday="units")
+    assert written == [([["5 km", "five kilometres"], ["a 2", "a two"]], "OUT")]

@@ -44,8 +44,10 @@ def test_the_program_is_the_tool_or_its_plain_form(tmp_path: pathlib.Path, monke
     monkeypatch.delenv("KAVI_TN")
     monkeypatch.setenv("PATH", "")
     assert [tool(*command, text=text) for command in commands] == by_tool
-    for wrong, said in (["--words"], b"kavi-tn is not installed"), (["--plain", "none"], b"\npython3 -m kavi: [Errno 2]"):
-        run = subprocess.run([sys.executable, "-m", "kavi", *wrong], stderr=subprocess.PIPE)
+    for wrong, said in ((["--words"], b"kavi-tn is not installed"), (["--plain", "none"], b"\npython3 -m kavi: [Errno 2]"),
+                        (["--plain", *inputs], b"\npython3 -m kavi: [Errno 28]")):
+        with open("/dev/full", "wb") as full:
+            run = subprocess.run([sys.executable, "-m", "kavi", *wrong], stdout=full, stderr=subprocess.PIPE)
         assert run.returncode != 0 and said in b"\n" + run.stderr
 
 
@@ -310,6 +312,7 @@ def test_lines_of_a_file(tmp_path: pathlib.Path) -> None:
     assert [(line.number, [word.text for s in line.result.sentences for word in s.words]) for line in lines] == [
         (1, ["a", "five"]), (2, ["b", "six"]), (3, []), (4, ["c"])]
     assert [line.text for line in lines] == ["a 5\r", "b \udcff 6", "", "c"]
+    assert next(kavi.read_file(path)).result == kavi.read("a 5\r")
 
 
 @pytest.mark.parametrize("page", ["README.md", "docs/python.md"])

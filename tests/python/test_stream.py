@@ -12,7 +12,7 @@ import pytest
 
 PROJECT = pathlib.Path(os.environ["KAVI_PROJECT"])
 TEXT = ("Zürich, “Dr. Smith” paid <prosody=rate=\"2\">$5.50</prosody> on 3/1/2020, </poem>ok? 😀 It's 10:30!  Wait... what "
-        "is 中文 <poem=a>this. ") * 30
+        "is 中文 <poem=a>this. ") * 30 + "Told at the end. So."
 
 
 @pytest.mark.parametrize("by", ["sentence", "clause"])
@@ -43,6 +43,7 @@ def test_a_stream_by_hand_is_interrupted_and_ended() -> None:
     assert [utterance.plain for utterance in stream.add("Ü. Two, thr")] == [". Two,"]
     stream.forget()
     (four,) = stream.add("Four") + stream.end()
+    assert [clause.runs for clause in (*four.clauses, *next(kavi.Reader().stream(["Five"])).clauses)] == [(), ()]
     assert (four.plain, four.source, four.words[0].offset) == ("Four", "Four", 11)
     for call in (stream.end, lambda: stream.add("more")):
         with pytest.raises(ValueError, match="the text has ended"):

@@ -44,8 +44,10 @@ test('a stream by hand is interrupted, ended and lost', () => {
   const stream = small.reader().openStream({by: 'clause'});
   assert.deepEqual(stream.add('Ü. Two, thr\ud83d').map(({plain}) => plain), ['. Two,']);
   stream.forget();
-  const [four] = stream.add('Four').concat(stream.end());
-  assert.deepEqual([four.plain, four.source, four.words[0].offset], ['Four', 'Four', 12]);
+  const told = stream.add('Four. <poem=a>Five. So').concat(stream.end());
+  const [four] = told;
+  assert.deepEqual([four.plain, four.source, four.words[0].offset, four.clauses[0].runs], ['Four.', 'Four. ', 12, []]);
+  assert.deepEqual(told.at(-1).findings.map(({offset, length}) => [offset, length]), [[18, 1]]);
   for (const call of [() => stream.end(), () => stream.add('more')]) assert.throws(call, /the text has ended/);
   stream.forget();
   assert.deepEqual(stream.add(''), []);

@@ -46,7 +46,7 @@ TEST(Lexicon, RewritesAsInTheTable) {
 TEST(Lexicon, BadLinesAreToldAndTheGoodOnesAreFound) {
     expect_table("bad_lexicons", [](const std::string& lines) {
         Lexicon lexicon;
-        std::string error;
+        std::string error = "of an earlier file";
         EXPECT_FALSE(lexicon.add("my.txt", lines, error));
         return TableRow{lines, error, rewritten(Everyday(&lexicon), "a b km")};
     });

@@ -44,8 +44,8 @@ void add_word(std::string& text, Random& random) {
     }
 }
 
-// In a pattern, "9" is some digits, "w" for a word and "A" for an abbreviation; all else
-// for itself.
+// In a pattern, "9" is some digits, "w" a word and "A" an abbreviation; any other character is
+// itself.
 std::string piece(Random& random) {
     static const std::vector<std::string> patterns = first_fields("fuzz_patterns");
     std::string text;

@@ -123,7 +123,7 @@ class TextBuffer {
     static char* put(std::string_view piece, char* end) {
         const std::size_t size = piece.size();
         if (size < 2 || size > 16) {
-            piece.copy(end, size);  // of nothing, from nowhere, too
+            piece.copy(end, size);  // which allows an empty piece at null
         } else if (size < 4) {
             put_ends<2>(piece, end);
         } else if (size < 8) {

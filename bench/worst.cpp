@@ -180,7 +180,8 @@ int rewrite(const Everyday& everyday, const std::string& text) {
 }
 
 // Reads a text with all of everyday English and calls `on_sentence`, of which each measures what it
-// is about.
+// is about. The places are known by then: the host finds those of some sentences before it calls,
+// and they are the layer `places`.
 int read_everyday(const std::string& text, const TtsHost::SentenceHandler& on_sentence) {
     static const Everyday everyday = [] {
         Everyday all(&lexicon());
@@ -189,7 +190,11 @@ int read_everyday(const std::string& text, const TtsHost::SentenceHandler& on_se
     }();
     TtsHost host;
     host.rewrite_by(&everyday);
-    return host.read(text, on_sentence, nullptr) ? 1 : 0;
+    const auto with_places = [&](const HostSentence& sentence) {
+        sentence.places.words();
+        return on_sentence(sentence);
+    };
+    return host.read(text, with_places, nullptr) ? 1 : 0;
 }
 
 struct Layer {

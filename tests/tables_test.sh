@@ -2,9 +2,10 @@
 # A wrong row of a table of everyday English is told with its file and line.
 # Usage: tables_test.sh MAKE_TABLES.CMAKE
 set -euo pipefail
-folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
-mkdir "$folder/tables"
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+folder="$scratch/a [1] b" # a name like this has kept tables from being found
+mkdir -p "$folder/tables"
 cp "$1" "$folder/make_tables.cmake"
 
 # make REMARK ROWS: what is said of a table; its rows begin in line 5.

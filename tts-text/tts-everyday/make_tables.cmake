@@ -107,7 +107,8 @@ function(make_table table)
 endfunction()
 
 set(made "// Made by make_tables.cmake of tts-text/tts-everyday/tables.\n")
-file(GLOB tables "${CMAKE_CURRENT_LIST_DIR}/tables/*.txt")
+string(REGEX REPLACE "([][*?])" "[\\1]" folder "${CMAKE_CURRENT_LIST_DIR}") # which may have them in its name
+file(GLOB tables "${folder}/tables/*.txt")
 foreach(table IN LISTS tables)
     make_table("${table}")
 endforeach()

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <random>
 #include <stdexcept>
-#include <thread>
 
 #include "expect_table.h"
 #include "host_reader.h"
@@ -428,20 +427,6 @@ TEST(Host, WhatTheBuilderRefusesIsCutToo) {
     EXPECT_TRUE(read.all_read);
     EXPECT_EQ(read.covered, text.size());
     EXPECT_GT(read.records.size(), 1U);
-}
-
-TEST(Host, TwoInTwoThreadsDoNotInterfere) {
-    const auto text = [](unsigned seed) {
-        std::mt19937 random(seed);
-        return random_text(random, 30000);
-    };
-    const ReadText expected[] = {read_by_layer(text(1)), read_by_layer(text(2))};
-    ReadText read[2];
-    std::thread first([&] { read[0] = read_by_layer(text(1)); });
-    std::thread second([&] { read[1] = read_by_layer(text(2)); });
-    first.join();
-    second.join();
-    for (int i = 0; i < 2; ++i) EXPECT_EQ(read[i].records, expected[i].records);
 }
 
 }  // namespace

@@ -80,12 +80,26 @@ bool ends_in_domain(std::string_view host) {
     return find(DOMAINS, host.substr(dot + 1)) != nullptr;
 }
 
+// "1-800-FLOWERS": the digits of a number that goes on in letters.
+bool read_number_in_letters(const Place& place, Found& found) {
+    const std::string_view area = place.digits(2);
+    const bool is_one = place.starts_with("1-") && area.size() == 3 &&
+                        (area[0] == '8' || area[0] == '9') && place.peek(5) == '-' &&
+                        is_letter(place.peek(6));
+    if (!is_one) return false;
+    say_digits("1", found.words);
+    say_group(area, found.words);
+    found.length = 5;
+    return true;
+}
+
 }  // namespace
 
 void read_telephone(const Place& place, Found& found) {
     const char c = place.peek();
     if (!is_digit(c) && c != '+' && c != '(') return;
     if (place.before() == '-' || place.before() == '.' || is_digit(place.before())) return;
+    if (read_number_in_letters(place, found)) return;
     const std::string_view shape = shape_at(place);
     found.length = shape.size();
     if (c == '+' && !shape.empty()) say("plus", found.words);

@@ -43,6 +43,8 @@ void read_version(const Place& place, Found& found) {
     if (place.before() == '.' || is_digit(place.before())) return;
     const std::string_view first = place.digits();
     if (place.peek(first.size()) != '.') return;
+    const bool is_number = number_at(place, 0).whole.size() > first.size();  // "1.000.000"
+    if (is_number) return;
     say_part(first, found.words);
     std::size_t end = first.size();
     int n_points = 0;
@@ -58,6 +60,20 @@ void read_version(const Place& place, Found& found) {
     }
     if ((n_points < 2 && !ends_in_x) || place.peek(end) == '%') return;
     if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return;
+    found.length = end;
+}
+
+// "1080p", "720p"
+void read_resolution(const Place& place, Found& found) {
+    constexpr std::string_view LINES[] = {"240",  "360",  "480",  "576", "720",
+                                          "1080", "1440", "2160", "4320"};
+    const std::string_view lines = place.digits();
+    const std::size_t end = lines.size() + 1;
+    const bool is_one = place.peek(lines.size()) == 'p' && !place.is_joined(end) &&
+                        std::find(std::begin(LINES), std::end(LINES), lines) != std::end(LINES);
+    if (!is_one || place.is_joined_before()) return;
+    say_in_pairs(lines, found.words);
+    say("p", found.words);
     found.length = end;
 }
 

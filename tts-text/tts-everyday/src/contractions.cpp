@@ -68,6 +68,12 @@ void read_quoted_letter(const Place& place, std::size_t mark, Found& found) {
     found.words = place.part(mark, 1);
 }
 
+// "'ve" after another contraction: "couldn't've".
+std::size_t have_length(const Place& place, std::size_t ahead) {
+    const std::size_t mark = place.apostrophe(ahead);
+    return mark > 0 && place.letters(ahead + mark) == "ve" ? mark + 2 : 0;
+}
+
 }  // namespace
 
 void read_contraction(const Place& place, Found& found) {
@@ -94,11 +100,16 @@ void read_contraction(const Place& place, Found& found) {
     found.length = stem.size() + mark + ending.size();
     if (lower == "t" && stem.size() > 1 && to_lower(stem.back()) == 'n') {
         found.words = std::string(stem.substr(0, stem.size() - 1)) + " not";
+        const std::size_t have = have_length(place, found.length);
+        if (have > 0) say("have", found.words);
+        found.length += have;
         return;
     }
     found.words = stem;
     if (lower == "d") {
-        const char* verb = had_or_would(place, found.length);
+        const std::size_t have = have_length(place, found.length);
+        const char* verb = have > 0 ? "would have" : had_or_would(place, found.length);
+        found.length += have;
         if (verb == nullptr) {
             found.length = 0;
         } else {

@@ -44,12 +44,30 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
     say(number.fraction == "01" ? coin->spoken() : coin->many(), found.words);
 }
 
-// A code before its amount, "USD 10 million"; its row, or null.
+// A code before its amount, "USD 10 million", "EUR45"; its row, or null.
 const Row* code_before(const Place& place) {
     const std::string_view code = place.letters();
-    if (code.size() != 3) return nullptr;
+    if (code.size() != 3 || place.is_joined_before()) return nullptr;
     const Row* row = find(CURRENCIES, code);
-    return row != nullptr && place.peek(3) == ' ' && is_digit(place.peek(4)) ? row : nullptr;
+    return row != nullptr && is_digit(place.peek(3 + place.blanks(3))) ? row : nullptr;
+}
+
+// An amount, which may have a decimal comma: "€3,50".
+Number amount_at(const Place& place, std::size_t ahead) {
+    Number number = number_at(place, ahead);
+    const std::size_t comma = ahead + number.length;
+    if (number.length == 0 || !number.fraction.empty() || place.peek(comma) != ',') return number;
+    const std::string_view coins = place.digits(comma + 1);
+    if (coins.size() == 2 && !place.is_joined(comma + 3)) {
+        number.fraction = coins;
+        number.length += 3;
+    }
+    return number;
+}
+
+// The length of the blank between a sign and its amount: "$ 5".
+std::size_t gap_after_sign(const Place& place, const Row& row, std::size_t ahead) {
+    return place.peek(ahead) == ' ' && !is_letter(row.written().back()) ? 1 : 0;
 }
 
 }  // namespace
@@ -58,22 +76,23 @@ void read_currency(const Place& place, Found& found) {
     const std::size_t minus = place.peek() == '-' ? 1 : 0;
     if (is_letter(place.before())) return;
     const Row* row = place.find_row(CURRENCIES, minus, [&](const Row& candidate) {
+        const std::size_t end = minus + candidate.written().size();
         return (candidate.kind == Kind::before || candidate.kind == Kind::both) &&
-               number_at(place, minus + candidate.written().size()).length > 0;
+               number_at(place, end + gap_after_sign(place, candidate, end)).length > 0;
     });
-    const bool has_blank = row == nullptr && minus == 0;
-    if (has_blank) row = code_before(place);
+    if (row == nullptr && minus == 0) row = code_before(place);
     if (row == nullptr) return;
     if (minus > 0) say("minus", found.words);
-    const std::size_t begin = minus + row->written().size() + (has_blank ? 1 : 0);
-    const Number number = number_at(place, begin);
+    const std::size_t symbol_end = minus + row->written().size();
+    const std::size_t begin = symbol_end + place.blanks(symbol_end);
+    const Number number = amount_at(place, begin);
     const std::size_t end = begin + number.length;
     std::size_t scale_length = 0;
     // "$5-10 million": both are of the same.
     const std::size_t dash = place.dash(end);
     const std::size_t second_symbol =
         place.starts_with(row->written(), end + dash) ? row->written().size() : 0;
-    const Number second = dash > 0 ? number_at(place, end + dash + second_symbol) : Number{};
+    const Number second = dash > 0 ? amount_at(place, end + dash + second_symbol) : Number{};
     if (second.length > 0) {
         const std::size_t second_end = end + dash + second_symbol + second.length;
         const char* scale = scale_at(place, second_end, scale_length);
@@ -96,7 +115,7 @@ void read_currency(const Place& place, Found& found) {
 }
 
 void read_amount_after(const Place& place, Found& found) {
-    const Number number = number_at(place, 0);
+    const Number number = amount_at(place, 0);
     std::size_t scale_length = 0;
     const char* scale = scale_at(place, number.length, scale_length);
     const std::size_t end = number.length + scale_length;

@@ -140,6 +140,7 @@ void read_days(const Place& place, const Month& month, std::size_t ahead, Found&
         say("to", found.words);
         say_ordinal(last, found.words);
         end += dash + last.size();
+        end += ordinal_suffix(place, end);
     }
     const std::string_view year = year_after(place, end, end);
     if (!year.empty()) say_year(year, found.words);

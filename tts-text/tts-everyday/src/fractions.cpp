@@ -50,9 +50,10 @@ bool read_whole_and_sign(const Place& place, std::string_view whole, Found& foun
     return true;
 }
 
-// "3 1/2", "3 5/16"
+// "3 1/2", "3 5/16", "3-1/2"
 bool read_whole_and_slash(const Place& place, std::string_view whole, Found& found) {
-    if (place.peek(whole.size()) != ' ') return false;
+    const char gap = place.peek(whole.size());
+    if (gap != ' ' && gap != '-') return false;
     const std::string_view above = place.digits(whole.size() + 1);
     const std::size_t slash = whole.size() + 1 + above.size();
     const std::string_view below = place.digits(slash + 1);
@@ -97,6 +98,14 @@ const char* words_between(const Place& place, std::string_view above, std::strin
     return is_ratio(place, above, below) && !place.is_joined(end) ? "over" : nullptr;
 }
 
+// Of "2/3rds", "1/4th".
+std::size_t suffix_length(const Place& place, std::size_t ahead) {
+    const std::string_view letters = place.letters(ahead);
+    const bool is_many = !letters.empty() && letters.back() == 's';
+    const std::string_view suffix = letters.substr(0, letters.size() - (is_many ? 1 : 0));
+    return find(ORDINAL_SUFFIXES, suffix) != nullptr ? letters.size() : 0;
+}
+
 // "1/2", with no other slash before it or after it
 bool read_slash(const Place& place, std::string_view above, Found& found) {
     if (place.peek(above.size()) != '/' || place.before() == '/') return false;
@@ -113,7 +122,7 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
     } else if (!say_fraction(above, below, found.words)) {
         return false;
     }
-    found.length = end;
+    found.length = end + suffix_length(place, end);
     return true;
 }
 

@@ -29,18 +29,21 @@ bool read_house_number(const Place& place, const Number& number, Found& found) {
     return true;
 }
 
-// "odds of 3:1"; two digits after the colon are a time's, and after a name it may be a verse
+// "odds of 3:1", "a 1:72 model"; two digits after the colon may be a time's, and after a name it
+// may be a verse
 bool read_ratio(const Place& place, const Number& number, Found& found) {
     const std::size_t colon = number.length;
     if (!number.fraction.empty() || place.peek(colon) != ':' || place.before() == ':') return false;
-    const std::string_view before = place.word_before();
-    if (place.before() != ' ' || before.empty() || !is_lower(before[0])) return false;
     const std::string_view second = place.digits(colon + 1);
     const std::size_t end = colon + 1 + second.size();
-    const bool is_ratio = second.size() == 1 && !place.is_joined(end) && place.peek(end) != ':' &&
-                          place.dash(end) == 0 &&
-                          !(place.peek(end) == '.' && is_digit(place.peek(end + 1)));
-    if (!is_ratio) return false;
+    const bool goes_on = place.is_joined(end) || place.peek(end) == ':' || place.dash(end) > 0 ||
+                         (place.peek(end) == '.' && is_digit(place.peek(end + 1)));
+    if (second.empty() || goes_on) return false;
+    const std::string_view before = place.word_before();
+    const bool is_after_word = place.before() == ' ' && !before.empty() && is_lower(before[0]);
+    const bool has_noun =
+        place.peek(end) == ' ' && find(RATIO_NOUNS, place.letters(end + 1)) != nullptr;
+    if (!has_noun && !(is_after_word && second.size() == 1)) return false;
     number.say(found.words);
     say("to", found.words);
     say_cardinal(second, found.words);
@@ -86,6 +89,21 @@ std::size_t say_percent(const Place& place, std::size_t ahead, std::string& out)
     return blank + 1;
 }
 
+// "10% - 15%", after the first sign
+std::size_t say_second_percent(const Place& place, std::size_t ahead, std::string& out) {
+    const std::size_t blank = place.peek(ahead) == ' ' ? 1 : 0;
+    const std::size_t dash = place.dash(ahead + blank);
+    if (dash == 0 || (place.peek(ahead + blank + dash) == ' ') != (blank > 0)) return 0;
+    const std::size_t at = ahead + 2 * blank + dash;
+    const Number last = number_at(place, at);
+    const std::size_t end = at + last.length;
+    if (last.length == 0 || place.peek(end) != '%') return 0;
+    say("to", out);
+    last.say(out);
+    say("percent", out);
+    return end + 1 - ahead;
+}
+
 // "3x", "3 x 4", "3×4", "3 × 4"; the blank after it is left
 std::size_t times_length(const Place& place, std::size_t ahead) {
     constexpr std::string_view CROSS = "×";
@@ -95,12 +113,14 @@ std::size_t times_length(const Place& place, std::size_t ahead) {
     return place.peek(ahead) == 'x' && !place.is_joined(ahead + 1) ? 1 : 0;
 }
 
-// "5 x 3 inches", "2 × 4 m": a size, where a number with a unit follows.
+// "8.5 x 11", "5 x 3 inches", "2 × 4 m": a size, of numbers that nobody multiplies.
 bool is_size(const Place& place, std::size_t ahead) {
     ahead += place.blanks(ahead);
     const Number number = number_at(place, ahead);
     if (number.length == 0) return false;
     ahead += number.length + place.blanks(ahead + number.length);
+    if (place.peek(ahead) == '=' || number.whole == "10") return false;  // "6.02 x 10^23"
+    if (!number_at(place, 0).fraction.empty()) return true;
     const std::string_view word = place.letters(ahead);
     // No row: its abbreviation is a word.
     if (word == "inches" || place.starts_with("in.", ahead)) return true;
@@ -185,6 +205,7 @@ void read_number(const Place& place, Found& found) {
     end += say_range(place, end, found.words);
     const std::size_t percent = say_percent(place, end, found.words);
     end += percent > 0 ? percent : say_times(place, end, found.words);
+    if (percent > 0) end += say_second_percent(place, end, found.words);
     found.length = end;
 }
 

@@ -105,6 +105,10 @@ bool read_operator(const Place& place, Found& found) {
         return true;
     found.length = length;
     found.words = row->spoken();
+    if (row->written() == "^" && place.peek(length) == '-' && is_digit(place.peek(length + 1))) {
+        say("minus", found.words);  // "10^-3"
+        ++found.length;
+    }
     // "File > Save": a way through menus.
     const bool is_menu = row->written() == ">" && gap.before > 0 &&
                          is_upper(place.peek(gap.after)) && is_lower(place.peek(gap.after + 1));

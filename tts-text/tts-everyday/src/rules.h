@@ -52,6 +52,7 @@ void read_telephone(const Place& place, Found& found);  // addresses.cpp
 void read_address(const Place& place, Found& found);
 void read_roman(const Place& place, Found& found);    // roman.cpp
 void read_version(const Place& place, Found& found);  // codes.cpp
+void read_resolution(const Place& place, Found& found);
 void read_numbered(const Place& place, Found& found);
 void read_long_code(const Place& place, Found& found);
 void read_plural_number(const Place& place, Found& found);
@@ -76,6 +77,9 @@ constexpr bool is_bare_title(const Row& row) {
 // Appends "per" and the unit after a slash at offset `ahead`. Returns their length, 0 if none;
 // units.cpp.
 std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
+
+// Reads feet and inches, or an angle, by the primes after their numbers; primes.cpp.
+bool read_primes(const Place& place, Found& found);
 
 // Appends the time of an ISO date at offset `ahead`. Returns its length, 0 if none; times.cpp.
 std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out);

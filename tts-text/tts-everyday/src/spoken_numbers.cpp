@@ -20,6 +20,57 @@ void say_reading(const tn::Reading& reading, std::string& out) {
     say({words, length}, out);
 }
 
+constexpr std::size_t GROUP = 3;
+
+// The length of the groups of three digits at `ahead`, each after such a mark.
+std::size_t run_of_groups(const Place& place, std::size_t ahead, char mark) {
+    std::size_t end = ahead;
+    while (place.peek(end) == mark && place.digits(end + 1).size() == GROUP) end += 1 + GROUP;
+    return end - ahead;
+}
+
+// Whether a word may precede a number that has blanks in it: no month and no name, "May 12 200
+// people", "Windows 10 100 times", nor another number.
+bool may_precede_blanks(const Place& place, std::size_t ahead) {
+    if (ahead > 0) return true;
+    const char before = place.before();
+    if (before == '-' || before == '.' || (before == ' ' && is_digit(place.before(2))))
+        return false;
+    const std::string_view word = place.word_before();
+    return std::none_of(word.begin(), word.end(), is_upper);
+}
+
+// "10 000", "1 234 567"; not "rooms 101 102", "5 100 metre races", "555 123 4567".
+bool are_blanks_of_number(const Place& place, std::size_t ahead, std::size_t n_digits,
+                          std::size_t groups) {
+    const std::size_t end = ahead + n_digits + groups;
+    const char after = place.peek(end);
+    const bool goes_on = place.is_joined(end) || after == '-' || after == '/' || after == ':' ||
+                         (after == ' ' && is_digit(place.peek(end + 1)));
+    const bool is_round = place.part(end - GROUP, GROUP) == "000";
+    const bool is_clear = n_digits == 2 || (n_digits == 1 && groups > 1 + GROUP);
+    return place.peek(ahead) != '0' && !goes_on && (is_round || is_clear) &&
+           may_precede_blanks(place, ahead);
+}
+
+// "1.000.000"; four groups may be an address.
+bool are_points_of_number(const Place& place, std::size_t end, std::size_t groups) {
+    const bool goes_on = place.peek(end) == '.' && is_digit(place.peek(end + 1));
+    return groups == 2 * (1 + GROUP) && !place.is_joined(end) && !goes_on;
+}
+
+// The length of the groups after the first digits of a number, one to three at `ahead`.
+std::size_t groups_length(const Place& place, std::size_t ahead, std::size_t n_digits) {
+    const std::size_t begin = ahead + n_digits;
+    const char mark = place.peek(begin);
+    if (mark != ',' && mark != ' ' && mark != '.') return 0;
+    const std::size_t groups = run_of_groups(place, begin, mark);
+    if (groups == 0) return 0;
+    if (mark == ' ' && !are_blanks_of_number(place, ahead, n_digits, groups)) return 0;
+    if (mark == '.' && !are_points_of_number(place, begin + groups, groups)) return 0;
+    return groups;
+}
+
 }  // namespace
 
 void say(std::string_view words, std::string& out) {
@@ -83,21 +134,18 @@ void say_decimal(std::string_view whole, std::string_view fraction, std::string&
 
 std::string Number::digits() const {
     std::string digits(whole);
-    digits.erase(std::remove(digits.begin(), digits.end(), ','), digits.end());
+    digits.erase(std::remove_if(digits.begin(), digits.end(), [](char c) { return !is_digit(c); }),
+                 digits.end());
     return digits;
 }
 
 Number number_at(const Place& place, std::size_t ahead) {
-    constexpr std::size_t GROUP = 3;
     Number number;
     const std::size_t n_digits = place.digits(ahead).size();
     const bool has_no_zero = place.peek(ahead) == '.' && is_digit(place.peek(ahead + 1));  // ".35"
     if (n_digits == 0 && !has_no_zero) return number;
     std::size_t end = ahead + n_digits;
-    while (n_digits > 0 && n_digits <= GROUP && place.peek(end) == ',' &&
-           place.digits(end + 1).size() == GROUP) {
-        end += 1 + GROUP;
-    }
+    if (n_digits > 0 && n_digits <= GROUP) end += groups_length(place, ahead, n_digits);
     number.whole = place.part(ahead, end - ahead);
     if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) {
         number.fraction = place.digits(end + 1);

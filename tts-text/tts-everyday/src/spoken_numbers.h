@@ -22,9 +22,10 @@ void say_year(std::string_view year, std::string& out);
 // "three point one four"; `fraction` may be empty.
 void say_decimal(std::string_view whole, std::string_view fraction, std::string& out);
 
-// A number as it is written: groups of three with commas, and a decimal point.
+// A number as it is written: groups of three with commas, "10 000" or "1.000.000", and a decimal
+// point.
 struct Number {
-    std::string_view whole;  // with its commas
+    std::string_view whole;  // with what parts its groups
     std::string_view fraction;
     std::size_t length = 0;  // as written; 0 for none
 

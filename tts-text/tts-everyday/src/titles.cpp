@@ -44,6 +44,29 @@ bool is_date_part(const Place& place, std::size_t ahead) {
     return place.peek(end) != ' ' || !is_lower(place.peek(end + 1));
 }
 
+// The day of the week, abbreviated, at offset `ahead`, or null.
+const Row* day_at(const Place& place, std::size_t ahead) {
+    const Row* row = find(TITLES, place.letters(ahead));
+    return row != nullptr && row->kind == Kind::before_date ? row : nullptr;
+}
+
+// "Mon-Fri", "Tue.–Thu."
+bool read_days_of_week(const Place& place, Found& found) {
+    const Row* first = day_at(place, 0);
+    if (first == nullptr) return false;
+    std::size_t dash = first->written().size();
+    if (place.peek(dash) == '.') ++dash;
+    const std::size_t second = dash + place.dash(dash);
+    const Row* last = second > dash ? day_at(place, second) : nullptr;
+    if (last == nullptr) return false;
+    say(first->spoken(), found.words);
+    say("to", found.words);
+    say(last->spoken(), found.words);
+    const std::size_t end = second + last->written().size();
+    found.length = end + (place.peek(end) == '.' && !place.may_end_sentence(end + 1) ? 1 : 0);
+    return true;
+}
+
 bool ends_sentence(Kind kind) {
     return kind == Kind::may_end || kind == Kind::before_date || kind == Kind::after_ordinal;
 }
@@ -212,14 +235,15 @@ bool read_row(const Place& place, Found& found) {
 
 void read_title(const Place& place, Found& found) {
     if (read_drive(place, found) || read_sister(place, found) || read_compass_point(place, found) ||
-        read_word_of_life(place, found) || read_row(place, found))
+        read_word_of_life(place, found) || read_days_of_week(place, found) ||
+        read_row(place, found))
         return;
     if (!read_saint_or_street(place, found)) read_initials(place, found);
 }
 
 void read_bare_title(const Place& place, Found& found) {
     if ((BARE_BEGINS & bit_of_begin(place.peek(), place.peek(1))) == 0) return;
-    if (!read_drive(place, found)) read_row(place, found);
+    if (!read_drive(place, found) && !read_days_of_week(place, found)) read_row(place, found);
 }
 
 }  // namespace kavi::everyday

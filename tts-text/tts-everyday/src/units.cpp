@@ -11,39 +11,6 @@ bool is_after_hours(const Place& place) {
     return place.before() == ' ' && place.before(2) == 'h' && is_digit(place.before(3));
 }
 
-// "5'4\"": feet and inches.
-bool read_height(const Place& place, Found& found) {
-    const std::string_view feet = place.digits();
-    const std::size_t mark = place.starts_with("′", feet.size()) ? 3 : 1;
-    if (feet.size() != 1 || (mark == 1 && place.peek(1) != '\'')) return false;
-    const std::string_view inches = place.digits(1 + mark);
-    if (inches.empty() || inches.size() > 2) return false;
-    const std::size_t end = 1 + mark + inches.size();
-    const std::size_t end_mark = place.starts_with("″", end) ? 3 : 1;
-    if (end_mark == 1 && place.peek(end) != '"') return false;
-    say_cardinal(feet, found.words);
-    say("foot", found.words);
-    say_cardinal(inches, found.words);
-    found.length = end + end_mark;
-    return true;
-}
-
-// "a 12\" pizza", "2.5\" disks"; a quotation may end in a number too
-bool read_inches(const Place& place, const Number& number, Found& found) {
-    const std::size_t end = number.length + 1;
-    if (place.peek(number.length) != '"' || place.peek(end) != ' ' || place.letter(end + 1) == 0)
-        return false;
-    const std::string_view before = place.word_before();
-    if (number.fraction.empty() && before != "a" && before != "an") return false;
-    for (std::size_t back = 1; back <= LOOK_BACK; ++back) {
-        if (place.before(back) == '"') return false;
-    }
-    number.say(found.words);
-    say("inch", found.words);
-    found.length = end;
-    return true;
-}
-
 // ".5 km", but not "fig.5 m" or "...5 m"
 bool may_begin_number(const Place& place) {
     if (is_digit(place.peek())) return true;
@@ -86,10 +53,9 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out) {
 }
 
 void read_unit(const Place& place, Found& found) {
-    if (read_height(place, found)) return;
-    if (!may_begin_number(place)) return;
+    if (read_primes(place, found) || !may_begin_number(place)) return;
     const Number number = number_at(place, 0);
-    if (number.length == 0 || read_inches(place, number, found)) return;
+    if (number.length == 0) return;
     std::size_t end = number.length;
     Number second;  // of a range
     const std::size_t dash = place.dash(end);

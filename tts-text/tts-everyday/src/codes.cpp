@@ -29,6 +29,8 @@ void say_in_pairs(std::string_view digits, std::string& out) {
     say_cardinal(last, out);
 }
 
+constexpr std::size_t LONGEST_VERSION = 32;  // so that a chain of them is not read from each
+
 // A part of a version or an IP address.
 void say_part(std::string_view digits, std::string& out) {
     const bool is_number = digits.size() < 3 && (digits[0] != '0' || digits.size() == 1);
@@ -39,7 +41,6 @@ void say_part(std::string_view digits, std::string& out) {
 
 // "1.5.2", "10.0.0.1", "7.x"; a number with one point is a decimal
 void read_version(const Place& place, Found& found) {
-    constexpr std::size_t LONGEST = 32;  // so that a chain of them is not read from each
     if (place.before() == '.' || is_digit(place.before())) return;
     const std::string_view first = place.digits();
     if (place.peek(first.size()) != '.') return;
@@ -49,7 +50,7 @@ void read_version(const Place& place, Found& found) {
     std::size_t end = first.size();
     int n_points = 0;
     bool ends_in_x = false;
-    while (end < LONGEST && place.peek(end) == '.' && !ends_in_x) {
+    while (end < LONGEST_VERSION && place.peek(end) == '.' && !ends_in_x) {
         const std::string_view part = place.digits(end + 1);
         ends_in_x = place.peek(end + 1) == 'x' && !place.is_joined(end + 2);
         if (part.empty() && !ends_in_x) break;
@@ -100,11 +101,32 @@ void read_long_code(const Place& place, Found& found) {
     found.length = end;
 }
 
-// "Flight 370", "Biology 101", "PO Box 1410", "call 911"
+// "F-150", "US-101": after a hyphen and one or two capitals.
+bool is_model(const Place& place) {
+    if (place.before() != '-') return false;
+    const std::string_view series = place.letters_before(1);
+    return !series.empty() && series.size() < 3 &&
+           std::all_of(series.begin(), series.end(), is_upper) && !is_digit(place.before(2));
+}
+
+// "a 401(k)", "501(c)(3)"
+bool is_section_of_law(const Place& place, std::size_t ahead) {
+    return place.peek(ahead) == '(' && is_lower(place.peek(ahead + 1)) &&
+           place.peek(ahead + 2) == ')';
+}
+
+// "Flight 370", "Biology 101", "PO Box 1410", "call 911", "F-150", "401(k)"
 void read_numbered(const Place& place, Found& found) {
     const std::string_view digits = place.digits();
     const std::size_t end = digits.size();
-    if (end < 3 || place.before() != ' ' || place.is_joined(end)) return;
+    if (end < 3 || place.is_joined(end)) return;
+    if ((end == 3 && is_section_of_law(place, end)) || is_model(place)) {
+        if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return;
+        say_in_pairs(digits, found.words);
+        found.length = end;
+        return;
+    }
+    if (place.before() != ' ') return;
     const char after = place.peek(end);
     const bool goes_on = (after == '.' || after == ',' || after == ':' || after == '/') &&
                          is_digit(place.peek(end + 1));
@@ -198,6 +220,12 @@ void read_code(const Place& place, Found& found) {
                                 : say_digits(digits, found.words);
     }
     if (!has_digits) return;
+    while (end < LONGEST_VERSION && place.peek(end) == '.' && is_digit(place.peek(end + 1))) {
+        const std::string_view minor = place.digits(end + 1);  // "USB3.0"
+        say("point", found.words);
+        say_digits(minor, found.words);
+        end += 1 + minor.size();
+    }
     if (place.peek(end) == 's' && !place.is_joined(end + 1)) {  // "MP3s"
         say_many(found.words);
         found.length = end + 1;

@@ -200,6 +200,24 @@ void read_month(const Place& place, Found& found) {
     found.length = end;
 }
 
+// "Jan Smith", "I saw Jan yesterday"; not "Jan 5", "in Jan", "Jan and Feb"
+bool read_given_name(const Place& place, Found& found) {
+    const std::string_view name = place.letters();
+    if ((name != "Jan" && name != "Jun") || place.peek(name.size()) != ' ') return false;
+    const std::string_view next = place.letters(name.size() + 1);
+    if (next.empty() || month_number(next) > 0 || is_digit(place.before(2))) return false;
+    const bool is_link = next == "and" || next == "or" || next == "to" || next == "through";
+    if (is_link && month_number(place.letters(name.size() + 2 + next.size())) > 0) return false;
+    const std::string before = in_lower_case(place.word_before());
+    const bool has_surname = is_upper(next[0]) && next.size() > 2;
+    const bool is_month = !has_surname && (find(BEFORE_MONTH, before) != nullptr ||
+                                           find(ORDINAL_SUFFIXES, before) != nullptr);
+    if (is_month) return false;
+    found.length = name.size();
+    found.words = in_lower_case(name);
+    return true;
+}
+
 void read_date(const Place& place, Found& found) {
     if (read_iso_date(place, found) || read_dashed_date(place, found)) return;
     if (read_month_and_day(place, found)) return;

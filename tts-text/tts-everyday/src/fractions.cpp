@@ -6,12 +6,13 @@ namespace kavi::everyday {
 
 namespace {
 
-// "1/2", "3/4": up to two digits above, three below.
-bool say_fraction(std::string_view above, std::string_view below, std::string& out) {
+// "1/2", "3/4": up to two digits above, three below. `is_adjective`: "a 3/4-inch bolt".
+bool say_fraction(std::string_view above, std::string_view below, bool is_adjective,
+                  std::string& out) {
     if (above.size() > 2 || below.empty() || below.size() > 3 || below[0] == '0') return false;
     if (below == "1") return false;
     say_cardinal(above, out);
-    const bool is_one = above == "1";
+    const bool is_one = above == "1" || is_adjective;
     if (below == "2") {
         say(is_one ? "half" : "halves", out);
     } else if (below == "4") {
@@ -60,7 +61,7 @@ bool read_whole_and_slash(const Place& place, std::string_view whole, Found& fou
     if (above.empty() || place.peek(slash) != '/' || !is_less(above, below)) return false;
     std::string words;
     say_whole_and(whole, words);
-    if (!say_fraction(above, below, words)) return false;
+    if (!say_fraction(above, below, false, words)) return false;
     found.words = words;
     found.length = slash + 1 + below.size();
     return true;
@@ -82,6 +83,11 @@ bool is_ratio(const Place& place, std::string_view above, std::string_view below
     return below.size() < 3 || (below.size() == 3 && (name.empty() || !is_upper(name[0])));
 }
 
+// "4/4 time", "6/8 time"
+bool is_time_signature(std::string_view below) {
+    return below == "2" || below == "4" || below == "8" || below == "16";
+}
+
 // What is said between two numbers that are no fraction, perhaps nothing; null where they are one.
 const char* words_between(const Place& place, std::string_view above, std::string_view below,
                           std::size_t end) {
@@ -95,6 +101,7 @@ const char* words_between(const Place& place, std::string_view above, std::strin
             place.starts_with(" vision", end) || place.starts_with(" hindsight", end);
         return is_sight ? "" : "out of";
     }
+    if (above != "1" && place.starts_with(" time", end) && is_time_signature(below)) return "";
     return is_ratio(place, above, below) && !place.is_joined(end) ? "over" : nullptr;
 }
 
@@ -119,7 +126,8 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
         say_cardinal(above, found.words);
         if (*words != '\0') say(words, found.words);
         say_cardinal(below, found.words);
-    } else if (!say_fraction(above, below, found.words)) {
+    } else if (const bool is_adjective = place.peek(end) == '-' && is_letter(place.peek(end + 1));
+               !say_fraction(above, below, is_adjective, found.words)) {
         return false;
     }
     found.length = end + suffix_length(place, end);

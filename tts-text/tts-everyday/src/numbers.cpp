@@ -75,8 +75,9 @@ std::size_t say_range(const Place& place, std::size_t ahead, std::string& out) {
     const std::size_t end = ahead + dash + last.length;
     if (last.length == 0 || (place.dash(end) > 0 && is_digit(place.peek(end + place.dash(end)))))
         return 0;
-    const bool is_even = last.whole == "50" && place.starts_with("50");  // "50-50"
-    if (!is_even) say("to", out);
+    const bool is_fixed = (last.whole == "50" && place.starts_with("50-")) ||
+                          (last.whole == "7" && place.starts_with("24-"));
+    if (!is_fixed) say("to", out);
     last.say(out);
     return dash + last.length;
 }
@@ -110,7 +111,21 @@ std::size_t times_length(const Place& place, std::size_t ahead) {
     if (place.starts_with(CROSS, ahead)) return CROSS.size();
     if (place.starts_with(" × ", ahead)) return 1 + CROSS.size();
     if (place.starts_with(" x ", ahead) && is_digit(place.peek(ahead + 3))) return 2;
-    return place.peek(ahead) == 'x' && !place.is_joined(ahead + 1) ? 1 : 0;
+    if (place.peek(ahead) != 'x' || place.is_joined(ahead + 1)) return 0;
+    const char next = place.peek(ahead + 1 + place.blanks(ahead + 1));
+    constexpr std::string_view OPERATORS_AFTER = "+-=^)";  // "2x + 1"
+    return next != '\0' && OPERATORS_AFTER.find(next) != std::string_view::npos ? 0 : 1;
+}
+
+// "1.5M", "5M users"; "a 5M cable", "3M makes" may be anything
+std::size_t say_scale(const Place& place, const Number& number, std::string& out) {
+    const char scale = place.peek(number.length);
+    const std::size_t end = number.length + 1;
+    if ((scale != 'M' && scale != 'B') || place.is_joined(end)) return 0;
+    const std::string_view counted = place.peek(end) == ' ' ? place.letters(end + 1) : "";
+    if (number.fraction.empty() && find(COUNTED_NOUNS, counted) == nullptr) return 0;
+    say(scale == 'M' ? "million" : "billion", out);
+    return 1;
 }
 
 // "8.5 x 11", "5 x 3 inches", "2 × 4 m": a size, of numbers that nobody multiplies.
@@ -184,7 +199,9 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
         before == '\0' || before == ' ' || before == '(' || before == '\n' || before == ':';
     const std::size_t length = sign.written().size();
     const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
-    if (!may_begin || !is_digit(place.peek(length + blank))) return;
+    const std::string_view zone = place.letters_before();
+    if ((!may_begin && zone != "UTC" && zone != "GMT") || !is_digit(place.peek(length + blank)))
+        return;
     found.length = length + blank;
     found.words = sign.spoken();
 }
@@ -201,6 +218,7 @@ void read_number(const Place& place, Found& found) {
     is_code ? say_digits(number.digits(), found.words) : number.say(found.words);
     std::size_t end = number.length;
     end += say_power_of_ten(place, number, found.words);
+    end += say_scale(place, number, found.words);
     if (end == number.length) end += say_out_of(place, number, found.words);
     end += say_range(place, end, found.words);
     const std::size_t percent = say_percent(place, end, found.words);

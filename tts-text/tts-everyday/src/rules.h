@@ -81,6 +81,10 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
 // Reads feet and inches, or an angle, by the primes after their numbers; primes.cpp.
 bool read_primes(const Place& place, Found& found);
 
+// Reads "Jan" as a name where it is no month, as small letters: the engine takes "Jan" for one;
+// dates.cpp.
+bool read_given_name(const Place& place, Found& found);
+
 // Appends the time of an ISO date at offset `ahead`. Returns its length, 0 if none; times.cpp.
 std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out);
 

@@ -13,7 +13,8 @@ std::size_t zip_length(const Place& place, std::size_t ahead) {
     if (place.peek(ahead) != ' ' || place.digits(ahead + 1).size() != ZIP_DIGITS) return 0;
     const std::size_t end = ahead + 1 + ZIP_DIGITS;
     if (place.peek(end) == '-' && place.digits(end + 1).size() == 4) return end + 5 - ahead;
-    return place.is_joined(end) || place.peek(end) == ',' ? 0 : end - ahead;
+    const bool is_group = place.peek(end) == ',' && is_digit(place.peek(end + 1));
+    return place.is_joined(end) || is_group ? 0 : end - ahead;
 }
 
 // "Biloxi, " is before the place.
@@ -21,6 +22,12 @@ bool is_after_place(const Place& place) {
     if (place.before() != ' ' || place.before(2) != ',') return false;
     const std::string_view name = place.letters_before(2);
     return name.size() > 2 && is_upper(name[0]) && is_lower(name.back());
+}
+
+// "Portland OR 97201", "MD 20850"
+bool has_code(const Place& place, std::string_view letters) {
+    return letters.size() == 2 && is_upper(letters[1]) && place.before() != '-' &&
+           !place.is_joined_before() && zip_length(place, letters.size()) > 0;
 }
 
 // "from Salem, "
@@ -32,8 +39,9 @@ bool has_preposition(const Place& place) {
 }  // namespace
 
 void read_state(const Place& place, Found& found) {
-    if (!is_upper(place.peek()) || !is_after_place(place)) return;
+    if (!is_upper(place.peek())) return;
     const std::string_view written = place.letters();
+    if (!is_after_place(place) && !has_code(place, written)) return;
     const Row* row = find(STATES, written);
     if (row == nullptr || place.is_joined(written.size()) || place.dash(written.size()) > 0) return;
     std::size_t end = written.size();

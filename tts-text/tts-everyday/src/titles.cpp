@@ -94,12 +94,21 @@ void read_initials(const Place& place, Found& found) {
     if (!ends) take_genitive(place, found);
 }
 
-// "St. John" is a saint, "Main St." a street.
+// "2nd ed."
+bool is_after_ordinal(const Place& place) {
+    if (place.before() != ' ') return false;
+    const std::string_view suffix = place.word_before();
+    return is_digit(place.before(2 + suffix.size())) && find(ORDINAL_SUFFIXES, suffix) != nullptr;
+}
+
+// "St. John", "Mount St. Helens" are saints, "Main St.", "21st St. NW" streets; after "Oak St." a
+// sentence may begin.
 bool read_saint_or_street(const Place& place, Found& found) {
     if (!place.starts_with("St.")) return false;
-    const bool is_saint = place.peek(3) == ' ' && is_upper(place.peek(4)) &&
-                          (place.word_before().empty() || !is_upper(place.word_before()[0]) ||
-                           place.word_before().size() < 4);
+    const std::string_view before = place.word_before();
+    const bool is_after_name = is_after_ordinal(place) || (!before.empty() && is_upper(before[0]) &&
+                                                           find(BEFORE_SAINT, before) == nullptr);
+    const bool is_saint = place.peek(3) == ' ' && is_upper(place.peek(4)) && !is_after_name;
     if (is_saint) {
         take(place, 2, "saint", false, found);
     } else {
@@ -112,7 +121,7 @@ bool read_saint_or_street(const Place& place, Found& found) {
 bool read_drive(const Place& place, Found& found) {
     if (!place.starts_with("Dr") || is_letter(place.peek(2)) || place.before() != ' ') return false;
     const std::string_view name = place.word_before();
-    const bool is_after_name = name.size() > 3 && is_upper(name[0]) && is_lower(name[1]);
+    const bool is_after_name = name.size() > 2 && is_upper(name[0]) && is_lower(name[1]);
     const bool is_bare = place.peek(2) == ' ' && is_lower(place.peek(3));
     const bool has_stop = place.peek(2) == '.' && !is_upper(place.peek(4)) &&
                           (is_lower(place.peek(4)) || place.may_end_sentence(3));
@@ -131,16 +140,20 @@ bool read_sister(const Place& place, Found& found) {
     return true;
 }
 
-// "12 E. Elm St."
+// "12 E. Elm St.", "E. 42nd St."
 bool read_compass_point(const Place& place, Found& found) {
-    if (place.before() != ' ' || !is_digit(place.before(2))) return false;
     const std::string_view letters = place.letters();
     const Row* row = find(COMPASS, letters);
     const std::size_t stop = letters.size();
-    const bool is_before_street = row != nullptr && place.peek(stop) == '.' &&
-                                  place.peek(stop + 1) == ' ' && is_upper(place.peek(stop + 2)) &&
-                                  is_lower(place.peek(stop + 3));
-    if (!is_before_street) return false;
+    if (row == nullptr || place.peek(stop) != '.' || place.peek(stop + 1) != ' ') return false;
+    const std::size_t street = stop + 2;
+    const std::string_view ordinal = place.digits(street);
+    const bool has_ordinal =
+        !ordinal.empty() &&
+        find(ORDINAL_SUFFIXES, place.letters(street + ordinal.size())) != nullptr;
+    const bool has_name = place.before() == ' ' && is_digit(place.before(2)) &&
+                          is_upper(place.peek(street)) && is_lower(place.peek(street + 1));
+    if (!has_ordinal && !has_name) return false;
     take(place, stop, row->spoken(), false, found);
     return true;
 }
@@ -167,13 +180,6 @@ bool is_answer(const Place& place) {
     return place.before() == ' ' &&
            (place.before(2) == '?' ||
             find(BEFORE_ANSWER, in_lower_case(place.word_before())) != nullptr);
-}
-
-// "2nd ed."
-bool is_after_ordinal(const Place& place) {
-    if (place.before() != ' ') return false;
-    const std::string_view suffix = place.word_before();
-    return is_digit(place.before(2 + suffix.size())) && find(ORDINAL_SUFFIXES, suffix) != nullptr;
 }
 
 bool fits(const Place& place, const Row& row) {

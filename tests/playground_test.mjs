@@ -4,6 +4,7 @@
 // Usage: node playground_test.mjs PAGE FOLDER   (playwright-core and axe-core in NODE_PATH)
 
 import assert from 'node:assert/strict';
+import {execFileSync} from 'node:child_process';
 import {mkdirSync} from 'node:fs';
 import {pathToFileURL} from 'node:url';
 import {browser, check_accessibility, open_page} from './support/browser.mjs';
@@ -52,6 +53,14 @@ for (const edit of [t => t.replace('Two', 'Too'), t => t.replace('three', 'th\nr
   await fresh.context().close();
 }
 console.log('edits: as a page that is opened with the text');
+
+// They are those of kavi-tn's page.
+const written = 'a <poem=x>b</poem></poem> & 5. Café';
+const whole = execFileSync('build/release/tools/kavi-tn/kavi-tn', ['--format', 'html'],
+  {input: `x\n${written}\n`, stdio: ['pipe', 'pipe', 'ignore']}).toString();
+const line = await page.evaluate(async source => (await kavi.load()).reader().rows(source, 2), written);
+assert.match(line, /^<article[^]*<\/article>\s*$/);
+assert.ok(whole.includes(line), line);
 
 const ATTACKS = ['<script>alert(1)</script>', '<img src=x onerror=alert(1)>', '</textarea><script>alert(1)</script>',
   '<prosody=rate="><img src=x onerror=alert(1)>">a</prosody>', '<poem=<svg/onload=alert(1)>>b</poem>', '"><i onclick=alert(1)>'];

@@ -433,7 +433,7 @@ class Reader {
     });
   }
 
-  // For the playground: what kavi-tn's page has for a line.
+  // What kavi-tn's page has for a line; in the playground's module only.
   rows(text, line) {
     const length = this.#put(text);
     const rows = this.#memory.exports.kavi_rows(this.#reader, this.#memory.room, length, line);

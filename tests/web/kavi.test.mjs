@@ -176,14 +176,6 @@ test('reads long texts', () => {
   assert.deepEqual(findings.map(f => [f.code, f.offset, f.length]), [['not-spoken', 0, 100000]]);
 });
 
-test('has the rows of the page', () => {
-  const text = 'a <poem=x>b</poem></poem> & 5. Café';
-  const page = execFileSync(process.env.KAVI_TN, ['--format', 'html'], {input: `x\n${text}\n`, stdio: ['pipe', 'pipe', 'ignore']});
-  const rows = large.reader().rows(text, 2);
-  assert.match(rows, /^<article[^]*<\/article>\s*$/);
-  assert.ok(page.toString().includes(rows), rows);
-});
-
 test('does what the pages show', async () => {
   for (const page of ['README.md', 'web/README.md']) {
     const [, program] = /```js\n([^]*?)```/.exec(readFileSync(page).toString());

@@ -1,4 +1,5 @@
-# Turns the tables of everyday English, tables/*.txt, into constant arrays of C++ in FOLDER/everyday_tables.h:
+# Turns the tables of everyday English, tables/*.txt, into constant arrays of C++ in FOLDER/everyday_tables.h, and
+# the text of them all in FOLDER/everyday_text.h:
 #
 #     cmake -D FOLDER=build/tables -P tts-text/tts-everyday/make_tables.cmake
 #
@@ -40,8 +41,9 @@ macro(find_fault)
     endif()
 endmacro()
 
-# Sets `row` to a row in C++: its columns with NUL between them, the length of `written`, and the offsets of the others;
-# that of an empty one is of the NUL after what comes before it.
+# Sets `row` to a row in C++: where its columns are in the text of all tables, with NUL between them, the length of
+# `written`, and the offsets of the others; that of an empty one is of the NUL after what comes before it. Appends them
+# to `text_of_tables`, which has `text_size` bytes.
 macro(make_row)
     set(columns_of_row "")
     set(end -1)
@@ -53,12 +55,13 @@ macro(make_row)
             math(EXPR ${field}_at "${end} + 1")
             math(EXPR end "${${field}_at} + ${length}")
             string(REGEX REPLACE "([\"\\])" "\\\\\\1" value "${value}")
-            string(APPEND columns_of_row "\\0\" \"${value}")
+            string(APPEND columns_of_row " \"${value}\\0\"")
         endif()
         set(${field}_end ${end})
     endforeach()
-    string(SUBSTRING "${columns_of_row}" 4 -1 columns_of_row)
-    set(row "    {${columns_of_row}\", ${written_end}, ${spoken_at}, ${many_at}, Kind::${kind}},\n")
+    set(row "    {${text_size}, ${written_end}, ${spoken_at}, ${many_at}, Kind::${kind}}, // \"${written}\"\n")
+    string(APPEND text_of_tables "   ${columns_of_row}\n")
+    math(EXPR text_size "${text_size} + ${end} + 1")
 endmacro()
 
 # Appends the array of a table to `made`.
@@ -104,13 +107,23 @@ function(make_table table)
         string(APPEND made "${row_of_${key}}")
     endforeach()
     set(made "${made}};\ninline constexpr Table ${name} = ${name}_ROWS;\n" PARENT_SCOPE)
+    set(text_of_tables "${text_of_tables}" PARENT_SCOPE)
+    set(text_size ${text_size} PARENT_SCOPE)
 endfunction()
 
-set(made "// Made by make_tables.cmake of tts-text/tts-everyday/tables.\n")
+# Writes a header, and leaves one that has just that as it is.
+function(write_header name text)
+    file(WRITE "${FOLDER}/${name}.new" "// Made by make_tables.cmake of tts-text/tts-everyday/tables.\n${text}")
+    file(COPY_FILE "${FOLDER}/${name}.new" "${FOLDER}/${name}.h" ONLY_IF_DIFFERENT)
+endfunction()
+
+set(made "")
+set(text_of_tables "")
+set(text_size 0)
 string(REGEX REPLACE "([][*?])" "[\\1]" folder "${CMAKE_CURRENT_LIST_DIR}") # which may have them in its name
 file(GLOB tables "${folder}/tables/*.txt")
 foreach(table IN LISTS tables)
     make_table("${table}")
 endforeach()
-file(WRITE "${FOLDER}/everyday_tables.new" "${made}")
-file(COPY_FILE "${FOLDER}/everyday_tables.new" "${FOLDER}/everyday_tables.h" ONLY_IF_DIFFERENT)
+write_header(everyday_text "inline constexpr char TEXT_OF_TABLES[] =\n${text_of_tables}    \"\";\n")
+write_header(everyday_tables "${made}")

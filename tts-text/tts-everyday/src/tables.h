@@ -1,5 +1,5 @@
 // The tables of everyday English. They are the text files in tables/, which say what their columns
-// hold; make_tables.cmake makes everyday_tables.h of them.
+// hold; make_tables.cmake makes everyday_text.h and everyday_tables.h of them.
 #ifndef KAVI_EVERYDAY_TABLES_H
 #define KAVI_EVERYDAY_TABLES_H
 
@@ -35,27 +35,31 @@ enum class Kind : unsigned char {
     compared,
 };
 
-// A row has its columns one after the other in `text`, NUL after each. A column that a table does
-// not have is empty, and its kind is none. There are many rows: each is small.
+#include "everyday_text.h"
+
+// A row has its columns one after the other in the text of all tables, NUL after each. A column
+// that a table does not have is empty, and its kind is none. There are many rows: each is small,
+// and has no pointer that would have to be relocated.
 struct Row {
-    const char* text;
+    std::uint16_t at;      // in that text
     unsigned char length;  // of what is written
     unsigned char spoken_at;
     unsigned char many_at;
     Kind kind;
 
     // Not empty; no two of a table are the same.
-    constexpr std::string_view written() const { return {text, length}; }
-    const char* spoken() const { return text + spoken_at; }
-    const char* many() const { return text + many_at; }
+    constexpr std::string_view written() const { return {TEXT_OF_TABLES + at, length}; }
+    const char* spoken() const { return TEXT_OF_TABLES + at + spoken_at; }
+    const char* many() const { return TEXT_OF_TABLES + at + many_at; }
 };
+static_assert(sizeof TEXT_OF_TABLES <= 65536);
 
 // All rows of a table, in the order of what is written.
 class Table {
   public:
     template <std::size_t N>
     constexpr Table(const Row (&rows)[N]) : first_(std::begin(rows)), end_(std::end(rows)) {
-        for (const Row& row : rows) begins_ |= bit_of(row.text[0]);
+        for (const Row& row : rows) begins_ |= bit_of(row.written()[0]);
     }
 
     constexpr const Row* begin() const { return first_; }
@@ -80,7 +84,9 @@ template <typename ByteAt>
 const Row* find_longest(const Table& table, ByteAt byte_at) {
     const char first = byte_at(0);
     if (!table.may_begin(first)) return nullptr;
-    const auto byte_of = [](const Row& row) { return static_cast<unsigned char>(row.text[0]); };
+    const auto byte_of = [](const Row& row) {
+        return static_cast<unsigned char>(row.written()[0]);
+    };
     const auto byte = static_cast<unsigned char>(first);
     const Row* row = std::partition_point(table.begin(), table.end(),
                                           [&](const Row& r) { return byte_of(r) < byte; });

@@ -219,7 +219,9 @@ constexpr std::uint64_t bit_of_begin(char first, char second) {
 constexpr std::uint64_t BARE_BEGINS = [] {
     std::uint64_t bits = 0;
     for (const Row& row : TITLES) {
-        if (is_bare_title(row)) bits |= bit_of_begin(row.text[0], row.text[1]);
+        const std::string_view written = row.written();
+        const char second = written.size() > 1 ? written[1] : '\0';
+        if (is_bare_title(row)) bits |= bit_of_begin(written[0], second);
     }
     return bits;
 }();

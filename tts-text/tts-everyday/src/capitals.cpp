@@ -18,7 +18,7 @@ bool is_among_capitals(const Place& place, std::size_t ahead) {
 }  // namespace
 
 void read_capitals(const Place& place, Found& found) {
-    if (read_given_name(place, found)) return;
+    if (read_month_name(place, found)) return;
     const std::string_view letters = place.letters();
     const Row* row = find(CAPITALS, letters);
     const std::size_t end = letters.size();

@@ -78,8 +78,28 @@ void read_resolution(const Place& place, Found& found) {
     found.length = end;
 }
 
+// "0x1F", digit by digit
+bool read_hexadecimal(const Place& place, Found& found) {
+    constexpr std::size_t LONGEST = 18;
+    const auto is_of_base = [](char c) {
+        const char lower = to_lower(c);
+        return is_digit(c) || (lower >= 'a' && lower <= 'f');
+    };
+    if (!place.starts_with("0x") || place.before() == '.' || place.is_joined_before()) return false;
+    const std::size_t end = 2 + place.run(is_of_base, 2);
+    if (end < 4 || end > LONGEST || place.is_joined(end)) return false;
+    say("zero x", found.words);
+    for (std::size_t at = 2; at < end; ++at) {
+        const std::string_view digit = place.part(at, 1);
+        is_digit(digit[0]) ? say_digits(digit, found.words) : say(digit, found.words);
+    }
+    found.length = end;
+    return true;
+}
+
 // "978-0-306-40615-7", "4111-1111-1111-1111"
 void read_long_code(const Place& place, Found& found) {
+    if (read_hexadecimal(place, found)) return;
     constexpr std::size_t LONGEST = 32;
     constexpr std::size_t LEAST_DIGITS = 9;
     if (place.before() == '-' || is_digit(place.before())) return;

@@ -100,6 +100,7 @@ void read_currency(const Place& place, Found& found) {
         say("to", found.words);
         say_amount(second, scale, *row, minus, found);
         found.length = second_end + scale_length;
+        found.length += say_per(place, found.length, found.words);
         return;
     }
     const char* scale = scale_at(place, end, scale_length);

@@ -200,9 +200,25 @@ void read_month(const Place& place, Found& found) {
     found.length = end;
 }
 
-// "Jan Smith", "I saw Jan yesterday"; not "Jan 5", "in Jan", "Jan and Feb"
-bool read_given_name(const Place& place, Found& found) {
+// "Jan-Mar", "Sept.–Nov."
+bool read_months(const Place& place, std::string_view name, Found& found) {
+    const int first = name.size() > 4 ? 0 : month_number(name);
+    if (first == 0) return false;
+    const std::size_t stop = name.size() + (place.peek(name.size()) == '.' ? 1 : 0);
+    const std::size_t at = stop + place.dash(stop);
+    const std::string_view last = at > stop ? place.letters(at) : std::string_view();
+    if (last.empty() || month_number(last) == 0) return false;
+    say(month_word(first), found.words);
+    say("to", found.words);
+    say(month_word(month_number(last)), found.words);
+    found.length = at + last.size();
+    return true;
+}
+
+// "Jan-Mar"; "Jan Smith", "I saw Jan yesterday", but not "Jan 5", "in Jan", "Jan and Feb"
+bool read_month_name(const Place& place, Found& found) {
     const std::string_view name = place.letters();
+    if (read_months(place, name, found)) return true;
     if ((name != "Jan" && name != "Jun") || place.peek(name.size()) != ' ') return false;
     const std::string_view next = place.letters(name.size() + 1);
     if (next.empty() || month_number(next) > 0 || is_digit(place.before(2))) return false;

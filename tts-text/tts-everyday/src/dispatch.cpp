@@ -56,7 +56,7 @@ constexpr RuleEntry RULES[] = {
     {EverydayClass::years, read_month, "A", ".9"},
     {EverydayClass::years, read_date, "0", "-./ Za"},
     {EverydayClass::numbers, read_version, "0", "."},
-    {EverydayClass::numbers, read_long_code, "0", "-"},
+    {EverydayClass::numbers, read_long_code, "0", "-a"},
     {EverydayClass::numbers, read_resolution, "0", "a"},
     {EverydayClass::times, read_time, "0", ":.- ZaA\x7f"},
     {EverydayClass::currencies, read_amount_after, "0", ""},

@@ -48,6 +48,7 @@ bool read_whole_and_sign(const Place& place, std::string_view whole, Found& foun
     }
     say(part, found.words);
     found.length = at + sign->written().size();
+    read_unit_after(place, false, found);
     return true;
 }
 
@@ -64,6 +65,7 @@ bool read_whole_and_slash(const Place& place, std::string_view whole, Found& fou
     if (!say_fraction(above, below, false, words)) return false;
     found.words = words;
     found.length = slash + 1 + below.size();
+    read_unit_after(place, false, found);
     return true;
 }
 
@@ -130,7 +132,9 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
                !say_fraction(above, below, is_adjective, found.words)) {
         return false;
     }
-    found.length = end + suffix_length(place, end);
+    const std::size_t suffix = suffix_length(place, end);
+    found.length = end + suffix;
+    if (suffix == 0) read_unit_after(place, true, found);
     return true;
 }
 

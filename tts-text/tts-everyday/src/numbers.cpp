@@ -70,7 +70,7 @@ bool read_record(const Place& place, const Number& number, Found& found) {
 // "10-20", "3–2"; not "1-2-3"
 std::size_t say_range(const Place& place, std::size_t ahead, std::string& out) {
     const std::size_t dash = place.dash(ahead);
-    if (dash == 0 || place.before() == '-') return 0;
+    if (dash == 0 || place.before() == '-' || place.is_joined_before()) return 0;
     const Number last = number_at(place, ahead + dash);
     const std::size_t end = ahead + dash + last.length;
     if (last.length == 0 || (place.dash(end) > 0 && is_digit(place.peek(end + place.dash(end)))))
@@ -200,8 +200,9 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
     const std::size_t length = sign.written().size();
     const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
     const std::string_view zone = place.letters_before();
-    if ((!may_begin && zone != "UTC" && zone != "GMT") || !is_digit(place.peek(length + blank)))
-        return;
+    const Row* currency = length == 1 ? place.find_row(CURRENCIES, 1) : nullptr;
+    const std::size_t digit = length + (currency != nullptr ? currency->written().size() : blank);
+    if ((!may_begin && zone != "UTC" && zone != "GMT") || !is_digit(place.peek(digit))) return;
     found.length = length + blank;
     found.words = sign.spoken();
 }
@@ -264,13 +265,38 @@ void read_point(const Place& place, Found& found) {
     found.length = number.length + say_percent(place, number.length, found.words);
 }
 
+// "10²³", "10⁻⁹", "x²"; after a word it is a foot note
+bool read_superscript(const Place& place, Found& found) {
+    const Row* minus = place.find_row(SUPERSCRIPTS, 0);
+    std::size_t end = 0;
+    std::string digits;
+    while (const Row* digit = place.find_row(SUPERSCRIPTS, end)) {
+        digits += digit->spoken();
+        end += digit->written().size();
+    }
+    if (minus == nullptr || digits.size() > 4) return false;
+    const bool has_minus = digits[0] == '-';
+    if (has_minus) digits.erase(0, 1);
+    const bool is_note = is_letter(place.before()) && is_letter(place.before(2));
+    if (digits.empty() || digits.find('-') != std::string::npos) return false;
+    if (!has_minus && (is_note || digits == "1")) return false;
+    if (!has_minus && (digits == "2" || digits == "3")) return false;
+    found.words = "to the power of";
+    if (has_minus) say("minus", found.words);
+    say_cardinal(digits, found.words);
+    found.length = end;
+    return true;
+}
+
 // "-5", "+3", "#5", "№ 5", "½", "&", "~5", "2²" and the like.
 void read_sign(const Place& place, Found& found) {
     if (const Row* fraction = fraction_sign_at(place, 0)) {
         found.words = fraction->spoken();
         found.length = fraction->written().size();
+        read_unit_after(place, true, found);
         return;
     }
+    if (read_superscript(place, found)) return;
     const Row* sign = place.find_row(SIGNS, 0);
     if (sign == nullptr) return;
     if (sign->kind == Kind::before_number) return read_sign_before_number(place, *sign, found);

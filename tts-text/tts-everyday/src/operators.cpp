@@ -19,9 +19,21 @@ bool is_quantity_after(const Place& place, std::size_t ahead) {
     return length > 0 && place.word(ahead) == length && place.apostrophe(ahead + length) == 0;
 }
 
+// "x²", "10⁸"
+bool ends_in_superscript(const Place& place, std::size_t back) {
+    for (const Row& row : SUPERSCRIPTS) {
+        const std::string_view sign = row.written();
+        std::size_t n_alike = 0;
+        while (n_alike < sign.size() && place.before(back + sign.size() - n_alike) == sign[n_alike])
+            ++n_alike;
+        if (n_alike == sign.size()) return true;
+    }
+    return false;
+}
+
 bool is_quantity_before(const Place& place, std::size_t back) {
     const char c = place.before(back + 1);
-    if (is_digit(c) || c == ')') return true;
+    if (is_digit(c) || c == ')' || ends_in_superscript(place, back)) return true;
     if (!is_letter(c)) return false;
     const char last = place.before(back + 2);
     return !is_letter(last) && last != '\'' && !is_outside_ascii(last);
@@ -36,7 +48,7 @@ bool is_word_after(const Place& place, std::size_t ahead) {
 bool is_word_before(const Place& place, std::size_t back) {
     const char c = place.before(back + 1);
     return place.is_joined_before(back) || c == ')' || c == ']' || c == '}' || c == '"' ||
-           c == '\'';
+           c == '\'' || ends_in_superscript(place, back);
 }
 
 // "(> 5)", "<10"; no bracket round a number, nor a quotation.

@@ -78,12 +78,15 @@ constexpr bool is_bare_title(const Row& row) {
 // units.cpp.
 std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
 
+// Takes the unit after a fraction that has been read, if one follows; `is_one`: it is less than one.
+void read_unit_after(const Place& place, bool is_one, Found& found);  // units.cpp
+
 // Reads feet and inches, or an angle, by the primes after their numbers; primes.cpp.
 bool read_primes(const Place& place, Found& found);
 
-// Reads "Jan" as a name where it is no month, as small letters: the engine takes "Jan" for one;
-// dates.cpp.
-bool read_given_name(const Place& place, Found& found);
+// Reads months in a range, and "Jan" as a name where it is no month, as small letters: the engine
+// takes "Jan" for one; dates.cpp.
+bool read_month_name(const Place& place, Found& found);
 
 // Appends the time of an ISO date at offset `ahead`. Returns its length, 0 if none; times.cpp.
 std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out);

@@ -37,18 +37,56 @@ std::size_t say_by(const Place& place, std::size_t ahead, std::string& out) {
     return 0;
 }
 
+// Says the unit of a row at offset `ahead` with what is linked to it, and takes all to its end.
+void say_unit(const Place& place, std::size_t ahead, const Row& row, bool is_one, Found& found) {
+    const std::size_t after = ahead + row.written().size();
+    if (row.written() == "m" && is_after_hours(place)) {
+        say(is_one ? "minute" : "minutes", found.words);
+    } else {
+        found.say_name(ahead, row.written().size(), is_one ? row.spoken() : row.many());
+    }
+    std::size_t link = say_per(place, after, found.words);
+    if (link == 0) link = say_by(place, after, found.words);
+    if (link > 0) {
+        found.length = after + link;
+        return;
+    }
+    if (row.written().back() == '.') {  // the sentence's too
+        found.length = after - (place.may_end_sentence(after) ? 1 : 0);
+        return;
+    }
+    const bool has_stop = place.peek(after) == '.' && !place.may_end_sentence(after + 1);
+    found.length = after + (has_stop ? 1 : 0);
+}
+
+// "second", "kg", "m²" after a slash: the length, 0 if none.
+std::size_t say_counted_by(const Place& place, std::size_t ahead, std::string& out) {
+    const std::string_view word = place.letters(ahead);
+    if (find(PER_WORDS, word) != nullptr && !place.is_joined(ahead + word.size())) {
+        say(word, out);
+        return word.size();
+    }
+    const Row* unit = place.find_row(UNITS, ahead, [&](const Row& row) {
+        return !place.is_joined(ahead + row.written().size());
+    });
+    if (unit == nullptr) return 0;
+    say(unit->spoken(), out);
+    return unit->written().size();
+}
+
 }  // namespace
 
+// "/s", "/kg/day"
 std::size_t say_per(const Place& place, std::size_t ahead, std::string& out) {
-    if (place.peek(ahead) != '/') return 0;
-    const std::string_view word = place.letters(ahead + 1);
-    const Row* row = find(PER_WORDS, word);
-    const Row* unit = row == nullptr ? find(UNITS, word) : nullptr;
-    const std::size_t end = ahead + 1 + word.size();
-    if ((row == nullptr && unit == nullptr) || place.is_joined(end) || place.peek(end) == '/')
-        return 0;
-    say("per", out);
-    say(row != nullptr ? word : unit->spoken(), out);
+    std::string words;
+    std::size_t end = ahead;
+    while (place.peek(end) == '/') {
+        say("per", words);
+        const std::size_t length = say_counted_by(place, end + 1, words);
+        if (length == 0) return 0;
+        end += 1 + length;
+    }
+    if (end > ahead) say(words, out);
     return end - ahead;
 }
 
@@ -77,23 +115,19 @@ void read_unit(const Place& place, Found& found) {
     const std::size_t after = end + blank + row->written().size();
     const bool is_adjective = place.peek(end) == '-' || place.is_before_noun(after);
     const bool is_one = (number.is_one() && second.length == 0) || is_adjective;
-    if (row->written() == "m" && is_after_hours(place)) {
-        say(number.is_one() ? "minute" : "minutes", found.words);
-    } else {
-        found.say_name(end + blank, row->written().size(), is_one ? row->spoken() : row->many());
-    }
-    std::size_t link = say_per(place, after, found.words);
-    if (link == 0) link = say_by(place, after, found.words);
-    if (link > 0) {
-        found.length = after + link;
-        return;
-    }
-    if (row->written().back() == '.') {  // the sentence's too
-        found.length = after - (place.may_end_sentence(after) ? 1 : 0);
-        return;
-    }
-    const bool has_stop = place.peek(after) == '.' && !place.may_end_sentence(after + 1);
-    found.length = after + (has_stop ? 1 : 0);
+    say_unit(place, end + blank, *row, is_one, found);
+}
+
+// "3 1/2 lbs", "½ km"; not "a 1/2s"
+void read_unit_after(const Place& place, bool is_one, Found& found) {
+    const std::size_t blank = place.peek(found.length) == ' ' ? 1 : 0;
+    const std::size_t ahead = found.length + blank;
+    const Row* row = place.find_row(UNITS, ahead, [&](const Row& candidate) {
+        return fits_unit(place, candidate, ahead) && (blank > 0 || candidate.written() != "s");
+    });
+    if (row == nullptr) return;
+    const bool is_adjective = place.is_before_noun(ahead + row->written().size());
+    say_unit(place, ahead, *row, is_one || is_adjective, found);
 }
 
 // "requests/sec", "365 days/yr": a rate, where what is counted is a word.

@@ -18,8 +18,8 @@ bool is_among_capitals(const Place& place, std::size_t ahead) {
 }  // namespace
 
 void read_capitals(const Place& place, Found& found) {
-    if (read_month_name(place, found)) return;
     const std::string_view letters = place.letters();
+    if (read_month_name(place, letters, found)) return;
     const Row* row = find(CAPITALS, letters);
     const std::size_t end = letters.size();
     if (row == nullptr || place.is_joined(end) || place.is_joined_before()) return;

@@ -182,6 +182,38 @@ bool read_dashed_date(const Place& place, Found& found) {
     return true;
 }
 
+// "Jan-Mar", "Sept.–Nov."
+bool read_months(const Place& place, std::string_view name, Found& found) {
+    constexpr std::size_t LONGEST = 4;  // of an abbreviation
+    const std::size_t stop = name.size() + (place.peek(name.size()) == '.' ? 1 : 0);
+    const std::size_t at = stop + place.dash(stop);
+    if (at == stop || name.size() > LONGEST) return false;
+    const int first = month_number(name);
+    const std::string_view last = place.letters(at);
+    if (first == 0 || month_number(last) == 0) return false;
+    say(month_word(first), found.words);
+    say("to", found.words);
+    say(month_word(month_number(last)), found.words);
+    found.length = at + last.size();
+    return true;
+}
+
+// "Jan Smith", "I saw Jan yesterday"; not "Jan 5", "in Jan", "Jan and Feb"
+bool read_given_name(const Place& place, std::string_view name, Found& found) {
+    const std::string_view next = place.letters(name.size() + 1);
+    if (next.empty() || month_number(next) > 0 || is_digit(place.before(2))) return false;
+    const bool is_link = next == "and" || next == "or" || next == "to" || next == "through";
+    if (is_link && month_number(place.letters(name.size() + 2 + next.size())) > 0) return false;
+    const std::string before = in_lower_case(place.word_before());
+    const bool has_surname = is_upper(next[0]) && next.size() > 2;
+    const bool is_month = !has_surname && (find(BEFORE_MONTH, before) != nullptr ||
+                                           find(ORDINAL_SUFFIXES, before) != nullptr);
+    if (is_month) return false;
+    found.length = name.size();
+    found.words = in_lower_case(name);
+    return true;
+}
+
 }  // namespace
 
 // "May 5, 2021", "Jan. 5", "March 2020".
@@ -200,38 +232,10 @@ void read_month(const Place& place, Found& found) {
     found.length = end;
 }
 
-// "Jan-Mar", "Sept.–Nov."
-bool read_months(const Place& place, std::string_view name, Found& found) {
-    const int first = name.size() > 4 ? 0 : month_number(name);
-    if (first == 0) return false;
-    const std::size_t stop = name.size() + (place.peek(name.size()) == '.' ? 1 : 0);
-    const std::size_t at = stop + place.dash(stop);
-    const std::string_view last = at > stop ? place.letters(at) : std::string_view();
-    if (last.empty() || month_number(last) == 0) return false;
-    say(month_word(first), found.words);
-    say("to", found.words);
-    say(month_word(month_number(last)), found.words);
-    found.length = at + last.size();
-    return true;
-}
-
-// "Jan-Mar"; "Jan Smith", "I saw Jan yesterday", but not "Jan 5", "in Jan", "Jan and Feb"
-bool read_month_name(const Place& place, Found& found) {
-    const std::string_view name = place.letters();
-    if (read_months(place, name, found)) return true;
-    if ((name != "Jan" && name != "Jun") || place.peek(name.size()) != ' ') return false;
-    const std::string_view next = place.letters(name.size() + 1);
-    if (next.empty() || month_number(next) > 0 || is_digit(place.before(2))) return false;
-    const bool is_link = next == "and" || next == "or" || next == "to" || next == "through";
-    if (is_link && month_number(place.letters(name.size() + 2 + next.size())) > 0) return false;
-    const std::string before = in_lower_case(place.word_before());
-    const bool has_surname = is_upper(next[0]) && next.size() > 2;
-    const bool is_month = !has_surname && (find(BEFORE_MONTH, before) != nullptr ||
-                                           find(ORDINAL_SUFFIXES, before) != nullptr);
-    if (is_month) return false;
-    found.length = name.size();
-    found.words = in_lower_case(name);
-    return true;
+bool read_month_name(const Place& place, std::string_view name, Found& found) {
+    const bool may_be_name = name[0] == 'J' && place.peek(name.size()) == ' ';
+    if (!may_be_name) return read_months(place, name, found);
+    return (name == "Jan" || name == "Jun") && read_given_name(place, name, found);
 }
 
 void read_date(const Place& place, Found& found) {

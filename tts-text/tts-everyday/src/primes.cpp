@@ -17,8 +17,9 @@ bool may_be_bare_height(const Place& place, std::string_view feet, std::string_v
 // "5'4\"", "12'6\"": feet and inches.
 bool read_height(const Place& place, Found& found) {
     const std::string_view feet = place.digits();
+    if (feet.empty() || feet.size() > 2) return false;
     const std::size_t mark = place.starts_with("′", feet.size()) ? 3 : 1;
-    if (feet.size() > 2 || (mark == 1 && place.peek(feet.size()) != '\'')) return false;
+    if ((mark == 1 && place.peek(feet.size()) != '\'')) return false;
     const std::string_view inches = place.digits(feet.size() + mark);
     if (inches.empty() || inches.size() > 2) return false;
     const std::size_t end = feet.size() + mark + inches.size();
@@ -122,11 +123,11 @@ bool read_angle(const Place& place, const Number& number, Found& found) {
 
 }  // namespace
 
-bool read_primes(const Place& place, Found& found) {
-    if (!is_digit(place.peek())) return false;
-    if (read_height(place, found)) return true;
-    const Number number = number_at(place, 0);
-    return read_angle(place, number, found) || read_inches(place, number, found);
+bool read_primes(const Place& place, const Number& number, Found& found) {
+    const char mark = place.peek(number.length);
+    if (mark != '\'' && mark != '"' && !is_outside_ascii(mark)) return false;
+    return read_height(place, found) || read_angle(place, number, found) ||
+           read_inches(place, number, found);
 }
 
 }  // namespace kavi::everyday

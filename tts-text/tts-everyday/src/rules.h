@@ -81,12 +81,12 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
 // Takes the unit after a fraction that has been read, if one follows; `is_one`: it is less than one.
 void read_unit_after(const Place& place, bool is_one, Found& found);  // units.cpp
 
-// Reads feet and inches, or an angle, by the primes after their numbers; primes.cpp.
-bool read_primes(const Place& place, Found& found);
+// Reads feet and inches, or an angle, by the primes after the number at the cursor; primes.cpp.
+bool read_primes(const Place& place, const Number& number, Found& found);
 
 // Reads months in a range, and "Jan" as a name where it is no month, as small letters: the engine
-// takes "Jan" for one; dates.cpp.
-bool read_month_name(const Place& place, Found& found);
+// takes "Jan" for one. `name` is the word at the cursor; dates.cpp.
+bool read_month_name(const Place& place, std::string_view name, Found& found);
 
 // Appends the time of an ISO date at offset `ahead`. Returns its length, 0 if none; times.cpp.
 std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out);

@@ -59,11 +59,10 @@ bool are_points_of_number(const Place& place, std::size_t end, std::size_t group
     return groups == 2 * (1 + GROUP) && !place.is_joined(end) && !goes_on;
 }
 
-// The length of the groups after the first digits of a number, one to three at `ahead`.
-std::size_t groups_length(const Place& place, std::size_t ahead, std::size_t n_digits) {
+// The length of the groups after the first digits of a number, one to three at `ahead`, of which
+// the first is after `mark`.
+std::size_t groups_length(const Place& place, std::size_t ahead, std::size_t n_digits, char mark) {
     const std::size_t begin = ahead + n_digits;
-    const char mark = place.peek(begin);
-    if (mark != ',' && mark != ' ' && mark != '.') return 0;
     const std::size_t groups = run_of_groups(place, begin, mark);
     if (groups == 0) return 0;
     if (mark == ' ' && !are_blanks_of_number(place, ahead, n_digits, groups)) return 0;
@@ -141,13 +140,16 @@ std::string Number::digits() const {
 
 Number number_at(const Place& place, std::size_t ahead) {
     Number number;
-    const std::size_t n_digits = place.digits(ahead).size();
-    const bool has_no_zero = place.peek(ahead) == '.' && is_digit(place.peek(ahead + 1));  // ".35"
-    if (n_digits == 0 && !has_no_zero) return number;
+    const std::size_t n_digits = place.run(is_digit, ahead);
     std::size_t end = ahead + n_digits;
-    if (n_digits > 0 && n_digits <= GROUP) end += groups_length(place, ahead, n_digits);
+    const char mark = place.peek(end);
+    const bool goes_on =
+        (mark == ',' || mark == '.' || mark == ' ') && is_digit(place.peek(end + 1));
+    if (n_digits == 0 && (!goes_on || mark != '.')) return number;  // but ".35"
+    if (goes_on && n_digits > 0 && n_digits <= GROUP)
+        end += groups_length(place, ahead, n_digits, mark);
     number.whole = place.part(ahead, end - ahead);
-    if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) {
+    if (goes_on && place.peek(end) == '.' && is_digit(place.peek(end + 1))) {
         number.fraction = place.digits(end + 1);
         end += 1 + number.fraction.size();
     }

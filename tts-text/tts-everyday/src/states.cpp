@@ -25,9 +25,9 @@ bool is_after_place(const Place& place) {
 }
 
 // "Portland OR 97201", "MD 20850"
-bool has_code(const Place& place, std::string_view letters) {
-    return letters.size() == 2 && is_upper(letters[1]) && place.before() != '-' &&
-           !place.is_joined_before() && zip_length(place, letters.size()) > 0;
+bool has_code(const Place& place) {
+    return is_upper(place.peek(1)) && zip_length(place, 2) > 0 && place.before() != '-' &&
+           !place.is_joined_before();
 }
 
 // "from Salem, "
@@ -39,9 +39,8 @@ bool has_preposition(const Place& place) {
 }  // namespace
 
 void read_state(const Place& place, Found& found) {
-    if (!is_upper(place.peek())) return;
+    if (!is_upper(place.peek()) || (!is_after_place(place) && !has_code(place))) return;
     const std::string_view written = place.letters();
-    if (!is_after_place(place) && !has_code(place, written)) return;
     const Row* row = find(STATES, written);
     if (row == nullptr || place.is_joined(written.size()) || place.dash(written.size()) > 0) return;
     std::size_t end = written.size();

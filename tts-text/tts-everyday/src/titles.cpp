@@ -52,13 +52,13 @@ const Row* day_at(const Place& place, std::size_t ahead) {
 
 // "Mon-Fri", "Tue.–Thu."
 bool read_days_of_week(const Place& place, Found& found) {
-    const Row* first = day_at(place, 0);
-    if (first == nullptr) return false;
-    std::size_t dash = first->written().size();
+    std::size_t dash = place.letters().size();
     if (place.peek(dash) == '.') ++dash;
     const std::size_t second = dash + place.dash(dash);
-    const Row* last = second > dash ? day_at(place, second) : nullptr;
-    if (last == nullptr) return false;
+    if (second == dash) return false;
+    const Row* first = day_at(place, 0);
+    const Row* last = day_at(place, second);
+    if (first == nullptr || last == nullptr) return false;
     say(first->spoken(), found.words);
     say("to", found.words);
     say(last->spoken(), found.words);
@@ -143,9 +143,10 @@ bool read_sister(const Place& place, Found& found) {
 // "12 E. Elm St.", "E. 42nd St."
 bool read_compass_point(const Place& place, Found& found) {
     const std::string_view letters = place.letters();
-    const Row* row = find(COMPASS, letters);
     const std::size_t stop = letters.size();
-    if (row == nullptr || place.peek(stop) != '.' || place.peek(stop + 1) != ' ') return false;
+    if (stop > 2 || place.peek(stop) != '.' || place.peek(stop + 1) != ' ') return false;
+    const Row* row = find(COMPASS, letters);
+    if (row == nullptr) return false;
     const std::size_t street = stop + 2;
     const std::string_view ordinal = place.digits(street);
     const bool has_ordinal =

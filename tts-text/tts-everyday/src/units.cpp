@@ -91,9 +91,9 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out) {
 }
 
 void read_unit(const Place& place, Found& found) {
-    if (read_primes(place, found) || !may_begin_number(place)) return;
+    if (!may_begin_number(place)) return;
     const Number number = number_at(place, 0);
-    if (number.length == 0) return;
+    if (number.length == 0 || read_primes(place, number, found)) return;
     std::size_t end = number.length;
     Number second;  // of a range
     const std::size_t dash = place.dash(end);

@@ -82,10 +82,10 @@ bool ends_in_domain(std::string_view host) {
 
 // "1-800-FLOWERS": the digits of a number that goes on in letters.
 bool read_number_in_letters(const Place& place, Found& found) {
+    if (place.peek() != '1' || place.peek(1) != '-') return false;
     const std::string_view area = place.digits(2);
-    const bool is_one = place.starts_with("1-") && area.size() == 3 &&
-                        (area[0] == '8' || area[0] == '9') && place.peek(5) == '-' &&
-                        is_letter(place.peek(6));
+    const bool is_one = area.size() == 3 && (area[0] == '8' || area[0] == '9') &&
+                        place.peek(5) == '-' && is_letter(place.peek(6));
     if (!is_one) return false;
     say_digits("1", found.words);
     say_group(area, found.words);

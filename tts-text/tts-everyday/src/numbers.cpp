@@ -267,14 +267,13 @@ void read_point(const Place& place, Found& found) {
 
 // "10²³", "10⁻⁹", "x²"; after a word it is a foot note
 bool read_superscript(const Place& place, Found& found) {
-    const Row* minus = place.find_row(SUPERSCRIPTS, 0);
     std::size_t end = 0;
     std::string digits;
     while (const Row* digit = place.find_row(SUPERSCRIPTS, end)) {
         digits += digit->spoken();
         end += digit->written().size();
     }
-    if (minus == nullptr || digits.size() > 4) return false;
+    if (digits.empty() || digits.size() > 4) return false;
     const bool has_minus = digits[0] == '-';
     if (has_minus) digits.erase(0, 1);
     const bool is_note = is_letter(place.before()) && is_letter(place.before(2));
@@ -296,7 +295,7 @@ void read_sign(const Place& place, Found& found) {
         read_unit_after(place, true, found);
         return;
     }
-    if (read_superscript(place, found)) return;
+    if (is_outside_ascii(place.peek()) && read_superscript(place, found)) return;
     const Row* sign = place.find_row(SIGNS, 0);
     if (sign == nullptr) return;
     if (sign->kind == Kind::before_number) return read_sign_before_number(place, *sign, found);

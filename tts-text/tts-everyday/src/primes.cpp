@@ -124,8 +124,6 @@ bool read_angle(const Place& place, const Number& number, Found& found) {
 }  // namespace
 
 bool read_primes(const Place& place, const Number& number, Found& found) {
-    const char mark = place.peek(number.length);
-    if (mark != '\'' && mark != '"' && !is_outside_ascii(mark)) return false;
     return read_height(place, found) || read_angle(place, number, found) ||
            read_inches(place, number, found);
 }

@@ -93,7 +93,10 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out) {
 void read_unit(const Place& place, Found& found) {
     if (!may_begin_number(place)) return;
     const Number number = number_at(place, 0);
-    if (number.length == 0 || read_primes(place, number, found)) return;
+    if (number.length == 0) return;
+    const char mark = place.peek(number.length);
+    const bool may_be_prime = mark == '\'' || mark == '"' || is_outside_ascii(mark);
+    if (may_be_prime && read_primes(place, number, found)) return;
     std::size_t end = number.length;
     Number second;  // of a range
     const std::size_t dash = place.dash(end);

@@ -267,19 +267,22 @@ void read_point(const Place& place, Found& found) {
 
 // "10²³", "10⁻⁹", "x²"; after a word it is a foot note
 bool read_superscript(const Place& place, Found& found) {
+    constexpr std::size_t LONGEST = 4;
     std::size_t end = 0;
     std::string digits;
-    while (const Row* digit = place.find_row(SUPERSCRIPTS, end)) {
+    while (digits.size() <= LONGEST) {
+        const Row* digit = place.find_row(SUPERSCRIPTS, end);
+        if (digit == nullptr) break;
         digits += digit->spoken();
         end += digit->written().size();
     }
-    if (digits.empty() || digits.size() > 4) return false;
+    if (digits.empty() || digits.size() > LONGEST) return false;
     const bool has_minus = digits[0] == '-';
     if (has_minus) digits.erase(0, 1);
     const bool is_note = is_letter(place.before()) && is_letter(place.before(2));
     if (digits.empty() || digits.find('-') != std::string::npos) return false;
-    if (!has_minus && (is_note || digits == "1")) return false;
-    if (!has_minus && (digits == "2" || digits == "3")) return false;
+    const bool has_name = digits == "1" || digits == "2" || digits == "3";  // in SIGNS, or none
+    if (!has_minus && (is_note || has_name)) return false;
     found.words = "to the power of";
     if (has_minus) say("minus", found.words);
     say_cardinal(digits, found.words);

@@ -22,11 +22,16 @@ void say_reading(const tn::Reading& reading, std::string& out) {
 
 constexpr std::size_t GROUP = 3;
 
-// The length of the groups of three digits at `ahead`, each after such a mark.
+// The length of the groups of three digits at `ahead`, each after such a mark. After a blank there
+// may be a row of numbers, which is not looked through from each of them.
 std::size_t run_of_groups(const Place& place, std::size_t ahead, char mark) {
-    std::size_t end = ahead;
-    while (place.peek(end) == mark && place.digits(end + 1).size() == GROUP) end += 1 + GROUP;
-    return end - ahead;
+    constexpr std::size_t LONGEST_WITH_BLANKS = 4 * (1 + GROUP);
+    const std::size_t longest = mark == ',' ? LOOK_AHEAD : LONGEST_WITH_BLANKS;
+    std::size_t length = 0;
+    while (length < longest && place.peek(ahead + length) == mark &&
+           place.digits(ahead + length + 1).size() == GROUP)
+        length += 1 + GROUP;
+    return length;
 }
 
 // Whether a word may precede a number that has blanks in it: no month and no name, "May 12 200

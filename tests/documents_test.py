@@ -1,8 +1,8 @@
 """Every command of the documents does what they say.
 
 Each "$ command" of a console block in README.md and docs/*.md prints what stands under it; each example
-of the man page and of --help runs. Whatever lists the classes of everyday English lists all of them, in the
-order of tts_everyday.h.
+of the man page and of --help runs. Whatever lists the classes of everyday English, or the fields of JSON
+Lines, lists all of them in their order.
 
 Usage: documents_test.py PATH-OF-KAVI-TN PROJECT
 """
@@ -39,12 +39,23 @@ with tempfile.TemporaryDirectory() as folder:
             re.findall(r"^  (kavi-tn .*)$", run("kavi-tn --help", folder), re.M):
         run(example, folder)
         examples += 1
+
+
+def lists(path, names):
+    listed = re.findall(rf"(?<![a-z])(?:{'|'.join(names)})(?![a-z])", path.read_text().lower())
+    assert " ".join(names) in " ".join(listed), f"{path} does not list {names}"
+
+
 header = (project / "tts-text/tts-everyday/inc/tts_everyday.h").read_text()
 classes = re.findall(r"^    (\w+), +// ", header, re.M)
+fields = re.findall(r"{Field::\w+, \"(\w+)\"}", (project / "tools/kavi-tn/names.cpp").read_text())
 for path in [*(project / "tools/kavi-tn/completions").iterdir(), *map(project.joinpath, (
-        "tools/kavi-tn/command_line.cpp", "tools/kavi-tn/kavi-tn.1", "tts-text/tts-c/inc/kavi.h", "web/kavi.js",
-        "python/kavi/_types.py", "docs/kavi-tn.schema.json", "docs/everyday.md"))]:
-    listed = re.findall(rf"(?<![a-z])(?:{'|'.join(classes)})(?![a-z])", path.read_text().lower())
-    assert " ".join(classes) in " ".join(listed), f"{path} does not list {classes}"
-assert commands >= 3 and examples >= 8 and len(classes) >= 11, (commands, examples, classes)
-print(commands, "commands and", examples, "examples do what is said;", len(classes), "classes are listed")
+        "tools/kavi-tn/command_line.cpp", "tools/kavi-tn/kavi-tn.1"))]:
+    lists(path, classes)
+    lists(path, fields)
+for name in ("tts-text/tts-c/inc/kavi.h", "web/kavi.js", "python/kavi/_types.py", "docs/kavi-tn.schema.json",
+             "docs/everyday.md"):
+    lists(project / name, classes)
+assert commands >= 3 and examples >= 8 and len(classes) >= 11 and len(fields) >= 14, (commands, examples, fields)
+print(commands, "commands and", examples, "examples do what is said;", len(classes), "classes and", len(fields),
+      "fields are listed")

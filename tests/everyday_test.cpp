@@ -192,7 +192,7 @@ TEST(Rewriter, WordsThatWouldMakeATag_MakeNone) {
 
 TEST(Everyday, ReadsNoMoreThanItShould) {
     const Everyday everyday = all_classes();
-    for (const char* table : {"everyday_left", "everyday_names"}) {
+    for (const char* table : {"everyday_numbers", "everyday_names"}) {
         expect_table(table, [&](const std::string& text) {
             return TableRow{text, rewritten(everyday, text)};
         });

@@ -9,7 +9,8 @@
 
 namespace kavi::tool {
 
-// One clear sentence, with the characters that the finding is about: its `bytes` in the text.
+// The message of tts_findings.h; of what has no words, with these characters: its `bytes` in the
+// text.
 std::string describe(const Diagnostic& diagnostic, std::string_view bytes);
 
 }  // namespace kavi::tool

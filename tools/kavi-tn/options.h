@@ -12,7 +12,7 @@ namespace kavi::tool {
 enum class Stage { sentences, speakable, plain, words, explain };
 enum class FormatName { text, jsonl, html, ssml };
 
-// The fields of an object of JSON Lines, in their order.
+// The fields of an object of JSON Lines, in their order; those before `runs` are the default.
 enum class Field {
     input,
     line,

@@ -34,8 +34,9 @@ constexpr int EVERYDAY_CLASSES = static_cast<int>(EverydayClass::marks) + 1;
 const char* name_of(EverydayClass everyday_class);
 std::optional<EverydayClass> everyday_class_of(std::string_view name);
 
-// Rewrites the classes that are on, and what the lexicon has, before them: of both the longest that
-// begins at a word, never inside a tag of the markup language. Linear in the text.
+// Rewrites what the classes that are on read, and what the lexicon has, never inside a tag of the
+// markup language. At a word the first rule that reads is taken; an entry of the lexicon in what it
+// would read wins. Linear in the text.
 class Everyday : public TextRewriter {
   public:
     // No class is on. The lexicon stays the caller's; null for none.

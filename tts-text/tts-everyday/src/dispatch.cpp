@@ -21,7 +21,8 @@ constexpr char sort_of(char c) {
     return is_outside_ascii(c) ? OUTSIDE : c;
 }
 
-// Of a blank after a word or a number, by what comes after it; before a small letter it is a blank.
+// The sort of a blank after a word or a number, by the character after it; ' ' before a small
+// letter.
 constexpr char BEFORE_CAPITAL = 'Z';
 constexpr char BEFORE_DIGIT = '9';
 constexpr char BEFORE_MARK = 'z';
@@ -117,7 +118,7 @@ constexpr auto ROWS = [] {
     return rows;
 }();
 
-// A row that is never asked for would never be read.
+// Each row of a table must begin with a byte for which its rule is called.
 constexpr bool begins_all(Rule rule, const Table& table) {
     for (const Row& row : table) {
         bool has_begin = false;

@@ -49,7 +49,7 @@ bool is_begin_of_name(std::string_view text) {
 }
 
 // The markup tag that begins at `at`: its length, or 0 for none. `searched` is of find_ahead().
-// `is_open`: more text would tell.
+// `is_open` is set if the answer could change when more text arrives, here and below.
 std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& searched,
                        bool& is_open) {
     if (text[at] != '<') return 0;
@@ -63,8 +63,7 @@ std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& searc
     return 0;
 }
 
-// Whether a rule reads what begins at a place, within the bound of what it can see. `is_open`: more
-// text would tell.
+// Whether a rule reads what begins at a place, within the bound of what it can see.
 bool has_found(everyday::Rule rule, const Place& place, Found& found, bool& is_open) {
     found.length = 0;
     found.words.clear();
@@ -80,9 +79,8 @@ struct Settings {
     bool american_dates;
 };
 
-// The first of some rules that is on and reads what begins at `at`, where the user's words allow
-// it, or null. `entry` is that of a word that the user has in its place, or null. `is_open`: more
-// text could make it another.
+// The first enabled rule of `rules` that reads what begins at `at` and does not conflict with the
+// user's lexicon, or null. `entry` is that of a word that the user has in its place, or null.
 const RuleRow* find_rule(std::string_view text, std::size_t at, RuleSet rules,
                          const Settings& settings, OwnWords& own_words, Found& found,
                          const Lexicon::Entry*& entry, bool& is_open) {
@@ -117,7 +115,7 @@ void set_apart(char before, char after, std::string& words) {
 }
 
 // Where the next word, number or mark begins after that at `at`, past blanks; `run_end` is where
-// what it has of ASCII ends. `is_open`: more text would tell.
+// what it has of ASCII ends.
 std::size_t next_place(std::string_view text, std::size_t at, std::size_t run_end, bool& is_open) {
     const bool is_whole =
         !is_outside_ascii(text[at]) && (run_end == text.size() || !is_outside_ascii(text[run_end]));
@@ -164,7 +162,7 @@ std::optional<EverydayClass> everyday_class_of(std::string_view name) {
 
 bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
     const std::size_t from = rewriting.source.offset + rewriting.source.length;
-    // Words that end at a full stop have their shield.
+    // The last rewriting was shielded already, so `shields` is off where it ended.
     const unsigned shields = 1U << static_cast<unsigned>(EverydayClass::shields);
     const std::size_t words_end = rewriting.source.length > 0 ? from : text.size();
     OwnWords own_words(lexicon_, text);

@@ -45,10 +45,10 @@ class Place {
 
     // Whether a rule tried to read beyond LOOK_AHEAD: a word or a number may be longer than it saw.
     bool has_met_bound() const { return has_met_end_ && is_cut_; }
-    // As if none had.
+    // Forgets what was read past the bound, or past the end, before this rule.
     void forget_bound() const { has_met_end_ = false; }
 
-    // Whether something would read what the text does not have.
+    // Whether a rule tried to read past the end of the text.
     bool has_met_end() const { return has_met_end_ && !is_cut_; }
 
     // The byte at `ahead`, NUL outside the text.

@@ -1,4 +1,4 @@
-// The rules of everyday English, a file for each class.
+// The rules of everyday English, in one or a few files for each class.
 #ifndef KAVI_EVERYDAY_RULES_H
 #define KAVI_EVERYDAY_RULES_H
 
@@ -29,8 +29,8 @@ struct Found {
 };
 
 // Each reads what begins at the cursor: a word, a number or a mark. `found` is empty before. Where
-// two rules could read the same, the order in everyday.cpp decides. A rule that met the bound of
-// what it may read is ignored.
+// two rules could read the same, the order of RULES in dispatch.cpp decides. A rule that met the
+// bound of what it may read is ignored.
 using Rule = void (*)(const Place& place, Found& found);
 
 void read_title(const Place& place, Found& found);         // titles.cpp
@@ -78,7 +78,8 @@ constexpr bool is_bare_title(const Row& row) {
 // units.cpp.
 std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
 
-// Takes the unit after a fraction that has been read, if one follows; `is_one`: it is less than one.
+// Takes the unit after a fraction that has been read, if one follows; `is_one`: it is less than
+// one.
 void read_unit_after(const Place& place, bool is_one, Found& found);  // units.cpp
 
 // Reads feet and inches, or an angle, by the primes after the number at the cursor; primes.cpp.

@@ -40,8 +40,8 @@ std::size_t emoji_rest(std::string_view text, std::string_view token, std::size_
 // emoji that are joined to one, two letters of a flag.
 std::size_t cluster_length(std::string_view text, std::size_t at);
 
-// Whether what begins at `at` is there as far as it tells whether it belongs to what is before: the
-// text may go on after its end.
+// Whether enough text follows `at` to tell if it continues the token before `at`: the text may go
+// on after its end.
 bool is_there(std::string_view text, std::size_t at);
 
 // Whether a word, a number or an emoji goes on from before `at` to after it.

@@ -1,4 +1,4 @@
-// Which bytes of a text each byte of another text comes from that was made of it.
+// Maps each byte of a derived text to its source bytes.
 #ifndef KAVI_HOST_SOURCE_MAP_H
 #define KAVI_HOST_SOURCE_MAP_H
 
@@ -24,9 +24,9 @@ class SourceMap {
     // A copy of `length` bytes at `offset`, where the source of a copy before it ends.
     void copied(std::size_t offset, std::size_t length);
 
-    // `length` bytes that come from `source` as a whole, or continue such bytes; without a length:
-    // what was removed, and without a source: what was added. `by` may name the rule that wrote
-    // them.
+    // `length` bytes that come from `source` as a whole, or continue such bytes. With length 0 the
+    // source was removed; with an empty source the bytes were added. `by` may name the rule that
+    // wrote them.
     void replaced(std::size_t length, TextRange source, const RuleId& by = {});
 
     // `length` more bytes of the piece at the end, which is no copy.
@@ -40,8 +40,7 @@ class SourceMap {
     // Drops the pieces that end at `position` or before.
     void drop_before(std::size_t position);
 
-    // From now on a piece that goes on after `position`, and is no copy, has no source there: it
-    // was that of the bytes before.
+    // Cuts a replaced piece at `position`; the part after it gets an empty source.
     void detach_at(std::size_t position);
 
     // Where the byte at `position` comes from: for one inside a piece that is no copy the end of

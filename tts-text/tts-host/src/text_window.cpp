@@ -13,7 +13,7 @@ namespace {
 // More than the longest sentence that the engine itself cuts.
 constexpr std::size_t FILL_BELOW = SZ_TEXT_MAX_LEN;
 
-// A removed tag beyond this is left out of the text before the engine removes it.
+// In a long text, a tag that the engine would remove is replaced by a blank if it is longer.
 constexpr std::size_t REMOVED_TAG_MAX = 500;
 
 constexpr std::size_t FOREIGN_TAG_MAX = 256;
@@ -56,8 +56,8 @@ std::size_t foreign_tag_length(std::string_view text) {
     return is_name_alone || has_attributes ? end + 1 : 0;
 }
 
-// Whether more text would tell if such a tag begins there, where no markup tag may: so it has more
-// than "<" or "</".
+// Whether more text is needed to decide if a foreign tag begins here. Called only where no markup
+// tag can begin, so `text` is longer than "<" or "</".
 bool may_make_foreign_tag(std::string_view text) {
     if (text.size() >= FOREIGN_TAG_MAX || text.find_first_of("<>", 1) != std::string_view::npos)
         return false;
@@ -77,7 +77,8 @@ bool is_boundary(char before, char after) {
            !(tn::is_digit(before) && tn::is_digit(after)) && !is_continuation(after);
 }
 
-// Whether a markup tag may begin as `text` does, of which the beginning alone is none.
+// Whether `text`, which starts with the incomplete tag `beginning`, can be the start of a markup
+// tag.
 bool may_make_tag(std::string_view beginning, std::string_view text) {
     return !beginning.empty() &&
            std::any_of(std::begin(tn::MARKUP_TAGS), std::end(tn::MARKUP_TAGS),
@@ -213,8 +214,8 @@ void TextWindow::find_rewriting() {
     }
 }
 
-// It moves when little is left of a full buffer, however much of that has been fed: so it is the
-// same whether the text was given at once or not.
+// The contents move to the front when fewer than FILL_BELOW bytes remain before CAPACITY, however
+// many of them are filled: so it is the same whether the text was given at once or not.
 bool TextWindow::fill(bool& changed) {
     changed = !holds_rest() && CAPACITY - begin_ < FILL_BELOW + prefix_;
     if (changed) {
@@ -279,8 +280,8 @@ bool TextWindow::feed_run() {
     return copy(run);
 }
 
-// Where a run has to end that must not go on after `end` yet: before bytes outside ASCII that more
-// may follow.
+// The end of a run limited to `end`, without trailing bytes outside ASCII while more of them may
+// arrive.
 std::size_t TextWindow::without_open_stretch(std::size_t end) const {
     const bool has_ended = end < text_.size() && (!is_outside_ascii(text_[end]) || has_rewriting_);
     if (has_ended) return end;
@@ -348,7 +349,7 @@ bool TextWindow::feed_as_text(Finding finding, bool keep) {
     return keep && !spans_.any_fed() ? copy(rest().substr(0, 1)) : leave_out(1);
 }
 
-// The engine removes it, and the text before and after it could form a tag.
+// After the engine removes this tag, the text around it could join into a new tag.
 bool TextWindow::feed_removed(std::string_view tag) {
     const std::string_view before = tag_beginning();
     const bool joins = may_make_tag(before, before);

@@ -68,8 +68,8 @@ class TextWindow {
     // null.
     void begin(std::size_t offset, const TextRewriter* rewriter);
 
-    // What is there of the text from `offset` on: all that has not been fed, and what rewriters
-    // look back at. More may be given later unless it `is_complete`.
+    // The text received so far, from `offset`: all not yet fed, and what rewriters may look back
+    // at. More may be given later unless it `is_complete`.
     void give(std::string_view text, std::size_t offset, bool is_complete);
 
     // Refills the buffer when little is left in it, with the text whose reading cannot depend on

@@ -53,13 +53,13 @@ constexpr const char* skip(Run run, const char* text) {
 
 // ---- Eight characters at a time ----
 //
-// The functions below hold eight characters in one register, a byte for each, and compute marks: a
-// bit in the byte of each character that ends a run, or may end one. The lowest mark is the end of
+// The functions below hold eight characters in one register, a byte for each, and compute flags: a
+// bit in the byte of each character that ends a run, or may end one. The lowest flag is the end of
 // the run, or a candidate that a look-up confirms.
 //
 // Comparisons are sums: adding 0x80 - n to a byte below 0x80 sets its top bit if the byte is n or
 // more, for all eight bytes in one instruction. A byte of 0x80 or more may carry into the next one,
-// so where bytes are not masked first, no mark after the lowest one is reliable.
+// so where bytes are not masked first, no flag after the lowest one is reliable.
 //
 // This pays because the lengths of words are unpredictable: a loop over the characters of a word
 // ends with a mispredicted branch, while most words end within their first eight characters. The
@@ -79,14 +79,14 @@ inline const char* eights_end(const char* text, const char* text_end) {
     return text_end - text >= 8 ? text_end - 7 : text;
 }
 
-// Marks, by the top bit, what ends words in lower case with single blanks between them: a character
+// Sets the top bit of each byte that ends a run of lower-case words with single blanks: a character
 // that is neither a lower-case letter nor a blank, and the second of two blanks. Only the lowest
-// mark is reliable. The top bit of the lowest byte of `no_blanks` says that the character before
+// flag is reliable. The top bit of the lowest byte of `no_blanks` says that the character before
 // these eight is not a blank; it is set anew for the next eight.
 //
 //   characters  t h e _ _ c a t    "_" is a blank
-//   marks       . . . . 1 ? ? ?
-constexpr Eight no_small_words(Eight c, Eight& no_blanks) {
+//   flags       . . . . 1 ? ? ?
+constexpr Eight ends_of_small_words(Eight c, Eight& no_blanks) {
     const Eight from_blank = c ^ EACH * ' ';  // 0 for a blank, 'A' to 'Z' for 'a' to 'z'
     const Eight no_blank = from_blank + EACH * 0x7f;
     const Eight no_letter =
@@ -96,8 +96,8 @@ constexpr Eight no_small_words(Eight c, Eight& no_blanks) {
     return ((no_letter & no_blank) | from_blank | ~one_blank) & EACH * 0x80;
 }
 
-// Marks, by the bit 0x20, the characters from "!" to "?", among them all that are not COPIED, and
-// control characters and some bytes above 127. The sums do not carry: all marks are reliable.
+// Flags, by the bit 0x20, the characters from "!" to "?", among them all that are not COPIED, and
+// control characters and some bytes above 127. The sums do not carry: all flags are reliable.
 constexpr Eight maybe_not_copied(Eight c) {
     const Eight no_blank = (c & EACH * 0x1f) + EACH * 0x1f;
     return no_blank & ~c >> 1 & EACH * 0x20;
@@ -110,9 +110,9 @@ constexpr Eight no_digit(Eight c) {
     return from_colon | ~c << 1;
 }
 
-// The index, 0 to 7, of the first marked character. `marked` is not 0.
-inline std::size_t first_of(Eight marked) {
-    return static_cast<unsigned>(lowest_bit(marked)) / 8;
+// The index, 0 to 7, of the first flagged character. `flags` is not 0.
+inline std::size_t first_of(Eight flags) {
+    return static_cast<unsigned>(lowest_bit(flags)) / 8;
 }
 
 // Copies lower-case words with single blanks between them, and one blank at their end, from `text`
@@ -123,9 +123,9 @@ inline std::ptrdiff_t copy_small_words(const char* text, std::ptrdiff_t at, std:
                                        char* target) {
     Eight no_blanks = 0x80;
     for (; at + 8 <= limit; at += 8) {
-        const Eight marked = no_small_words(eight_of(text + at), no_blanks);
+        const Eight flags = ends_of_small_words(eight_of(text + at), no_blanks);
         std::memcpy(target + at, text + at, 8);
-        if (marked != 0) return at + static_cast<std::ptrdiff_t>(first_of(marked));
+        if (flags != 0) return at + static_cast<std::ptrdiff_t>(first_of(flags));
     }
     while (at < limit && (is_lower(text[at]) || (text[at] == ' ' && text[at - 1] != ' '))) {
         target[at] = text[at];
@@ -138,10 +138,10 @@ inline std::ptrdiff_t copy_small_words(const char* text, std::ptrdiff_t at, std:
 inline const char* skip_copied(const char* text, const char* text_end) {
     for (const char* const end = eights_end(text, text_end); text < end; text += 8) {
         const Eight eight = eight_of(text);
-        Eight marked = maybe_not_copied(eight);
-        if (marked == 0) continue;
-        for (marked &= no_digit(eight); marked != 0; marked &= marked - 1) {
-            const char* at = text + first_of(marked);
+        Eight flags = maybe_not_copied(eight);
+        if (flags == 0) continue;
+        for (flags &= no_digit(eight); flags != 0; flags &= flags - 1) {
+            const char* at = text + first_of(flags);
             if (!belongs_to(COPIED, *at)) return at;
         }
     }

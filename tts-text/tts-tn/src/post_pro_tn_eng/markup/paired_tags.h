@@ -38,8 +38,8 @@ class SortedNames {
 
 // The searches for closing tags of one scan of one text.
 //
-// The rule. From the content on, as many closing tags of the name are skipped as opening tags of
-// the name, those with a value, come before the first closing tag. In
+// The rule. Let n be the number of opening tags of the name, those with a value, between the
+// content and the first closing tag: closing tag n + 1 matches. In
 //
 //     <poem=a> one <poem=b> two </poem> three </poem>
 //
@@ -56,8 +56,8 @@ class PairedTags {
     explicit PairedTags(mem_stack_handle arena);
 
     // The closing tag, "</" and the name and ">", of the paired tag whose content begins at
-    // `content`. Null when it is not complete before `end`. `content` moves forward from call to
-    // call.
+    // `content`. Null when it is not complete before `end`. `content` must not decrease from call
+    // to call.
     const char* find_closing(const char* content, const char* end, std::string_view name);
 
   private:

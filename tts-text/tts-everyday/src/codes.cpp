@@ -236,8 +236,8 @@ void read_code(const Place& place, Found& found) {
             say_year(digits, found.words);  // "FY2031"
             break;
         }
-        digits.size() < LONGEST ? say_cardinal(digits, found.words)
-                                : say_digits(digits, found.words);
+        const bool is_number = digits.size() < LONGEST && (digits[0] != '0' || digits.size() == 1);
+        is_number ? say_cardinal(digits, found.words) : say_digits(digits, found.words);
     }
     if (!has_digits) return;
     while (end < LONGEST_VERSION && place.peek(end) == '.' && is_digit(place.peek(end + 1))) {

@@ -91,8 +91,10 @@ bool read_month_and_day(const Place& place, Found& found) {
     const std::string_view month = place.digits();
     const std::string_view day = place.digits(month.size() + 1);
     const std::size_t end = month.size() + 1 + day.size();
+    const bool has_zero = month.size() == 2 && month[0] == '0';  // "08/19"
     const bool is_date = place.peek(month.size()) == '/' && is_value(month, 1, 12) &&
-                         is_value(day, 13, 31) && find(BEFORE_DAY, place.word_before()) != nullptr;
+                         is_value(day, 13, 31) &&
+                         (has_zero || find(BEFORE_DAY, place.word_before()) != nullptr);
     const bool goes_on = place.is_joined(end) || place.peek(end) == '/' || place.peek(end) == '-' ||
                          place.peek(end) == '"' || place.starts_with(" in", end) ||
                          place.starts_with(" of", end);
@@ -141,6 +143,11 @@ void read_days(const Place& place, const Month& month, std::size_t ahead, Found&
         say_ordinal(last, found.words);
         end += dash + last.size();
         end += ordinal_suffix(place, end);
+    }
+    if (last.empty() && dash > 0 && month_number(place.letters(end + dash)) > 0) {
+        say("to", found.words);  // "Dec. 24–Jan. 2"
+        found.length = end + dash;
+        return;
     }
     const std::string_view year = year_after(place, end, end);
     if (!year.empty()) say_year(year, found.words);

@@ -128,11 +128,16 @@ std::size_t say_scale(const Place& place, const Number& number, std::string& out
     return 1;
 }
 
-// "8.5 x 11", "5 x 3 inches", "2 × 4 m": a size, of numbers that nobody multiplies.
+// "8.5 x 11", "5 x 3 inches", "2 × 4 m", "4 x 2 x 3 cm": a size, of numbers that nobody multiplies.
 bool is_size(const Place& place, std::size_t ahead) {
     ahead += place.blanks(ahead);
-    const Number number = number_at(place, ahead);
+    Number number = number_at(place, ahead);
     if (number.length == 0) return false;
+    if (const std::size_t cross = times_length(place, ahead + number.length); cross > 0) {
+        ahead += number.length + cross;
+        ahead += place.blanks(ahead);
+        number = number_at(place, ahead);
+    }
     ahead += number.length + place.blanks(ahead + number.length);
     if (place.peek(ahead) == '=' || number.whole == "10") return false;  // "6.02 x 10^23"
     if (!number_at(place, 0).fraction.empty()) return true;
@@ -219,13 +224,17 @@ void read_number(const Place& place, Found& found) {
     is_code ? say_digits(number.digits(), found.words) : number.say(found.words);
     std::size_t end = number.length;
     end += say_power_of_ten(place, number, found.words);
-    end += say_scale(place, number, found.words);
+    const std::size_t scale = say_scale(place, number, found.words);
+    end += scale;
     if (end == number.length) end += say_out_of(place, number, found.words);
     end += say_range(place, end, found.words);
     const std::size_t percent = say_percent(place, end, found.words);
-    end += percent > 0 ? percent : say_times(place, end, found.words);
+    const std::size_t times = percent == 0 ? say_times(place, end, found.words) : 0;
+    end += percent + times;
     if (percent > 0) end += say_second_percent(place, end, found.words);
+    if (times == 1) end += say_per(place, end, found.words);  // "2x/day"
     found.length = end;
+    if (scale > 0) read_unit_after(place, false, found);
 }
 
 // "a .38 revolver", ".22-caliber", "drew a .45."

@@ -117,6 +117,18 @@ bool read_saint_or_street(const Place& place, Found& found) {
     return true;
 }
 
+// "St Pancras"; not "Main St Cafe"
+bool read_bare_saint(const Place& place, Found& found) {
+    if (!place.starts_with("St ") || !is_upper(place.peek(3)) || !is_lower(place.peek(4)))
+        return false;
+    const std::string_view before = place.word_before();
+    const bool is_after_name =
+        !before.empty() && is_upper(before[0]) && find(BEFORE_SAINT, before) == nullptr;
+    if (is_after_name || is_after_ordinal(place)) return false;
+    take(place, 2, "saint", false, found);
+    return true;
+}
+
 // "King Dr. across", "Watson Dr and": after a name and before no other, a street.
 bool read_drive(const Place& place, Found& found) {
     if (!place.starts_with("Dr") || is_letter(place.peek(2)) || place.before() != ' ') return false;
@@ -218,7 +230,7 @@ constexpr std::uint64_t bit_of_begin(char first, char second) {
 
 // The bits of titles that may have no full stop: most other words have none of these.
 constexpr std::uint64_t BARE_BEGINS = [] {
-    std::uint64_t bits = 0;
+    std::uint64_t bits = bit_of_begin('S', 't');  // "St Pancras"
     for (const Row& row : TITLES) {
         const std::string_view written = row.written();
         const char second = written.size() > 1 ? written[1] : '\0';
@@ -252,7 +264,8 @@ void read_title(const Place& place, Found& found) {
 
 void read_bare_title(const Place& place, Found& found) {
     if ((BARE_BEGINS & bit_of_begin(place.peek(), place.peek(1))) == 0) return;
-    if (!read_drive(place, found) && !read_days_of_week(place, found)) read_row(place, found);
+    if (read_drive(place, found) || read_days_of_week(place, found)) return;
+    if (!read_bare_saint(place, found)) read_row(place, found);
 }
 
 }  // namespace kavi::everyday

@@ -199,7 +199,7 @@ def told(arguments, **environment):
     return text.decode()
 one = seconds(["corpus"] * 5) / 5
 files = ["corpus"] * max(2, round(3 / max(one, 0.001)))  # three seconds, however it was compiled
-size = len(files) * os.path.getsize("corpus") / 1e6
+size = (len(files) * os.path.getsize("corpus") + os.path.getsize("in")) / 1e6
 text = told([*json, *files, "in"])  # with a message at the end
 lines = text.split("\r")
 shown = [re.fullmatch(r"([\d.]+) of ([\d.]+) MB, ([\d.]+) MB/s, (\d+) s left\x1b\[K", line) for line in lines]

@@ -91,9 +91,9 @@ bool read_month_and_day(const Place& place, Found& found) {
     const std::string_view month = place.digits();
     const std::string_view day = place.digits(month.size() + 1);
     const std::size_t end = month.size() + 1 + day.size();
+    if (place.peek(month.size()) != '/') return false;
     const bool has_zero = month.size() == 2 && month[0] == '0';  // "08/19"
-    const bool is_date = place.peek(month.size()) == '/' && is_value(month, 1, 12) &&
-                         is_value(day, 13, 31) &&
+    const bool is_date = is_value(month, 1, 12) && is_value(day, 13, 31) &&
                          (has_zero || find(BEFORE_DAY, place.word_before()) != nullptr);
     const bool goes_on = place.is_joined(end) || place.peek(end) == '/' || place.peek(end) == '-' ||
                          place.peek(end) == '"' || place.starts_with(" in", end) ||

@@ -50,11 +50,12 @@ Clock clock_at(const Place& place, std::size_t ahead) {
     if (!clock.minutes.empty() && !clock.has_stop) clock.seconds = two_digits(false);
     std::size_t half_length = 0;
     clock.half = half_of_day(place, end, half_length);
-    const char half = to_lower(place.peek(end));
-    const bool has_letter = (half == 'a' || half == 'p') && !place.is_joined(end + 1);
-    if (clock.half == nullptr && !clock.minutes.empty() && !clock.has_stop && has_letter) {
-        clock.half = half == 'a' ? "a m" : "p m";  // "5:55a"
-        half_length = 1;
+    if (clock.half == nullptr && !clock.minutes.empty() && !clock.has_stop) {
+        const char half = to_lower(place.peek(end));  // "5:55a"
+        if ((half == 'a' || half == 'p') && !place.is_joined(end + 1)) {
+            clock.half = half == 'a' ? "a m" : "p m";
+            half_length = 1;
+        }
     }
     if (clock.has_stop && clock.half == nullptr) return {};  // "4.15" is a time only before "p.m."
     clock.length = end + half_length - ahead;

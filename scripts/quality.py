@@ -75,6 +75,11 @@ def in_document(text, mark, lines):
     return re.sub(rf"(<!-- {mark} -->\n).*?(<!-- end -->)", lambda m: m[1] + "\n".join([*lines, ""]) + m[2], text, count=1, flags=re.S)
 
 
+def item(case):
+    """A line of a list, in which no sign is one of Markdown or Doxygen."""
+    return "- «" + re.sub(r"([@#])", r"\\\1", case) + "»"
+
+
 def main():
     table = ["| text | cases | engine | everyday | flite |", "|---|---|---|---|---|"]
     all_lost, still, faults, sealed_lost = [], [], [], 0
@@ -93,12 +98,12 @@ def main():
     if good < REGRESSION_GOAL * total:
         faults.append(f"{good} of {total} regression cases")
     old = DOCUMENT.read_text(encoding="utf-8")
-    new = in_document(old, "regression", [f"{good} of {total} are right; not:", "", *(f"- «{case}»" for case in wrong)])
-    new = in_document(new, "wrong", [f"- «{case}»" for case in still])
+    new = in_document(old, "regression", [f"{good} of {total} are right; not:", "", *map(item, wrong)])
+    new = in_document(new, "wrong", list(map(item, still)))
     if ONLY_RULES:
         sys.exit(new != old)
     new = in_document(new, "table", table)
-    new = in_document(new, "lost", [*(f"- «{case}»" for case in all_lost), f"- {sealed_lost} of the sealed cases"])
+    new = in_document(new, "lost", [*map(item, all_lost), f"- {sealed_lost} of the sealed cases"])
     print("\n".join(table))
     print(f"{good} of {total} regression cases; {len(all_lost) + sealed_lost} cases worse than the engine alone; all in {DOCUMENT}")
     if sys.argv[3:] == ["--check"] and new != old:

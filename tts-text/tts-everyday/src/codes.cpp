@@ -126,7 +126,7 @@ bool is_model(const Place& place) {
     if (place.before() != '-') return false;
     const std::string_view series = place.letters_before(1);
     return !series.empty() && series.size() < 3 &&
-           std::all_of(series.begin(), series.end(), is_upper) && !is_digit(place.before(2));
+           std::all_of(series.begin(), series.end(), is_upper);
 }
 
 // "a 401(k)", "501(c)(3)"

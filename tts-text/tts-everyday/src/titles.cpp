@@ -101,14 +101,20 @@ bool is_after_ordinal(const Place& place) {
     return is_digit(place.before(2 + suffix.size())) && find(ORDINAL_SUFFIXES, suffix) != nullptr;
 }
 
+// "Oak St.", "21st St."; not "Mount St. Helens"
+bool is_after_street_name(const Place& place) {
+    const std::string_view before = place.word_before();
+    const bool is_after_name =
+        !before.empty() && is_upper(before[0]) && find(BEFORE_SAINT, before) == nullptr;
+    return is_after_name || is_after_ordinal(place);
+}
+
 // "St. John", "Mount St. Helens" are saints, "Main St.", "21st St. NW" streets; after "Oak St." a
 // sentence may begin.
 bool read_saint_or_street(const Place& place, Found& found) {
     if (!place.starts_with("St.")) return false;
-    const std::string_view before = place.word_before();
-    const bool is_after_name = is_after_ordinal(place) || (!before.empty() && is_upper(before[0]) &&
-                                                           find(BEFORE_SAINT, before) == nullptr);
-    const bool is_saint = place.peek(3) == ' ' && is_upper(place.peek(4)) && !is_after_name;
+    const bool is_saint =
+        place.peek(3) == ' ' && is_upper(place.peek(4)) && !is_after_street_name(place);
     if (is_saint) {
         take(place, 2, "saint", false, found);
     } else {
@@ -121,10 +127,7 @@ bool read_saint_or_street(const Place& place, Found& found) {
 bool read_bare_saint(const Place& place, Found& found) {
     if (!place.starts_with("St ") || !is_upper(place.peek(3)) || !is_lower(place.peek(4)))
         return false;
-    const std::string_view before = place.word_before();
-    const bool is_after_name =
-        !before.empty() && is_upper(before[0]) && find(BEFORE_SAINT, before) == nullptr;
-    if (is_after_name || is_after_ordinal(place)) return false;
+    if (is_after_street_name(place)) return false;
     take(place, 2, "saint", false, found);
     return true;
 }

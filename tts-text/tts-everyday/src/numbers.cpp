@@ -197,7 +197,7 @@ std::size_t say_out_of(const Place& place, const Number& number, std::string& ou
 
 // ---- Signs ----
 
-// "-5", "+3", "№ 5"
+// "-5", "+3", "№ 5", "~$5"; not the option "-p5"
 void read_sign_before_number(const Place& place, const Row& sign, Found& found) {
     const char before = place.before();
     const bool may_begin =
@@ -205,7 +205,12 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
     const std::size_t length = sign.written().size();
     const std::size_t blank = place.peek(length) == ' ' && length > 1 ? 1 : 0;
     const std::string_view zone = place.letters_before();
-    const Row* currency = length == 1 ? place.find_row(CURRENCIES, 1) : nullptr;
+    const Row* currency =
+        length == 1 ? place.find_row(CURRENCIES, 1,
+                                     [](const Row& row) {
+                                         return row.kind == Kind::before || row.kind == Kind::both;
+                                     })
+                    : nullptr;
     const std::size_t digit = length + (currency != nullptr ? currency->written().size() : blank);
     if ((!may_begin && zone != "UTC" && zone != "GMT") || !is_digit(place.peek(digit))) return;
     found.length = length + blank;

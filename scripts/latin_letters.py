@@ -47,15 +47,31 @@ with open("/usr/share/unicode/UnicodeData.txt") as data:
                 ranges.append([code, code])
         last = (code, is_letter and code > 127)
 
-texts = sorted({text for _, text in letters})
-print("// Written by scripts/latin_letters from Unicode's data.\n")
-print("constexpr char LETTERS_OF_ASCII[][4] = {")
-for i in range(0, len(texts), 12):
-    print("    " + " ".join(f'"{text}",' for text in texts[i:i + 12]))
-print("};\n\n// In the order of their code points.\nconstexpr LatinLetter LATIN_LETTERS[] = {")
-for i in range(0, len(letters), 8):
-    print("    " + " ".join(f"{{0x{code:X}, {texts.index(text)}}}," for code, text in letters[i:i + 8]))
-print("};\n\nconstexpr CodePointRange LETTERS_OF_ANY_SCRIPT[] = {")
-for i in range(0, len(ranges), 6):
-    print("    " + " ".join(f"{{0x{first:X}, 0x{end:X}}}," for first, end in ranges[i:i + 6]))
-print("};")
+# Letters with few code points between them are in one block; a range is as long as its row can tell.
+blocks, LONGEST_GAP, LONGEST = [], 8, 2048
+for code, text in letters:
+    if not blocks or code > blocks[-1][0] + len(blocks[-1][1]) + LONGEST_GAP:
+        blocks.append((code, []))
+    first, block = blocks[-1]
+    block += [""] * (code - first - len(block)) + [text]
+ranges = [(at, min(at + LONGEST - 1, end)) for first, end in ranges for at in range(first, end + 1, LONGEST)]
+texts = sorted({text for _, block in blocks for text in block} | {""})
+
+
+def print_rows(head, rows, on_a_line):
+    print(f"\n{head} = {{")
+    for i in range(0, len(rows), on_a_line):
+        print("    " + " ".join(f"{row}," for row in rows[i:i + on_a_line]))
+    print("};")
+
+
+print("// Written by scripts/latin_letters from Unicode's data.")
+print_rows("constexpr char LETTERS_OF_ASCII[][4]", [f'"{text}"' for text in texts], 12)
+print("\n// By block, for each code point the row of LETTERS_OF_ASCII.", end="")
+print_rows("constexpr unsigned char LATIN_LETTERS[]", [texts.index(text) for _, block in blocks for text in block], 20)
+at, rows = 0, []
+for first, block in blocks:
+    rows.append(f"{{0x{first:X}, {len(block)}, {at}}}")
+    at += len(block)
+print_rows("constexpr LatinBlock LATIN_BLOCKS[]", rows, 6)
+print_rows("constexpr CodePointRange LETTERS_OF_ANY_SCRIPT[]", [f"{{0x{first:X}, 0x{end:X}}}" for first, end in ranges], 6)

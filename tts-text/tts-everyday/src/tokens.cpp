@@ -12,14 +12,19 @@ namespace kavi::everyday {
 
 namespace {
 
-struct LatinLetter {
-    std::uint32_t letter : 21;
-    std::uint32_t ascii : 11;  // where LETTERS_OF_ASCII has it
+// Latin letters whose code points follow one another.
+struct LatinBlock {
+    char32_t first;
+    std::uint16_t size;
+    std::uint16_t at;  // where LATIN_LETTERS has the first
 };
 
+// At most 2,048 code points: there are many ranges, and each is four bytes.
 struct CodePointRange {
-    char32_t first;
-    char32_t last;
+    constexpr CodePointRange(char32_t first_one, char32_t last)
+        : first(first_one), n_more(last - first_one) {}
+    std::uint32_t first : 21;
+    std::uint32_t n_more : 11;
 };
 
 #include "letters.inc"
@@ -39,7 +44,7 @@ template <std::size_t N>
 bool is_in(const CodePointRange (&ranges)[N], char32_t c) {
     const auto* range = std::lower_bound(
         std::begin(ranges), std::end(ranges), c,
-        [](const CodePointRange& row, char32_t value) { return row.last < value; });
+        [](const CodePointRange& row, char32_t value) { return row.first + row.n_more < value; });
     return range != std::end(ranges) && range->first <= c;
 }
 
@@ -89,11 +94,14 @@ bool is_silent(char32_t c) {
 }
 
 const char* latin_letter(char32_t c) {
-    const auto* row =
-        std::lower_bound(std::begin(LATIN_LETTERS), std::end(LATIN_LETTERS), c,
-                         [](const LatinLetter& letter, char32_t v) { return letter.letter < v; });
-    if (row == std::end(LATIN_LETTERS) || row->letter != c) return nullptr;
-    return LETTERS_OF_ASCII[row->ascii];
+    const auto* block =
+        std::upper_bound(std::begin(LATIN_BLOCKS), std::end(LATIN_BLOCKS), c,
+                         [](char32_t value, const LatinBlock& row) { return value < row.first; });
+    if (block == std::begin(LATIN_BLOCKS)) return nullptr;
+    --block;
+    if (c - block->first >= block->size) return nullptr;
+    const char* letters = LETTERS_OF_ASCII[LATIN_LETTERS[block->at + c - block->first]];
+    return *letters == '\0' ? nullptr : letters;
 }
 
 std::string_view token_at(std::string_view text, std::size_t at) {

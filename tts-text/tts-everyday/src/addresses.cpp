@@ -13,6 +13,13 @@ bool may_end_number(const Place& place, std::size_t end) {
            !((after == '-' || after == '.') && is_digit(place.peek(end + 1)));
 }
 
+// Whether a shape may begin with the digits at the cursor: one or three, a mark, and more.
+bool may_begin_shape(const Place& place) {
+    const std::size_t n_digits = place.run(is_digit);
+    const char second = place.peek(n_digits + 1);
+    return (n_digits == 1 || n_digits == 3) && (is_digit(second) || second == '(');
+}
+
 // The longest shape of a telephone number at the cursor, or empty; "d" in a shape is any digit.
 std::string_view shape_at(const Place& place) {
     const auto longest_from = [&](char first) {
@@ -99,6 +106,7 @@ void read_telephone(const Place& place, Found& found) {
     const char c = place.peek();
     if (!is_digit(c) && c != '+' && c != '(') return;
     if (place.before() == '-' || place.before() == '.' || is_digit(place.before())) return;
+    if (is_digit(c) && !may_begin_shape(place)) return;
     if (read_number_in_letters(place, found)) return;
     const std::string_view shape = shape_at(place);
     found.length = shape.size();

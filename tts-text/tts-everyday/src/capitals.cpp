@@ -20,10 +20,12 @@ bool is_among_capitals(const Place& place, std::size_t ahead) {
 void read_capitals(const Place& place, Found& found) {
     const std::string_view letters = place.letters();
     if (read_month_name(place, letters, found)) return;
+    if (letters.size() < 3 && read_bare_compass_point(place, found)) return;
     const Row* row = find(CAPITALS, letters);
     const std::size_t end = letters.size();
     if (row == nullptr || place.is_joined(end) || place.is_joined_before()) return;
-    if (place.peek(end) == '$' || is_among_capitals(place, end)) return;
+    const bool is_shouted = row->written() == "US" && place.peek(end) == '!';  // "not them, US!"
+    if (place.peek(end) == '$' || is_shouted || is_among_capitals(place, end)) return;
     const std::string_view before = place.word_before();
     const bool has_an = before == "an" || before == "An";
     const bool has_article = has_an || before == "the" || before == "The";

@@ -135,6 +135,51 @@ bool is_section_of_law(const Place& place, std::size_t ahead) {
            place.peek(ahead + 2) == ')';
 }
 
+// The row of NUMBERED for the word before the cursor, or null. An abbreviation may have a full
+// stop, and after the word of a code there may be more: "your code is: 4821".
+const Row* numbered_before(const Place& place) {
+    const char mark = place.before(2);
+    const bool has_mark = mark == '.' || mark == ':';
+    std::string_view word = place.word_before(has_mark ? 2 : 0);
+    const bool has_verb = word == "is" || word == "was" || word == "in";
+    if (has_verb) word = place.word_before((has_mark ? 2 : 1) + word.size());
+    const Row* row = find(NUMBERED, word);
+    if (row == nullptr || (mark == '.' && find(TITLES, word) == nullptr)) return nullptr;
+    return (has_verb || mark == ':') && row->kind != Kind::glued ? nullptr : row;
+}
+
+// The length of a second group of digits with the hyphen before it, "482-913"; 0 if none.
+std::size_t second_group(const Place& place, std::size_t ahead) {
+    if (place.peek(ahead) != '-') return 0;
+    const std::size_t length = place.digits(ahead + 1).size();
+    return length > 0 ? length + 1 : 0;
+}
+
+// Whether the number that ends at `end` is a part of something longer, or a percentage.
+bool goes_on(const Place& place, std::size_t end) {
+    const char after = place.peek(end);
+    const bool is_mark = after == '.' || after == ',' || after == ':' || after == '/';
+    return place.is_joined(end) || place.dash(end) > 0 || after == '%' ||
+           (is_mark && is_digit(place.peek(end + 1)));
+}
+
+// "Flight 370", "PIN 4821", "code 482-913"
+void read_after_name(const Place& place, std::string_view digits, Found& found) {
+    const Row* row = numbered_before(place);
+    if (row == nullptr) return;
+    const bool is_code = row->kind == Kind::glued;
+    const std::size_t end = digits.size() + (is_code ? second_group(place, digits.size()) : 0);
+    if (goes_on(place, end)) return;
+    if (is_code) {
+        say_digits(digits, found.words);
+        if (end > digits.size()) say_digits(place.digits(digits.size() + 1), found.words);
+        found.length = end;
+    } else {
+        say_in_pairs(digits, found.words);
+        found.length = end + say_compass_after(place, end, found.words);
+    }
+}
+
 // "Flight 370", "Biology 101", "PO Box 1410", "call 911", "F-150", "401(k)"
 void read_numbered(const Place& place, Found& found) {
     const std::string_view digits = place.digits();
@@ -143,23 +188,14 @@ void read_numbered(const Place& place, Found& found) {
     if ((end == 3 && is_section_of_law(place, end)) || is_model(place)) {
         if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return;
         say_in_pairs(digits, found.words);
-        found.length = end;
+        found.length = end + say_compass_after(place, end, found.words);
         return;
     }
-    if (place.before() != ' ') return;
-    const char after = place.peek(end);
-    const bool goes_on = (after == '.' || after == ',' || after == ':' || after == '/') &&
-                         is_digit(place.peek(end + 1));
-    if (goes_on || after == '%' || place.dash(end) > 0) return;
-    const std::string_view before = place.word_before();
-    if (find(EMERGENCY_NUMBERS, digits) != nullptr &&
-        find(BEFORE_DIALLED, in_lower_case(before)) != nullptr) {
-        say_digits(digits, found.words);
-        found.length = end;
-        return;
-    }
-    if (find(NUMBERED_IN_PAIRS, before) == nullptr) return;
-    say_in_pairs(digits, found.words);
+    if (place.before() != ' ' || (place.peek(end) != '-' && goes_on(place, end))) return;
+    const bool is_emergency = find(EMERGENCY_NUMBERS, digits) != nullptr && place.dash(end) == 0 &&
+                              find(BEFORE_DIALLED, in_lower_case(place.word_before())) != nullptr;
+    if (!is_emergency) return read_after_name(place, digits, found);
+    say_digits(digits, found.words);
     found.length = end;
 }
 

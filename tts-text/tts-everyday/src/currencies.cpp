@@ -7,11 +7,12 @@ namespace kavi::everyday {
 namespace {
 
 // The scale word at offset `ahead`, after at most one blank; null if none, and then `length` stays.
-const char* scale_at(const Place& place, std::size_t ahead, std::size_t& length) {
+// `has_sign`: after "£5", the blank may be before a letter too, "£5 m".
+const char* scale_at(const Place& place, std::size_t ahead, bool has_sign, std::size_t& length) {
     const std::size_t blank = place.peek(ahead) == ' ' || place.peek(ahead) == '-' ? 1 : 0;
     const std::string_view word = place.letters(ahead + blank);
     const Row* row = find(SCALES, word);
-    if (row == nullptr || (blank > 0 && row->kind == Kind::glued)) return nullptr;
+    if (row == nullptr || (blank > 0 && row->kind == Kind::glued && !has_sign)) return nullptr;
     length = blank + word.size();
     return row->spoken();
 }
@@ -95,7 +96,7 @@ void read_currency(const Place& place, Found& found) {
     const Number second = dash > 0 ? amount_at(place, end + dash + second_symbol) : Number{};
     if (second.length > 0) {
         const std::size_t second_end = end + dash + second_symbol + second.length;
-        const char* scale = scale_at(place, second_end, scale_length);
+        const char* scale = scale_at(place, second_end, true, scale_length);
         number.say(found.words);
         say("to", found.words);
         say_amount(second, scale, *row, minus, found);
@@ -103,7 +104,7 @@ void read_currency(const Place& place, Found& found) {
         found.length += say_per(place, found.length, found.words);
         return;
     }
-    const char* scale = scale_at(place, end, scale_length);
+    const char* scale = scale_at(place, end, true, scale_length);
     found.length = end + scale_length;
     if (number.fraction.size() != 2 && place.is_before_noun(found.length)) {
         number.say(found.words);
@@ -118,7 +119,7 @@ void read_currency(const Place& place, Found& found) {
 void read_amount_after(const Place& place, Found& found) {
     const Number number = amount_at(place, 0);
     std::size_t scale_length = 0;
-    const char* scale = scale_at(place, number.length, scale_length);
+    const char* scale = scale_at(place, number.length, false, scale_length);
     const std::size_t end = number.length + scale_length;
     const std::size_t blank = place.peek(end) == ' ' ? 1 : 0;
     const bool is_glued = blank == 0 && scale == nullptr;

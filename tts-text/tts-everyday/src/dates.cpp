@@ -86,15 +86,41 @@ bool read_iso_date(const Place& place, Found& found) {
     return true;
 }
 
-// "due 3/31", "by 12/25": no date of the other order, and no fraction that is written
+// "Fri., " is before the cursor.
+bool is_after_day_of_week(const Place& place) {
+    std::size_t back = 0;
+    while (place.before(back + 1) == ' ' || place.before(back + 1) == ',' ||
+           place.before(back + 1) == '.')
+        ++back;
+    const std::string_view day = place.letters_before(back);
+    const bool is_whole = day.size() > 5 && day.substr(day.size() - 3) == "day";
+    const Row* row = find(TITLES, is_whole ? day.substr(0, 3) : day);
+    return row != nullptr && row->kind == Kind::before_date;
+}
+
+// Whether two numbers with a slash before `end` are a month and a day by what is around them.
+bool is_month_and_day(const Place& place, std::string_view month, std::string_view day,
+                      std::size_t end) {
+    if (is_after_day_of_week(place)) return true;
+    const bool is_above_months = is_value(day, 13, 31);
+    const bool has_zero = month.size() == 2 && month[0] == '0';  // "08/19"
+    if (has_zero && is_above_months) return true;
+    const Row* before = find(BEFORE_DAY, place.word_before());
+    if (before == nullptr) return false;
+    if (before->kind == Kind::may_end)
+        return is_above_months && !(place.peek(end) == ' ' && is_lower(place.peek(end + 1)));
+    return is_above_months || before->kind == Kind::anywhere;
+}
+
+// "due 3/31", "by 12/25", "Fri. 6/9": no date of the other order, and no fraction that is written
 bool read_month_and_day(const Place& place, Found& found) {
     const std::string_view month = place.digits();
     const std::string_view day = place.digits(month.size() + 1);
     const std::size_t end = month.size() + 1 + day.size();
     if (place.peek(month.size()) != '/') return false;
-    const bool has_zero = month.size() == 2 && month[0] == '0';  // "08/19"
-    const bool is_date = is_value(month, 1, 12) && is_value(day, 13, 31) &&
-                         (has_zero || find(BEFORE_DAY, place.word_before()) != nullptr);
+    const bool is_date = is_value(month, 1, 12) && is_value(day, 1, 31) &&
+                         find(FRACTIONS, place.part(0, end)) == nullptr &&
+                         is_month_and_day(place, month, day, end);
     const bool goes_on = place.is_joined(end) || place.peek(end) == '/' || place.peek(end) == '-' ||
                          place.peek(end) == '"' || place.starts_with(" in", end) ||
                          place.starts_with(" of", end);
@@ -125,6 +151,14 @@ std::string_view year_after(const Place& place, std::size_t ahead, std::size_t& 
     return year;
 }
 
+// "March 10 miles", but "On March 10 people met"
+bool is_count_after(const Place& place, std::size_t ahead) {
+    if (place.peek(ahead) != ' ' || find(COUNTED_NOUNS, place.letters(ahead + 1)) == nullptr)
+        return false;
+    const std::string before = in_lower_case(place.word_before());
+    return find(BEFORE_MONTH, before) == nullptr && find(BEFORE_DAY, before) == nullptr;
+}
+
 // What follows a month at offset `ahead`: "5, 2021", "5-7".
 void read_days(const Place& place, const Month& month, std::size_t ahead, Found& found) {
     const std::string_view day = place.digits(ahead);
@@ -133,7 +167,7 @@ void read_days(const Place& place, const Month& month, std::size_t ahead, Found&
     const char after = place.peek(end);
     const bool is_decimal = after == '.' && is_digit(place.peek(end + 1));
     if (!is_value(day, 1, 31) || place.letter(end) > 0 || after == ':' || after == '%' ||
-        is_decimal)
+        is_decimal || is_count_after(place, end))
         return;
     say_month_first(month, day, {}, found);
     const std::size_t dash = place.dash(end);

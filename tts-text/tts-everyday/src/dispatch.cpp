@@ -52,7 +52,7 @@ constexpr RuleEntry RULES[] = {
     {EverydayClass::titles, read_scripture, "A", ".9"},
     {EverydayClass::titles, read_state, "A", ""},
     {EverydayClass::titles, read_title, "aA", "."},
-    {EverydayClass::titles, read_bare_title, "aA", ", Z9z-\x7f"},
+    {EverydayClass::titles, read_bare_title, "aA", ", Z9z-\n\x7f"},
     {EverydayClass::titles, read_capitals, "A", ""},
     {EverydayClass::years, read_month, "A", ".9"},
     {EverydayClass::years, read_date, "0", "-./ Za"},
@@ -138,7 +138,7 @@ RuleSet rules_after_sort(char sort) {
 
 // Where the text ends with a blank, the rules themselves tell whether they need more of it.
 RuleSet rules_after(std::string_view text, std::size_t end) {
-    if (end == text.size()) return rules_after_sort('\0');
+    if (end == text.size()) return rules_after_sort('\n');
     if (text[end] != ' ') return rules_after_sort(sort_of(text[end]));
     if (end + 1 < text.size()) return rules_after_sort(sort_of_blank(text[end + 1]));
     return rules_after_sort(' ') | rules_after_sort(BEFORE_CAPITAL) |

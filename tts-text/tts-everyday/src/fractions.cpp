@@ -90,10 +90,19 @@ bool is_time_signature(std::string_view below) {
     return below == "2" || below == "4" || below == "8" || below == "16";
 }
 
+// "the 33/1 shot", "a 7/2 favourite"
+bool has_odds(const Place& place, std::size_t end) {
+    if (place.peek(end) != ' ') return false;
+    const Row* noun = find(RATIO_NOUNS, place.letters(end + 1));
+    return noun != nullptr && noun->kind == Kind::both;
+}
+
 // What is said between two numbers that are no fraction, perhaps nothing; null where they are one.
 const char* words_between(const Place& place, std::string_view above, std::string_view below,
                           std::size_t end) {
     if (is_rating(place, above, below, end)) return "out of";
+    if (has_odds(place, end) || (below == "1" && place.word_before() == "at")) return "to";
+    if (below == "1" && !place.is_joined(end)) return "over";
     if (const Row* row = find(BEFORE_SLASH, in_lower_case(place.word_before()))) {
         const bool is_mark = is_best_mark(below) && !is_less(below, above);
         if (is_mark || std::string_view(row->spoken()) == "of") return row->spoken();
@@ -115,6 +124,12 @@ std::size_t suffix_length(const Place& place, std::size_t ahead) {
     return find(ORDINAL_SUFFIXES, suffix) != nullptr ? letters.size() : 0;
 }
 
+// "9/11 of them", "you get 9/11"
+bool is_plain_fraction(const Place& place, std::size_t end) {
+    const std::string_view verb = place.word_before();
+    return place.starts_with(" of ", end) || verb == "get" || verb == "gives" || verb == "equals";
+}
+
 // "1/2", with no other slash before it or after it
 bool read_slash(const Place& place, std::string_view above, Found& found) {
     if (place.peek(above.size()) != '/' || place.before() == '/') return false;
@@ -122,7 +137,7 @@ bool read_slash(const Place& place, std::string_view above, Found& found) {
     const std::size_t end = above.size() + 1 + below.size();
     if (place.peek(end) == '/') return false;
     const Row* named = find(FRACTIONS, place.part(0, end));
-    if (named != nullptr && !place.starts_with(" of ", end)) {  // "9/11 of them" are a part
+    if (named != nullptr && !is_plain_fraction(place, end)) {
         say(named->spoken(), found.words);
     } else if (const char* words = words_between(place, above, below, end)) {
         say_cardinal(above, found.words);

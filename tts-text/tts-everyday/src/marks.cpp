@@ -18,7 +18,7 @@ bool read_wildcard(const Place& place, Found& found) {
     return true;
 }
 
-// "C#" is sharp; "at # 5" is a number; "#tag" a hash.
+// "C#" is sharp; "at # 5", "my # is" are a number; "#tag" is a hash, "press # to" the key.
 bool read_hash(const Place& place, Found& found) {
     const char before = place.before();
     found.length = 1;
@@ -29,6 +29,9 @@ bool read_hash(const Place& place, Found& found) {
         found.words = "number";
     } else if (begins_word(place) && place.letter(1) > 0) {
         found.words = "hash";
+    } else if (const Row* row = find(BEFORE_HASH, in_lower_case(place.word_before()));
+               row != nullptr && before == ' ' && is_blank_or_end(place.peek(1))) {
+        found.words = row->spoken();
     } else {
         found.length = 0;
     }

@@ -45,7 +45,11 @@ bool read_ratio(const Place& place, const Number& number, Found& found) {
         place.peek(end) == ' ' && find(RATIO_NOUNS, place.letters(end + 1)) != nullptr;
     if (!has_noun && !(is_after_word && second.size() == 1)) return false;
     number.say(found.words);
-    say("to", found.words);
+    const bool is_degree = number.whole == "2" && (second == "1" || second == "2") &&
+                           before == "a" &&
+                           (place.peek(end) != ' ' || place.starts_with(" in ", end) ||
+                            place.starts_with(" from ", end) || place.starts_with(" degree", end));
+    if (!is_degree) say("to", found.words);
     say_cardinal(second, found.words);
     found.length = end;
     return true;
@@ -67,6 +71,12 @@ bool read_record(const Place& place, const Number& number, Found& found) {
 
 // ---- What may come after a number: how long it is, its words added ----
 
+// "Fig. 3-2", "Table 4-1"
+bool is_after_figure(const Place& place) {
+    const std::size_t stop = place.before(2) == '.' ? 2 : 0;
+    return find(BEFORE_FIGURE, in_lower_case(place.word_before(stop))) != nullptr;
+}
+
 // "10-20", "3–2"; not "1-2-3"
 std::size_t say_range(const Place& place, std::size_t ahead, std::string& out) {
     const std::size_t dash = place.dash(ahead);
@@ -77,7 +87,8 @@ std::size_t say_range(const Place& place, std::size_t ahead, std::string& out) {
         return 0;
     const bool is_fixed = (last.whole == "50" && place.starts_with("50-")) ||
                           (last.whole == "7" && place.starts_with("24-"));
-    if (!is_fixed) say("to", out);
+    const bool is_name = last.fraction.empty() && is_after_figure(place);
+    if (!is_fixed) say(is_name ? "dash" : "to", out);
     last.say(out);
     return dash + last.length;
 }

@@ -49,14 +49,14 @@ std::string_view Place::word_before(std::size_t back) const {
 }
 
 bool Place::is_before_noun(std::size_t ahead) const {
-    const std::string_view article = word_before();
-    const bool is_a = article == "a" || article == "A" || article == "an" || article == "An";
-    const bool is_the = article == "the" || article == "The" || article == "this" ||
-                        article == "This" || article == "each" || article == "every";
-    if ((!is_a && !is_the) || peek(ahead) != ' ' || !is_lower(peek(ahead + 1))) return false;
+    if (peek(ahead) != ' ' || !is_lower(peek(ahead + 1))) return false;
+    const Row* determiner = find(DETERMINERS, in_lower_case(word_before()));
+    if (determiner == nullptr) return false;
     const std::string_view noun = letters(ahead + 1);
-    // "the $5 owed"
-    const bool is_verb = is_the && noun.size() > 3 && noun.substr(noun.size() - 2) == "ed";
+    // "the $5 owed", "his $5 leaving"
+    const bool is_verb =
+        determiner->kind == Kind::both && noun.size() > 3 &&
+        (noun.substr(noun.size() - 2) == "ed" || noun.substr(noun.size() - 3) == "ing");
     return !is_verb && find(NO_NOUNS, noun) == nullptr;
 }
 

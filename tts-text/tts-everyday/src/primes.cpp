@@ -42,10 +42,11 @@ std::size_t cross_length(const Place& place, std::size_t ahead) {
     return 0;
 }
 
-// Whether a quotation may be open before the cursor. A mark after a digit opens none.
+// Whether a quotation may be open before the cursor. A mark after a digit or "½" opens none.
 bool may_be_quoted(const Place& place) {
     for (std::size_t back = 1; back < LOOK_BACK; ++back) {
-        if (place.before(back) == '"' && !is_digit(place.before(back + 1))) return true;
+        const char last = place.before(back + 1);
+        if (place.before(back) == '"' && !is_digit(last) && !is_outside_ascii(last)) return true;
     }
     return false;
 }
@@ -110,18 +111,24 @@ bool read_angle(const Place& place, const Number& number, Found& found) {
     if (minutes == 0) return false;
     end += minutes;
     end += say_part_of_angle(place, end, '"', "″", "second", words);
-    const std::size_t at = end + place.blanks(end);
-    const std::string_view letters = place.letters(at);
-    if (const Row* row = find(COMPASS, letters)) {
-        say(row->spoken(), words);
-        end = at + letters.size();
-    }
+    end += say_compass_after(place, end, words);
     found.words = words;
     found.length = end;
     return true;
 }
 
 }  // namespace
+
+bool read_inches_after(const Place& place, Found& found) {
+    const std::size_t end = found.length + 1;
+    if (place.peek(found.length) != '"' || place.is_joined(end) || may_be_quoted(place))
+        return false;
+    const bool is_mixed = found.words.find(" and ") != std::string::npos;
+    const std::string_view next = place.peek(end) == ' ' ? place.letters(end + 1) : "";
+    say(is_mixed && !is_adjective(place, end, next) ? "inches" : "inch", found.words);
+    found.length = end;
+    return true;
+}
 
 bool read_primes(const Place& place, const Number& number, Found& found) {
     return read_height(place, found) || read_angle(place, number, found) ||

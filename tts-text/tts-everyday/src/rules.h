@@ -71,7 +71,7 @@ void read_slashed_words(const Place& place, Found& found);
 constexpr bool is_bare_title(const Row& row) {
     const std::size_t end = row.written().find_first_of(" .");
     if (end != std::string_view::npos) return row.written()[end] == ' ';
-    return row.kind == Kind::never || row.kind == Kind::before_date;
+    return row.kind == Kind::never || row.kind == Kind::before_date || row.kind == Kind::after;
 }
 
 // Appends "per" and the unit after a slash at offset `ahead`. Returns their length, 0 if none;
@@ -81,6 +81,18 @@ std::size_t say_per(const Place& place, std::size_t ahead, std::string& out);
 // Takes the unit after a fraction that has been read, if one follows; `is_one`: it is less than
 // one.
 void read_unit_after(const Place& place, bool is_one, Found& found);  // units.cpp
+
+// Reads a point of the compass in an address or a direction; compass.cpp. The first needs a full
+// stop, the second has none.
+bool read_compass_point(const Place& place, Found& found);
+bool read_bare_compass_point(const Place& place, Found& found);
+// Says one after a blank at offset `ahead`. Returns its length with the blank, 0 if none.
+std::size_t say_compass_after(const Place& place, std::size_t ahead, std::string& out);
+// Whether an ordinal number is at `ahead`: "22nd".
+bool is_ordinal(const Place& place, std::size_t ahead);
+
+// Takes the inches after a fraction: "3/4" thick"; primes.cpp.
+bool read_inches_after(const Place& place, Found& found);
 
 // Reads feet and inches, or an angle, by the primes after the number at the cursor; primes.cpp.
 bool read_primes(const Place& place, const Number& number, Found& found);

@@ -29,6 +29,20 @@ bool is_time_of_day(const Place& place, std::size_t ahead) {
     return (first == 'a' || first == 'p') && (second == 'm' || second == '.');
 }
 
+// "Gen. 6", "Ps. 23"
+void read_chapter(const Place& place, const Row& book, std::size_t stop, Found& found) {
+    const std::string_view chapter = place.digits(stop + 1);
+    const std::size_t end = stop + 1 + chapter.size();
+    const bool goes_on =
+        place.is_joined(end) || (place.peek(end) != ' ' && is_digit(place.peek(end + 1)));
+    const bool is_one = book.kind == Kind::before_number && place.peek(stop - 1) == '.' &&
+                        !chapter.empty() && chapter.size() <= 3 && !goes_on;
+    if (!is_one) return;
+    found.say_name(0, book.written().size(), book.spoken());
+    say_cardinal(chapter, found.words);
+    found.length = end;
+}
+
 }  // namespace
 
 // "Gen. 1:1 to 2:3", "John 3:16-18"
@@ -42,7 +56,8 @@ void read_scripture(const Place& place, Found& found) {
     std::string words;
     const std::size_t length = say_verse(place, stop + 1, words);
     std::size_t end = stop + 1 + length;
-    if (length == 0 || is_time_of_day(place, end)) return;
+    if (length == 0) return read_chapter(place, *book, stop, found);
+    if (is_time_of_day(place, end)) return;
     found.say_name(0, name.size(), book->spoken());
     say(words, found.words);
     const std::size_t dash = place.dash(end);

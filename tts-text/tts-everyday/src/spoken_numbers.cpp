@@ -144,22 +144,18 @@ std::string Number::digits() const {
 }
 
 Number number_at(const Place& place, std::size_t ahead) {
-    Number number;
     const std::size_t n_digits = place.run(is_digit, ahead);
     std::size_t end = ahead + n_digits;
     const char mark = place.peek(end);
     const bool goes_on =
         (mark == ',' || mark == '.' || mark == ' ') && is_digit(place.peek(end + 1));
-    if (n_digits == 0 && (!goes_on || mark != '.')) return number;  // but ".35"
-    if (goes_on && n_digits > 0 && n_digits <= GROUP)
-        end += groups_length(place, ahead, n_digits, mark);
-    number.whole = place.part(ahead, end - ahead);
-    if (goes_on && place.peek(end) == '.' && is_digit(place.peek(end + 1))) {
-        number.fraction = place.digits(end + 1);
-        end += 1 + number.fraction.size();
-    }
-    number.length = end - ahead;
-    return number;
+    if (!goes_on) return {place.part(ahead, n_digits), {}, n_digits};
+    if (n_digits == 0 && mark != '.') return {};  // but ".35"
+    if (n_digits > 0 && n_digits <= GROUP) end += groups_length(place, ahead, n_digits, mark);
+    const std::string_view whole = place.part(ahead, end - ahead);
+    if (place.peek(end) != '.' || !is_digit(place.peek(end + 1))) return {whole, {}, end - ahead};
+    const std::string_view fraction = place.digits(end + 1);
+    return {whole, fraction, whole.size() + 1 + fraction.size()};
 }
 
 int month_number(std::string_view name) {

@@ -52,7 +52,9 @@ void read_state(const Place& place, Found& found) {
     }
     const std::size_t zip = zip_length(place, end);
     if (row->kind == Kind::before_number && zip == 0) return;
-    if (row->kind == Kind::after_place && zip == 0 && !has_preposition(place)) return;
+    const bool needs_more = row->kind == Kind::after_place || row->kind == Kind::both;
+    const bool has_comma = row->kind == Kind::both && place.peek(end) == ',';
+    if (needs_more && zip == 0 && !has_comma && !has_preposition(place)) return;
     found.length = end + zip;
     found.say_name(0, written.size(), row->spoken());
     for (std::size_t at = end; at < found.length; ++at) {

@@ -11,7 +11,7 @@ const Row* find_longest_in(const Table& table, std::string_view text) {
 
 }  // namespace
 
-const Row* find(const Table& table, std::string_view written) {
+const Row* find_row_of(const Table& table, std::string_view written) {
     const Row* row = find_longest_in(table, written);
     return row != nullptr && row->written().size() == written.size() ? row : nullptr;
 }

@@ -59,7 +59,10 @@ class Table {
   public:
     template <std::size_t N>
     constexpr Table(const Row (&rows)[N]) : first_(std::begin(rows)), end_(std::end(rows)) {
-        for (const Row& row : rows) begins_ |= bit_of(row.written()[0]);
+        for (const Row& row : rows) {
+            begins_ |= bit_of(row.written()[0]);
+            pairs_ |= bit_of_pair(row.written());
+        }
     }
 
     constexpr const Row* begin() const { return first_; }
@@ -67,15 +70,27 @@ class Table {
 
     // False where no row begins with a byte.
     bool may_begin(char c) const { return (begins_ & bit_of(c)) != 0; }
+    // False where no row is all of what is written; by its first two bytes, for most words.
+    bool may_have(std::string_view written) const {
+        return !written.empty() && (pairs_ & bit_of_pair(written)) != 0;
+    }
 
   private:
     static constexpr std::uint64_t bit_of(char c) {
         return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64);
     }
 
+    static constexpr std::uint64_t bit_of_pair(std::string_view written) {
+        constexpr unsigned FACTOR = 5;
+        const auto first = static_cast<unsigned char>(written[0]);
+        const auto second = static_cast<unsigned char>(written.size() > 1 ? written[1] : '\0');
+        return std::uint64_t{1} << ((first * FACTOR + second) % 64);
+    }
+
     const Row* first_;
     const Row* end_;
     std::uint64_t begins_ = 0;
+    std::uint64_t pairs_ = 0;
 };
 
 // The longest row that a text begins with, or null. `byte_at` gives the text's byte at an offset,
@@ -101,7 +116,10 @@ const Row* find_longest(const Table& table, ByteAt byte_at) {
 }
 
 // The row for all of what is written, or null.
-const Row* find(const Table& table, std::string_view written);
+const Row* find_row_of(const Table& table, std::string_view written);
+inline const Row* find(const Table& table, std::string_view written) {
+    return table.may_have(written) ? find_row_of(table, written) : nullptr;
+}
 
 // The longest row that is shorter than one, and that it begins with; or null.
 const Row* find_shorter(const Table& table, const Row& row);

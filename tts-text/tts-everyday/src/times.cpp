@@ -30,6 +30,16 @@ struct Clock {
     std::size_t length = 0;
 };
 
+// "the 7.15 to Leeds", "the 8.42 train": elsewhere "7.15" is a time only before "p.m."
+bool is_departure(const Place& place, std::size_t ahead) {
+    const std::string_view before = place.word_before();
+    if (before != "the" && before != "The") return false;
+    return place.starts_with(" train", ahead) || place.starts_with(" bus", ahead) ||
+           place.starts_with(" flight", ahead) || place.starts_with(" ferry", ahead) ||
+           (place.starts_with(" to ", ahead) && is_upper(place.peek(ahead + 4))) ||
+           (place.starts_with(" from ", ahead) && is_upper(place.peek(ahead + 6)));
+}
+
 Clock clock_at(const Place& place, std::size_t ahead) {
     Clock clock;
     clock.hour = place.digits(ahead);
@@ -57,7 +67,7 @@ Clock clock_at(const Place& place, std::size_t ahead) {
             half_length = 1;
         }
     }
-    if (clock.has_stop && clock.half == nullptr) return {};  // "4.15" is a time only before "p.m."
+    if (clock.has_stop && clock.half == nullptr && !is_departure(place, end)) return {};
     clock.length = end + half_length - ahead;
     return clock;
 }
@@ -107,14 +117,20 @@ bool read_time_range(const Place& place, const Clock& first, Found& found) {
     return true;
 }
 
-// "at 1200 hours"; "for 1200 hours" is a length of time
-bool read_military(const Place& place, Found& found) {
-    const std::string_view digits = place.digits();
-    if (digits.size() != 4 || digits > "2400" || digits[2] > '5' || !place.starts_with(" hours", 4))
+bool is_after_at(const Place& place) {
+    const std::string before = in_lower_case(place.word_before());
+    return before == "at" || before == "by" || before == "until" || before == "till";
+}
+
+// "at 1200 hours", "0600 EST", "at 0830"; "for 1200 hours" is a length of time
+bool read_military(const Place& place, std::string_view digits, Found& found) {
+    if (digits.size() != 4 || digits > "2400" || digits[2] > '5' || place.is_joined(4))
         return false;
-    const std::string_view before = place.word_before();
-    const bool is_time = digits[0] == '0' || before == "at" || before == "At" || before == "by" ||
-                         before == "By" || before == "until" || before == "till";
+    const bool has_zero = digits[0] == '0' && digits[1] != '0';
+    const bool has_hours = place.starts_with(" hours", 4) || place.starts_with(" hrs", 4);
+    const bool has_zone = place.peek(4) == ' ' && find(ZONES, place.letters(5)) != nullptr;
+    const bool is_time = has_zone || (has_hours && has_zero) ||
+                         ((has_hours || (has_zero && place.peek(4) != '-')) && is_after_at(place));
     if (!is_time) return false;
     if (digits[0] == '0') say("oh", found.words);
     say_cardinal(digits.substr(0, 2), found.words);
@@ -130,12 +146,11 @@ bool read_military(const Place& place, Found& found) {
 }
 
 // "in 35:20": minutes and seconds, since a day has 24 hours; "60:40" is a division
-bool read_minutes_and_seconds(const Place& place, Found& found) {
-    const std::string_view minutes = place.digits();
+bool read_minutes_and_seconds(const Place& place, std::string_view minutes, Found& found) {
     const std::string_view seconds = place.digits(minutes.size() + 1);
     const std::size_t end = minutes.size() + 1 + seconds.size();
-    if (minutes.size() != 2 || minutes < "25" || place.peek(2) != ':' || seconds.size() != 2 ||
-        seconds > "59" || place.before() == ':')
+    if (minutes.size() != 2 || minutes < "25" || seconds.size() != 2 || seconds > "59" ||
+        place.before() == ':')
         return false;
     const bool goes_on =
         place.is_joined(end) ||
@@ -149,6 +164,23 @@ bool read_minutes_and_seconds(const Place& place, Found& found) {
     }
     say_cardinal(seconds, found.words);
     found.length = end;
+    return true;
+}
+
+// "2h16", "1h30m"
+bool read_hours_and_minutes(const Place& place, std::string_view hours, Found& found) {
+    const std::string_view minutes = place.digits(hours.size() + 1);
+    const std::size_t m = hours.size() + 1 + minutes.size();
+    const std::string_view unit = place.letters(m);
+    const bool is_one =
+        place.peek(hours.size()) == 'h' && is_value(hours, 0, 24) && is_value(minutes, 0, 59) &&
+        (unit.empty() || unit == "m" || unit == "min") && !place.is_joined(m + unit.size());
+    if (!is_one) return false;
+    say_cardinal(hours, found.words);
+    say(hours == "1" ? "hour" : "hours", found.words);
+    say_cardinal(minutes, found.words);
+    if (!unit.empty()) say(minutes == "1" ? "minute" : "minutes", found.words);
+    found.length = m + unit.size();
     return true;
 }
 
@@ -169,7 +201,11 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
 }
 
 void read_time(const Place& place, Found& found) {
-    if (read_military(place, found) || read_minutes_and_seconds(place, found)) return;
+    const std::string_view digits = place.digits();
+    const char after = place.peek(digits.size());
+    if (after == ':' && read_minutes_and_seconds(place, digits, found)) return;
+    if (after == 'h' && read_hours_and_minutes(place, digits, found)) return;
+    if (read_military(place, digits, found)) return;
     const Clock time = clock_at(place, 0);
     if (time.length == 0 || read_time_range(place, time, found)) return;
     if (time.half == nullptr && (time.minutes.empty() || place.letter(time.length) > 0)) return;

@@ -68,7 +68,8 @@ bool read_days_of_week(const Place& place, Found& found) {
 }
 
 bool ends_sentence(Kind kind) {
-    return kind == Kind::may_end || kind == Kind::before_date || kind == Kind::after_ordinal;
+    return kind == Kind::may_end || kind == Kind::before_date || kind == Kind::after_ordinal ||
+           kind == Kind::after;
 }
 
 // "U.S.", "J. K. Rowling", "p.m.": single letters, each with a full stop.
@@ -123,12 +124,13 @@ bool read_saint_or_street(const Place& place, Found& found) {
     return true;
 }
 
-// "St Pancras"; not "Main St Cafe"
+// "St Pancras", "12 High St near"; not "Main St Cafe"
 bool read_bare_saint(const Place& place, Found& found) {
-    if (!place.starts_with("St ") || !is_upper(place.peek(3)) || !is_lower(place.peek(4)))
-        return false;
-    if (is_after_street_name(place)) return false;
-    take(place, 2, "saint", false, found);
+    if (!place.starts_with("St") || place.is_joined(2)) return false;
+    const bool is_street = is_after_street_name(place);
+    const bool has_name = place.peek(2) == ' ' && is_upper(place.peek(3));
+    if (has_name ? is_street || !is_lower(place.peek(4)) : !is_street) return false;
+    take(place, 2, has_name ? "saint" : "street", false, found);
     return true;
 }
 
@@ -155,23 +157,13 @@ bool read_sister(const Place& place, Found& found) {
     return true;
 }
 
-// "12 E. Elm St.", "E. 42nd St."
-bool read_compass_point(const Place& place, Found& found) {
-    const std::string_view letters = place.letters();
-    const std::size_t stop = letters.size();
-    if (stop > 2 || place.peek(stop) != '.' || place.peek(stop + 1) != ' ') return false;
-    const Row* row = find(COMPASS, letters);
-    if (row == nullptr) return false;
-    const std::size_t street = stop + 2;
-    const std::string_view ordinal = place.digits(street);
-    const bool has_ordinal =
-        !ordinal.empty() &&
-        find(ORDINAL_SUFFIXES, place.letters(street + ordinal.size())) != nullptr;
-    const bool has_name = place.before() == ' ' && is_digit(place.before(2)) &&
-                          is_upper(place.peek(street)) && is_lower(place.peek(street + 1));
-    if (!has_ordinal && !has_name) return false;
-    take(place, stop, row->spoken(), false, found);
-    return true;
+// "in Co. Clare"; "from Smith & Co." is a company
+bool read_county(const Place& place, Found& found) {
+    const bool is_one = place.starts_with("Co. ") && is_upper(place.peek(4)) &&
+                        is_lower(place.peek(5)) &&
+                        find(BEFORE_PLACE, in_lower_case(place.word_before())) != nullptr;
+    if (is_one) take(place, 2, "county", false, found);
+    return is_one;
 }
 
 // "Keats, b. 1795", "est. 1901"
@@ -198,6 +190,10 @@ bool is_answer(const Place& place) {
             find(BEFORE_ANSWER, in_lower_case(place.word_before())) != nullptr);
 }
 
+bool is_name(std::string_view word) {
+    return word.size() > 2 && is_upper(word[0]) && is_lower(word[1]);
+}
+
 bool fits(const Place& place, const Row& row) {
     const std::size_t length = row.written().size();
     const char after = place.peek(length);
@@ -209,6 +205,8 @@ bool fits(const Place& place, const Row& row) {
     const bool is_day = row.kind == Kind::before_date;
     if (is_day && (place.word_before() == "the" || place.word_before() == "The")) return false;
     if (is_day && after != '.') return is_date_part(place, length);
+    if (row.kind == Kind::after && after != '.')
+        return !place.is_joined(length) && place.before() == ' ' && is_name(place.word_before());
     if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');
     switch (row.kind) {
         case Kind::before_number:
@@ -258,9 +256,9 @@ bool read_row(const Place& place, Found& found) {
 }  // namespace
 
 void read_title(const Place& place, Found& found) {
-    if (read_drive(place, found) || read_sister(place, found) || read_compass_point(place, found) ||
-        read_word_of_life(place, found) || read_days_of_week(place, found) ||
-        read_row(place, found))
+    if (read_drive(place, found) || read_sister(place, found) || read_county(place, found) ||
+        read_compass_point(place, found) || read_word_of_life(place, found) ||
+        read_days_of_week(place, found) || read_row(place, found))
         return;
     if (!read_saint_or_street(place, found)) read_initials(place, found);
 }

@@ -20,11 +20,16 @@ struct LatinBlock {
 };
 
 // At most 2,048 code points: there are many ranges, and each is four bytes.
-struct CodePointRange {
-    constexpr CodePointRange(char32_t first_one, char32_t last)
-        : first(first_one), n_more(last - first_one) {}
-    std::uint32_t first : 21;
-    std::uint32_t n_more : 11;
+class CodePointRange {
+  public:
+    constexpr CodePointRange(char32_t first, char32_t last)
+        : packed_(first * LONGEST + (last - first)) {}
+    constexpr char32_t first() const { return packed_ / LONGEST; }
+    constexpr char32_t last() const { return first() + packed_ % LONGEST; }
+
+  private:
+    static constexpr std::uint32_t LONGEST = 2048;
+    std::uint32_t packed_;
 };
 
 #include "letters.inc"
@@ -44,8 +49,8 @@ template <std::size_t N>
 bool is_in(const CodePointRange (&ranges)[N], char32_t c) {
     const auto* range = std::lower_bound(
         std::begin(ranges), std::end(ranges), c,
-        [](const CodePointRange& row, char32_t value) { return row.first + row.n_more < value; });
-    return range != std::end(ranges) && range->first <= c;
+        [](const CodePointRange& row, char32_t value) { return row.last() < value; });
+    return range != std::end(ranges) && range->first() <= c;
 }
 
 // The length of what is at `at` when it is in one of the ranges; 0 otherwise.

@@ -22,6 +22,8 @@ bool may_begin_number(const Place& place) {
 bool fits_unit(const Place& place, const Row& row, std::size_t ahead) {
     const std::size_t end = ahead + row.written().size();
     if (place.is_joined(end)) return false;
+    if (row.written() == "g" && place.word_before() == "at") return false;  // "at 6 g"
+    if (row.written() == "W" && is_ordinal(place, end + 1)) return false;   // "40 W 22nd St"
     if (row.kind == Kind::before_noun) return place.is_before_noun(end);
     return row.kind != Kind::inside || place.peek(end) != ' ' || !is_upper(place.peek(end + 1));
 }
@@ -123,6 +125,7 @@ void read_unit(const Place& place, Found& found) {
 
 // "3 1/2 lbs", "½ km"; not "a 1/2s"
 void read_unit_after(const Place& place, bool is_one, Found& found) {
+    if (read_inches_after(place, found)) return;
     const std::size_t blank = place.peek(found.length) == ' ' ? 1 : 0;
     const std::size_t ahead = found.length + blank;
     const Row* row = place.find_row(UNITS, ahead, [&](const Row& candidate) {

@@ -48,6 +48,21 @@ bool read_decade(const Place& place, std::size_t begin, Found& found) {
     return true;
 }
 
+// "the 2024/25 season", "1999/2000"
+bool read_two_years(const Place& place, std::string_view year, Found& found) {
+    if (place.peek(4) != '/' || !may_be_year(year) || place.before() == '/') return false;
+    const std::string_view last = place.digits(5);
+    const std::size_t end = 5 + last.size();
+    const int next = tn::value_of(year) + 1;
+    const bool is_next = (last.size() == 2 && tn::value_of(last) == next % 100) ||
+                         (last.size() == 4 && tn::value_of(last) == next);
+    if (!is_next || place.is_joined(end) || place.peek(end) == '/') return false;
+    say_year(year, found.words);
+    last.size() == 2 ? say_cardinal(last, found.words) : say_year(last, found.words);
+    found.length = end;
+    return true;
+}
+
 // "2010-2015", "1914–18".
 bool read_range(const Place& place, std::string_view year, Found& found) {
     const std::size_t dash = place.dash(year.size());
@@ -103,7 +118,9 @@ void read_year(const Place& place, Found& found) {
         return;
     }
     const std::string_view digits = place.digits();
-    if (read_decade(place, 0, found) || read_range(place, digits, found)) return;
+    if (read_decade(place, 0, found) || read_range(place, digits, found) ||
+        read_two_years(place, digits, found))
+        return;
     if (!may_be_year(digits) || place.letter(4) > 0 || place.peek(4) == '%') return;
     if (is_digit(place.peek(5)) && place.peek(4) != ' ') return;  // part of another number
     if (is_count(place)) return;

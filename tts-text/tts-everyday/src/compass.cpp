@@ -1,0 +1,66 @@
+// Points of the compass, in addresses and directions.
+
+#include "rules.h"
+
+namespace kavi::everyday {
+
+namespace {
+
+// "35 km SW of Hilo", "2 miles W of"; "vitamin E of" is none
+bool is_direction(const Place& place, std::string_view letters) {
+    if (!place.starts_with(" of ", letters.size()) || place.before() != ' ') return false;
+    const std::string_view before = place.word_before();
+    return letters.size() > 1 || before == "blocks" || before == "just" ||
+           find(UNITS, before) != nullptr || find(COUNTED_NOUNS, before) != nullptr;
+}
+
+}  // namespace
+
+bool is_ordinal(const Place& place, std::size_t ahead) {
+    const std::string_view digits = place.digits(ahead);
+    return !digits.empty() &&
+           find(ORDINAL_SUFFIXES, place.letters(ahead + digits.size())) != nullptr;
+}
+
+// "12 E. Elm St.", "E. 42nd St."
+bool read_compass_point(const Place& place, Found& found) {
+    const std::string_view letters = place.letters();
+    const std::size_t stop = letters.size();
+    if (stop > 2 || place.peek(stop) != '.' || place.peek(stop + 1) != ' ') return false;
+    const Row* row = find(COMPASS, letters);
+    if (row == nullptr) return false;
+    const std::size_t street = stop + 2;
+    const bool has_name = place.before() == ' ' && is_digit(place.before(2)) &&
+                          is_upper(place.peek(street)) && is_lower(place.peek(street + 1));
+    if (!is_ordinal(place, street) && !has_name) return false;
+    found.say_name(0, stop, row->spoken());
+    found.length = stop + 1;
+    return true;
+}
+
+// "40 W 22nd St", "SW of Hilo"
+bool read_bare_compass_point(const Place& place, Found& found) {
+    const std::string_view letters = place.letters();
+    if (place.is_joined_before()) return false;
+    const Row* row = find(COMPASS, letters);
+    if (row == nullptr) return false;
+    const bool is_of_street = place.before() == ' ' && is_digit(place.before(2)) &&
+                              place.peek(letters.size()) == ' ' &&
+                              is_ordinal(place, letters.size() + 1);
+    if (!is_of_street && !is_direction(place, letters)) return false;
+    found.say_name(0, letters.size(), row->spoken());
+    found.length = letters.size();
+    return true;
+}
+
+std::size_t say_compass_after(const Place& place, std::size_t ahead, std::string& out) {
+    const std::size_t blank = place.peek(ahead) == ' ' ? 1 : 0;
+    const std::string_view letters = place.letters(ahead + blank);
+    const std::size_t end = ahead + blank + letters.size();
+    const Row* row = find(COMPASS, letters);
+    if (row == nullptr || place.is_joined(end)) return 0;
+    say(row->spoken(), out);
+    return end - ahead;
+}
+
+}  // namespace kavi::everyday

@@ -74,6 +74,17 @@ std::size_t have_length(const Place& place, std::size_t ahead) {
     return mark > 0 && place.letters(ahead + mark) == "ve" ? mark + 2 : 0;
 }
 
+// "Isn't it", "why don't they", "Won't Ann come": the verb before its subject, where "is not it" is
+// no English. "Don't go" is no question.
+bool is_inverted(const Place& place, std::string_view word, std::size_t length) {
+    constexpr std::string_view SUBJECTS[] = {"I", "he", "it", "she", "there", "they", "we", "you"};
+    if (word.size() < 4 || word.substr(word.size() - 3) != "n't") return false;
+    if (is_upper(place.peek()) && is_lower(place.peek(1)) && word != "don't" && word != "can't")
+        return true;
+    const std::string_view next = place.peek(length) == ' ' ? place.letters(length + 1) : "";
+    return std::find(std::begin(SUBJECTS), std::end(SUBJECTS), next) != std::end(SUBJECTS);
+}
+
 }  // namespace
 
 void read_contraction(const Place& place, Found& found) {
@@ -82,6 +93,12 @@ void read_contraction(const Place& place, Found& found) {
     if (mark == 0) return;
     std::size_t length = 0;
     const std::string word = word_with_apostrophes(place, length);
+    if (is_inverted(place, word, length)) {
+        found.length = length;
+        found.words = stem;
+        found.words += place.peek(length - 1);  // "isnt", one word
+        return;
+    }
     if (const Row* row = find(CONTRACTIONS, word)) {
         found.length = length;
         found.words = row->spoken();

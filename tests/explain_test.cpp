@@ -52,6 +52,25 @@ TEST(Explain, RunsStandInTheTextAsInTheTable) {
     });
 }
 
+TEST(Explain, PlainTextAtOnceHasTheRunsOfItsSteps) {
+    for (const char* table : {"explanations", "marks", "tags", "telephone", "words"}) {
+        for (const TableRow& row : read_table(table)) {
+            TtsHost().read(
+                row[0],
+                [&](const HostSentence& sentence) {
+                    if (sentence.normalized != row[0]) return false;  // with other sources
+                    std::string at_once;
+                    std::string steps;
+                    explain(sentence, row[0], append_to(at_once));
+                    explain(row[0], append_to(steps));
+                    EXPECT_EQ(at_once, steps);
+                    return true;
+                },
+                nullptr);
+        }
+    }
+}
+
 TEST(Explain, StopsWhereTheOutputIsFull) {
     std::string last;
     int n = 0;

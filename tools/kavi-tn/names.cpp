@@ -99,7 +99,7 @@ std::string visible(std::string_view text) {
             if (is_hidden(c)) {
                 append_escape(c, c < 0x80, result);
             } else {
-                result.append(begin, at);
+                result.append(begin, static_cast<std::size_t>(at - begin));
             }
         }
         if (at != end) append_escape(static_cast<unsigned char>(*at++), true, result);

@@ -16,7 +16,8 @@ Renderer::Renderer(const Options& options, const Everyday* everyday)
 void Renderer::render(const Block& block, const Take& take) {
     piece_ = {};
     taken_ = 0;
-    const std::string name = "kavi-tn: " + shown(block.input) + ": ";
+    shown_input_ = shown(block.input);
+    const std::string name = "kavi-tn: " + shown_input_ + ": ";
     if (!block.notice.empty()) piece_.notice = name + block.notice + "\n";
     Place place = {block.input, block.number, block.first, 0, {}};
     std::size_t size = block.bytes.size();
@@ -62,9 +63,9 @@ void Renderer::render_text(Place place, After after) {
             const std::string message =
                 describe(diagnostic, place.part({diagnostic.offset, diagnostic.length}));
             piece_.findings.push_back(
-                {diagnostic.finding, shown(place.input) + ":" + std::to_string(place.line) +
-                                         ": byte " + std::to_string(diagnostic.offset) + ": " +
-                                         message + "\n"});
+                {diagnostic.finding, shown_input_ + ":" + std::to_string(place.line) + ": byte " +
+                                         std::to_string(diagnostic.offset) + ": " + message +
+                                         "\n"});
             if (!writes_findings_) return true;
             piece_.findings.back().json = json_line(diagnostic, place.input, place.line, message);
             return true;

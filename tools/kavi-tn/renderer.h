@@ -45,8 +45,9 @@ class Renderer {
 
     char delimiter_;
     bool writes_findings_;
-    Rendered piece_;         // the one at hand
-    std::size_t taken_ = 0;  // bytes of the block that the pieces before it were made from
+    std::string shown_input_;  // the block's, as messages name it
+    Rendered piece_;           // the one at hand
+    std::size_t taken_ = 0;    // bytes of the block that the pieces before it were made from
     TtsHost host_;
     std::unique_ptr<Format> format_;
     std::vector<Diagnostic> diagnostics_;  // of the sentence to come

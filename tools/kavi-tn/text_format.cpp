@@ -213,6 +213,12 @@ class ExplainFormat : public Format {
                 table_.field().add('[', run.sections[i], ']');
             }
             table_.end_field();
+            const std::string_view first = run.sections[0];
+            if (run.is_word && run.reading.size() == first.size() + 1) {  // it, and a blank
+                table_.add("word");
+                table_.add(first);  // which stays where it is, other than the reading
+                return;
+            }
             table_.field() << run.rule;
             table_.end_field();
             table_.field() << run.reading.substr(0, run.reading.find_last_not_of(' ') + 1);

@@ -1,30 +1,11 @@
 #include "sentence_records.h"
 
 #include <algorithm>
-#include <cassert>
 #include <cstring>
 
 namespace kavi::host {
 
 namespace {
-
-// What the words of a text need, in bytes, and how many lists they come in.
-struct Needs {
-    std::size_t syllables = 0;
-    std::size_t zhuyins = 0;
-    int n_lists = 0;
-};
-
-bool add_needs(void* context, const tn::TextEvents& events) {
-    auto& needs = *static_cast<Needs*>(context);
-    for (const tn::TextEvent& event : events) {
-        if (event.kind != tn::TextEventKind::word) continue;
-        needs.syllables += tn::syllable_size(event.text());
-        needs.zhuyins += tn::zhuyin_size(event.text());
-    }
-    ++needs.n_lists;
-    return true;
-}
 
 // Stores words in consecutive records, with consecutive storage.
 struct BlockFiller {
@@ -45,19 +26,18 @@ struct BlockFiller {
 
 }  // namespace
 
-// The block is the records, the room for pronunciations, which is cleared with them, and the words.
-// One list has room for all items of a sentence: no tag interrupts a word there, so no word is put
-// together.
+// The block is the records, the room for pronunciations, which is cleared with them, and the words:
+// as much as the words of such a text may need at most, so that they are looked at once. One list
+// has room for all items of a sentence: no tag interrupts a word there, so no word is put together.
 bool SentenceRecords::build(std::string_view speakable, tn::TextEvents& events) {
-    Needs needs;
-    tn::read_text(speakable, arena_, events, add_needs, &needs);
-    assert(needs.n_lists == 1);
-    const auto n_records = static_cast<std::size_t>(events.n_words()) + 1;
-    const std::size_t array_size = n_records * sizeof(UtteranceSyllable);
-    const std::size_t cleared = array_size + needs.zhuyins;
-    if (!reserve(cleared + needs.syllables)) return false;
+    tn::read_text(
+        speakable, arena_, events, [](void*, const tn::TextEvents&) { return true; }, nullptr);
+    const auto n_words = static_cast<std::size_t>(events.n_words());
+    const std::size_t array_size = (n_words + 1) * sizeof(UtteranceSyllable);
+    const std::size_t cleared = array_size + n_words * tn::ZHUYIN_MIN + tn::zhuyin_size(speakable);
+    if (!reserve(cleared + n_words + speakable.size())) return false;
     std::memset(block_, 0, cleared);
-    size_ = static_cast<int>(n_records);
+    size_ = static_cast<int>(n_words) + 1;
     char* const begin = static_cast<char*>(block_);
     BlockFiller filler = {tn::RecordFiller(static_cast<UtteranceSyllable*>(block_) + 1),
                           begin + array_size, begin + cleared};

@@ -1,6 +1,7 @@
 #include "tts_explain.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "for_host_layer.h"
@@ -53,90 +54,187 @@ constexpr bool are_in_order() {
 }
 static_assert(are_in_order());
 
-std::string_view name_of(const ReadingStep& step, bool is_written) {
-    if (step.outcome == Outcome::full) return "output full";
-    const bool incomplete = step.outcome == Outcome::ended && !is_written;
-    return incomplete ? "incomplete, not read" : RULE_NAMES[static_cast<int>(step.rule)].name;
-}
-
 // Two views of one text, the second directly after the first.
 std::string_view joined(std::string_view first, std::string_view second) {
     return {first.data(), first.size() + second.size()};
 }
 
-// Whether the run is bytes outside ASCII and `section` goes on with a character of theirs.
-bool continues_character(const ExplainedRun& run, std::string_view section) {
-    constexpr unsigned CONTINUATION = 0x80;
-    constexpr unsigned CONTINUATION_MASK = 0xC0;
-    return (static_cast<unsigned char>(section[0]) & CONTINUATION_MASK) == CONTINUATION &&
-           static_cast<unsigned char>(run.sections.back().back()) >= CONTINUATION;
+std::string_view name_of(ReadingRule rule) {
+    return RULE_NAMES[static_cast<int>(rule)].name;
 }
 
-// Adds the sections of a step to a run.
-void add_sections(const ReadingStep& step, ExplainedRun& run) {
-    for (const tn::Token* token = step.first; token != step.end; ++token) {
-        const std::string_view section = token->text();
-        run.source.length += section.size();
-        if (!run.sections.empty() && continues_character(run, section)) {
-            run.sections.back() = joined(run.sections.back(), section);
-        } else {
-            run.sections.push_back(section);
-        }
+std::string_view name_of(const ReadingStep& step, bool is_written) {
+    if (step.outcome == Outcome::full) return "output full";
+    const bool incomplete = step.outcome == Outcome::ended && !is_written;
+    return incomplete ? "incomplete, not read" : name_of(step.rule);
+}
+
+bool is_outside_ascii(char c) {
+    return static_cast<unsigned char>(c) > 0x7f;
+}
+
+bool is_continuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
+
+// The rule of each character that is no letter or digit, by itself: in plain text, no mark depends
+// on what is around it.
+std::array<ReadingRule, 256> find_rules_of_marks() {
+    std::array<ReadingRule, 256> rules{};
+    for (std::size_t i = 1; i < rules.size(); ++i) {
+        const char mark[] = {static_cast<char>(i), '\0'};
+        if (tn::is_letter(mark[0])) continue;  // the lexicon is not asked
+        char speakable[SZ_TEXT_MAX_LEN] = {};
+        tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
+        const tn::ReadingObserver observer = {nullptr,
+                                              [](void* rule, const ReadingStep& step) {
+                                                  *static_cast<ReadingRule*>(rule) = step.rule;
+                                              },
+                                              &rules[i]};
+        tn::read_step_by_step(mark, output, observer);
     }
+    return rules;
 }
 
-// Makes runs of the steps by which a sentence is read to `output`.
+// The rule of a tag or mark in plain text.
+ReadingRule rule_of_mark(std::string_view mark) {
+    static const std::array<ReadingRule, 256> rules = find_rules_of_marks();
+    return mark.size() > 1 ? ReadingRule::markup_tag : rules[static_cast<unsigned char>(mark[0])];
+}
+
+// Makes runs of what is read of a sentence to `speakable`, and calls `on_run` with each, which may
+// change its source.
 template <typename OnRun>
 class RunsOfSentence {
   public:
-    RunsOfSentence(const char* sentence, tn::BoundedText& output, OnRun& on_run)
-        : sentence_(sentence), output_(output), on_run_(on_run) {}
+    RunsOfSentence(const char* sentence, const char* speakable, OnRun& on_run)
+        : sentence_(sentence), speakable_(speakable), next_(sentence), on_run_(on_run) {}
 
+    // There may be blanks of plain text before a step, or before more plain text.
     void add_step(const ReadingStep& step) {
-        if (run_.sections.empty() || !continues_character(run_, step.first->text())) {
-            end();
-            begin(step);
+        add_blanks(step.first->begin);
+        const auto output_length = static_cast<std::size_t>(step.output_length);
+        begin(step.first->text(), name_of(step, output_length > read_to_),
+              step.rule == ReadingRule::word);
+        for (const tn::Token* token = step.first; token != step.end; ++token) {
+            add_section(token->text());
         }
-        add_sections(step, run_);
-        read_to_ = static_cast<std::size_t>(output_.length());
-        run_.reading = {output_.text() + run_.reading_at, read_to_ - run_.reading_at};
+        end_reading(output_length);
     }
 
-    void end() {
-        if (!run_.sections.empty()) on_run_(run_);
+    // Words, with a blank between two, or a tag or mark.
+    void add_plain_text(std::string_view source, int output_length) {
+        add_blanks(source.data());
+        if (tn::is_letter(source[0])) {
+            add_plain_words(source);
+            return;
+        }
+        begin(source, name_of(rule_of_mark(source)), false);
+        add_section(source);
+        end_reading(static_cast<std::size_t>(output_length));
+    }
+
+    // Blanks of plain text up to `end`.
+    void add_blanks(const char* end) {
+        if (next_ == end) return;
+        hand_over();
+        do {
+            add_alone({next_, 1}, ReadingRule::silent, 0);
+        } while (next_ != end);
+    }
+
+    // Hands over the run at hand, if there is one.
+    void hand_over() {
+        if (is_open_) on_run_(run_);
+        is_open_ = false;
     }
 
   private:
-    void begin(const ReadingStep& step) {
-        run_.source = {static_cast<std::size_t>(step.first->begin - sentence_), 0};
-        run_.sections.clear();
+    // One in capitals is alone.
+    void add_plain_words(std::string_view words) {
+        hand_over();
+        const bool is_in_capitals = std::all_of(words.begin(), words.end(), tn::is_upper);
+        const ReadingRule rule = is_in_capitals ? ReadingRule::capital_letters : ReadingRule::word;
+        const char* const end = words.data() + words.size();
+        for (;;) {
+            const char* word_end = next_ + 1;
+            while (word_end != end && *word_end != ' ') ++word_end;
+            const auto size = static_cast<std::size_t>(word_end - next_);
+            add_alone({next_, size}, rule, size + 1);
+            if (word_end == end) return;
+            add_alone({next_, 1}, ReadingRule::silent, 0);
+        }
+    }
+
+    // A section that is a run, which reads to `read` bytes. None is at hand.
+    void add_alone(std::string_view section, ReadingRule rule, std::size_t read) {
+        run_.sections.resize(1);
+        run_.sections[0] = section;
+        run_.source = {static_cast<std::size_t>(section.data() - sentence_), section.size()};
+        run_.reading = {speakable_ + read_to_, read};
         run_.reading_at = read_to_;
-        run_.rule = name_of(step, static_cast<std::size_t>(output_.length()) > read_to_);
-        run_.is_word = step.rule == ReadingRule::word;
+        run_.rule = name_of(rule);
+        run_.is_word = rule == ReadingRule::word;
+        next_ = section.data() + section.size();
+        read_to_ += read;
+        on_run_(run_);
+    }
+
+    // A run begins with `section`, or the one at hand goes on, which ends in the same character.
+    void begin(std::string_view section, std::string_view rule, bool is_word) {
+        if (is_open_ && is_continuation(section[0])) return;
+        hand_over();
+        run_.sections.clear();
+        run_.source = {static_cast<std::size_t>(section.data() - sentence_), 0};
+        run_.reading_at = read_to_;
+        run_.rule = rule;
+        run_.is_word = is_word;
+    }
+
+    void add_section(std::string_view section) {
+        const bool is_same_character = !run_.sections.empty() && is_continuation(section[0]) &&
+                                       is_outside_ascii(run_.sections.back().back());
+        if (is_same_character) {
+            run_.sections.back() = joined(run_.sections.back(), section);
+        } else {
+            run_.sections.push_back(section);
+        }
+        run_.source.length += section.size();
+        next_ = section.data() + section.size();
+    }
+
+    // A run that may go on keeps its reading: the end of the speakable text may yet be changed.
+    void end_reading(std::size_t output_length) {
+        read_to_ = output_length;
+        run_.reading = {speakable_ + run_.reading_at, read_to_ - run_.reading_at};
+        is_open_ = true;
+        if (is_outside_ascii(next_[-1])) {
+            reading_ = run_.reading;
+            run_.reading = reading_;
+        } else {
+            hand_over();
+        }
     }
 
     const char* sentence_;
-    tn::BoundedText& output_;
+    const char* speakable_;
+    const char* next_;  // to be read
     OnRun& on_run_;
     ExplainedRun run_ = {};
-    std::size_t read_to_ = 0;  // of the output, before the step
+    bool is_open_ = false;     // the run has not been handed over, since a character may go on
+    std::string reading_;      // of that
+    std::size_t read_to_ = 0;  // of the output
 };
 
-// Calls `on_run` with each run of a sentence, which reads to `speakable`, SZ_TEXT_MAX_LEN bytes. It
-// may take what the run holds, and that is good as long as these two are.
-template <typename OnRun>
-void walk(const char* sentence, char* speakable, OnRun on_run) {
-    speakable[0] = '\0';
-    tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
-    RunsOfSentence runs(sentence, output, on_run);
-    const tn::ReadingObserver observer = {
-        nullptr,  // there is no plain text: all is read step by step
-        [](void* context, const ReadingStep& step) {
-            static_cast<RunsOfSentence<OnRun>*>(context)->add_step(step);
+// How a sentence is read to `runs`.
+template <typename Runs>
+tn::ReadingObserver observer_of(Runs& runs) {
+    return {
+        [](void* context, std::string_view source, int output_length) {
+            static_cast<Runs*>(context)->add_plain_text(source, output_length);
         },
+        [](void* context, const ReadingStep& step) { static_cast<Runs*>(context)->add_step(step); },
         &runs};
-    tn::read_step_by_step(sentence, output, observer);
-    runs.end();
 }
 
 // The runs of a sentence as runs of the text that it was read from.
@@ -151,7 +249,7 @@ class RunsOfText {
           piece_(sentence.places.pieces().data()),
           last_piece_(&sentence.places.pieces().back()) {}
 
-    // The next run of the sentence; takes what it holds.
+    // The next run of the sentence, whose source becomes that in the text.
     void add(ExplainedRun& run) {
         const std::size_t at = run.source.offset;
         if (sources_.is_copied(at, run.source.length)) {  // as most are
@@ -167,22 +265,20 @@ class RunsOfText {
             // They share source, as the words of an abbreviation do.
             const std::size_t end = run.source.offset + run.source.length;
             run_.source.length = std::max(run_.source.length, end - run_.source.offset);
-            run_.reading = joined(run_.reading, run.reading);
+            reading_ += run.reading;
             return;
         }
         end();
-        run_.sections.swap(run.sections);
-        run_.source = run.source;
-        run_.reading = run.reading;
-        run_.reading_at = run.reading_at;
-        run_.rule = run.rule;
-        run_.is_word = run.is_word;
+        run_ = run;
+        reading_ = run.reading;
         any_ = true;
         rewrite(at);
     }
 
     void end() {
-        if (any_) on_run_(run_);
+        if (!any_) return;
+        run_.reading = reading_;
+        on_run_(run_);
     }
 
   private:
@@ -209,22 +305,37 @@ class RunsOfText {
     const SourcePiece* last_piece_;
     ExplainedRun run_ = {};  // the last one, which the next may go on
     bool any_ = false;
-    std::string rule_;  // of that, with the line that says so
+    std::string reading_;  // of that
+    std::string rule_;     // of that, with the line that says so
 };
 
 }  // namespace
 
 void explain(std::string_view normalized, const RunHandler& on_run) {
+    const std::string sentence(normalized);
     char speakable[SZ_TEXT_MAX_LEN];
-    walk(std::string(normalized).c_str(), speakable, on_run);
+    speakable[0] = '\0';
+    tn::BoundedText output(speakable, SZ_TEXT_MAX_LEN);
+    RunsOfSentence runs(sentence.c_str(), speakable, on_run);
+    tn::read_step_by_step(sentence.c_str(), output, observer_of(runs));
+    runs.hand_over();
 }
 
+// What is handed over while plain text and patterns are read in turn is as read: only after all of
+// it are characters that are no letters taken from the speakable text.
 void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run,
              std::size_t text_begin) {
+    const char* const normalized = sentence.normalized.data();
     char speakable[SZ_TEXT_MAX_LEN];
-    RunsOfText runs(sentence, text, text_begin, on_run);
-    walk(sentence.normalized.data(), speakable, [&](ExplainedRun& run) { runs.add(run); });
-    runs.end();
+    speakable[0] = '\0';
+    RunsOfText runs_of_text(sentence, text, text_begin, on_run);
+    const auto on_run_of_sentence = [&](ExplainedRun& run) { runs_of_text.add(run); };
+    RunsOfSentence runs(normalized, speakable, on_run_of_sentence);
+    const tn::ReadingObserver observer = observer_of(runs);
+    tn::tokenize(normalized, speakable, &observer);
+    runs.add_blanks(normalized + sentence.normalized.size());
+    runs.hand_over();
+    runs_of_text.end();
 }
 
 }  // namespace kavi

@@ -21,7 +21,7 @@ cmake_host() {
     mkdir "$name"
     cp "$source/examples/link_the_engine.cpp" "$name"
     cat >"$name/CMakeLists.txt" <<TXT
-cmake_minimum_required(VERSION 3.22)
+cmake_minimum_required(VERSION 3.25)
 project(host CXX)
 $lines
 add_executable(host link_the_engine.cpp)

@@ -6,7 +6,7 @@
 # A table begins with remarks, lines of "#" and a blank; the last of them names the columns. Each other line is a
 # row: a field for each column, with tabs between them. The rows of an array are in the order of `written`, byte
 # by byte. Every row that is wrong is told with its file and line.
-cmake_minimum_required(VERSION 3.22)
+cmake_minimum_required(VERSION 3.25)
 
 # Moves what is before the first such mark in the variable `from`, or all of it, to the variable `to`.
 function(take_part from mark to)

@@ -2,7 +2,7 @@
 # and what it has after them.
 #
 #     cmake -D FOLDER=build/page -P tools/kavi-tn/page/make_page.cmake
-cmake_minimum_required(VERSION 3.22)
+cmake_minimum_required(VERSION 3.25)
 
 file(READ ${CMAKE_CURRENT_LIST_DIR}/page.html text)
 foreach(file IN ITEMS page.css page.js)

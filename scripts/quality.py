@@ -20,7 +20,7 @@ READERS = {"engine": [TOOL, "--plain"], "everyday": [TOOL, "--plain", "--everyda
 if not ONLY_RULES:
     READERS["flite"] = [FLITE]
 # The least share of the open cases that is right, in percent: what has been reached, so that no change loses it.
-GOALS = {"real": 97, "traps": 95, "modern": 58, "pairs": 62}
+GOALS = {"real": 97, "traps": 95, "modern": 69, "pairs": 80, "classes": 71}
 REGRESSION_GOAL = 0.98
 
 
@@ -84,7 +84,7 @@ def main():
     table = ["| text | cases | engine | everyday | flite |", "|---|---|---|---|---|"]
     all_lost, still, faults, sealed_lost = [], [], [], 0
     for name, goal in GOALS.items():
-        for part in ("open",) if ONLY_RULES else ("open", "sealed"):
+        for part in ("open",) if ONLY_RULES or name == "classes" else ("open", "sealed"):
             rows, lost, missed, reached = rows_of(name, part)
             table += rows
             if part == "sealed":  # the cases stay unread

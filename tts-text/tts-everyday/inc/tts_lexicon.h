@@ -4,10 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace kavi {
@@ -48,7 +48,7 @@ class Lexicon {
   private:
     // What is written, token by token: each node is known by the one before it and its token.
     struct Tree {
-        std::unordered_map<std::string, std::uint32_t> nodes;
+        std::map<std::string, std::uint32_t> nodes;
         std::vector<std::size_t> entries{NONE};  // by node; the first is the root
 
         bool add(std::string_view written, std::size_t entry);

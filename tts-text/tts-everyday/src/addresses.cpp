@@ -13,11 +13,13 @@ bool may_end_number(const Place& place, std::size_t end) {
            !((after == '-' || after == '.') && is_digit(place.peek(end + 1)));
 }
 
-// Whether a shape may begin with the digits at the cursor: one or three, a mark, and more.
+// Whether a shape may begin with the digits at the cursor: one or three, or "0" and more, a mark,
+// and more.
 bool may_begin_shape(const Place& place) {
     const std::size_t n_digits = place.run(is_digit);
     const char second = place.peek(n_digits + 1);
-    return (n_digits == 1 || n_digits == 3) && (is_digit(second) || second == '(');
+    return (n_digits == 1 || n_digits == 3 || place.peek() == '0') &&
+           (is_digit(second) || second == '(');
 }
 
 // The longest shape of a telephone number at the cursor, or empty; "d" in a shape is any digit.

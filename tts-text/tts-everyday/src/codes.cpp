@@ -112,8 +112,9 @@ void read_long_code(const Place& place, Found& found) {
         ++n_hyphens;
     }
     const bool is_long = end >= LEAST_DIGITS + static_cast<std::size_t>(n_hyphens);
+    const bool is_zip = n_hyphens == 1 && end == 10 && place.peek(5) == '-';  // "10013-1104"
     const bool begins_with_date = place.peek(4) == '-' && place.peek(7) == '-';
-    if (n_hyphens < 3 || !is_long || begins_with_date) return;
+    if ((n_hyphens < 3 && !is_zip) || !is_long || begins_with_date) return;
     if (place.is_joined(end) || place.peek(end) == '-') return;
     for (std::size_t at = 0; at < end; at += place.digits(at).size() + 1) {
         say_digits(place.digits(at), found.words);
@@ -193,7 +194,7 @@ void read_numbered(const Place& place, Found& found) {
     }
     if (place.before() != ' ' || (place.peek(end) != '-' && goes_on(place, end))) return;
     const bool is_emergency = find(EMERGENCY_NUMBERS, digits) != nullptr && place.dash(end) == 0 &&
-                              find(BEFORE_DIALLED, in_lower_case(place.word_before())) != nullptr;
+                              find_lower(BEFORE_DIALLED, place.word_before()) != nullptr;
     if (!is_emergency) return read_after_name(place, digits, found);
     say_digits(digits, found.words);
     found.length = end;

@@ -6,20 +6,35 @@ namespace kavi::everyday {
 
 namespace {
 
-// "35 km SW of Hilo", "2 miles W of"; "vitamin E of" is none
+// "22nd"
+bool is_ordinal(const Place& place, std::size_t ahead) {
+    const std::string_view digits = place.digits(ahead);
+    return !digits.empty() &&
+           find(ORDINAL_SUFFIXES, place.letters(ahead + digits.size())) != nullptr;
+}
+
+// "35 km SW of Hilo", "2 miles W of", "from the SW"; "vitamin E of" is none
 bool is_direction(const Place& place, std::string_view letters) {
-    if (!place.starts_with(" of ", letters.size()) || place.before() != ' ') return false;
     const std::string_view before = place.word_before();
+    const bool is_after_the = before == "the" && letters.size() > 1 && !place.is_joined(2) &&
+                              !(place.peek(2) == ' ' && is_upper(place.peek(3)));
+    if (is_after_the) return true;
+    if (!place.starts_with(" of ", letters.size()) || place.before() != ' ') return false;
     return letters.size() > 1 || before == "blocks" || before == "just" ||
            find(UNITS, before) != nullptr || find(COUNTED_NOUNS, before) != nullptr;
 }
 
 }  // namespace
 
-bool is_ordinal(const Place& place, std::size_t ahead) {
-    const std::string_view digits = place.digits(ahead);
-    return !digits.empty() &&
-           find(ORDINAL_SUFFIXES, place.letters(ahead + digits.size())) != nullptr;
+// "22nd", "Oak Ln"
+bool is_street(const Place& place, std::size_t ahead) {
+    const std::string_view name = place.letters(ahead);
+    if (name.empty()) return is_ordinal(place, ahead);
+    const std::size_t blank = ahead + name.size();
+    if (!is_upper(name[0]) || place.peek(blank) != ' ') return false;
+    const std::string_view word = place.letters(blank + 1);
+    const Row* title = find(TITLES, word);
+    return word == "St" || word == "Street" || (title != nullptr && title->kind == Kind::after);
 }
 
 // "12 E. Elm St.", "E. 42nd St."
@@ -38,7 +53,7 @@ bool read_compass_point(const Place& place, Found& found) {
     return true;
 }
 
-// "40 W 22nd St", "SW of Hilo"
+// "40 W 22nd St", "305 W Oak Ln", "SW of Hilo"
 bool read_bare_compass_point(const Place& place, Found& found) {
     const std::string_view letters = place.letters();
     if (place.is_joined_before()) return false;
@@ -46,7 +61,7 @@ bool read_bare_compass_point(const Place& place, Found& found) {
     if (row == nullptr) return false;
     const bool is_of_street = place.before() == ' ' && is_digit(place.before(2)) &&
                               place.peek(letters.size()) == ' ' &&
-                              is_ordinal(place, letters.size() + 1);
+                              is_street(place, letters.size() + 1);
     if (!is_of_street && !is_direction(place, letters)) return false;
     found.say_name(0, letters.size(), row->spoken());
     found.length = letters.size();

@@ -134,7 +134,7 @@ void read_contraction(const Place& place, Found& found) {
         }
     } else if (const Row* row = find(CONTRACTION_ENDINGS, lower)) {
         say(row->spoken(), found.words);
-    } else if (lower == "s" && find(BEFORE_IS, in_lower_case(stem)) != nullptr) {
+    } else if (lower == "s" && find_lower(BEFORE_IS, stem) != nullptr) {
         say(is_has(place, found.length) ? "has" : "is", found.words);
     } else {
         found.words += ending;  // "Tom's", "O'Brien"

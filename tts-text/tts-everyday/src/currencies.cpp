@@ -14,7 +14,7 @@ const char* scale_at(const Place& place, std::size_t ahead, bool has_sign, std::
     const Row* row = find(SCALES, word);
     if (row == nullptr || (blank > 0 && row->kind == Kind::glued && !has_sign)) return nullptr;
     length = blank + word.size();
-    return row->spoken();
+    return row->spoken().data();
 }
 
 // `symbol` is where the currency is written.

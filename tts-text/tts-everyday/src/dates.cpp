@@ -151,12 +151,13 @@ std::string_view year_after(const Place& place, std::size_t ahead, std::size_t& 
     return year;
 }
 
-// "March 10 miles", but "On March 10 people met"
+// "March 10 miles", "in May 12 people", but "On March 10 people met"
 bool is_count_after(const Place& place, std::size_t ahead) {
     if (place.peek(ahead) != ' ' || find(COUNTED_NOUNS, place.letters(ahead + 1)) == nullptr)
         return false;
     const std::string before = in_lower_case(place.word_before());
-    return find(BEFORE_MONTH, before) == nullptr && find(BEFORE_DAY, before) == nullptr;
+    return before == "in" ||
+           (find(BEFORE_MONTH, before) == nullptr && find(BEFORE_DAY, before) == nullptr);
 }
 
 // What follows a month at offset `ahead`: "5, 2021", "5-7".
@@ -211,8 +212,11 @@ bool read_dashed_date(const Place& place, Found& found) {
     const std::string_view day = place.digits();
     if (!is_value(day, 1, 31) || place.peek(day.size()) != '-') return false;
     const std::string_view name = place.letters(day.size() + 1);
+    if (name.empty()) return false;
     const std::size_t dash = day.size() + 1 + name.size();
-    const Month month = {month_number(name), day.size() + 1, name.size()};
+    std::string title = in_lower_case(name);  // "15-MAR-2007"
+    title[0] = name[0];
+    const Month month = {month_number(title), day.size() + 1, name.size()};
     const std::string_view year = place.digits(dash + 1);
     const std::size_t end = dash + 1 + year.size();
     if (month.number == 0 || place.peek(dash) != '-' || place.is_joined(end)) return false;

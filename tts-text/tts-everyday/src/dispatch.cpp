@@ -73,7 +73,7 @@ constexpr RuleEntry RULES[] = {
     {EverydayClass::numbers, read_code, "aA", "0"},
     {EverydayClass::numbers, read_sign, "-#~+&\x7f", ""},
     {EverydayClass::marks, read_slashed_words, "aA", "/"},
-    {EverydayClass::marks, read_mark, "*<>|#+~/.-=!^$\x7f", ""},
+    {EverydayClass::marks, read_mark, "*<>|#+~/.-=!^$\\\x7f", ""},
     {EverydayClass::marks, read_named_mark, "(\x7f", ""},
     {EverydayClass::shields, read_shield, ".", ""},
     {EverydayClass::letters, read_letters, "aA\x7f", "\x7f"},

@@ -48,6 +48,12 @@ bool read_whole_and_sign(const Place& place, std::string_view whole, Found& foun
     }
     say(part, found.words);
     found.length = at + sign->written().size();
+    const std::size_t dash = place.dash(found.length);
+    if (dash > 0 && is_digit(place.peek(found.length + dash))) {  // "1½–2 hrs"
+        say("to", found.words);
+        found.length += dash;
+        return true;
+    }
     read_unit_after(place, false, found);
     return true;
 }
@@ -103,9 +109,9 @@ const char* words_between(const Place& place, std::string_view above, std::strin
     if (is_rating(place, above, below, end)) return "out of";
     if (has_odds(place, end) || (below == "1" && place.word_before() == "at")) return "to";
     if (below == "1" && !place.is_joined(end)) return "over";
-    if (const Row* row = find(BEFORE_SLASH, in_lower_case(place.word_before()))) {
+    if (const Row* row = find_lower(BEFORE_SLASH, place.word_before())) {
         const bool is_mark = is_best_mark(below) && !is_less(below, above);
-        if (is_mark || std::string_view(row->spoken()) == "of") return row->spoken();
+        if (is_mark || row->spoken() == "of") return row->spoken().data();
     }
     if (above == below && above.size() < 4 && above != "1") {  // "20/20"
         const bool is_sight =

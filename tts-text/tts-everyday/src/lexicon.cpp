@@ -119,11 +119,9 @@ const char* Lexicon::add_line(std::string_view line, const std::shared_ptr<const
 
 bool Lexicon::add(const std::string& file, std::string_view bytes, std::string& error) {
     constexpr std::string_view BYTE_ORDER_MARK = "\xef\xbb\xbf";
-    constexpr std::size_t BYTES_OF_LINE = 24;
     error.clear();
     if (bytes.substr(0, BYTE_ORDER_MARK.size()) == BYTE_ORDER_MARK)
         bytes.remove_prefix(BYTE_ORDER_MARK.size());
-    for (Tree* tree : {&exact_, &any_case_}) tree->nodes.reserve(bytes.size() / BYTES_OF_LINE);
     const auto shared_file = std::make_shared<const std::string>(file);
     std::size_t n_faults = 0;
     for (std::size_t number = 1; !bytes.empty(); ++number) {

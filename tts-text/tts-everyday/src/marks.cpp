@@ -29,7 +29,7 @@ bool read_hash(const Place& place, Found& found) {
         found.words = "number";
     } else if (begins_word(place) && place.letter(1) > 0) {
         found.words = "hash";
-    } else if (const Row* row = find(BEFORE_HASH, in_lower_case(place.word_before()));
+    } else if (const Row* row = find_lower(BEFORE_HASH, place.word_before());
                row != nullptr && before == ' ' && is_blank_or_end(place.peek(1))) {
         found.words = row->spoken();
     } else {
@@ -43,6 +43,14 @@ bool read_tilde(const Place& place, Found& found) {
     const bool is_name = begins_word(place) && (place.peek(1) == '/' || place.letter(1) > 0);
     found.length = 1;
     if (is_name) found.words = "tilde";
+    return true;
+}
+
+// "C:\\temp", "\\alpha"
+bool read_backslash(const Place& place, Found& found) {
+    if (!place.is_joined(1)) return false;
+    found.length = 1;
+    found.words = "backslash";
     return true;
 }
 
@@ -79,8 +87,7 @@ bool is_dot_inside(const Place& place) {
     if (last.empty() || place.before() == '*') return !last.empty();
     const bool is_initial = is_letter(place.before()) && !place.is_joined_before(1);
     if (!place.is_joined_before() || is_initial) return false;
-    return place.run(is_lower, 1) == last.size() ||
-           find(EXTENSIONS, in_lower_case(last)) != nullptr;
+    return place.run(is_lower, 1) == last.size() || find_lower(EXTENSIONS, last) != nullptr;
 }
 
 // ".us", ".EXE", ".Xauthority", "./configure", "../lib"; not " .Then".
@@ -137,6 +144,7 @@ bool read_one_mark(const Place& place, Found& found) {
         case '#': return read_hash(place, found);
         case '+': return read_plus(place, found);
         case '~': return read_tilde(place, found);
+        case '\\': return read_backslash(place, found);
         case '/': return read_operator(place, found) || read_slash(place, found);
         case '.': return read_dot(place, found);
         case '-':
@@ -166,7 +174,7 @@ void read_slashed_words(const Place& place, Found& found) {
     if (place.peek(slash) != '/' || place.before() == '/' || place.before() == '.') return;
     const std::size_t length = slash + 1 + place.run(is_letter, slash + 1);
     if (place.peek(length) == '/' || place.is_joined(length)) return;
-    const Row* row = find(SLASHED_WORDS, in_lower_case(place.part(0, length)));
+    const Row* row = find_lower(SLASHED_WORDS, place.part(0, length));
     if (row == nullptr) return;
     found.length = length;
     found.words = row->spoken();

@@ -9,12 +9,15 @@ namespace {
 
 bool read_ordinal(const Place& place, const Number& number, Found& found) {
     if (!number.fraction.empty()) return false;
-    const Row* suffix = place.find_row(ORDINAL_SUFFIXES, number.length, [&](const Row& row) {
-        return !place.is_joined(number.length + row.written().size());
-    });
+    const Row* suffix = place.find_row(ORDINAL_SUFFIXES, number.length);
     if (suffix == nullptr) return false;
+    std::size_t end = number.length + suffix->written().size();
+    const bool is_many = place.peek(end) == 's';  // "cut into 12ths"
+    if (is_many) ++end;
+    if (place.is_joined(end)) return false;
     say_ordinal(number.digits(), found.words);
-    found.length = number.length + suffix->written().size();
+    if (is_many) found.words += 's';
+    found.length = end;
     return true;
 }
 
@@ -24,7 +27,9 @@ bool read_house_number(const Place& place, const Number& number, Found& found) {
     const bool is_one = end > 2 && place.digits().size() == end && is_upper(place.peek(end)) &&
                         !place.is_joined(end + 1);
     if (!is_one) return false;
-    say_digits(number.whole, found.words);
+    const char letter = place.peek(end);
+    const bool is_hot = (letter == 'C' || letter == 'F') && end == 3 && number.whole[2] == '0';
+    is_hot ? number.say(found.words) : say_digits(number.whole, found.words);  // "200C"
     found.length = end;
     return true;
 }
@@ -74,7 +79,7 @@ bool read_record(const Place& place, const Number& number, Found& found) {
 // "Fig. 3-2", "Table 4-1"
 bool is_after_figure(const Place& place) {
     const std::size_t stop = place.before(2) == '.' ? 2 : 0;
-    return find(BEFORE_FIGURE, in_lower_case(place.word_before(stop))) != nullptr;
+    return find_lower(BEFORE_FIGURE, place.word_before(stop)) != nullptr;
 }
 
 // "10-20", "3–2"; not "1-2-3"
@@ -261,7 +266,7 @@ bool read_calibre(const Place& place, Found& found) {
     const std::size_t end = 1 + digits.size();
     const char after = place.peek(end);
     const bool is_joined = after == ' ' || after == '-';
-    const bool has_gun = is_joined && find(GUNS, in_lower_case(place.letters(end + 1))) != nullptr;
+    const bool has_gun = is_joined && find_lower(GUNS, place.letters(end + 1)) != nullptr;
     const bool is_alone = place.word_before() == "a" && !is_joined && !place.is_joined(end) &&
                           after != '%' && !is_digit(place.peek(end + 1));
     if (!has_gun && !is_alone) return false;
@@ -320,6 +325,9 @@ void read_sign(const Place& place, Found& found) {
     if (const Row* fraction = fraction_sign_at(place, 0)) {
         found.words = fraction->spoken();
         found.length = fraction->written().size();
+        const bool is_half = found.words == "one half" && place.peek(found.length) == '-' &&
+                             is_letter(place.peek(found.length + 1));
+        if (is_half) found.words = "half";  // "½-price"
         read_unit_after(place, true, found);
         return;
     }

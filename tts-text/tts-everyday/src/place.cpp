@@ -4,6 +4,10 @@
 
 namespace kavi::everyday {
 
+const Row* find_lower(const Table& table, std::string_view word) {
+    return find(table, in_lower_case(word));
+}
+
 std::size_t Place::letter(std::size_t ahead) const {
     if (is_letter(peek(ahead))) return 1;
     if (!is_outside_ascii(peek(ahead))) return 0;
@@ -50,7 +54,7 @@ std::string_view Place::word_before(std::size_t back) const {
 
 bool Place::is_before_noun(std::size_t ahead) const {
     if (peek(ahead) != ' ' || !is_lower(peek(ahead + 1))) return false;
-    const Row* determiner = find(DETERMINERS, in_lower_case(word_before()));
+    const Row* determiner = find_lower(DETERMINERS, word_before());
     if (determiner == nullptr) return false;
     const std::string_view noun = letters(ahead + 1);
     // "the $5 owed", "his $5 leaving"

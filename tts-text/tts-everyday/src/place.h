@@ -30,6 +30,9 @@ inline std::string in_lower_case(std::string_view text) {
     return lower;
 }
 
+// The row for all of a word, in small letters; or null.
+const Row* find_lower(const Table& table, std::string_view word);
+
 // The bytes that a rule may read from the cursor on, and before it.
 constexpr std::size_t LOOK_AHEAD = 256;
 constexpr std::size_t LOOK_BACK = 64;

@@ -54,7 +54,7 @@ bool may_be_quoted(const Place& place) {
 // "17\" disks", but "12\" long"
 bool is_adjective(const Place& place, std::size_t end, std::string_view next) {
     constexpr std::string_view MEASURED[] = {"deep", "high", "long", "tall", "thick", "wide"};
-    if (next.empty() || find(NO_NOUNS, in_lower_case(next)) != nullptr) return false;
+    if (next.empty() || find_lower(NO_NOUNS, next) != nullptr) return false;
     return place.is_before_noun(end) ||
            std::find(std::begin(MEASURED), std::end(MEASURED), next) == std::end(MEASURED);
 }

@@ -14,15 +14,17 @@ int value_of_letter(char c) {
         case 'X': return 10;
         case 'L': return 50;
         case 'C': return 100;
+        case 'D': return 500;
+        case 'M': return 1000;
         default: return 0;
     }
 }
 
-// Below 400.
+// Below 4000.
 std::string roman_of(int value) {
     constexpr std::pair<int, const char*> STEPS[] = {
-        {100, "C"}, {90, "XC"}, {50, "L"}, {40, "XL"}, {10, "X"},
-        {9, "IX"},  {5, "V"},   {4, "IV"}, {1, "I"},
+        {1000, "M"}, {900, "CM"}, {500, "D"}, {400, "CD"}, {100, "C"}, {90, "XC"}, {50, "L"},
+        {40, "XL"},  {10, "X"},   {9, "IX"},  {5, "V"},    {4, "IV"},  {1, "I"},
     };
     std::string numeral;
     for (const auto& [step, letters] : STEPS) {
@@ -118,7 +120,8 @@ Counting counting_after(const Place& place, std::string_view numeral) {
     const bool has_stop = place.before(back + 2) == '.';  // "Vol. IV"
     const std::string_view counted = has_stop ? place.letters_before(back + 2) : before;
     const Row* title = has_stop ? find(TITLES, counted) : nullptr;
-    const bool is_counted = has_stop ? title != nullptr && title->kind == Kind::before_number
+    const bool is_counted = has_stop ? title != nullptr && (title->kind == Kind::before_number ||
+                                                            title->kind == Kind::both)
                                      : is_counted_by_roman(counted);
     if (is_counted) {
         const bool is_speaker = is_lower(counted[0]) && numeral == "I" && !has_numeral_after(place);
@@ -131,11 +134,23 @@ Counting counting_after(const Place& place, std::string_view numeral) {
     return is_person(place, back, before) ? Counting::ordinal : Counting::cardinal;
 }
 
+// "the XIXth century"
+bool read_roman_ordinal(const Place& place, std::string_view numeral, Found& found) {
+    if (numeral.size() < 3 || !is_lower(numeral.back()) ||
+        find(ORDINAL_SUFFIXES, numeral.substr(numeral.size() - 2)) == nullptr)
+        return false;
+    const int value = value_of_roman(numeral.substr(0, numeral.size() - 2));
+    if (value == 0 || place.is_joined(numeral.size())) return false;
+    say_ordinal(std::to_string(value), found.words);
+    found.length = numeral.size();
+    return true;
+}
+
 }  // namespace
 
 int value_of_roman(std::string_view numeral) {
     int value = 0;
-    constexpr std::size_t LONGEST = 9;
+    constexpr std::size_t LONGEST = 15;
     if (numeral.size() > LONGEST) return 0;
     for (std::size_t i = 0; i < numeral.size(); ++i) {
         const int here = value_of_letter(numeral[i]);
@@ -153,10 +168,18 @@ void read_roman(const Place& place, Found& found) {
         found.length = numeral.size();
         return;
     }
-    if (value_of_letter(place.peek()) == 0 || numeral == "C") return;
+    if (value_of_letter(place.peek()) == 0 || numeral == "C" || numeral == "D" || numeral == "M")
+        return;
+    if (read_roman_ordinal(place, numeral, found)) return;
     const int value = value_of_roman(numeral);
     if (value == 0 || place.letter(numeral.size()) > 0) return;
     std::size_t end = numeral.size();
+    constexpr int FIRST_YEAR = 1000;
+    if (value >= FIRST_YEAR && end > 3) {  // "MCMLXXXIV"
+        say_year(std::to_string(value), found.words);
+        found.length = end;
+        return;
+    }
     const std::size_t mark = place.apostrophe(end);
     const bool is_genitive =
         mark > 0 && place.peek(end + mark) == 's' && !place.is_joined(end + mark + 1);

@@ -71,7 +71,8 @@ void read_slashed_words(const Place& place, Found& found);
 constexpr bool is_bare_title(const Row& row) {
     const std::size_t end = row.written().find_first_of(" .");
     if (end != std::string_view::npos) return row.written()[end] == ' ';
-    return row.kind == Kind::never || row.kind == Kind::before_date || row.kind == Kind::after;
+    return row.kind == Kind::never || row.kind == Kind::before_date || row.kind == Kind::after ||
+           row.kind == Kind::both;
 }
 
 // Appends "per" and the unit after a slash at offset `ahead`. Returns their length, 0 if none;
@@ -88,8 +89,8 @@ bool read_compass_point(const Place& place, Found& found);
 bool read_bare_compass_point(const Place& place, Found& found);
 // Says one after a blank at offset `ahead`. Returns its length with the blank, 0 if none.
 std::size_t say_compass_after(const Place& place, std::size_t ahead, std::string& out);
-// Whether an ordinal number is at `ahead`: "22nd".
-bool is_ordinal(const Place& place, std::size_t ahead);
+// Whether a street's name is at `ahead`, after a point of the compass.
+bool is_street(const Place& place, std::size_t ahead);
 
 // Takes the inches after a fraction: "3/4" thick"; primes.cpp.
 bool read_inches_after(const Place& place, Found& found);

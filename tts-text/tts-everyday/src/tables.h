@@ -49,7 +49,11 @@ struct Row {
 
     // Not empty; no two of a table are the same.
     constexpr std::string_view written() const { return {TEXT_OF_TABLES + at, length}; }
-    const char* spoken() const { return TEXT_OF_TABLES + at + spoken_at; }
+    // NUL after it, unless the row has a word for many that goes on with an "s".
+    std::string_view spoken() const {
+        const std::string_view words = TEXT_OF_TABLES + at + spoken_at;
+        return words.substr(0, words.size() - (many_at == spoken_at && !words.empty() ? 1 : 0));
+    }
     const char* many() const { return TEXT_OF_TABLES + at + many_at; }
 };
 static_assert(sizeof TEXT_OF_TABLES <= 65536);

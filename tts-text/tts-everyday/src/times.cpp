@@ -142,6 +142,10 @@ bool read_military(const Place& place, std::string_view digits, Found& found) {
         say_cardinal(minutes, found.words);
     }
     found.length = digits.size();
+    if (place.starts_with(" hrs", 4)) {
+        say("hours", found.words);
+        found.length += 4;
+    }
     return true;
 }
 
@@ -209,6 +213,9 @@ void read_time(const Place& place, Found& found) {
     const Clock time = clock_at(place, 0);
     if (time.length == 0 || read_time_range(place, time, found)) return;
     if (time.half == nullptr && (time.minutes.empty() || place.letter(time.length) > 0)) return;
+    const bool is_ratio = place.peek(time.length) == ' ' &&
+                          find(RATIO_NOUNS, place.letters(time.length + 1)) != nullptr;
+    if (is_ratio) return;  // "a 1:10 dilution"
     say_time(time, time.half != nullptr, found.words);
     found.length = time.length;
 }

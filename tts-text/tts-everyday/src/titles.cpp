@@ -1,5 +1,7 @@
 // Titles and abbreviations, with or without their full stop.
 
+#include <array>
+
 #include "rules.h"
 
 namespace kavi::everyday {
@@ -17,7 +19,8 @@ void take_genitive(const Place& place, Found& found) {
 }
 
 // Takes the full stop after `length` characters too, unless it may end the sentence.
-void take(const Place& place, std::size_t length, const char* spoken, bool may_end, Found& found) {
+void take(const Place& place, std::size_t length, std::string_view spoken, bool may_end,
+          Found& found) {
     const bool keeps_stop = may_end && place.may_end_sentence(length + 1);
     found.length = length + (place.peek(length) == '.' && !keeps_stop ? 1 : 0);
     found.say_name(0, length, spoken);
@@ -161,7 +164,7 @@ bool read_sister(const Place& place, Found& found) {
 bool read_county(const Place& place, Found& found) {
     const bool is_one = place.starts_with("Co. ") && is_upper(place.peek(4)) &&
                         is_lower(place.peek(5)) &&
-                        find(BEFORE_PLACE, in_lower_case(place.word_before())) != nullptr;
+                        find_lower(BEFORE_PLACE, place.word_before()) != nullptr;
     if (is_one) take(place, 2, "county", false, found);
     return is_one;
 }
@@ -186,8 +189,7 @@ bool read_word_of_life(const Place& place, Found& found) {
 // "Did he? No. 5 had", "Say no. 9 times out of 10"
 bool is_answer(const Place& place) {
     return place.before() == ' ' &&
-           (place.before(2) == '?' ||
-            find(BEFORE_ANSWER, in_lower_case(place.word_before())) != nullptr);
+           (place.before(2) == '?' || find_lower(BEFORE_ANSWER, place.word_before()) != nullptr);
 }
 
 bool is_name(std::string_view word) {
@@ -207,6 +209,8 @@ bool fits(const Place& place, const Row& row) {
     if (is_day && after != '.') return is_date_part(place, length);
     if (row.kind == Kind::after && after != '.')
         return !place.is_joined(length) && place.before() == ' ' && is_name(place.word_before());
+    if (row.kind == Kind::both)
+        return is_before_number(place, length + (after == '.' ? 1 : 0)) && !is_letter(after);
     if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');
     switch (row.kind) {
         case Kind::before_number:
@@ -221,23 +225,24 @@ bool fits(const Place& place, const Row& row) {
     }
 }
 
-// A bit for the first two letters of a word.
-constexpr std::uint64_t bit_of_begin(char first, char second) {
-    constexpr unsigned FACTOR = 5;
-    return std::uint64_t{1} << (static_cast<unsigned char>(first) * FACTOR +
-                                static_cast<unsigned char>(second)) %
-                                   64;
+// Where BARE_BEGINS tells of the first two letters of a word.
+constexpr std::size_t N_BEGINS = 256;
+constexpr std::size_t slot_of_begin(char first, char second) {
+    constexpr unsigned FACTOR = 37;
+    return (static_cast<unsigned char>(first) * FACTOR + static_cast<unsigned char>(second)) %
+           N_BEGINS;
 }
 
-// The bits of titles that may have no full stop: most other words have none of these.
-constexpr std::uint64_t BARE_BEGINS = [] {
-    std::uint64_t bits = bit_of_begin('S', 't');  // "St Pancras"
+// Whether a title that may have no full stop begins so: most other words do not.
+constexpr auto BARE_BEGINS = [] {
+    std::array<bool, N_BEGINS> begins{};
+    begins[slot_of_begin('S', 't')] = true;  // "St Pancras"
     for (const Row& row : TITLES) {
         const std::string_view written = row.written();
         const char second = written.size() > 1 ? written[1] : '\0';
-        if (is_bare_title(row)) bits |= bit_of_begin(written[0], second);
+        if (is_bare_title(row)) begins[slot_of_begin(written[0], second)] = true;
     }
-    return bits;
+    return begins;
 }();
 
 bool read_row(const Place& place, Found& found) {
@@ -264,7 +269,7 @@ void read_title(const Place& place, Found& found) {
 }
 
 void read_bare_title(const Place& place, Found& found) {
-    if ((BARE_BEGINS & bit_of_begin(place.peek(), place.peek(1))) == 0) return;
+    if (!BARE_BEGINS[slot_of_begin(place.peek(), place.peek(1))]) return;
     if (read_drive(place, found) || read_days_of_week(place, found)) return;
     if (!read_bare_saint(place, found)) read_row(place, found);
 }

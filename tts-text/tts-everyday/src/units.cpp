@@ -23,7 +23,8 @@ bool fits_unit(const Place& place, const Row& row, std::size_t ahead) {
     const std::size_t end = ahead + row.written().size();
     if (place.is_joined(end)) return false;
     if (row.written() == "g" && place.word_before() == "at") return false;  // "at 6 g"
-    if (row.written() == "W" && is_ordinal(place, end + 1)) return false;   // "40 W 22nd St"
+    if (row.written() == "W" && is_street(place, end + 1)) return false;    // "40 W 22nd St"
+    if (row.kind == Kind::words) return place.peek(end) == ' ' && is_lower(place.peek(end + 1));
     if (row.kind == Kind::before_noun) return place.is_before_noun(end);
     return row.kind != Kind::inside || place.peek(end) != ' ' || !is_upper(place.peek(end + 1));
 }

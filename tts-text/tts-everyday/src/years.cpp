@@ -31,6 +31,18 @@ void say_decade(std::string_view digits, std::string& out) {
     say_tens(digits.substr(digits.size() - 2), out);
 }
 
+// "the class of '09"; "'09'" is quoted
+void read_short_year(const Place& place, std::size_t mark, Found& found) {
+    const std::string_view digits = place.digits(mark);
+    const std::size_t end = mark + digits.size();
+    const bool is_one = digits.size() == 2 && place.before() == ' ' && !place.is_joined(end) &&
+                        place.apostrophe(end) == 0;
+    if (!is_one) return;
+    if (digits[0] == '0') say("oh", found.words);
+    say_cardinal(digits, found.words);
+    found.length = end;
+}
+
 // A decade, or two of them: "1980s-90s".
 bool read_decade(const Place& place, std::size_t begin, Found& found) {
     std::string_view digits;
@@ -114,7 +126,7 @@ bool is_value(std::string_view digits, int least, int most) {
 
 void read_year(const Place& place, Found& found) {
     if (const std::size_t mark = place.apostrophe(0); mark > 0) {
-        read_decade(place, mark, found);
+        if (!read_decade(place, mark, found)) read_short_year(place, mark, found);
         return;
     }
     const std::string_view digits = place.digits();

@@ -1,7 +1,7 @@
 #include "text_reader.h"
 
 #include <algorithm>
-#include <deque>
+#include <list>
 
 #include "tts_host.h"
 
@@ -183,7 +183,7 @@ void TextReader::collect_diagnostics(bool done) {
 // Reports these, and what was found in the text before `end`, in the order of their offsets. False
 // when the handler said so.
 bool TextReader::report(std::size_t end, const DiagnosticHandler& on_diagnostic) {
-    std::deque<Diagnostic>& in_text = window_.findings();
+    std::list<Diagnostic>& in_text = window_.findings();
     if (diagnostics_.empty() && in_text.empty()) return true;  // as for most sentences
     const auto hand_over = [&](const Diagnostic& diagnostic) {
         return !on_diagnostic || on_diagnostic(diagnostic);

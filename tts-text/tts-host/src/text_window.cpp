@@ -156,7 +156,7 @@ void FedSpans::close_innermost() {
     spans_.pop_back();
 }
 
-void FedSpans::report_open(std::deque<Diagnostic>& findings) const {
+void FedSpans::report_open(std::list<Diagnostic>& findings) const {
     for (const Span& span : spans_) {
         if (!span.left_out) findings.push_back({span.offset, Finding::span_never_closed});
     }

@@ -3,7 +3,7 @@
 #define KAVI_HOST_TEXT_WINDOW_H
 
 #include <algorithm>
-#include <deque>
+#include <list>
 #include <string_view>
 #include <vector>
 
@@ -38,7 +38,7 @@ class FedSpans {
     void close_innermost();
 
     // Adds a finding for each that is not left out, the outermost first.
-    void report_open(std::deque<Diagnostic>& findings) const;
+    void report_open(std::list<Diagnostic>& findings) const;
 
     bool any() const { return !spans_.empty(); }
     bool any_fed() const { return n_open_ > 0; }
@@ -113,7 +113,7 @@ class TextWindow {
     void append_sources(const char* begin, const char* end, SourceMap& sentence) const;
 
     // What was found in what has been fed, in order; the reader takes them off.
-    std::deque<Diagnostic>& findings() { return findings_; }
+    std::list<Diagnostic>& findings() { return findings_; }
 
     bool has_finding_at(std::size_t offset) const {
         return std::any_of(findings_.begin(), findings_.end(),
@@ -157,7 +157,7 @@ class TextWindow {
     std::string_view tag_beginning() const;
     void report(Finding finding) { findings_.push_back({next_offset(), finding}); }
 
-    std::deque<Diagnostic> findings_;
+    std::list<Diagnostic> findings_;
     FedSpans spans_;
     std::string_view text_;  // what is there of it; places are places in that
     std::size_t text_offset_ = 0;

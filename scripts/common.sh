@@ -47,6 +47,12 @@ need_compiler() {
     [ "${1:-}" = any ] && command -v clang++ >/dev/null || need g++ g++
 }
 
+# A tree of which git knows the files; a source tarball has none of it.
+need_clone() {
+    need git git
+    [ -e "$project/.git" ] || { say "This asks git for the files of the project: it needs a clone, and $project is none"; exit 1; }
+}
+
 need_browser() {
     need chromium chromium
     need node nodejs

@@ -10,7 +10,7 @@ import sys
 import kavi
 import pytest
 
-PROJECT = pathlib.Path(os.environ["KAVI_PROJECT"])
+PROJECT = pathlib.Path(os.environ.get("KAVI_PROJECT", pathlib.Path(__file__).parents[2]))
 TEXT = ("Zürich, “Dr. Smith” paid <prosody=rate=\"2\">$5.50</prosody> on 3/1/2020, </poem>ok? 😀 It's 10:30!  Wait... what "
         "is 中文 <poem=a>this. ") * 30 + "Told at the end. So."
 

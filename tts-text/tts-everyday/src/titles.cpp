@@ -137,11 +137,15 @@ bool read_bare_saint(const Place& place, Found& found) {
     return true;
 }
 
+// "Oak", not "A" or "OAK"
+bool is_capitalised(std::string_view word) {
+    return word.size() > 2 && is_upper(word[0]) && is_lower(word[1]);
+}
+
 // "King Dr. across", "Watson Dr and": after a name and before no other, a street.
 bool read_drive(const Place& place, Found& found) {
     if (!place.starts_with("Dr") || is_letter(place.peek(2)) || place.before() != ' ') return false;
-    const std::string_view name = place.word_before();
-    const bool is_after_name = name.size() > 2 && is_upper(name[0]) && is_lower(name[1]);
+    const bool is_after_name = is_capitalised(place.word_before());
     const bool is_bare = place.peek(2) == ' ' && is_lower(place.peek(3));
     const bool has_stop = place.peek(2) == '.' && !is_upper(place.peek(4)) &&
                           (is_lower(place.peek(4)) || place.may_end_sentence(3));
@@ -192,10 +196,6 @@ bool is_answer(const Place& place) {
            (place.before(2) == '?' || find_lower(BEFORE_ANSWER, place.word_before()) != nullptr);
 }
 
-bool is_name(std::string_view word) {
-    return word.size() > 2 && is_upper(word[0]) && is_lower(word[1]);
-}
-
 bool fits(const Place& place, const Row& row) {
     const std::size_t length = row.written().size();
     const char after = place.peek(length);
@@ -208,7 +208,8 @@ bool fits(const Place& place, const Row& row) {
     if (is_day && (place.word_before() == "the" || place.word_before() == "The")) return false;
     if (is_day && after != '.') return is_date_part(place, length);
     if (row.kind == Kind::after && after != '.')
-        return !place.is_joined(length) && place.before() == ' ' && is_name(place.word_before());
+        return !place.is_joined(length) && place.before() == ' ' &&
+               is_capitalised(place.word_before());
     if (row.kind == Kind::both)
         return is_before_number(place, length + (after == '.' ? 1 : 0)) && !is_letter(after);
     if (after != '.') return row.kind == Kind::never && (after == ' ' || after == ',');

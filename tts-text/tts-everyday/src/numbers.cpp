@@ -50,10 +50,9 @@ bool read_ratio(const Place& place, const Number& number, Found& found) {
         place.peek(end) == ' ' && find(RATIO_NOUNS, place.letters(end + 1)) != nullptr;
     if (!has_noun && !(is_after_word && second.size() == 1)) return false;
     number.say(found.words);
+    const std::string_view next = place.letters(end + place.blanks(end));
     const bool is_degree = number.whole == "2" && (second == "1" || second == "2") &&
-                           before == "a" &&
-                           (place.peek(end) != ' ' || place.starts_with(" in ", end) ||
-                            place.starts_with(" from ", end) || place.starts_with(" degree", end));
+                           before == "a" && (next == "in" || next == "from" || next.empty());
     if (!is_degree) say("to", found.words);
     say_cardinal(second, found.words);
     found.length = end;

@@ -134,18 +134,6 @@ Counting counting_after(const Place& place, std::string_view numeral) {
     return is_person(place, back, before) ? Counting::ordinal : Counting::cardinal;
 }
 
-// "the XIXth century"
-bool read_roman_ordinal(const Place& place, std::string_view numeral, Found& found) {
-    if (numeral.size() < 3 || !is_lower(numeral.back()) ||
-        find(ORDINAL_SUFFIXES, numeral.substr(numeral.size() - 2)) == nullptr)
-        return false;
-    const int value = value_of_roman(numeral.substr(0, numeral.size() - 2));
-    if (value == 0 || place.is_joined(numeral.size())) return false;
-    say_ordinal(std::to_string(value), found.words);
-    found.length = numeral.size();
-    return true;
-}
-
 }  // namespace
 
 int value_of_roman(std::string_view numeral) {
@@ -170,7 +158,6 @@ void read_roman(const Place& place, Found& found) {
     }
     if (value_of_letter(place.peek()) == 0 || numeral == "C" || numeral == "D" || numeral == "M")
         return;
-    if (read_roman_ordinal(place, numeral, found)) return;
     const int value = value_of_roman(numeral);
     if (value == 0 || place.letter(numeral.size()) > 0) return;
     std::size_t end = numeral.size();

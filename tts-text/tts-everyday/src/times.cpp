@@ -30,16 +30,6 @@ struct Clock {
     std::size_t length = 0;
 };
 
-// "the 7.15 to Leeds", "the 8.42 train": elsewhere "7.15" is a time only before "p.m."
-bool is_departure(const Place& place, std::size_t ahead) {
-    const std::string_view before = place.word_before();
-    if (before != "the" && before != "The") return false;
-    return place.starts_with(" train", ahead) || place.starts_with(" bus", ahead) ||
-           place.starts_with(" flight", ahead) || place.starts_with(" ferry", ahead) ||
-           (place.starts_with(" to ", ahead) && is_upper(place.peek(ahead + 4))) ||
-           (place.starts_with(" from ", ahead) && is_upper(place.peek(ahead + 6)));
-}
-
 Clock clock_at(const Place& place, std::size_t ahead) {
     Clock clock;
     clock.hour = place.digits(ahead);
@@ -67,7 +57,7 @@ Clock clock_at(const Place& place, std::size_t ahead) {
             half_length = 1;
         }
     }
-    if (clock.has_stop && clock.half == nullptr && !is_departure(place, end)) return {};
+    if (clock.has_stop && clock.half == nullptr) return {};  // "4.15" is a time only before "p.m."
     clock.length = end + half_length - ahead;
     return clock;
 }
@@ -118,8 +108,9 @@ bool read_time_range(const Place& place, const Clock& first, Found& found) {
 }
 
 bool is_after_at(const Place& place) {
-    const std::string before = in_lower_case(place.word_before());
-    return before == "at" || before == "by" || before == "until" || before == "till";
+    const std::string_view before = place.word_before();
+    const Row* row = find_lower(BEFORE_DAY, before);
+    return before == "at" || before == "At" || (row != nullptr && row->kind != Kind::may_end);
 }
 
 // "at 1200 hours", "0600 EST", "at 0830"; "for 1200 hours" is a length of time

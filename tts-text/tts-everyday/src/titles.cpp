@@ -164,15 +164,6 @@ bool read_sister(const Place& place, Found& found) {
     return true;
 }
 
-// "in Co. Clare"; "from Smith & Co." is a company
-bool read_county(const Place& place, Found& found) {
-    const bool is_one = place.starts_with("Co. ") && is_upper(place.peek(4)) &&
-                        is_lower(place.peek(5)) &&
-                        find_lower(BEFORE_PLACE, place.word_before()) != nullptr;
-    if (is_one) take(place, 2, "county", false, found);
-    return is_one;
-}
-
 // "Keats, b. 1795", "est. 1901"
 bool read_word_of_life(const Place& place, Found& found) {
     const std::string_view letters = place.letters();
@@ -262,9 +253,9 @@ bool read_row(const Place& place, Found& found) {
 }  // namespace
 
 void read_title(const Place& place, Found& found) {
-    if (read_drive(place, found) || read_sister(place, found) || read_county(place, found) ||
-        read_compass_point(place, found) || read_word_of_life(place, found) ||
-        read_days_of_week(place, found) || read_row(place, found))
+    if (read_drive(place, found) || read_sister(place, found) || read_compass_point(place, found) ||
+        read_word_of_life(place, found) || read_days_of_week(place, found) ||
+        read_row(place, found))
         return;
     if (!read_saint_or_street(place, found)) read_initials(place, found);
 }

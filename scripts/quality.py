@@ -77,7 +77,7 @@ def in_document(text, mark, lines):
 
 def item(case):
     """A line of a list, in which no sign is one of Markdown or Doxygen."""
-    return "- «" + re.sub(r"([@#])", r"\\\1", case) + "»"
+    return "- «" + re.sub(r"([@#\\])", r"\\\1", case) + "»"
 
 
 def main():

@@ -84,7 +84,9 @@ def main():
     table = ["| text | cases | engine | everyday | flite |", "|---|---|---|---|---|"]
     all_lost, still, faults, sealed_lost = [], [], [], 0
     for name, goal in GOALS.items():
-        for part in ("open",) if ONLY_RULES or name == "classes" else ("open", "sealed"):
+        for part in ("open",) if ONLY_RULES else ("open", "sealed"):
+            if not (CASES / f"{name}_{part}.tsv").exists():
+                continue
             rows, lost, missed, reached = rows_of(name, part)
             table += rows
             if part == "sealed":  # the cases stay unread

@@ -46,7 +46,7 @@ class Renderer {
     char delimiter_;
     bool writes_findings_;
     std::string shown_input_;  // the block's, as messages name it
-    Rendered piece_;           // the one at hand
+    Rendered piece_;           // being made
     std::size_t taken_ = 0;    // bytes of the block that the pieces before it were made from
     TtsHost host_;
     std::unique_ptr<Format> format_;

@@ -143,7 +143,7 @@ class RunsOfSentence {
         } while (next_ != end);
     }
 
-    // Hands over the run at hand, if there is one.
+    // Calls `on_run` with the open run, if any.
     void hand_over() {
         if (is_open_) on_run_(run_);
         is_open_ = false;
@@ -166,7 +166,7 @@ class RunsOfSentence {
         }
     }
 
-    // A section that is a run, which reads to `read` bytes. None is at hand.
+    // A run of one section, read to `read` bytes. No run is open.
     void add_alone(std::string_view section, ReadingRule rule, std::size_t read) {
         run_.sections.resize(1);
         run_.sections[0] = section;
@@ -180,7 +180,7 @@ class RunsOfSentence {
         on_run_(run_);
     }
 
-    // A run begins with `section`, or the one at hand goes on, which ends in the same character.
+    // Opens a run at `section`; inside a character, the open run goes on.
     void begin(std::string_view section, std::string_view rule, bool is_word) {
         if (is_open_ && is_continuation(section[0])) return;
         hand_over();

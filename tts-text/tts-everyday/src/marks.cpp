@@ -46,7 +46,7 @@ bool read_tilde(const Place& place, Found& found) {
     return true;
 }
 
-// "C:\\temp", "\\alpha"
+// "C:\temp", "\alpha"
 bool read_backslash(const Place& place, Found& found) {
     if (!place.is_joined(1)) return false;
     found.length = 1;

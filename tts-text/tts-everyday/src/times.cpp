@@ -107,6 +107,7 @@ bool read_time_range(const Place& place, const Clock& first, Found& found) {
     return true;
 }
 
+// "at 0830", "by 0830", "due 0830": what is before a date is before a time too.
 bool is_after_at(const Place& place) {
     const std::string_view before = place.word_before();
     const Row* row = find_lower(BEFORE_DAY, before);

@@ -125,10 +125,10 @@ class Check {
         if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
         if (line.empty() || line[0] == '#') return;
         const std::size_t tab = line.find('\t');
-        const std::string place = shown(input) + ":" + std::to_string(number) + ": ";
+        const std::string prefix = shown(input) + ":" + std::to_string(number) + ": ";
         if (tab == std::string_view::npos) {
             if (++no_cases_ > TOLD) return;
-            return write_messages(place + "no tab between a text and the words expected of it\n");
+            return write_messages(prefix + "no tab between a text and the words expected of it\n");
         }
         const std::string_view text = line.substr(0, tab);
         const std::string_view expected = line.substr(tab + 1);
@@ -138,7 +138,7 @@ class Check {
             ++as_expected_;
         } else {
             const std::string_view first = expected.substr(0, expected.find('\t'));
-            write(place + std::string(text) + "\n" + table_of(marked_words(first), spoken));
+            write(prefix + std::string(text) + "\n" + table_of(marked_words(first), spoken));
         }
     }
 
@@ -155,16 +155,16 @@ class Check {
     // What --plain writes for a text.
     std::string plain(std::string_view text) {
         std::string line;
-        Place place = {"", 1, 1, 0, text};
+        Location location = {"", 1, 1, 0, text};
         host_.read(
             text,
             [&](const HostSentence& sentence) {
-                ++place.sentence;
-                plain_->write(place, sentence, {}, line);
+                ++location.sentence;
+                plain_->write(location, sentence, {}, line);
                 return true;
             },
             nullptr);
-        plain_->end_text(place, {}, line);
+        plain_->end_text(location, {}, line);
         return line;
     }
 

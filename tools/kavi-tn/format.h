@@ -15,24 +15,25 @@
 
 namespace kavi::tool {
 
-// Where a sentence comes from.
-struct Place {
-    std::string_view input;
-    std::size_t input_number;    // from 1
-    std::size_t line;            // the text's number in its input, from 1
-    std::size_t sentence;        // its number in the text, from 1
-    std::string_view text;       // all of it, or
-    std::size_t text_begin = 0;  // what is there of it from here on
+// Where a sentence was read: its input, text and number. Numbers count from 1.
+struct Location {
+    std::string_view input;  // the name that messages give it
+    std::size_t input_number;
+    std::size_t line;  // the number of the text in its input
+    std::size_t sentence;
+    std::string_view text;       // of a stream, only what is kept of it,
+    std::size_t text_begin = 0;  // which begins at this offset
 
+    // The bytes of a range of the text.
     std::string_view part(const TextRange& range) const {
         return text.substr(range.offset - std::min(range.offset, text_begin), range.length);
     }
 };
 
-// One more than are told.
+// One more than are reported, so that it is known whether there are others.
 constexpr std::size_t LOST_MAX = 21;
 
-// Leaves the least `n` of a set.
+// Leaves the first `n` names of a set, in their order.
 inline void keep_least(std::size_t n, std::set<std::string>& names) {
     while (names.size() > n) names.erase(std::prev(names.end()));
 }
@@ -41,18 +42,18 @@ class Format {
   public:
     virtual ~Format() = default;
 
-    // Appends what is to be written for one sentence, in whole lines; `diagnostics` are those
-    // before its end.
-    virtual void write(const Place& place, const HostSentence& sentence,
+    // Appends the output for one sentence, in whole lines. `diagnostics` are those since the last
+    // sentence.
+    virtual void write(const Location& location, const HostSentence& sentence,
                        const std::vector<Diagnostic>& diagnostics, std::string& out) = 0;
 
-    // Appends what is to be written when a text has ended, whose last sentence was that of `place`;
-    // `diagnostics` are those after that.
-    virtual void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
-                          std::string& /*out*/) {}
+    // Appends the output for the end of a text. `location` is that of its last sentence,
+    // `diagnostics` are those after it.
+    virtual void end_text(const Location& /*location*/,
+                          const std::vector<Diagnostic>& /*diagnostics*/, std::string& /*out*/) {}
 
-    // What the format has no word for, in the sentences since the last call: the least by name, up
-    // to LOST_MAX.
+    // The attributes, as in "poem=a", that the format cannot express and has left out since the
+    // last call: the first LOST_MAX by name.
     virtual std::set<std::string> take_lost() { return {}; }
 };
 

@@ -79,9 +79,9 @@ std::string_view mark_in(std::string_view reading) {
 // One sentence, from its first byte to its last.
 class SentenceWriter {
   public:
-    SentenceWriter(const Place& place, const HostSentence& sentence,
+    SentenceWriter(const Location& location, const HostSentence& sentence,
                    const std::vector<Diagnostic>& diagnostics, TextBuffer& out)
-        : place_(place),
+        : location_(location),
           sentence_(sentence),
           places_(sentence.places.words()),
           findings_(diagnostics),
@@ -92,20 +92,20 @@ class SentenceWriter {
     void write_row() {
         out_ << "<div>";
         write_head(sentence_.records[0]);
-        explain(sentence_, place_.text, [&](const ExplainedRun& run) {
+        explain(sentence_, location_.text, [&](const ExplainedRun& run) {
             write_left_out(run.source.offset);
             write_run(run);
             at_ = std::max(at_, run.source.offset + run.source.length);
             if (finding_ != findings_.end()) write_numbers_of_findings(at_);
         });
         write_left_out(sentence_.source.offset + sentence_.source.length);
-        write_numbers_of_findings(place_.text.size());
+        write_numbers_of_findings(location_.text.size());
         out_ << "</div>";
     }
 
   private:
     std::string_view written(const TextRange& source) const {
-        return place_.text.substr(source.offset, source.length);
+        return location_.text.substr(source.offset, source.length);
     }
 
     // The text before the first word.
@@ -119,7 +119,7 @@ class SentenceWriter {
     // What the sentence was cut without.
     void write_left_out(std::size_t end) {
         if (at_ >= end) return;
-        write_silent(place_.text.substr(at_, end - at_));
+        write_silent(location_.text.substr(at_, end - at_));
         at_ = end;
     }
 
@@ -202,11 +202,11 @@ class SentenceWriter {
     void write_numbers_of_findings(std::size_t end) {
         for (; finding_ != findings_.end() && finding_->offset < end; ++finding_) {
             const auto number = static_cast<std::size_t>(finding_ - findings_.begin()) + 1;
-            out_.add("<sup><a href=#", anchor(place_), '-', number, '>', number, "</a></sup>");
+            out_.add("<sup><a href=#", anchor(location_), '-', number, '>', number, "</a></sup>");
         }
     }
 
-    const Place& place_;
+    const Location& location_;
     const HostSentence& sentence_;
     const WordPlace* places_;
     const std::vector<Diagnostic>& findings_;
@@ -221,19 +221,19 @@ class SentenceWriter {
 
 class HtmlFormat : public Format {
   public:
-    void write(const Place& place, const HostSentence& sentence,
+    void write(const Location& location, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
         text_.clear();
-        begin_article(place);
-        write_source(place, sentence.source, diagnostics);
-        SentenceWriter(place, sentence, diagnostics, text_).write_row();
-        end_article(place, diagnostics);
+        begin_article(location);
+        write_source(location, sentence.source, diagnostics);
+        SentenceWriter(location, sentence, diagnostics, text_).write_row();
+        end_article(location, diagnostics);
         out += text_.text();
     }
 
-    void end_text(const Place& place, const std::vector<Diagnostic>& diagnostics,
+    void end_text(const Location& location, const std::vector<Diagnostic>& diagnostics,
                   std::string& out) override {
-        Place after = place;
+        Location after = location;
         ++after.sentence;
         text_.clear();
         if (diagnostics.empty()) {
@@ -247,29 +247,31 @@ class HtmlFormat : public Format {
 
   private:
     // The name of an input, before its first sentence or in the place of that.
-    void begin_input(const Place& place) {
-        if (place.line == 1 && place.sentence == 1) append_element("h2", place.input, text_);
+    void begin_input(const Location& location) {
+        if (location.line == 1 && location.sentence == 1)
+            append_element("h2", location.input, text_);
     }
 
-    void begin_article(const Place& place) {
-        begin_input(place);
-        const std::string name = anchor(place);
-        text_ << "<article id=" << name << "><a href=#" << name << ">line " << place.line << "</a>";
+    void begin_article(const Location& location) {
+        begin_input(location);
+        const std::string name = anchor(location);
+        text_ << "<article id=" << name << "><a href=#" << name << ">line " << location.line
+              << "</a>";
     }
 
     // As it was written, with what was found underlined.
-    void write_source(const Place& place, const TextRange& source,
+    void write_source(const Location& location, const TextRange& source,
                       const std::vector<Diagnostic>& diagnostics) {
         text_ << "<p>";
         const std::size_t end = source.offset + source.length;
         std::size_t at = source.offset;
         for (const Diagnostic& found : diagnostics) {
             if (found.offset < at || found.offset >= end) continue;
-            append_escaped(place.text.substr(at, found.offset - at), text_);
-            at = std::min(end, found.offset + length_to_underline(place.text, found));
-            append_element("mark", place.text.substr(found.offset, at - found.offset), text_);
+            append_escaped(location.text.substr(at, found.offset - at), text_);
+            at = std::min(end, found.offset + length_to_underline(location.text, found));
+            append_element("mark", location.text.substr(found.offset, at - found.offset), text_);
         }
-        append_escaped(place.text.substr(at, end - at), text_);
+        append_escaped(location.text.substr(at, end - at), text_);
         text_ << "</p>";
     }
 
@@ -281,13 +283,13 @@ class HtmlFormat : public Format {
         return close != std::string_view::npos ? close + 1 : 1;
     }
 
-    void end_article(const Place& place, const std::vector<Diagnostic>& diagnostics) {
+    void end_article(const Location& location, const std::vector<Diagnostic>& diagnostics) {
         if (!diagnostics.empty()) text_ << "<ol>";
         std::size_t number = 0;
         for (const Diagnostic& d : diagnostics) {
             ++number;
-            text_ << "<li id=" << anchor(place) << '-' << number << ">byte " << d.offset << ": ";
-            append_escaped(describe(d, place.part({d.offset, d.length})), text_);
+            text_ << "<li id=" << anchor(location) << '-' << number << ">byte " << d.offset << ": ";
+            append_escaped(describe(d, location.part({d.offset, d.length})), text_);
         }
         text_ << (diagnostics.empty() ? "</article>\n" : "</ol></article>\n");
     }

@@ -17,9 +17,9 @@ inline constexpr std::pair<std::string_view, std::string_view> MARK_GLYPHS[] = {
     {"youkuo", ")"}, {"pozhe", "-"}, {"shenglue", "..."}};
 
 // The position of a sentence on the page.
-inline std::string anchor(const Place& place) {
-    return std::to_string(place.input_number) + "." + std::to_string(place.line) + "." +
-           std::to_string(place.sentence);
+inline std::string anchor(const Location& location) {
+    return std::to_string(location.input_number) + "." + std::to_string(location.line) + "." +
+           std::to_string(location.sentence);
 }
 
 }  // namespace kavi::tool

@@ -22,26 +22,26 @@ class JsonFormat : public Format {
         needs_plain_ = has(Field::plain) || has(Field::before) || has(Field::words);
     }
 
-    void write(const Place& place, const HostSentence& sentence,
+    void write(const Location& location, const HostSentence& sentence,
                const std::vector<Diagnostic>& diagnostics, std::string& out) override {
-        if (needs_plain_) plain_.read(sentence, place.text, place.text_begin);
+        if (needs_plain_) plain_.read(sentence, location.text, location.text_begin);
         line_.begin();
         for (const Field field : fields_) {
             line_.key(name_of(field));
-            write_field(field, place, sentence, diagnostics);
+            write_field(field, location, sentence, diagnostics);
         }
         line_.end(out);
     }
 
     // What was found after the last sentence has an object of its own, without a sentence.
-    void end_text(const Place& place, const std::vector<Diagnostic>& diagnostics,
+    void end_text(const Location& location, const std::vector<Diagnostic>& diagnostics,
                   std::string& out) override {
         if (diagnostics.empty() || !has(Field::findings)) return;
         line_.begin();
-        if (has(Field::input)) line_.field(name_of(Field::input), place.input);
-        if (has(Field::line)) line_.field(name_of(Field::line), place.line);
+        if (has(Field::input)) line_.field(name_of(Field::input), location.input);
+        if (has(Field::line)) line_.field(name_of(Field::line), location.line);
         line_.key(name_of(Field::findings));
-        write_findings(place, diagnostics);
+        write_findings(location, diagnostics);
         line_.end(out);
     }
 
@@ -50,23 +50,23 @@ class JsonFormat : public Format {
         return std::find(fields_.begin(), fields_.end(), field) != fields_.end();
     }
 
-    void write_field(Field field, const Place& place, const HostSentence& sentence,
+    void write_field(Field field, const Location& location, const HostSentence& sentence,
                      const std::vector<Diagnostic>& diagnostics) {
         const TextRange source = sentence.source;
         switch (field) {
-            case Field::input: return line_.text(place.input);
-            case Field::line: return line_.number(place.line);
-            case Field::sentence: return line_.number(place.sentence);
+            case Field::input: return line_.text(location.input);
+            case Field::line: return line_.number(location.line);
+            case Field::sentence: return line_.number(location.sentence);
             case Field::offset: return line_.number(source.offset);
             case Field::length: return line_.number(source.length);
-            case Field::source: return line_.text(place.part(source));
+            case Field::source: return line_.text(location.part(source));
             case Field::normalized: return line_.text(sentence.normalized);
             case Field::speakable: return line_.text(sentence.speakable);
             case Field::plain: return line_.text(plain_.all());
             case Field::before: return line_.text(plain_.before());
             case Field::words: return write_words(sentence);
-            case Field::findings: return write_findings(place, diagnostics);
-            case Field::runs: return write_runs(place, sentence);
+            case Field::findings: return write_findings(location, diagnostics);
+            case Field::runs: return write_runs(location, sentence);
             case Field::version: return line_.number(READINGS_VERSION);
         }
     }
@@ -114,21 +114,21 @@ class JsonFormat : public Format {
         });
     }
 
-    void write_findings(const Place& place, const std::vector<Diagnostic>& diagnostics) {
+    void write_findings(const Location& location, const std::vector<Diagnostic>& diagnostics) {
         line_.array([&] {
             for (const Diagnostic& diagnostic : diagnostics) {
                 line_.object([&] {
                     line_.field("code", code_of(diagnostic.finding));
                     line_.range({diagnostic.offset, diagnostic.length});
-                    line_.field(
-                        "message",
-                        describe(diagnostic, place.part({diagnostic.offset, diagnostic.length})));
+                    line_.field("message",
+                                describe(diagnostic,
+                                         location.part({diagnostic.offset, diagnostic.length})));
                 });
             }
         });
     }
 
-    void write_runs(const Place& place, const HostSentence& sentence) {
+    void write_runs(const Location& location, const HostSentence& sentence) {
         line_.array([&] {
             const auto on_run = [&](const ExplainedRun& run) {
                 line_.object([&] {
@@ -141,7 +141,7 @@ class JsonFormat : public Format {
                     line_.field("reading", run.reading);
                 });
             };
-            explain(sentence, place.text, on_run, place.text_begin);
+            explain(sentence, location.text, on_run, location.text_begin);
         });
     }
 

@@ -19,22 +19,22 @@ void Renderer::render(const Block& block, const Take& take) {
     shown_input_ = shown(block.input);
     const std::string name = "kavi-tn: " + shown_input_ + ": ";
     if (!block.notice.empty()) piece_.notice = name + block.notice + "\n";
-    Place place = {block.input, block.number, block.first, 0, {}};
+    Location location = {block.input, block.number, block.first, 0, {}};
     std::size_t size = block.bytes.size();
     if (block.long_text != nullptr) {
-        place.text = block.long_text->text();
-        size = place.text.size();
-        render_text(place, [&](std::size_t begin, std::size_t end) {
+        location.text = block.long_text->text();
+        size = location.text.size();
+        render_text(location, [&](std::size_t begin, std::size_t end) {
             block.long_text->forget(begin);
             hand_over_if_large(end, take);
         });
     }
-    for (std::size_t at = 0; at < block.bytes.size(); ++place.line) {
+    for (std::size_t at = 0; at < block.bytes.size(); ++location.line) {
         const std::string_view rest = std::string_view(block.bytes).substr(at);
-        place.text = rest.substr(0, rest.find(delimiter_));
-        render_text(place,
+        location.text = rest.substr(0, rest.find(delimiter_));
+        render_text(location,
                     [&](std::size_t, std::size_t end) { hand_over_if_large(at + end, take); });
-        at += place.text.size() + 1;
+        at += location.text.size() + 1;
     }
     piece_.lost = format_->take_lost();
     if (!block.failure.empty()) {
@@ -47,13 +47,13 @@ void Renderer::render(const Block& block, const Take& take) {
 
 // After each sentence calls `after` with where in the text it begins and ends.
 template <typename After>
-void Renderer::render_text(Place place, After after) {
+void Renderer::render_text(Location location, After after) {
     diagnostics_.clear();
     const bool all_read = host_.read(
-        place.text,
+        location.text,
         [&](const HostSentence& sentence) {
-            ++place.sentence;
-            format_->write(place, sentence, diagnostics_, piece_.output);
+            ++location.sentence;
+            format_->write(location, sentence, diagnostics_, piece_.output);
             diagnostics_.clear();
             after(sentence.source.offset, sentence.source.offset + sentence.source.length);
             return true;
@@ -61,16 +61,17 @@ void Renderer::render_text(Place place, After after) {
         [&](const Diagnostic& diagnostic) {
             diagnostics_.push_back(diagnostic);
             const std::string message =
-                describe(diagnostic, place.part({diagnostic.offset, diagnostic.length}));
+                describe(diagnostic, location.part({diagnostic.offset, diagnostic.length}));
             piece_.findings.push_back(
-                {diagnostic.finding, shown_input_ + ":" + std::to_string(place.line) + ": byte " +
-                                         std::to_string(diagnostic.offset) + ": " + message +
-                                         "\n"});
+                {diagnostic.finding, shown_input_ + ":" + std::to_string(location.line) +
+                                         ": byte " + std::to_string(diagnostic.offset) + ": " +
+                                         message + "\n"});
             if (!writes_findings_) return true;
-            piece_.findings.back().json = json_line(diagnostic, place.input, place.line, message);
+            piece_.findings.back().json =
+                json_line(diagnostic, location.input, location.line, message);
             return true;
         });
-    format_->end_text(place, diagnostics_, piece_.output);
+    format_->end_text(location, diagnostics_, piece_.output);
     piece_.all_read = piece_.all_read && all_read;
     ++piece_.texts;
 }

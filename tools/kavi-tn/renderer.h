@@ -40,7 +40,7 @@ class Renderer {
 
   private:
     template <typename After>
-    void render_text(Place place, After after);
+    void render_text(Location location, After after);
     void hand_over_if_large(std::size_t end, const Take& take);
 
     char delimiter_;

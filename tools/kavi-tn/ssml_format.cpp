@@ -11,9 +11,9 @@ class SsmlFormat : public Format {
   public:
     explicit SsmlFormat(bool marks) : form_(marks) {}
 
-    void write(const Place& place, const HostSentence& sentence,
+    void write(const Location& location, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
-        form_.read(sentence, place.text);
+        form_.read(sentence, location.text);
         out += form_.all();
         keep_least(LOST_MAX, form_.lost());
     }

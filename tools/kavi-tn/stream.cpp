@@ -27,14 +27,14 @@ namespace {
 class Writer {
   public:
     explicit Writer(const Options& options)
-        : format_(make_format(options)), place_{"standard input", 1, 1, 0, {}} {
+        : format_(make_format(options)), location_{"standard input", 1, 1, 0, {}} {
         require(output_.open(""));
     }
 
     void write(const TtsStream& stream, const HostSentence& sentence) {
         look_at(stream);
-        ++place_.sentence;
-        format_->write(place_, sentence, diagnostics_, lines_);
+        ++location_.sentence;
+        format_->write(location_, sentence, diagnostics_, lines_);
         diagnostics_.clear();
         require(output_.write(lines_));
         lines_.clear();
@@ -45,14 +45,14 @@ class Writer {
         diagnostics_.push_back(found);
         write_messages(findings_.take(
             {{found.finding, "standard input:1: byte " + std::to_string(found.offset) + ": " +
-                                 describe(found, place_.part({found.offset, found.length})) +
+                                 describe(found, location_.part({found.offset, found.length})) +
                                  "\n"}}));
     }
 
     // At the end of the text.
     void end(const TtsStream& stream, bool with_summary) {
         look_at(stream);
-        format_->end_text(place_, diagnostics_, lines_);
+        format_->end_text(location_, diagnostics_, lines_);
         require(output_.write(lines_));
         write_messages(findings_.not_written() + (with_summary ? findings_.summary() : ""));
         require(output_.commit());
@@ -67,14 +67,14 @@ class Writer {
     }
 
     void look_at(const TtsStream& stream) {
-        place_.text = stream.text();
-        place_.text_begin = stream.text_begin();
+        location_.text = stream.text();
+        location_.text_begin = stream.text_begin();
     }
 
     Output output_;
     std::unique_ptr<Format> format_;
     FindingsReport findings_;
-    Place place_;
+    Location location_;
     std::vector<Diagnostic> diagnostics_;  // of the sentence to come
     std::string lines_;
 };

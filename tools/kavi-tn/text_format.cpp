@@ -139,7 +139,7 @@ class Table {
 
 class SentenceFormat : public Format {
   public:
-    void write(const Place& /*place*/, const HostSentence& sentence,
+    void write(const Location& /*location*/, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
     }
@@ -147,7 +147,7 @@ class SentenceFormat : public Format {
 
 class SpeakableFormat : public Format {
   public:
-    void write(const Place& /*place*/, const HostSentence& sentence,
+    void write(const Location& /*location*/, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.speakable) += '\n';
     }
@@ -157,12 +157,12 @@ class SpeakableFormat : public Format {
 // input.
 class PlainFormat : public Format {
   public:
-    void write(const Place& place, const HostSentence& sentence,
+    void write(const Location& location, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
-        plain_.read(sentence, place.text, place.text_begin);
+        plain_.read(sentence, location.text, location.text_begin);
         out += plain_.all();
     }
-    void end_text(const Place& /*place*/, const std::vector<Diagnostic>& /*diagnostics*/,
+    void end_text(const Location& /*location*/, const std::vector<Diagnostic>& /*diagnostics*/,
                   std::string& out) override {
         out += '\n';
     }
@@ -173,7 +173,7 @@ class PlainFormat : public Format {
 
 class WordFormat : public Format {
   public:
-    void write(const Place& place, const HostSentence& sentence,
+    void write(const Location& location, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         table_.clear();
         const WordPlace* const places = sentence.places.words();
@@ -182,7 +182,7 @@ class WordFormat : public Format {
             if (i == 0 && !has_marks(record)) continue;
             const TextRange& source = places[i].source;
             table_.add(i == 0 ? "(head)" : word_of(record));
-            table_.add(place.part(source));
+            table_.add(location.part(source));
             table_.add(pause_name(record.pause_type));
             if (record.n_punc > 0) append_punctuation(record, table_.field());
             table_.end_field();
@@ -191,7 +191,7 @@ class WordFormat : public Format {
             append_attributes(record.cssml_tag, table_.field());
             table_.end_field();
         }
-        const std::string_view written = place.part(sentence.source);
+        const std::string_view written = location.part(sentence.source);
         table_.append_to(out, is_ascii(sentence.speakable) && is_ascii(written));
     }
 
@@ -202,7 +202,7 @@ class WordFormat : public Format {
 class ExplainFormat : public Format {
   public:
     // Blanks between sections stay out: nothing is written for them.
-    void write(const Place& place, const HostSentence& sentence,
+    void write(const Location& location, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
         table_.clear();
@@ -224,7 +224,7 @@ class ExplainFormat : public Format {
             table_.field() << run.reading.substr(0, run.reading.find_last_not_of(' ') + 1);
             table_.end_field();
         };
-        explain(sentence, place.text, on_run, place.text_begin);
+        explain(sentence, location.text, on_run, location.text_begin);
         table_.append_to(out, true);
     }
 

@@ -13,14 +13,14 @@ extern "C" char* kavi_rows(kavi_reader* reader, const char* text, std::size_t le
                            std::size_t line) {
     using namespace kavi;
     const std::unique_ptr<tool::Format> format = tool::make_html_format();
-    tool::Place place = {"", 1, line, 0, {text, length}};
+    tool::Location location = {"", 1, line, 0, {text, length}};
     std::vector<Diagnostic> diagnostics;
     std::string rows;
     reader->host.read(
-        place.text,
+        location.text,
         [&](const HostSentence& sentence) {
-            ++place.sentence;
-            format->write(place, sentence, diagnostics, rows);
+            ++location.sentence;
+            format->write(location, sentence, diagnostics, rows);
             diagnostics.clear();
             return true;
         },
@@ -28,7 +28,7 @@ extern "C" char* kavi_rows(kavi_reader* reader, const char* text, std::size_t le
             diagnostics.push_back(diagnostic);
             return true;
         });
-    format->end_text(place, diagnostics, rows);
+    format->end_text(location, diagnostics, rows);
     auto* copy = static_cast<char*>(std::malloc(rows.size() + 1));
     if (copy != nullptr) std::memcpy(copy, rows.c_str(), rows.size() + 1);
     return copy;

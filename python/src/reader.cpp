@@ -14,7 +14,7 @@ namespace {
 // Shorter texts are read in less time than the interpreter lock takes to change hands.
 constexpr std::size_t LONG = 4096;
 
-// The words are ASCII, but for what an attribute or a lexicon may bring.
+// Words are ASCII, except what attributes and lexicons bring in; what is not UTF-8 is U+FFFD.
 py::str python_text(std::string_view text) {
     PyObject* object =
         PyUnicode_DecodeUTF8(text.data(), static_cast<Py_ssize_t>(text.size()), "replace");
@@ -39,11 +39,11 @@ std::vector<Utf8> utf8_of(const py::list& texts) {
 
 }  // namespace
 
-// Lets the interpreter answer signals while a long text is read without its lock.
+// Lets Python handle signals while a long text is read without the interpreter lock.
 class Reader::Signals {
   public:
-    // After each sentence; throws what a handler has raised.
-    void look() {
+    // To be called after each sentence. Throws what a signal handler has raised.
+    void check() {
         constexpr unsigned SENTENCES = 16384;  // read in some ten milliseconds
         if (++n_sentences_ % SENTENCES != 0) return;
         const py::gil_scoped_acquire acquired;
@@ -54,17 +54,17 @@ class Reader::Signals {
     unsigned n_sentences_ = 0;
 };
 
-// The reader is this thread's until the end of the call.
-class Reader::Turn {
+// Marks the reader as busy during a call. Throws std::runtime_error when it is already.
+class Reader::BusyGuard {
   public:
-    explicit Turn(Reader& reader) : is_reading_(reader.is_reading_) {
+    explicit BusyGuard(Reader& reader) : is_reading_(reader.is_reading_) {
         if (is_reading_.exchange(true)) {
             throw std::runtime_error("another thread reads with this reader");
         }
     }
-    ~Turn() { is_reading_ = false; }
-    Turn(const Turn&) = delete;
-    Turn& operator=(const Turn&) = delete;
+    ~BusyGuard() { is_reading_ = false; }
+    BusyGuard(const BusyGuard&) = delete;
+    BusyGuard& operator=(const BusyGuard&) = delete;
 
   private:
     std::atomic<bool>& is_reading_;
@@ -93,7 +93,7 @@ bool Reader::append_plain(std::string_view text, std::string& spoken) {
         [&](const HostSentence& sentence) {
             plain_.read(sentence, text);
             spoken += plain_.all();
-            signals.look();
+            signals.check();
             return true;
         },
         nullptr);
@@ -104,7 +104,7 @@ py::str Reader::normalize(const py::str& text) {
     std::string spoken;
     bool is_complete = false;
     {
-        const Turn turn(*this);
+        const BusyGuard busy(*this);
         if (utf8.bytes().size() < LONG) {
             is_complete = append_plain(utf8.bytes(), spoken);
         } else {
@@ -123,7 +123,7 @@ py::list Reader::normalize_batch(const py::list& texts) {
     ends.reserve(all.size());
     bool is_complete = true;
     {
-        const Turn turn(*this);
+        const BusyGuard busy(*this);
         const py::gil_scoped_release released;
         for (const Utf8& text : all) {
             is_complete = append_plain(text.bytes(), spoken) && is_complete;
@@ -149,7 +149,7 @@ void Reader::read_into(Result& result, const Utf8& text, bool rules, Signals& si
         [&](const HostSentence& sentence) {
             result.sentences.push_back(
                 std::make_shared<Sentence>(sentence, text.bytes(), rules, plain_, of_sentences));
-            signals.look();
+            signals.check();
             return true;
         },
         [&](const Diagnostic& found) {
@@ -166,7 +166,7 @@ Result Reader::read(const py::str& text, bool rules) {
     Result result;
     result.text = text;
     Signals signals;
-    const Turn turn(*this);
+    const BusyGuard busy(*this);
     const py::gil_scoped_release released;
     read_into(result, utf8, rules, signals);
     return result;
@@ -178,7 +178,7 @@ py::list Reader::read_batch(const py::list& texts, bool rules) {
     for (std::size_t i = 0; i < all.size(); ++i) results[i].text = texts[i];
     {
         Signals signals;
-        const Turn turn(*this);
+        const BusyGuard busy(*this);
         const py::gil_scoped_release released;
         for (std::size_t i = 0; i < all.size(); ++i) read_into(results[i], all[i], rules, signals);
     }

@@ -1,4 +1,4 @@
-// The reader that Python has: the host layer with its settings.
+// kavi._kavi.Reader: the host layer with its settings.
 #ifndef KAVI_PYTHON_READER_H
 #define KAVI_PYTHON_READER_H
 
@@ -23,12 +23,12 @@ class Reader {
     Result read(const pybind11::str& text, bool rules);
     pybind11::list read_batch(const pybind11::list& texts, bool rules);
 
-    // For streams that read alike; they stay as long as the reader.
+    // For streams, which read as this reader does and do not outlive it.
     std::size_t capacity() const { return capacity_; }
     const TextRewriter* rewriter() const { return rewriter_; }
 
   private:
-    class Turn;
+    class BusyGuard;
     class Signals;
 
     // Appends what is spoken for the text; false when the capacity does not hold it.
@@ -40,7 +40,7 @@ class Reader {
     PlainForm plain_;  // of the last sentence
     Lexicon lexicon_;
     Everyday everyday_;
-    const TextRewriter* rewriter_ = nullptr;  // that, or null
+    const TextRewriter* rewriter_ = nullptr;  // everyday_, or null
     std::atomic<bool> is_reading_ = false;
 };
 

@@ -14,7 +14,7 @@ namespace py = pybind11;
 
 namespace {
 
-Place place_of(const TextRange& range, CodePoints& code_points) {
+Range range_of(const TextRange& range, CodePoints& code_points) {
     const std::size_t begin = code_points.at(range.offset);
     return {begin, code_points.at(range.offset + range.length) - begin};
 }
@@ -26,7 +26,7 @@ const py::object& python_type(const char* name) {
     for (const auto& [known, type] : found) {
         if (known == name) return type;
     }
-    found.reserve(16);  // what was handed out stays where it is
+    found.reserve(16);  // references handed out stay valid
     return found.emplace_back(name, types[name]).second;
 }
 constexpr const char* PAUSE = "Pause";
@@ -56,9 +56,9 @@ py::object member_of(const char* type, int value) {
     constexpr int LEAST = -2;
     constexpr std::size_t MEMBERS = 32;
     static auto& found = *new std::map<const char*, std::array<py::object, MEMBERS>>();
-    const auto place = static_cast<std::size_t>(value - LEAST);
-    if (place >= MEMBERS) return python_type(type)(value);
-    py::object& member = found[type][place];
+    const auto index = static_cast<std::size_t>(value - LEAST);
+    if (index >= MEMBERS) return python_type(type)(value);
+    py::object& member = found[type][index];
     if (!member) member = python_type(type)(value);
     return member;
 }
@@ -69,8 +69,8 @@ py::object named_tuple(const char* type, const Fields&... fields) {
     auto* const made_by = reinterpret_cast<PyTypeObject*>(python_type(type).ptr());
     PyObject* const made = made_by->tp_alloc(made_by, sizeof...(fields));
     if (made == nullptr) throw py::error_already_set();
-    Py_ssize_t place = 0;
-    (PyTuple_SET_ITEM(made, place++, fields.inc_ref().ptr()), ...);
+    Py_ssize_t index = 0;
+    (PyTuple_SET_ITEM(made, index++, fields.inc_ref().ptr()), ...);
     return py::reinterpret_steal<py::object>(made);
 }
 
@@ -102,6 +102,13 @@ py::tuple words_of(const SentenceOfText& of) {
 
 py::object head_of(const SentenceOfText& of) {
     return word_of(of.sentence->words[0], of.sentence->plain);
+}
+
+// The text that the sentence was read from.
+py::object source_of(const SentenceOfText& of) {
+    const Range source = of.sentence->source;
+    const auto begin = static_cast<py::ssize_t>(source.offset - of.text_offset);
+    return of.text[py::slice(begin, begin + static_cast<py::ssize_t>(source.length), 1)];
 }
 
 py::str before_of(const SentenceOfText& of) {
@@ -148,7 +155,7 @@ std::unique_ptr<Markup> markup_of(const CssmlTag& tag) {
     return markup;
 }
 
-// ---- all that a sentence or a result is, in Python's own types, and back ----
+// ---- the state of a sentence or a result in Python's own types, and back: for pickling ----
 
 py::tuple state_of(const SentenceOfText& of) {
     const Sentence& sentence = *of.sentence;
@@ -235,8 +242,8 @@ Result result_from(const py::str& text, const py::tuple& sentences, const py::tu
     return result;
 }
 
-// Comparing, printing and pickling by the state. `made_by`: the function of the package that has it
-// back.
+// Comparing, printing and pickling by the state. `made_by` is the function of the package that
+// makes the object from its state.
 template <typename Thing>
 void add_state(py::class_<Thing>& type, const char* name, const char* made_by) {
     type.def(
@@ -263,7 +270,7 @@ py::custom_type_setup not_made_by_python() {
 
 Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wants_runs,
                    PlainForm& form, CodePoints& code_points, std::size_t text_begin)
-    : source(place_of(sentence.source, code_points)),
+    : source(range_of(sentence.source, code_points)),
       normalized(sentence.normalized),
       speakable(sentence.speakable),
       ends_sentence(sentence.ends_sentence) {
@@ -281,7 +288,7 @@ Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wan
         words.push_back({begin,
                          length,
                          after,
-                         place_of(places[i].source, code_points),
+                         range_of(places[i].source, code_points),
                          record.pause_type,
                          {record.punc_arr, record.punc_arr + record.n_punc},
                          markup_of(record.cssml_tag)});
@@ -291,7 +298,7 @@ Sentence::Sentence(const HostSentence& sentence, std::string_view text, bool wan
     explain(
         sentence, text,
         [&](const ExplainedRun& run) {
-            runs.push_back({place_of(run.source, code_points), std::string(run.rule),
+            runs.push_back({range_of(run.source, code_points), std::string(run.rule),
                             std::string(run.reading)});
         },
         text_begin);
@@ -301,14 +308,7 @@ void add_results(py::module_& module) {
     py::class_<SentenceOfText> sentence(module, "Sentence", "One sentence.", not_made_by_python());
     add_state(sentence, "Sentence", "_sentence");
     module.def("_sentence", sentence_from);
-    sentence
-        .def_property_readonly(
-            "source",
-            [](const SentenceOfText& of) {
-                const Place place = of.sentence->source;
-                const auto begin = static_cast<py::ssize_t>(place.offset - of.text_offset);
-                return of.text[py::slice(begin, begin + static_cast<py::ssize_t>(place.length), 1)];
-            })
+    sentence.def_property_readonly("source", source_of)
         .def_property_readonly("offset",
                                [](const SentenceOfText& of) { return of.sentence->source.offset; })
         .def_property_readonly("length",

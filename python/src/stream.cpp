@@ -29,7 +29,7 @@ Result Stream::add(const py::str& piece) {
     n_bytes_ += utf8.bytes().size();
     n_points_ += static_cast<std::size_t>(PyUnicode_GET_LENGTH(piece.ptr()));
     stream_.add(utf8.bytes());
-    return told();
+    return take_result();
 }
 
 void Stream::note_tags(std::string_view piece) {
@@ -43,7 +43,7 @@ Result Stream::end() {
     if (has_ended_) throw std::invalid_argument("the text has ended");
     has_ended_ = true;
     const bool is_complete = stream_.end();
-    Result result = told();
+    Result result = take_result();
     result.complete = is_complete;
     return result;
 }
@@ -57,14 +57,14 @@ void Stream::forget() {
     has_ended_ = false;
 }
 
-Result Stream::told() {
+Result Stream::take_result() {
     Result result = std::exchange(result_, {});
-    result.text = shown(told_text_);
-    told_text_.clear();
+    result.text = shown(text_);
+    text_.clear();
     return result;
 }
 
-// What is there of the text, from where the next sentence begins.
+// The text that is kept, from the begin of the next sentence on.
 std::string_view Stream::unread() const {
     return stream_.text().substr(begin_byte_ - stream_.text_begin());
 }
@@ -75,7 +75,7 @@ bool Stream::add_sentence(const HostSentence& sentence) {
     if (result_.sentences.empty()) result_.text_offset = points.at(begin_byte_);
     result_.sentences.push_back(std::make_shared<Sentence>(sentence, stream_.text(), rules_, plain_,
                                                            points, stream_.text_begin()));
-    told_text_ += unread().substr(0, end - begin_byte_);
+    text_ += unread().substr(0, end - begin_byte_);
     begin_point_ = points.at(end);
     begin_byte_ = end;
     return true;

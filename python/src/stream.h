@@ -14,8 +14,8 @@
 
 namespace kavi::python {
 
-// Reads as a reader does, which outlives it. Each call answers with what can be told now; it holds
-// the interpreter's lock, so that calls never meet.
+// Reads as a reader does, which must outlive it. Each call returns what has become certain. Calls
+// hold the interpreter lock, so they never overlap.
 class Stream {
   public:
     Stream(const Reader& reader, bool rules);
@@ -28,7 +28,7 @@ class Stream {
 
   private:
     TtsHost& reads_by(const TextRewriter* rewriter);
-    Result told();
+    Result take_result();
     void note_tags(std::string_view piece);
     std::string_view unread() const;
     bool add_sentence(const HostSentence& sentence);
@@ -37,15 +37,15 @@ class Stream {
     bool rules_;
     TtsHost host_;
     PlainForm plain_;
-    Result result_;          // what is told by this call, without its text
-    std::string told_text_;  // that
-    // The offset of each "<", in bytes and in code points: tags that nothing closes are told at the
-    // end, when the text is not there any more.
+    Result result_;     // of this call, without its text
+    std::string text_;  // the text of that
+    // The offset of each "<", in bytes and in code points: a tag that nothing closes is reported at
+    // the end, when its text is no longer kept.
     std::vector<std::pair<std::size_t, std::size_t>> tags_;
     std::size_t n_bytes_ = 0;      // of all pieces
-    std::size_t begin_byte_ = 0;   // where the next sentence begins,
-    std::size_t begin_point_ = 0;  // in code points
-    std::size_t n_points_ = 0;     // of all pieces
+    std::size_t n_points_ = 0;     // of all pieces, in code points
+    std::size_t begin_byte_ = 0;   // the offset of the next sentence
+    std::size_t begin_point_ = 0;  // the same in code points
     bool has_ended_ = false;
     TtsStream stream_;
 };

@@ -14,16 +14,16 @@ namespace kavi::tool {
 struct Block {
     std::string input;       // the name that messages and records give
     std::size_t number = 0;  // of the input, from 1
-    std::size_t first = 1;   // number of the first text in its input
+    std::size_t first = 1;   // the number of the first text in its input, from 1
     std::string bytes;       // whole texts, each but perhaps the last with its delimiter
-    std::unique_ptr<LongText> long_text;  // one text, without its delimiter, in the place of these
-    std::string notice;                   // of an input that is no text as it seems
-    std::string failure;                  // why the input could not be read, or read on
+    std::unique_ptr<LongText> long_text;  // or null; then one text without its delimiter, no bytes
+    std::string notice;                   // a warning about the input, such as that it is binary
+    std::string failure;                  // why the input could not be read to its end
 };
 
-// Reads all inputs in order. What has come of an input is handed out as soon as it holds a whole
-// text, so that a terminal and a pipe are answered at once. A text longer than a block makes a
-// larger block, and from some length on one that is not held in memory.
+// Reads all inputs in order. What has been read is handed out as soon as it holds a whole text, so
+// that a terminal or a pipe gets its output at once. A text longer than a block makes a larger
+// block, and one of more than a megabyte a LongText.
 class BlockReader {
   public:
     explicit BlockReader(const Options& options);

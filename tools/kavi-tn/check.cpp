@@ -20,7 +20,7 @@ namespace kavi::tool {
 
 namespace {
 
-constexpr std::size_t TOLD = 20;  // lines that are no case
+constexpr std::size_t BAD_LINES_REPORTED = 20;
 
 // Words in lower case, and the marks before each and after the last.
 struct MarkedWords {
@@ -66,8 +66,7 @@ std::string column(const MarkedWords& text, std::size_t i, bool with_marks) {
     return (i == 0 ? text.marks[0] : "") + text.words[i] + text.marks[i + 1];
 }
 
-// The two lists one under the other, alike words in the same column; with marks where the words
-// are the same.
+// The words of both in two lines, word under word; with marks when all words are the same.
 std::string table_of(const MarkedWords& expected, const MarkedWords& spoken) {
     const bool with_marks = expected.words == spoken.words;
     std::string upper = "  expected:";
@@ -105,10 +104,10 @@ class Check {
         all_read_ = false;
     }
 
-    // Writes the end; the exit status.
+    // Writes the sums. Returns the exit status.
     int end() {
-        if (no_cases_ > TOLD) {
-            write_messages("kavi-tn: " + std::to_string(no_cases_ - TOLD) +
+        if (bad_lines_ > BAD_LINES_REPORTED) {
+            write_messages("kavi-tn: " + std::to_string(bad_lines_ - BAD_LINES_REPORTED) +
                            " more without a tab\n");
         }
         write(std::to_string(as_expected_) + " of " + std::to_string(lines_) + " as expected\n");
@@ -116,7 +115,7 @@ class Check {
             write_messages(std::string("kavi-tn: cannot write standard output: ") +
                            Output::describe(error_) + "\n");
         }
-        const bool all = error_ == 0 && all_read_ && no_cases_ == 0 && as_expected_ == lines_;
+        const bool all = error_ == 0 && all_read_ && bad_lines_ == 0 && as_expected_ == lines_;
         return all ? EXIT_SUCCESS : EXIT_FAILURE;
     }
 
@@ -127,7 +126,7 @@ class Check {
         const std::size_t tab = line.find('\t');
         const std::string prefix = shown(input) + ":" + std::to_string(number) + ": ";
         if (tab == std::string_view::npos) {
-            if (++no_cases_ > TOLD) return;
+            if (++bad_lines_ > BAD_LINES_REPORTED) return;
             return write_messages(prefix + "no tab between a text and the words expected of it\n");
         }
         const std::string_view text = line.substr(0, tab);
@@ -178,7 +177,7 @@ class Check {
     std::unique_ptr<Format> plain_ = make_text_format(Stage::plain);
     std::size_t lines_ = 0;
     std::size_t as_expected_ = 0;
-    std::size_t no_cases_ = 0;  // lines without a tab
+    std::size_t bad_lines_ = 0;  // without a tab
     bool all_read_ = true;
 };
 

@@ -85,7 +85,7 @@ std::string wrong_value(const std::string& takes, const std::string& value) {
     return "takes " + takes + ", not " + in_quotes(value);
 }
 
-// Each gives a value to the options, and answers what is wrong with it, or nothing.
+// ---- Each sets an option from its value and returns what is wrong with the value, or "" ----
 
 std::string set_format(const std::string& value, Options& options) {
     for (const FormatRow& row : FORMATS) {
@@ -173,7 +173,7 @@ class Parser {
         add_stage("--explain", Stage::explain);
     }
 
-    // What is wrong with the arguments, or nothing.
+    // Sets the options. Returns what is wrong with the arguments, or "".
     std::string parse(int argc, char** argv) {
         try {
             app_.parse(argc, argv);
@@ -187,6 +187,21 @@ class Parser {
         } catch (const CLI::ParseError& error) {
             return error.what();
         }
+        if (std::string wrong = conflict(); !wrong.empty()) return wrong;
+        options_.has_text = text_->count() > 0;
+        if (null_) options_.delimiter = '\0';
+        if (!options_.has_text && options_.files.empty()) options_.files.emplace_back("-");
+        return {};
+    }
+
+    bool wants_help() const { return help_; }
+    bool wants_version() const { return version_; }
+
+  private:
+    using Setter = std::string (*)(const std::string& value, Options& options);
+
+    // Which of the options do not go together, or "".
+    std::string conflict() const {
         if (stages_.size() > 1) {
             return stages_[0] + " and " + stages_[1] + " exclude each other";
         }
@@ -225,17 +240,8 @@ class Parser {
         if (options_.stream && is_of_lines) {
             return "--stream goes with standard input and output, and --format text or jsonl alone";
         }
-        options_.has_text = text_->count() > 0;
-        if (null_) options_.delimiter = '\0';
-        if (!options_.has_text && options_.files.empty()) options_.files.emplace_back("-");
         return {};
     }
-
-    bool wants_help() const { return help_; }
-    bool wants_version() const { return version_; }
-
-  private:
-    using Setter = std::string (*)(const std::string& value, Options& options);
 
     CLI::Option* add_value(const char* name, Setter set) {
         return app_

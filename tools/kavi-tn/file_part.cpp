@@ -13,17 +13,17 @@ namespace kavi::tool {
 
 namespace {
 
-// Where the `part`-th of `parts` ends, of `size` bytes in all.
+// Where the `part`-th of `parts` parts of `bytes` bytes ends.
 std::size_t end_of_part(std::size_t bytes, std::size_t part, std::size_t parts) {
     return bytes / parts * part + bytes % parts * part / parts;
 }
 
-off_t at_of(int file) {
+off_t offset_of(int file) {
     return std::max<off_t>(::lseek(file, 0, SEEK_CUR), 0);
 }
 
-// Counts the texts that end in these bytes, which are at `at` of the file, until the next begins
-// in the part. False when none does.
+// Counts the texts that end in these bytes, which are at offset `at`, until the next one begins in
+// the part. False when none does.
 bool count_texts(std::string_view bytes, std::size_t at, char delimiter, FilePart& part) {
     for (std::size_t end = bytes.find(delimiter); end != std::string_view::npos;
          end = bytes.find(delimiter, end + 1)) {
@@ -47,7 +47,7 @@ std::string FileParts::measure() {
         if (result == 0 && !is_file) return "only a regular file has parts";
         off_t size = is_file ? status.st_size : 0;
         if (is_file && name == "-") {
-            size = has_standard_input ? 0 : std::max<off_t>(size - at_of(STDIN_FILENO), 0);
+            size = has_standard_input ? 0 : std::max<off_t>(size - offset_of(STDIN_FILENO), 0);
             has_standard_input = true;
         }
         sizes_.push_back(static_cast<std::size_t>(size));
@@ -70,7 +70,7 @@ std::string FileParts::find(int file, std::size_t n, FilePart& part) {
     part.end = in_file(end_of_part(all, options_.part, options_.parts));
     part.first_text = part.begin;
     part.number = 1;
-    part.origin = file == STDIN_FILENO ? static_cast<std::size_t>(at_of(file)) : 0;
+    part.origin = file == STDIN_FILENO ? static_cast<std::size_t>(offset_of(file)) : 0;
     if (part.begin == 0 || part.begin >= part.end) return {};
     const int error = find_first_text(file, part);
     return error == 0 ? "" : std::strerror(error);

@@ -10,13 +10,13 @@
 
 namespace kavi::tool {
 
-// The texts that begin in these bytes, and where the first of them does.
+// A range of an input, and the texts that begin in it. Offsets count from `origin`.
 struct FilePart {
     std::size_t begin = 0;
     std::size_t end = 0;
-    std::size_t first_text = 0;  // its offset; not before `end`: there is none
-    std::size_t origin = 0;      // where the input begins in its file: others count from there
-    std::size_t number = 1;      // of that, from 1
+    std::size_t first_text = 0;  // the offset of the first text; `end` or more when there is none
+    std::size_t number = 1;      // of that text in the input, from 1
+    std::size_t origin = 0;      // where the input begins in its file: standard input need not at 0
 };
 
 // Cuts the files as if they were one. A text belongs to the part that its first byte is in, so that
@@ -25,9 +25,9 @@ class FileParts {
   public:
     explicit FileParts(const Options& options) : options_(options) {}
 
-    // The part of an open file, the `n`-th of the files from 0; the texts before it are counted.
-    // Standard input begins where it is, and stays there: bytes of parts are read by offset. What
-    // is wrong with it, or nothing; only files that stay as they are have parts.
+    // Finds the part of an open file, the `n`-th of the files from 0, and counts the texts before
+    // it. Standard input begins at its current offset, which is not moved. Returns what is wrong,
+    // or "": only a regular file has parts.
     std::string find(int file, std::size_t n, FilePart& part);
 
   private:

@@ -1,4 +1,4 @@
-// What is told about the input beside the output: messages as they come, and what they add up to.
+// Messages about findings, and how many there were of each kind.
 #ifndef KAVI_TOOL_FINDINGS_REPORT_H
 #define KAVI_TOOL_FINDINGS_REPORT_H
 
@@ -12,15 +12,14 @@
 
 namespace kavi::tool {
 
-// A finding, the line to write about it, and the same as an object in a line of JSON, if that is
-// wanted.
+// A finding, a line about it, and a line of JSON about it, or "" when none is wanted.
 struct FindingMessage {
     Finding finding;
     std::string text;
     std::string json = {};
 };
 
-// An object of input, line, offset, length, code and message.
+// A line of JSON: an object with input, line, offset, length, code and message.
 std::string json_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
                       const std::string& message);
 

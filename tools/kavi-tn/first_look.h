@@ -8,15 +8,15 @@
 
 namespace kavi::tool {
 
-// How many of them are looked at, and how few tell what is told by a signature.
+// How many bytes are looked at, and how many are enough for every signature.
 constexpr std::size_t FIRST_LOOK = 4096;
 constexpr std::size_t LONGEST_SIGNATURE = 10;
 
-// What an input is instead of UTF-8, which is not read, and the line to type; empty for all others.
+// For an input that is not read, since it is no UTF-8: what it is, and a command that converts it.
+// Empty for any other. `bytes` are the first of the input.
 std::string other_than_text(std::string_view bytes, char delimiter);
 
-// Whether it seems to be binary, by its share of control characters. It is read all the
-// same.
+// Whether an input seems to be binary, by its share of control characters. It is read all the same.
 bool is_binary(std::string_view bytes, char delimiter);
 
 }  // namespace kavi::tool

@@ -1,4 +1,4 @@
-// What a page calls things.
+// Names on the page: of marks and of sentences.
 #ifndef KAVI_TOOL_HTML_PAGE_H
 #define KAVI_TOOL_HTML_PAGE_H
 
@@ -16,7 +16,7 @@ inline constexpr std::pair<std::string_view, std::string_view> MARK_GLYPHS[] = {
     {"tan", "!"},    {"mao", ":"},   {"zuoyin", "\""},   {"youyin", "\""}, {"zuokuo", "("},
     {"youkuo", ")"}, {"pozhe", "-"}, {"shenglue", "..."}};
 
-// The position of a sentence on the page.
+// The id of a sentence's element.
 inline std::string anchor(const Location& location) {
     return std::to_string(location.input_number) + "." + std::to_string(location.line) + "." +
            std::to_string(location.sentence);

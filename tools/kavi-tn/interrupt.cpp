@@ -13,7 +13,7 @@ namespace kavi::tool {
 
 namespace {
 
-std::atomic<int> came = 0;
+std::atomic<int> received = 0;
 
 bool is_ignored(int signal) {
     struct sigaction action = {};
@@ -38,14 +38,14 @@ void take_interrupts(std::function<void()> give_up) {
         constexpr std::chrono::milliseconds A_WHILE(500);
         int signal = 0;
         if (::sigwait(&signals, &signal) != 0) return;
-        came = signal;
+        received = signal;
         std::this_thread::sleep_for(A_WHILE);
         give_up();
     }).detach();
 }
 
 int interrupting_signal() {
-    return came;
+    return received;
 }
 
 void die_by(int signal) {

@@ -6,14 +6,13 @@
 
 namespace kavi::tool {
 
-// From here on the signals that end a program, by a user, a terminal, a batch system or a limit,
-// are taken by a thread of their own, unless they were ignored: then they stay so. To be called
-// before any other thread starts. The first of them makes interrupting_signal() answer it, so that
-// the program can end between two lines; when it has not ended half a second later, `give_up` is
-// called in that thread, which must end it.
+// Starts a thread that takes the signals that end a program: those of a user, a terminal, a batch
+// system or a limit. Signals that are ignored stay so. To be called before any other thread starts.
+// interrupting_signal() returns the first that came, so that the program can end between two lines.
+// When it has not ended half a second later, the thread calls `give_up`, which must end it.
 void take_interrupts(std::function<void()> give_up);
 
-// The signal that came, or 0.
+// The first signal that came, or 0.
 int interrupting_signal();
 
 // Ends the process as the signal would have without the program.

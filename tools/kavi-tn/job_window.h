@@ -76,16 +76,16 @@ class JobWindow {
 
     // ---- the writer ----
 
-    // The next piece of the oldest job; none at the end, after a failure, or when `is_over` says
-    // so, which is asked now and then while the reader waits for input.
+    // Waits for the next piece of the oldest job. None at the end, after a failure, or when
+    // `is_over` returns true, which is called every 50 ms.
     template <typename IsOver>
     std::optional<Rendered> next(IsOver is_over) {
-        constexpr std::chrono::milliseconds A_WHILE(50);
+        constexpr std::chrono::milliseconds INTERVAL(50);
         std::unique_lock lock(mutex_);
         while (!is_over() && failure_.empty()) {
             if (std::optional<Rendered> piece = take_piece(); piece.has_value()) return piece;
             if (in_order_.empty() && ended_) break;
-            changed_.wait_for(lock, A_WHILE);
+            changed_.wait_for(lock, INTERVAL);
         }
         return std::nullopt;
     }
@@ -96,7 +96,7 @@ class JobWindow {
     }
 
   private:
-    // That of the oldest job, if it is there; jobs that have no more are over.
+    // The piece of the oldest job, if there is one. Removes jobs that have no more.
     std::optional<Rendered> take_piece() {
         while (!in_order_.empty()) {
             Job& oldest = *in_order_.front();

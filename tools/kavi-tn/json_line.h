@@ -43,7 +43,7 @@ class JsonLine {
         close(']');
     }
 
-    // The usual begin of the object of a word, which close() ends; `is_plain`: the word is.
+    // Begins the object of a word, which close() ends. `is_plain`: the word needs no escapes.
     void begin_word(std::string_view word, bool is_plain, std::string_view after,
                     const TextRange& source, std::string_view pause) {
         if (!is_plain) word = escaped(word);
@@ -51,7 +51,7 @@ class JsonLine {
         line_.add("{\"word\":\"", word, "\",\"after\":\"", after, "\",\"offset\":", source.offset,
                   ",\"length\":", source.length, ",\"pause\":\"", pause, "\",");
     }
-    // That of what comes before the first word.
+    // Begins the object of the head record.
     void begin_head(const TextRange& source, std::string_view pause) {
         line_ << "{\"word\":null,";
         range(source);
@@ -76,8 +76,8 @@ class JsonLine {
     }
 
   private:
-    // A text as it is written between quotation marks; what is not UTF-8 is U+FFFD. It lives until
-    // the next call.
+    // A text as it is written between quotation marks, with U+FFFD for what is not UTF-8. Valid
+    // until the next call.
     std::string_view escaped(std::string_view text) {
         return JsonPlain::are_all(text) ? text : escape(text, escaped_text_);
     }

@@ -26,7 +26,7 @@ int LongText::finish() {
     return 0;
 }
 
-// By so much at a time that it costs nothing, and whole pages.
+// In steps of a megabyte: whole pages, and few calls of the system.
 void LongText::forget(std::size_t size) {
     constexpr std::size_t STEP = std::size_t{1} << 20U;
     for (; size - forgotten_ >= STEP; forgotten_ += STEP) {

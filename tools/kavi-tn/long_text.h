@@ -9,8 +9,8 @@
 
 namespace kavi::tool {
 
-// Stands in a temporary file without a name, and in memory where it is being looked at. Operations
-// answer the system's error number, or 0.
+// A text in an unnamed temporary file that is mapped into memory. Operations return the system's
+// error number, or 0.
 class LongText {
   public:
     LongText() = default;
@@ -20,11 +20,11 @@ class LongText {
 
     int append(std::string_view bytes);
 
-    // All has been appended: from now on it can be looked at.
+    // Maps the text, after the last append. Before that, text() may not be called.
     int finish();
     std::string_view text() const { return {text_, size_}; }
 
-    // Nobody looks at the first `size` bytes any more.
+    // Releases the memory of the first `size` bytes, which are not needed any more.
     void forget(std::size_t size);
 
   private:

@@ -30,13 +30,13 @@ constexpr FieldRow FIELDS[] = {
     {Field::version, "version"},
 };
 
-// A field is found by its place.
+// The rows are indexed by field.
 constexpr bool are_in_order() {
-    int place = 0;
+    int index = 0;
     for (const FieldRow& row : FIELDS) {
-        if (static_cast<int>(row.field) != place++) return false;
+        if (static_cast<int>(row.field) != index++) return false;
     }
-    return place == static_cast<int>(Field::version) + 1;
+    return index == static_cast<int>(Field::version) + 1;
 }
 static_assert(are_in_order());
 
@@ -50,7 +50,7 @@ bool is_hidden(char32_t c) {
     return is_control || turns || c == 0x2028 || c == 0x2029;
 }
 
-// As in \x1b of a byte, or \u202e.
+// Appends an escape such as \x1b of a byte, or \u202e of a character.
 void append_escape(char32_t c, bool is_byte, std::string& out) {
     constexpr const char* DIGITS = "0123456789abcdef";
     out += is_byte ? "\\x" : "\\u";

@@ -1,5 +1,4 @@
-// The names of fields, lists of what a record holds, and names and values of the user's for
-// messages.
+// Names of fields, lists of what a record holds, and texts of the user made safe for messages.
 #ifndef KAVI_TOOL_NAMES_H
 #define KAVI_TOOL_NAMES_H
 
@@ -17,25 +16,25 @@ namespace kavi::tool {
 std::string_view name_of(Field field);
 std::optional<Field> field_of(std::string_view name);
 
-// Appends the punctuation names of a record, or its attributes that are set, separated by blanks.
+// Appends the names of a record's punctuation, or the attributes that are set, as NAME=VALUE, with
+// blanks between them.
 void append_punctuation(const UtteranceSyllable& record, TextBuffer& out);
 void append_attributes(const CssmlTag& tag, TextBuffer& out);
 
-// Whether there is something to tell about the head record.
+// Whether a record has marks or a break. The head record is written only when it has.
 inline bool has_marks(const UtteranceSyllable& record) {
     return record.n_punc > 0 || record.cssml_tag.breaktime[0] != '\0';
 }
 
-// The same text with escapes, such as \x1b or \u202e, for what a terminal obeys or nobody sees:
-// control characters but for line ends and tabs, characters that turn the direction of writing, and
-// bytes that are no UTF-8.
+// The text with escapes, such as \x1b or \u202e, for control characters except line ends and tabs,
+// for characters that change the direction of writing, and for bytes that are not UTF-8.
 std::string visible(std::string_view text);
 
-// A name or a value of the user's for a message, visible and in quotation marks, so that it cannot
-// pass for another line.
+// The text made visible, in quotation marks and on one line, for a message.
 std::string in_quotes(std::string_view text);
-std::string shown(
-    std::string_view name);  // quoted only where it must be: or with blanks at its ends
+
+// The same, but without quotation marks where a name is clear without them.
+std::string shown(std::string_view name);
 
 inline bool is_ascii(std::string_view text) {
     unsigned char bits = 0;

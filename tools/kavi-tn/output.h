@@ -17,7 +17,7 @@ namespace kavi::tool {
 // its own, which it takes when all is on the disk: until then the file there is as it was, and may
 // be an input. A link stays one: the file that it names is written. What cannot be renamed is
 // written directly: a pipe, a device, a file that is mounted, or one of this process's open files,
-// such as /dev/stdout, which goes on where it is. Operations answer the system's error number,
+// such as /dev/stdout, at its current offset. Operations return the system's error number,
 // IS_INPUT, or 0.
 class Output {
   public:
@@ -34,12 +34,12 @@ class Output {
     int write(std::string_view piece);
     bool is_terminal() const;
 
-    // All is written.
+    // To be called when all is written: gives the file its name.
     int commit();
 
-    // What was written to a file is not to be kept. True when the file is as it was; false for
-    // what is written directly, and after commit(). Another thread than that of the other
-    // operations may call it, before the process ends.
+    // Drops what was written. True when the file is as it was; false for what is written directly,
+    // and after commit(). May be called by another thread than the other operations, before the
+    // process ends.
     bool abandon();
 
   private:

@@ -28,8 +28,8 @@ namespace kavi::tool {
 
 namespace {
 
-// One run over all inputs. The calling thread writes. Ends before the end of the input end the
-// process, since the reader may wait for input that never comes.
+// One run over all inputs. The calling thread writes. A run that ends before the end of the input
+// ends the process, since the reader may be waiting for input that never comes.
 class Run {
   public:
     explicit Run(const Options& options)

@@ -11,10 +11,11 @@ namespace kavi::tool {
 
 class Readings {
   public:
-    // Why they cannot be used, in whole lines, or nothing.
+    // Reads the lexicon and sets the classes. To be called once. Returns messages, in whole lines,
+    // why they cannot be used, or "".
     std::string load(const Options& options);
 
-    // Null when nothing is to be rewritten. Lives as long as this.
+    // What rewrites texts, or null when nothing does. Owned by this object.
     const Everyday* everyday() const { return is_on_ ? &everyday_ : nullptr; }
 
   private:

@@ -1,4 +1,4 @@
-// A block of texts to what is written for it.
+// Rendering: a block of texts to the output for it.
 #ifndef KAVI_TOOL_RENDERER_H
 #define KAVI_TOOL_RENDERER_H
 
@@ -15,16 +15,16 @@
 
 namespace kavi::tool {
 
-// What comes of a block, or of a piece of it.
+// The result of a block, or of a piece of it.
 struct Rendered {
     std::string output;  // whole lines
     std::vector<FindingMessage> findings;
-    std::size_t bytes = 0;  // of the block, that it was made from
-    std::size_t texts = 0;  // read
-    bool all_read = true;
-    std::set<std::string> lost;  // what the format has no word for
-    std::string notice;          // a line about an input that seems to be no text
-    std::string failure;         // a line about it, if the input could not be read
+    std::size_t bytes = 0;       // of the block, that it was made from
+    std::size_t texts = 0;       // that ended in it
+    bool all_read = true;        // nothing was passed over, and the input could be read
+    std::set<std::string> lost;  // as of Format::take_lost
+    std::string notice;          // a line that warns that the input seems to be binary
+    std::string failure;         // a line why the input could not be read
 };
 
 // One renderer serves one thread. The result depends on the block alone.

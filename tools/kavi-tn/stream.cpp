@@ -23,7 +23,7 @@ namespace kavi::tool {
 
 namespace {
 
-// Writes what a stream tells.
+// Writes what a stream hands over.
 class Writer {
   public:
     explicit Writer(const Options& options)
@@ -32,7 +32,7 @@ class Writer {
     }
 
     void write(const TtsStream& stream, const HostSentence& sentence) {
-        look_at(stream);
+        locate(stream);
         ++location_.sentence;
         format_->write(location_, sentence, diagnostics_, lines_);
         diagnostics_.clear();
@@ -41,7 +41,7 @@ class Writer {
     }
 
     void write(const TtsStream& stream, const Diagnostic& found) {
-        look_at(stream);
+        locate(stream);
         diagnostics_.push_back(found);
         write_messages(findings_.take(
             {{found.finding, "standard input:1: byte " + std::to_string(found.offset) + ": " +
@@ -51,7 +51,7 @@ class Writer {
 
     // At the end of the text.
     void end(const TtsStream& stream, bool with_summary) {
-        look_at(stream);
+        locate(stream);
         format_->end_text(location_, diagnostics_, lines_);
         require(output_.write(lines_));
         write_messages(findings_.not_written() + (with_summary ? findings_.summary() : ""));
@@ -66,7 +66,7 @@ class Writer {
             throw std::runtime_error("cannot write standard output: " + Output::describe(error));
     }
 
-    void look_at(const TtsStream& stream) {
+    void locate(const TtsStream& stream) {
         location_.text = stream.text();
         location_.text_begin = stream.text_begin();
     }
@@ -79,17 +79,17 @@ class Writer {
     std::string lines_;
 };
 
-// What comes next of standard input; empty at its end.
-std::string_view next_piece(std::array<char, 65536>& room) {
+// Reads what is there of standard input, or waits for it. Empty at its end.
+std::string_view read_piece(std::array<char, 65536>& buffer) {
     ssize_t n = 0;
     do {
-        n = ::read(STDIN_FILENO, room.data(), room.size());
+        n = ::read(STDIN_FILENO, buffer.data(), buffer.size());
     } while (n < 0 && errno == EINTR);
     if (n < 0) {
         throw std::runtime_error(std::string("standard input: cannot be read: ") +
                                  std::strerror(errno));
     }
-    return {room.data(), static_cast<std::size_t>(n)};
+    return {buffer.data(), static_cast<std::size_t>(n)};
 }
 
 }  // namespace
@@ -104,15 +104,15 @@ int run_stream(const Options& options) {
     TtsHost host;
     host.rewrite_by(readings.everyday());
     Writer writer(options);
-    const TtsStream* told_by = nullptr;
-    const auto write = [&](const auto& told) {
-        writer.write(*told_by, told);
+    const TtsStream* source = nullptr;
+    const auto write = [&](const auto& sentence_or_finding) {
+        writer.write(*source, sentence_or_finding);
         return true;
     };
     TtsStream stream(host, write, write);
-    told_by = &stream;
-    std::array<char, 65536> room = {};
-    for (std::string_view piece; !(piece = next_piece(room)).empty();) stream.add(piece);
+    source = &stream;
+    std::array<char, 65536> buffer = {};
+    for (std::string_view piece; !(piece = read_piece(buffer)).empty();) stream.add(piece);
     const bool all_read = stream.end();
     writer.end(stream, options.summary);
     return all_read && !(options.strict && writer.has_findings()) ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -17,7 +17,7 @@ namespace kavi::tool {
 
 namespace {
 
-// How many characters a field has, if it is UTF-8.
+// The number of characters of a field, if it is UTF-8.
 std::size_t width_of(std::string_view field) {
     constexpr unsigned CONTINUATION = 0x80;
     constexpr unsigned CONTINUATION_MASK = 0xC0;
@@ -32,31 +32,31 @@ std::size_t width_of(std::string_view field) {
 template <std::size_t Columns>
 class Table {
   public:
-    // `titles`: of the columns, above the rows; there may be none.
+    // `titles` of the columns are the first row; there may be none.
     explicit Table(std::initializer_list<std::string_view> titles = {}) {
         for (const std::string_view title : titles) add(title);
         n_titles_ = n_fields_;
     }
 
-    // Leaves the titles.
+    // Removes all rows but the titles.
     void clear() {
         n_fields_ = n_titles_;
         composed_.clear();
         composed_end_ = 0;
     }
 
-    // A field that stays where it is until the table is written.
+    // Adds a field whose text the caller keeps until the table is written.
     void add(std::string_view field) { add_field(field.data(), field.size()); }
 
-    // The text to append the next field to, which is kept here; and the end of the field.
+    // Adds a field whose text is kept here: it is appended to field(), and end_field() ends it.
     TextBuffer& field() { return composed_; }
     void end_field() {
         add_field(nullptr, composed_.size() - composed_end_);
         composed_end_ = composed_.size();
     }
 
-    // All rows, and an empty line. They are written over blanks. `are_bytes`: in what add() was
-    // given, each byte is a character.
+    // Appends all rows and an empty line. `are_bytes`: each byte of what add() was given is a
+    // character. The fields are written over blanks.
     void append_to(std::string& out, bool are_bytes) {
         find_composed();
         const std::size_t more = are_bytes && is_ascii(composed_.text()) ? 0 : find_widths();
@@ -74,7 +74,7 @@ class Table {
 
   private:
     struct Field {
-        const char* begin;  // null: it was composed, after the last one that was
+        const char* begin;  // null: the next part of composed_
         std::size_t size;
         std::size_t width;
     };
@@ -95,7 +95,8 @@ class Table {
         }
     }
 
-    // Of fields that may be other than ASCII; how many bytes more than characters they have.
+    // Sets the widths of fields that need not be ASCII. Returns how many more bytes than characters
+    // they have.
     std::size_t find_widths() {
         std::size_t more = 0;
         for (std::size_t i = n_titles_; i < n_fields_; ++i) {
@@ -106,7 +107,7 @@ class Table {
         return more;
     }
 
-    // Of each column.
+    // The width of each column.
     Widths widest() const {
         Widths widths = {};
         for (std::size_t i = 0; i < n_fields_;) {
@@ -115,9 +116,9 @@ class Table {
         return widths;
     }
 
-    // Writes a row from `target` on; where the next goes.
+    // Writes a row from `target` on, without blanks at its end, and returns the end.
     static char* write_row(const Field* fields, const Widths& widths, char* target) {
-        char* end = target;  // after the last that is not empty
+        char* end = target;  // of the last field that is not empty
         for (std::size_t column = 0; column < Columns; ++column) {
             const Field& field = fields[column];
             if (field.size > 0) {
@@ -130,11 +131,11 @@ class Table {
         return end;
     }
 
-    std::vector<Field> fields_;  // with room for more
+    std::vector<Field> fields_;  // the first n_fields_
     std::size_t n_fields_ = 0;
     std::size_t n_titles_ = 0;
-    TextBuffer composed_;
-    std::size_t composed_end_ = 0;  // of the last field there
+    TextBuffer composed_;           // the texts that are kept here, one after the other
+    std::size_t composed_end_ = 0;  // of the last ended field
 };
 
 class SentenceFormat : public Format {
@@ -201,7 +202,7 @@ class WordFormat : public Format {
 
 class ExplainFormat : public Format {
   public:
-    // Blanks between sections stay out: nothing is written for them.
+    // Blanks between sections are left out, since they have no reading.
     void write(const Location& location, const HostSentence& sentence,
                const std::vector<Diagnostic>& /*diagnostics*/, std::string& out) override {
         out.append(sentence.normalized) += '\n';
@@ -215,8 +216,8 @@ class ExplainFormat : public Format {
             table_.end_field();
             const std::string_view first = run.sections[0];
             if (run.is_word && run.reading.size() == first.size() + 1) {  // it, and a blank
-                table_.add("word");
-                table_.add(first);  // which stays where it is, other than the reading
+                table_.add(run.rule);
+                table_.add(first);  // a part of the text, which lives longer than the reading
                 return;
             }
             table_.field() << run.rule;

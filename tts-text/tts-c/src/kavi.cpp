@@ -1,4 +1,4 @@
-// The functions of kavi.h: arguments checked, exceptions turned into answers.
+// The functions of kavi.h: check arguments and turn exceptions into statuses.
 
 #include "kavi.h"
 
@@ -29,13 +29,13 @@ constexpr const char* STATUS_TEXTS[] = {"read",
                                         "the reader is reading",
                                         "the text has ended"};
 
-// A reader is busy while this lives.
-class Reading {
+// Marks a reader as busy.
+class BusyGuard {
   public:
-    explicit Reading(kavi_reader& reader) : reader_(reader) { reader_.is_reading = true; }
-    ~Reading() { reader_.is_reading = false; }
-    Reading(const Reading&) = delete;
-    Reading& operator=(const Reading&) = delete;
+    explicit BusyGuard(kavi_reader& reader) : reader_(reader) { reader_.is_reading = true; }
+    ~BusyGuard() { reader_.is_reading = false; }
+    BusyGuard(const BusyGuard&) = delete;
+    BusyGuard& operator=(const BusyGuard&) = delete;
 
   private:
     kavi_reader& reader_;
@@ -53,7 +53,7 @@ template <typename OnSentence, typename OnFinding>
 kavi_status read(kavi_reader& reader, std::string_view text, OnSentence on_sentence,
                  OnFinding on_finding) {
     return guarded([&] {
-        const Reading reading(reader);
+        const BusyGuard busy(reader);
         std::size_t n_sentences = 0;
         bool is_stopped = false;
         const bool all_read = reader.host.read(
@@ -89,8 +89,8 @@ int32_t kavi_readings_version(void) {
 }
 
 const char* kavi_status_text(kavi_status status) {
-    const auto place = static_cast<std::size_t>(status);
-    return place < std::size(STATUS_TEXTS) ? STATUS_TEXTS[place] : "unknown";
+    const auto index = static_cast<std::size_t>(status);
+    return index < std::size(STATUS_TEXTS) ? STATUS_TEXTS[index] : "unknown";
 }
 
 const char* kavi_pause_name(int32_t pause) {
@@ -102,8 +102,8 @@ const char* kavi_mark_name(int32_t mark) {
 }
 
 const char* kavi_attribute_name(kavi_attribute attribute) {
-    const auto place = static_cast<std::size_t>(attribute);
-    return place < KAVI_ATTRIBUTES ? kavi::attributes({})[place].first : "unknown";
+    const auto index = static_cast<std::size_t>(attribute);
+    return index < KAVI_ATTRIBUTES ? kavi::attributes({})[index].first : "unknown";
 }
 
 const char* kavi_finding_code(int32_t code) {

@@ -1,4 +1,4 @@
-// Memory of a result: what was taken from it goes back with it.
+// The memory of a result, which is freed as a whole.
 #ifndef KAVI_C_POOL_H
 #define KAVI_C_POOL_H
 
@@ -16,7 +16,7 @@ namespace kavi::c {
 
 class Pool {
   public:
-    // Objects as their zero bytes are.
+    // `n` objects, all bytes zero.
     template <typename T>
     T* array(std::size_t n) {
         static_assert(std::is_trivial_v<T>);
@@ -29,10 +29,10 @@ class Pool {
         return {copy, text.size()};
     }
 
-    // Empty texts are one.
+    // A copy of a text, or a constant for the empty one.
     const char* value(const char* text) { return *text == '\0' ? "" : this->text(text).data; }
 
-    // All that was taken goes back, but for the room of the first block.
+    // Frees all that was taken. The first block is kept for the next sentence.
     void clear() {
         if (blocks_.size() > 1) blocks_.resize(1);
         used_ = 0;
@@ -57,8 +57,8 @@ class Pool {
     }
 
     std::vector<std::unique_ptr<char[]>> blocks_;
-    std::size_t used_ = 0;  // of the last
-    std::size_t size_ = 0;  // of that
+    std::size_t used_ = 0;  // of the last block
+    std::size_t size_ = 0;  // of the last block
 };
 
 }  // namespace kavi::c

@@ -24,10 +24,10 @@ struct kavi_reader {
     kavi::TtsHost host;
     kavi::PlainForm plain;  // of the last sentence
 
-    // Of readings.cpp: what rewrites texts, of which the reader itself knows nothing.
+    // What rewrites texts: only readings.cpp uses these types.
     std::shared_ptr<kavi::Lexicon> lexicon;
     std::shared_ptr<kavi::Everyday> everyday;
-    const kavi::TextRewriter* rewriter = nullptr;  // that, or null
+    const kavi::TextRewriter* rewriter = nullptr;  // `everyday`, or null
     std::uint32_t classes = 0;
 
     std::string error;
@@ -42,7 +42,8 @@ struct kavi_result {
 
 namespace kavi::c {
 
-// What the work answers, or no memory. Nothing else is thrown but by a handler, which means stop.
+// What `work` returns; KAVI_NO_MEMORY for std::bad_alloc, and KAVI_STOPPED for any other exception,
+// which only a handler of the caller throws.
 template <typename Work>
 kavi_status guarded(Work work) {
     try {
@@ -54,8 +55,8 @@ kavi_status guarded(Work work) {
     }
 }
 
-// A sentence of a text, of which `text` is what is there from `text_begin` on, with copies of all
-// it points to. `plain` is written anew.
+// A sentence with copies, in `pool`, of all it points to. It was read from a text of which `text`
+// begins at the offset `text_begin`. `plain` is overwritten.
 kavi_sentence copied(const HostSentence& sentence, std::string_view text, std::size_t text_begin,
                      std::uint32_t wanted, PlainForm& plain, Pool& pool);
 

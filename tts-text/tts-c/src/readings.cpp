@@ -1,5 +1,5 @@
-// A reader's lexicon and everyday English. Apart, so that a program that asks for neither need not
-// have them.
+// A reader's lexicon and everyday English, in a file of their own, so that a program that uses
+// neither does not link them.
 
 #include "reader.h"
 #include "tts_everyday.h"
@@ -9,8 +9,8 @@ namespace {
 static_assert(KAVI_ALL_EVERYDAY == (1 << kavi::EVERYDAY_CLASSES) - 1);
 static_assert(KAVI_MARKS == 1 << static_cast<int>(kavi::EverydayClass::marks));
 
-// Everyday English by this lexicon, which may be null, and these classes. Without memory, all
-// stays.
+// Sets the reader's lexicon, which may be null, and its classes. Throws std::bad_alloc, and then
+// nothing has changed.
 void rewrite(kavi_reader& reader, std::shared_ptr<kavi::Lexicon> lexicon, std::uint32_t classes) {
     auto everyday = std::make_shared<kavi::Everyday>(lexicon.get());
     for (int i = 0; i < kavi::EVERYDAY_CLASSES; ++i) {

@@ -16,14 +16,14 @@ struct kavi_stream {
               reads_by(reader.rewriter), [this](const auto& sentence) { return add(sentence); },
               [this](const auto& found) { return add(found); }) {}
 
-    // What the rewriter needs.
+    // Kept alive, since the rewriter is one and uses the other.
     std::shared_ptr<kavi::Lexicon> lexicon;
     std::shared_ptr<kavi::Everyday> everyday;
 
     std::uint32_t wanted;
     kavi::TtsHost host;
     kavi::PlainForm plain;
-    std::unique_ptr<kavi_result> told;  // null for nothing
+    std::unique_ptr<kavi_result> pending;  // what the current call hands over; null for nothing
     kavi::TtsStream stream;
     bool has_ended = false;
 
@@ -33,8 +33,8 @@ struct kavi_stream {
         return host;
     }
     kavi_result& result() {
-        if (told == nullptr) told = std::make_unique<kavi_result>();
-        return *told;
+        if (pending == nullptr) pending = std::make_unique<kavi_result>();
+        return *pending;
     }
     bool add(const kavi::HostSentence& sentence) {
         kavi_result& to = result();
@@ -52,19 +52,19 @@ struct kavi_stream {
 
 namespace {
 
-// What the work tells. When there is no memory for it, the text has ended.
+// Does the work and hands over what it found. When there is no memory for it, the text has ended.
 template <typename Work>
-kavi_status tell(kavi_stream* stream, kavi_result** result, Work work) {
+kavi_status hand_over(kavi_stream* stream, kavi_result** result, Work work) {
     if (result == nullptr) return KAVI_BAD_ARGUMENT;
     *result = nullptr;
     if (stream == nullptr) return KAVI_BAD_ARGUMENT;
     if (stream->has_ended) return KAVI_ENDED;
     const kavi_status status = kavi::c::guarded(work);
     if (status == KAVI_OK || status == KAVI_INCOMPLETE) {
-        *result = stream->told.release();
+        *result = stream->pending.release();
     } else {
         stream->has_ended = true;
-        stream->told.reset();
+        stream->pending.reset();
     }
     return status;
 }
@@ -85,14 +85,14 @@ kavi_status kavi_stream_new(const kavi_reader* reader, uint32_t wanted, kavi_str
 kavi_status kavi_stream_add(kavi_stream* stream, const char* piece, size_t length,
                             kavi_result** result) {
     if (piece == nullptr && length > 0) stream = nullptr;
-    return tell(stream, result, [&] {
+    return hand_over(stream, result, [&] {
         stream->stream.add({length > 0 ? piece : "", length});
         return KAVI_OK;
     });
 }
 
 kavi_status kavi_stream_end(kavi_stream* stream, kavi_result** result) {
-    return tell(stream, result, [&] {
+    return hand_over(stream, result, [&] {
         const bool all_read = stream->stream.end();
         stream->has_ended = true;
         return all_read ? KAVI_OK : KAVI_INCOMPLETE;

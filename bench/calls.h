@@ -4,7 +4,6 @@
 
 #include <cstring>
 #include <string>
-#include <vector>
 
 #include "post_pro_tn_eng.h"
 #include "tts_host.h"

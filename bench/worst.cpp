@@ -14,7 +14,6 @@
 #include <cstring>
 #include <functional>
 #include <iterator>
-#include <set>
 #include <string>
 
 #include "calls.h"

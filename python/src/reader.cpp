@@ -1,8 +1,8 @@
 #include "reader.h"
 
 #include <memory>
-#include <new>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace kavi::python {

@@ -2,8 +2,6 @@
 #ifndef KAVI_TESTS_HOST_READER_H
 #define KAVI_TESTS_HOST_READER_H
 
-#include <algorithm>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>

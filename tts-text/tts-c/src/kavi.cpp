@@ -3,11 +3,13 @@
 #include "kavi.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
-#include <cstring>
-#include <exception>
 #include <iterator>
-#include <new>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <tuple>
 
 #include "reader.h"
 #include "tts_everyday.h"

@@ -2,9 +2,11 @@
 #ifndef KAVI_C_READER_H
 #define KAVI_C_READER_H
 
+#include <cstdint>
 #include <memory>
 #include <new>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "kavi.h"

@@ -1,7 +1,7 @@
 // A text that is still being written.
 
-#include <string_view>
-#include <utility>
+#include <cstdint>
+#include <memory>
 
 #include "reader.h"
 #include "tts_stream.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
+#include <string>
 
 #include "for_host_layer.h"
 #include "sentence_source.h"

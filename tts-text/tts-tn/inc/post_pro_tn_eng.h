@@ -247,10 +247,9 @@ class PostProTnEng {
     // The array and the `syllable` and `zhuyin` of each record belong to the caller, who gives them
     // back with their sizes: `n_utt` records, `syl_len` and `zy_len` bytes.
     //
-    // 0 on success. -1 with `p_utt` null and
-    // `n_utt` 0 when the arena refused the array. -1 with both set when it refused the storage of a
-    // word, or when the names or the values of nested spans are more than 199 characters: the
-    // records before that are complete, the others zero.
+    // 0 on success. -1 with `p_utt` null and `n_utt` 0 when the arena refused the array. -1 with
+    // both set when it refused the storage of a word, or when the names or the values of nested
+    // spans are more than 199 characters: the records before that are complete, the others zero.
     int eng_text_to_utterance_syllable(char* sz_source_text, UtteranceSyllable*& p_utt, int& n_utt);
 
     // ---- One record at a time: utterance/records, utterance/attributes ----

@@ -11,7 +11,7 @@
 #include "sentence/sentence_cutter.h"   // IWYU pragma: export
 #include "tokenize/reading_observer.h"  // IWYU pragma: export
 #include "tokenize/tokenize.h"          // IWYU pragma: export
-#include "utterance/text_reader.h"      // IWYU pragma: export
+#include "utterance/text_events.h"      // IWYU pragma: export
 #include "utterance/word_filler.h"      // IWYU pragma: export
 
 #endif  // KAVI_TN_FOR_HOST_LAYER_H

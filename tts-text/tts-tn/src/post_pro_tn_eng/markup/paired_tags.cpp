@@ -55,10 +55,10 @@ void SortedNames::sort() {
     std::sort(begin_, end_, is_before);
 }
 
-const std::string_view* SortedNames::find(std::string_view name, const char* place) const {
+const std::string_view* SortedNames::find(std::string_view name, const char* from) const {
     return std::lower_bound(begin_, end_, name, [=](std::string_view entry, std::string_view) {
         const int order = entry.compare(name);
-        return order != 0 ? order < 0 : entry.data() < place;
+        return order != 0 ? order < 0 : entry.data() < from;
     });
 }
 

@@ -25,9 +25,9 @@ class SortedNames {
     void add(std::string_view name);  // a part of the text
     void sort();
 
-    // The first entry of the name at or after the position `place`. Without one, the entry after
-    // all of the name before `place`, which has another name or is end().
-    const std::string_view* find(std::string_view name, const char* place) const;
+    // The first entry of the name that is at or after `from` in the text. Without one, the entry
+    // after the last of the name, which has another name or is end().
+    const std::string_view* find(std::string_view name, const char* from) const;
     const std::string_view* end() const { return end_; }
 
   private:

@@ -23,10 +23,10 @@ inline constexpr char TELEPHONE_LABEL[] = "Tel";
 
 // The letters at this index of "Tel" and of the names and abbreviations of months: bit 0 for
 // `first_of_case`.
-constexpr unsigned letters_at(std::size_t place, char first_of_case) {
-    unsigned letters = 1U << (TELEPHONE_LABEL[place] - first_of_case);
+constexpr unsigned letters_at(std::size_t index, char first_of_case) {
+    unsigned letters = 1U << (TELEPHONE_LABEL[index] - first_of_case);
     for (const auto& row : s_string_to_month) {
-        for (const char* name : row) letters |= 1U << (name[place] - first_of_case);
+        for (const char* name : row) letters |= 1U << (name[index] - first_of_case);
     }
     return letters;
 }

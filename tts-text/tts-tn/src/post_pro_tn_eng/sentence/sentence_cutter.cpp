@@ -239,6 +239,7 @@ class SentenceCutter {
         }
         return true;
     }
+
     const char* next_;  // the cursor
     const char* source_end_;
     const char* stretch_;           // where searches for abbreviations begin

@@ -3,7 +3,6 @@
 #define KAVI_TN_MARK_READINGS_H
 
 #include <array>
-#include <cstddef>
 #include <string_view>
 
 #include "../common/bounded_text.h"
@@ -65,8 +64,8 @@ extern const std::array<unsigned char, '~' - '!' + 1> MARK_ROWS;
 
 // The row of a mark. Null for a mark without one and for any other character.
 inline const MarkReading* find_mark(char mark) {
-    const unsigned place = static_cast<unsigned char>(mark) - unsigned{'!'};
-    const unsigned number = place < MARK_ROWS.size() ? MARK_ROWS[place] : 0;
+    const unsigned index = static_cast<unsigned char>(mark) - unsigned{'!'};
+    const unsigned number = index < MARK_ROWS.size() ? MARK_ROWS[index] : 0;
     return number != 0 ? &MARK_READINGS[number - 1] : nullptr;
 }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "post_pro_tn_eng.h"
-#include "text_reader.h"
+#include "text_events.h"
 
 namespace kavi::tn {
 

@@ -8,7 +8,7 @@
 #include "../common/short_copy.h"
 #include "MemoryStack.h"
 #include "span_chain.h"
-#include "text_reader.h"
+#include "text_events.h"
 
 namespace kavi::tn {
 

@@ -1,5 +1,4 @@
-// The text reader: lists the items of speakable text, which are words, marks, break times, and the
-// starts and ends of spans.
+// Listing the items of speakable text: words, marks, break times, and the starts and ends of spans.
 //
 // Most of a text is words between blanks, and "<punc=" tags between words. These are found
 // directly, eight characters at a time (common/runs.h). At any other "<" with the name of a tag the
@@ -14,8 +13,8 @@
 //
 // One list serves for counting the words, for storing them and for the offsets that the host layer
 // reports, so a text is searched once: 43 instructions for a word of news (docs/performance.md).
-#ifndef KAVI_TN_TEXT_READER_H
-#define KAVI_TN_TEXT_READER_H
+#ifndef KAVI_TN_TEXT_EVENTS_H
+#define KAVI_TN_TEXT_EVENTS_H
 
 #include <algorithm>
 #include <cstdint>
@@ -92,4 +91,4 @@ bool read_text(std::string_view text, mem_stack_handle arena, TextEvents& events
 
 }  // namespace kavi::tn
 
-#endif  // KAVI_TN_TEXT_READER_H
+#endif  // KAVI_TN_TEXT_EVENTS_H

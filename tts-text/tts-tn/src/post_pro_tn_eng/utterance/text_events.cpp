@@ -1,6 +1,6 @@
-// Listing the items of a text; text_reader.h explains it.
+// Listing the items of a text; text_events.h explains it.
 
-#include "text_reader.h"
+#include "text_events.h"
 
 #include <cstring>
 #include <optional>
@@ -42,19 +42,19 @@ std::string_view mark_at(const char* text, const char* end) {
 }
 
 // One pass over one text.
-class TextReader {
+class EventLister {
   public:
     // A NUL follows the text. The arena may be null.
     // cppcheck-suppress uninitMemberVar ; only the first n_spans_ of spans_ are read
-    TextReader(std::string_view text, mem_stack_handle arena)
+    EventLister(std::string_view text, mem_stack_handle arena)
         : at_(text.data()), arena_(arena), end_(at_ + text.size()) {
         word_[0] = '\0';
     }
-    TextReader(const TextReader&) = delete;
-    TextReader& operator=(const TextReader&) = delete;
+    EventLister(const EventLister&) = delete;
+    EventLister& operator=(const EventLister&) = delete;
 
     // Lists the items from the cursor on, to the end of the text or until the list is full.
-    void read(TextEvents& events) {
+    void list(TextEvents& events) {
         events.clear();
         while (!events.is_full()) {
             if (at_ == end_) {
@@ -196,11 +196,11 @@ void TextEvents::add_put_together(std::string_view word) {
 
 bool read_text(std::string_view text, mem_stack_handle arena, TextEvents& events,
                EventsHandler* on_list, void* context) {
-    TextReader reader(text, arena);
+    EventLister lister(text, arena);
     do {
-        reader.read(events);
+        lister.list(events);
         if (!on_list(context, events)) return false;
-    } while (!reader.at_end());
+    } while (!lister.at_end());
     return true;
 }
 

@@ -1,4 +1,4 @@
-// What is told about a text beside its sentences.
+// Diagnostics: what is reported about a text beside its sentences.
 #ifndef KAVI_TTS_FINDINGS_H
 #define KAVI_TTS_FINDINGS_H
 
@@ -6,7 +6,8 @@
 
 namespace kavi {
 
-// What the engine passes over in silence, or could not do.
+// The kinds of diagnostic: what the engine would pass over in silence, and what could not be read.
+// describe() explains each.
 enum class Finding {
     stray_closing_tag,
     mismatched_closing_tag,
@@ -27,17 +28,17 @@ enum class Finding {
 };
 constexpr int FINDINGS = static_cast<int>(Finding::mark_not_spoken) + 1;
 
-// A short name for programs, such as "stray-closing-tag", that stays as it is; a constant text.
+// A short name for programs, such as "stray-closing-tag", which stays as it is; a constant text.
 const char* code_of(Finding finding);
 
 // One clear sentence about a finding; a constant text.
 const char* describe(Finding finding);
 
 struct Diagnostic {
-    std::size_t offset;  // of the first byte it is about, in the text given to read()
+    std::size_t offset;  // of the first byte that it is about, in the text given to read()
     Finding finding;
-    // In bytes, of what is not spoken or of a foreign tag; else 1, or 0 where nothing is written: a
-    // tag that closes a span where the text was cut.
+    // In bytes: of what is not spoken, or of a foreign tag; for any other kind 1, or 0 when it is
+    // about a tag that is not in the text, which closes a span where the text was cut.
     std::size_t length = 1;
 };
 

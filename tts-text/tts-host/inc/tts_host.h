@@ -15,18 +15,19 @@
 
 namespace kavi {
 
+// One sentence or clause. All it refers to is valid until the handler returns that it is passed to.
 struct HostSentence {
     TextRange source;             // begins where that of the last sentence ended
     std::string_view normalized;  // what eng_text_normalize made of it; NUL-terminated
     std::string_view speakable;   // what eng_text_tokenize made of that; NUL-terminated
-    // What eng_text_to_utterance_syllable makes of that; but the words of all records stand in one
-    // block of the arena with them, which is kept for the sentences to come.
+    // What eng_text_to_utterance_syllable makes of that, the head record first. The records and all
+    // their words are one block of the arena, which stays the host layer's.
     const UtteranceSyllable* records;
-    int n_records;
+    int n_records;           // with the head record
     SentencePlaces& places;  // where its parts come from
 
-    // Whether a full stop, a question mark, an exclamation mark or the end of the text is its end;
-    // otherwise it is a clause of a sentence that goes on.
+    // Whether it ends with a full stop, a question mark, an exclamation mark or the text; otherwise
+    // it is a clause of a sentence that goes on.
     bool ends_sentence;
 };
 
@@ -38,32 +39,33 @@ class TextReader;
 // nothing.
 class TtsHost {
   public:
-    // A handler answers whether to go on. An empty one is not called.
+    // A handler returns whether to go on. An empty one is not called.
     using SentenceHandler = std::function<bool(const HostSentence&)>;
     using DiagnosticHandler = std::function<bool(const Diagnostic&)>;
 
-    // On an arena of its own, by mem_stack_create and mem_stack_destroy, which a host with services
-    // of its own need not have otherwise. `n_capacity` bounds it, in bytes; 0: no limit. Throws
-    // std::bad_alloc when the system has no memory for it.
+    // With an arena of its own, made by mem_stack_create(n_capacity): the bytes in use at most, 0
+    // for no limit. A host with another arena links without these services if it does not call
+    // this. Throws std::bad_alloc when the system has no memory for it.
     explicit TtsHost(std::size_t n_capacity = 0);
 
-    // On an arena that stays the caller's, and that nobody else uses during a call of read().
-    // Between calls, nothing of it is in use here.
+    // With an arena of the caller, which must outlive this object and which nobody else uses during
+    // a call of read(). Between calls no block of it is in use here.
     explicit TtsHost(mem_stack_handle arena);
 
-    // From now on texts are read as this makes them; null: as they are. It stays the caller's. All
-    // that handlers are told is about the text as it was written.
+    // From the next text on, `rewriter` rewrites what is read; null: nothing does. It belongs to
+    // the caller and must outlive its use. All offsets that handlers get are of the text as
+    // written.
     void rewrite_by(const TextRewriter* rewriter);
 
     ~TtsHost();
     TtsHost(const TtsHost&) = delete;
     TtsHost& operator=(const TtsHost&) = delete;
 
-    // Reads a text of any length and any bytes, which must stay as it is meanwhile, and calls
-    // `on_sentence` for each sentence in order; what the call is given lives until it returns.
-    // The diagnostics of a sentence come directly before it, in the order of their offsets, those
-    // after the last sentence at the end. The sources of the sentences cover the text, but for
-    // what was passed over and what is silent after the last sentence.
+    // Reads a text of any length and any bytes, which must not change meanwhile, and calls
+    // `on_sentence` for each sentence in order. The diagnostics of a sentence come directly before
+    // it, in the order of their offsets, those after the last sentence at the end. The sources of
+    // the sentences cover the text, but for what was passed over and what is silent after the last
+    // sentence.
     //
     // A text of up to 4,095 bytes whose sentences have up to 3,000 when they are normalised comes
     // out as if the engine had been called by hand. A sentence that the engine's buffers or the
@@ -72,10 +74,10 @@ class TtsHost {
     // small even for a short piece, that piece is passed over, with a diagnostic. True when there
     // was none of these.
     //
-    // When a handler answers false, the rest of the text is not read, no handler is called any
-    // more, and the answer is false. What a handler throws comes through. Either way the object
-    // can read another text. Called from a handler of the same object, or while a
-    // TtsStream has it, it reads nothing and answers false.
+    // When a handler returns false, the rest of the text is not read, no handler is called any
+    // more, and read() returns false. What a handler throws comes through. Either way the object
+    // can read another text. Called from a handler of the same object, or while a TtsStream has it,
+    // read() reads nothing and returns false.
     bool read(std::string_view text, const SentenceHandler& on_sentence,
               const DiagnosticHandler& on_diagnostic);
 

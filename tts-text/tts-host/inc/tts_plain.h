@@ -19,8 +19,9 @@ namespace kavi {
 // and the end of the text.
 class PlainForm {
   public:
-    // Of the next sentence that was read from `text`, which begins at `text_begin` when what is
-    // before it is not there any more. What is handed out lives until the next call.
+    // Makes the form of a sentence, while its handler runs: of each sentence of a text in turn.
+    // `text` is the text from the offset `text_begin` on; TtsStream::text() has enough of it. The
+    // views below are valid until the next call.
     void read(const HostSentence& sentence, std::string_view text, std::size_t text_begin = 0);
 
     std::string_view all() const { return all_.text(); }
@@ -44,8 +45,8 @@ class PlainForm {
     void end_before(std::string_view text, bool is_last);
 
     TextBuffer all_;
-    std::vector<Range> after_;    // of each record, in that, and more
-    bool is_after_word_ = false;  // nothing follows the last word: its marks were read with it
+    std::vector<Range> after_;    // for each record, what follows it in all_; there may be more
+    bool is_after_word_ = false;  // nothing follows the last word, such as a mark read with it
 };
 
 }  // namespace kavi

@@ -16,25 +16,24 @@ namespace kavi {
 extern const char* const SSML_BEGIN;
 extern const char* const SSML_END;
 
-// An "s" element, and a line end; nothing for a sentence that has neither words nor a break. Words
-// and punctuation are as PlainForm has them. Breaks are "break" elements: with their time, or for a
-// forced pause with a strength. Words next to each other with the same attributes share their
-// elements. docs/ssml.md tells which value becomes which.
+// A sentence as an "s" element and a line end; empty for one that has neither words nor a break.
+// Words and punctuation are as PlainForm has them. Breaks are "break" elements: with their time, or
+// for a forced pause with a strength. Adjacent words with the same attributes share their elements.
+// docs/ssml.md has the values.
 class SsmlForm {
   public:
     // With `has_marks`, a "mark" element precedes each word, named OFFSET-LENGTH after the
     // bytes that it was read from.
     explicit SsmlForm(bool has_marks) : has_marks_(has_marks) {}
 
-    // Of the next sentence that was read from `text`, which begins at `text_begin` when what is
-    // before it is not there any more.
+    // Makes the form of a sentence, as PlainForm::read() does.
     void read(const HostSentence& sentence, std::string_view text, std::size_t text_begin = 0);
 
-    // That; it lives until the next call.
+    // The form; valid until the next call of read().
     std::string_view all() const { return all_.text(); }
 
-    // What has no counterpart in the standard and was left out: names and values, as in "poem=a".
-    // It is added to; the caller may take it.
+    // The attributes that have no counterpart in the standard and were left out, as in "poem=a", of
+    // all sentences so far. The caller may empty it.
     std::set<std::string>& lost() { return lost_; }
 
   private:
@@ -54,9 +53,9 @@ class SsmlForm {
     bool has_marks_;
     TextBuffer all_;
     PlainForm plain_;
-    bool is_plain_ = false;      // nothing in that is escaped
-    std::size_t copied_ = 0;     // of that
-    std::size_t next_word_ = 1;  // that has not been copied
+    bool is_plain_ = false;      // nothing in plain_ needs an escape
+    std::size_t copied_ = 0;     // the bytes of plain_ that have been copied
+    std::size_t next_word_ = 1;  // the record of the next word to be copied
     std::size_t n_records_ = 0;
     Elements open_;
     Elements next_;  // of the word at hand

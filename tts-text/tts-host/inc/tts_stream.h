@@ -1,4 +1,4 @@
-// A text that is still being written: pieces in, sentences out as soon as they can be told.
+// A text that is still being written: pieces in, sentences out as soon as they are certain.
 #ifndef KAVI_TTS_STREAM_H
 #define KAVI_TTS_STREAM_H
 
@@ -18,33 +18,33 @@ namespace kavi {
 // ASCII in a row. All offsets count from the start of the stream.
 class TtsStream {
   public:
-    // Has the host, which outlives it, to itself: meanwhile that reads nothing else, and a second
-    // stream of it takes nothing. It reads as the host's rewriter makes the text, which must stay
-    // and should take growing texts. Handlers may be empty.
+    // Uses `host`, which must outlive it, exclusively: meanwhile host.read() reads nothing, and a
+    // second stream of the same host takes nothing. The host's rewriter must not be replaced
+    // meanwhile, and should take growing texts. Handlers may be empty.
     TtsStream(TtsHost& host, TtsHost::SentenceHandler on_sentence,
               TtsHost::DiagnosticHandler on_diagnostic);
     ~TtsStream();
     TtsStream(const TtsStream&) = delete;
     TtsStream& operator=(const TtsStream&) = delete;
 
-    // The text goes on with this piece, which may be empty and need not stay. Hands over what can
-    // be told. False when the text has ended, and then nothing is taken: by end(), or since a
-    // handler answered false or threw. False too in a handler.
+    // The text goes on with this piece, which may be empty and is copied. Calls the handlers with
+    // what is certain now. False, with nothing taken, when the text has ended: by end(), or since a
+    // handler returned false or threw. False too when called from a handler.
     bool add(std::string_view piece);
 
-    // The text ends here. Hands over all of it that was not told. True when none of it was passed
-    // over, as with TtsHost::read(); false when the text had ended before. Not in a handler: false,
-    // and it goes on.
+    // The text ends here. Calls the handlers with the rest of it. True when none of it was passed
+    // over, as with TtsHost::read(); false when the text had ended before. Called from a handler,
+    // it does nothing and returns false.
     bool end();
 
-    // Interrupted: what was not told is dropped, and what is added next begins a new text, with no
-    // span open; its offsets go on. Also after the end. Called in a handler, it takes effect when
-    // that returns: no handler is called any more, and that call of add() or end() answers false.
+    // Drops what has not been handed over. What is added next begins a new text, with no span open;
+    // its offsets go on. Also after the end. Called from a handler, it takes effect when that
+    // returns: no handler is called any more, and that call of add() or end() returns false.
     void forget();
 
-    // In a handler: what is there of the text, from the offset text_begin() on, for PlainForm,
-    // SsmlForm and explain(). It has all of the sentence, but for the begin of one of more than
-    // 64 KB.
+    // In a handler: what is kept of the text, which begins at the offset text_begin(), for
+    // PlainForm, SsmlForm and explain(). It has all of the sentence, except the begin of one of
+    // more than 64 KB.
     std::string_view text() const { return kept_.text(); }
     std::size_t text_begin() const { return kept_begin_; }
 
@@ -58,13 +58,14 @@ class TtsStream {
     host::TextReader& reader_;
     TtsHost::SentenceHandler on_sentence_;
     TtsHost::DiagnosticHandler on_diagnostic_;
-    TextBuffer kept_;             // of the text
-    std::size_t kept_begin_ = 0;  // its offset
-    std::size_t unread_ = 0;      // bytes at its end that have been added since it was read
-    std::size_t mark_ = 0;        // in it, the first mark that may end a clause; its size for none
-    const bool is_owner_;         // of the host's reader
-    bool is_open_ = false;
-    bool is_forgotten_ = false;  // by a handler
+    TextBuffer kept_;             // the end of the text so far
+    std::size_t kept_begin_ = 0;  // the offset of that in the text
+    std::size_t unread_ = 0;      // the bytes added since the last read
+    std::size_t mark_ = 0;        // the offset in kept_ of the first mark that may end a clause, or
+                                  // its size
+    const bool is_owner_;         // false for a second stream of the host
+    bool is_open_ = false;        // add() takes text
+    bool is_forgotten_ = false;   // a handler has called forget()
 };
 
 }  // namespace kavi

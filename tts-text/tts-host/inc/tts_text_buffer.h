@@ -1,4 +1,4 @@
-// Text that many short pieces are put together to.
+// A buffer for a text that is put together from many short pieces.
 #ifndef KAVI_TTS_TEXT_BUFFER_H
 #define KAVI_TTS_TEXT_BUFFER_H
 
@@ -13,8 +13,8 @@
 
 namespace kavi {
 
-// The characters that a format has unescaped: ASCII, but for control characters and the `Special`
-// ones.
+// The characters that a format writes without an escape: ASCII, except control characters and the
+// `Special` ones.
 template <char... Special>
 class PlainCharacters {
   public:
@@ -22,9 +22,8 @@ class PlainCharacters {
 
     static bool have(char c) { return IS_PLAIN[static_cast<unsigned char>(c)]; }
 
-    // Whether a text is nothing else. It is not left early, and characters of a longer text are
-    // compared instead of looked up, so that a compiler can do it for many at once: most texts are
-    // plain.
+    // Whether a text has only such characters. The loop over a longer text has no early exit, and
+    // compares instead of looking up, so that the compiler can vectorise it: most texts are plain.
     static bool are_all(std::string_view text) {
         if (text.size() < AT_ONCE) return std::all_of(text.begin(), text.end(), have);
         unsigned char other = 0;
@@ -46,11 +45,13 @@ class PlainCharacters {
     static constexpr std::array<bool, 256> IS_PLAIN = all();
 };
 
-// Pieces that are added together cost a comparison, and a copy each, while std::string makes a call
-// of each.
+// A text that grows. Pieces that are added by one call cost one test for room and a copy each;
+// std::string makes a call for each. clear() keeps the memory.
 class TextBuffer {
   public:
     void clear() { end_ = 0; }
+
+    // Each has at most size() bytes: keeps the first `size`, or removes them.
     void cut_to(std::size_t size) { end_ = size; }
     void cut_front(std::size_t size) {
         end_ -= size;
@@ -70,8 +71,8 @@ class TextBuffer {
         return *this;
     }
 
-    // Adds a text of nothing but such characters and answers true, or nothing and answers false. A
-    // short one is copied as it is looked at.
+    // Adds a text of PlainCharacters only. False, with nothing added, for any other. A short text
+    // is copied while it is tested.
     template <typename Characters>
     bool add_plain(std::string_view text, Characters characters) {
         if (text.size() >= Characters::AT_ONCE) {
@@ -90,7 +91,7 @@ class TextBuffer {
     }
 
   private:
-    // The end, with room for `size` characters.
+    // The end, with room for `room` characters.
     char* end_with(std::size_t room) {
         if (room > bytes_.size() - end_) bytes_.resize(2 * (end_ + room));
         return bytes_.data() + end_;
@@ -144,8 +145,8 @@ class TextBuffer {
         return std::to_chars(end, end + room_for(number), number).ptr;
     }
 
-    std::string bytes_;  // longer than the text
-    std::size_t end_ = 0;
+    std::string bytes_;    // as large as its capacity
+    std::size_t end_ = 0;  // the size of the text
 };
 
 }  // namespace kavi

@@ -40,13 +40,13 @@ constexpr Row ROWS[] = {
      "no word is said for this mark; it is told once in a text"},
 };
 
-// A finding is found by its place.
+// The rows are indexed by finding.
 constexpr bool are_in_order() {
-    int place = 0;
+    int index = 0;
     for (const Row& row : ROWS) {
-        if (static_cast<int>(row.finding) != place++) return false;
+        if (static_cast<int>(row.finding) != index++) return false;
     }
-    return place == FINDINGS;
+    return index == FINDINGS;
 }
 static_assert(are_in_order());
 

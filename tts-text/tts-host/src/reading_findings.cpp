@@ -6,7 +6,7 @@ namespace kavi::host {
 
 namespace {
 
-// Whether a character is a word of a text, not its punctuation.
+// Whether a character stands for a word, as punctuation does not.
 bool is_sign(char c) {
     switch (c) {
         case '#':
@@ -29,7 +29,7 @@ bool is_sign(char c) {
     }
 }
 
-// After "Tel." none comes here, since that full stop ends a sentence.
+// ReadingRule::telephone_number is not among them: the full stop of "Tel." ends the sentence.
 bool is_telephone_number(tn::ReadingRule rule) {
     return rule == tn::ReadingRule::bracket || rule == tn::ReadingRule::plus_sign;
 }
@@ -66,7 +66,7 @@ bool is_read(const tn::ReadingStep& step, const tn::Token* number) {
 }  // namespace
 
 void ReadingFindings::add_step(const tn::ReadingStep& step) {
-    const tn::Token* longest = step.first;  // number, of which the first
+    const tn::Token* longest = step.first;  // the first of the longest numbers
     std::size_t longest_length = 0;
     if (step.end - step.first == 1 && step.first->length == 1) {
         add_mark(step.first->text(), step.output_length);
@@ -87,7 +87,7 @@ void ReadingFindings::add_step(const tn::ReadingStep& step) {
     is_after_money_ = step.rule == tn::ReadingRule::money;
 }
 
-// A sign for which the speakable text has no letter is told once in a text.
+// A sign without a letter in the speakable text is reported once in a text.
 void ReadingFindings::add_mark(std::string_view mark, int speakable_length) {
     if (!is_sign(mark[0])) return;
     if (mark[0] == '$' && is_after_money_) return;

@@ -1,4 +1,4 @@
-// What the readers do not say of a sentence.
+// Finding what the readers leave unread in a sentence.
 #ifndef KAVI_HOST_READING_FINDINGS_H
 #define KAVI_HOST_READING_FINDINGS_H
 
@@ -15,17 +15,17 @@ namespace kavi::host {
 // readings that were cut, and tags that were passed over; with offsets in the sentence.
 class ReadingFindings {
   public:
-    // Before a text.
-    void begin_text() { told_marks_.reset(); }
+    // To be called before each text.
+    void begin_text() { reported_marks_.reset(); }
 
-    // Before a sentence that is read to `speakable`.
+    // To be called before each sentence. `speakable` is the text that it is read to.
     void begin(const char* sentence, const char* speakable) {
         sentence_ = sentence;
         speakable_ = speakable;
         speakable_length_ = 0;
         is_after_money_ = false;
         findings_.clear();
-        marks_ = told_marks_;
+        marks_ = reported_marks_;
     }
 
     void add_plain_text(std::string_view source, int speakable_length) {
@@ -35,9 +35,9 @@ class ReadingFindings {
     }
     void add_step(const tn::ReadingStep& step);
 
-    // Those of the sentence, which are told now: marks that are among them are not told again.
-    const std::vector<Diagnostic>& tell() {
-        told_marks_ = marks_;
+    // The findings of the sentence, which are reported now: its marks are not reported again.
+    const std::vector<Diagnostic>& take() {
+        reported_marks_ = marks_;
         return findings_;
     }
 
@@ -48,10 +48,10 @@ class ReadingFindings {
     const char* sentence_ = nullptr;
     const char* speakable_ = nullptr;
     int speakable_length_ = 0;
-    bool is_after_money_ = false;  // which says the "$" that may follow
+    bool is_after_money_ = false;  // then a "$" has been read with the amount
     std::vector<Diagnostic> findings_;
-    std::bitset<128> marks_;  // with a finding, in this text and up to here in this sentence
-    std::bitset<128> told_marks_;
+    std::bitset<128> marks_;           // with a finding, in this sentence or reported before
+    std::bitset<128> reported_marks_;  // in this text
 };
 
 }  // namespace kavi::host

@@ -12,7 +12,7 @@ void ReadingPlaces::add_step(const tn::ReadingStep& step) {
         static_cast<std::size_t>(step.output_length), false);
 }
 
-// The source of the word at `offset` of copied words that the text has something left out among.
+// The source of the word at `offset` of copied words that are not one range of the text.
 TextRange ReadingPlaces::source_of_word(const Reading& reading, std::size_t offset,
                                         PieceCursor pieces) const {
     const std::string_view rest(sentence_ + reading.at + offset, reading.length - offset);

@@ -15,7 +15,7 @@ namespace kavi::host {
 // Observes the reading of a sentence.
 class ReadingPlaces {
   public:
-    // Before a sentence is read to `speakable`.
+    // To be called before a sentence is read to `speakable`.
     void begin(const char* sentence, const char* speakable) {
         sentence_ = sentence;
         speakable_ = speakable;
@@ -23,18 +23,16 @@ class ReadingPlaces {
         target_end_ = 0;
     }
 
-    // `target_length`: of the speakable text after it. A piece that begins with a letter is copied
-    // with a blank after it, or is a word that is written out, and then longer.
+    // `target_length` is the length of the speakable text with the reading of `source`. Words are
+    // copied, with a blank after them.
     void add_plain_text(std::string_view source, int target_length) {
-        const auto target_end = static_cast<std::size_t>(target_length);
-        const bool is_copy = target_end - target_end_ == source.size() + 1;
-        add(source, target_end, is_copy && tn::is_letter(source[0]));
+        add(source, static_cast<std::size_t>(target_length), tn::is_letter(source[0]));
     }
     void add_step(const tn::ReadingStep& step);
 
-    // After that, once: where each of the words comes from that the builder has listed, all of them
-    // views of the speakable text, to a place for each record; record 0 is the head record. A word
-    // that was copied has its own letters, any other all that was read with it.
+    // To be called once after that. Writes a place for each record to `place`, that of the head
+    // record first. `events` lists the words, which are views of the speakable text. The source of
+    // a word that was copied is its letters; of any other, all that was read with it.
     void find_places(const std::vector<SourcePiece>& pieces, const tn::TextEvents& events,
                      WordPlace* place);
 

@@ -1,4 +1,4 @@
-// The records of one sentence after the other.
+// Building the records of one sentence after the other.
 #ifndef KAVI_HOST_SENTENCE_RECORDS_H
 #define KAVI_HOST_SENTENCE_RECORDS_H
 
@@ -18,9 +18,9 @@ class SentenceRecords {
     SentenceRecords(const SentenceRecords&) = delete;
     SentenceRecords& operator=(const SentenceRecords&) = delete;
 
-    // Those of the speakable text of a sentence, which a NUL follows, in the place of those before.
-    // `events` is left with its items. False when the arena has no room for a block, or the builder
-    // would fail.
+    // Builds the records of a sentence, which replace the last ones. A NUL follows its speakable
+    // text. `events` receives the items of that. False when the arena has no room for a block, or
+    // the engine's builder would fail.
     bool build(std::string_view speakable, tn::TextEvents& events);
 
     // The records, with the head record, until the next call.

@@ -22,7 +22,7 @@ class PieceCursor {
         look_at_piece();
     }
 
-    // Whether `length` bytes at `at`, not before the last ones, are a copy of one stretch of the
+    // Whether `length` bytes at `at`, not before the last ones, are a copy of one range of the
     // text.
     bool is_copied(std::size_t at, std::size_t length) {
         while (piece_ != last_ && piece_[1].at <= at) {
@@ -32,7 +32,7 @@ class PieceCursor {
         return at + length < after_copy_;
     }
 
-    // Where the byte at `at` of that copy comes from.
+    // The offset in the text of the byte at `at`, which is_copied() has found to be copied.
     std::size_t copied_from(std::size_t at) const {
         return piece_->source.offset - piece_->at + at;
     }
@@ -55,10 +55,10 @@ class PieceCursor {
     std::size_t after_copy_;  // one more than where the piece ends, if it is a copy; else 0
 };
 
-// Observes the cutting of a sentence, and tells afterwards where its pieces come from.
+// Observes the cutting of a sentence, and finds afterwards where its pieces come from.
 class SentenceSource {
   public:
-    // Before a sentence is cut from what the window holds.
+    // To be called before a sentence is cut from the window.
     void begin() { replacements_.clear(); }
 
     tn::CutObserver observer() {
@@ -70,12 +70,12 @@ class SentenceSource {
                 this};
     }
 
-    // After it was cut, and before the window moves on.
+    // To be called after it was cut, before the window moves on.
     void find_pieces(TextWindow& window, const tn::CutSentence& cut);
 
     const std::vector<SourcePiece>& pieces() const { return map_.pieces(); }
 
-    // Whether an abbreviation was read as one since the text ahead has no other case of it.
+    // Whether an abbreviation was taken for one only because no other case of it is in the window.
     bool depends_on_text_ahead() const;
 
   private:

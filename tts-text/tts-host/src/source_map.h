@@ -9,9 +9,10 @@
 
 namespace kavi::host {
 
-// Pieces of the made text, in order and without a gap, each with its source. Pieces are appended at
-// the end and dropped from the front. Positions count bytes of the made text from its beginning,
-// whatever has been dropped; each position that is asked for is in a piece or at the end.
+// The pieces of the derived text, in order and without a gap, each with its source. Pieces are
+// appended at the end and dropped from the front. Positions are offsets in the derived text from
+// its beginning, whatever has been dropped; an argument is the position of a byte in a piece or the
+// end.
 class SourceMap {
   public:
     void clear() {
@@ -19,7 +20,7 @@ class SourceMap {
         end_ = source_end_ = 0;
     }
 
-    // ---- the made text goes on with ----
+    // ---- The derived text goes on with ----
 
     // A copy of `length` bytes at `offset`, where the source of a copy before it ends.
     void copied(std::size_t offset, std::size_t length);

@@ -65,9 +65,10 @@ std::size_t TextReader::searched_to() const {
                                         : window_.next_offset();
 }
 
-// The first sentence of a window that is not full, if it is what it would be in a full one: the
-// window has its end, what the engine looks at after that, and the begin of the next one. A
-// sentence that a buffer or the arena does not hold waits for a full window.
+// Reads the first sentence of a window that is not full. False when it could be another in a full
+// one. It is the same when the window has its end, what the engine looks at after that, and the
+// begin of the next sentence. A sentence that a buffer or the arena does not hold waits for a full
+// window.
 bool TextReader::read_early() {
     if (needs_full_window() || !may_end_early()) return false;
     cut_sentence(window_.length());
@@ -81,7 +82,7 @@ bool TextReader::read_early() {
     return !needs_full_window_;
 }
 
-// From the end, since what ends a clause mostly came last.
+// Whether a mark may end the sentence early. Searched from the end, since it mostly has come last.
 bool TextReader::may_end_early() {
     const std::string_view text(window_.text(), window_.length());
     const std::size_t known = text.size() - std::min(text.size(), CLAUSE_LOOK_AHEAD);
@@ -152,7 +153,7 @@ bool TextReader::build_sentence() {
     return is_built;
 }
 
-// Not where only a clause does, or where it was cut since it is too long.
+// False for a clause, and for a piece of a sentence that is too long.
 bool TextReader::ends_sentence() const {
     const char last = cut_.end[-1];
     return last == '.' || last == '?' || last == '!' ||
@@ -168,20 +169,20 @@ void TextReader::collect_diagnostics(bool done) {
         return;
     }
     // They come nearly in the order of their offsets.
-    for (const Diagnostic& finding : findings_.tell()) {
+    for (const Diagnostic& finding : findings_.take()) {
         const TextRange source = source_of(finding.offset, 1);  // empty for a tag of the cut
         const Diagnostic found = {source.offset, finding.finding,
                                   std::min<std::size_t>(source.length, 1)};
-        const bool is_told = finding.finding == Finding::mark_not_spoken &&
-                             window_.has_finding_at(found.offset);  // of a "<"
-        if (is_told) continue;
+        const bool is_reported = finding.finding == Finding::mark_not_spoken &&
+                                 window_.has_finding_at(found.offset);  // of a "<"
+        if (is_reported) continue;
         diagnostics_.insert(
             std::upper_bound(diagnostics_.begin(), diagnostics_.end(), found, is_before), found);
     }
 }
 
-// Reports these, and what was found in the text before `end`, in the order of their offsets. False
-// when the handler said so.
+// Reports the diagnostics of the sentence, and those of the window before `end`, in the order of
+// their offsets. False when the handler returned false.
 bool TextReader::report(std::size_t end, const DiagnosticHandler& on_diagnostic) {
     std::list<Diagnostic>& in_text = window_.findings();
     if (diagnostics_.empty() && in_text.empty()) return true;  // as for most sentences

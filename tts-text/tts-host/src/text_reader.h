@@ -1,4 +1,4 @@
-// Sentences of texts, as far as what is there of them tells: calling order, buffers, and records.
+// Reading a text, or as much of it as is known, to sentences: calling order, buffers and records.
 #ifndef KAVI_HOST_TEXT_READER_H
 #define KAVI_HOST_TEXT_READER_H
 
@@ -33,23 +33,24 @@ constexpr bool is_clause_mark(char c) {
     }
 }
 
-// The first mark from `at` on that may end a clause or a sentence, else the text's end.
+// The offset of the first mark from `at` on that may end a clause or a sentence, or the text's
+// size.
 inline std::size_t find_clause_mark(std::string_view text, std::size_t at) {
     while (at < text.size() && !is_clause_mark(text[at])) ++at;
     return at;
 }
 
-// How far after such a mark the engine looks to know what it is: as in "e.g.".
+// The number of characters after such a mark that decide what it is, as in "e.g.".
 constexpr std::size_t CLAUSE_LOOK_AHEAD = 2;
 
 using SentenceHandler = std::function<bool(const HostSentence&)>;
 using DiagnosticHandler = std::function<bool(const Diagnostic&)>;
 
-// Reads one text after the other, each as far as it is there. On an arena that is given back at the
-// end.
+// Reads one text after the other, each as far as it is known.
 class TextReader final : SentencePlaces {
   public:
     // cppcheck-suppress uninitMemberVar ; of the places, those of a sentence's words are set
+    // `destroy` is called with the arena at the end.
     TextReader(mem_stack_handle arena, void (*destroy)(mem_stack_handle))
         : arena_(arena), destroy_(destroy), records_(arena) {}
     ~TextReader() { destroy_(arena_); }
@@ -60,28 +61,30 @@ class TextReader final : SentencePlaces {
 
     bool is_rewritten() const { return rewriter_ != nullptr; }
 
-    // Whether a handler of it is being called.
+    // Whether read() is running: true in a handler.
     bool is_reading() const { return is_reading_; }
 
-    // A new text, whose first byte is at `offset`.
+    // Begins a text, whose first byte is at `offset`.
     void begin(std::size_t offset);
 
-    // Hands over the sentences, and what was found, that no more text can change. `text` is what is
-    // there of it from `offset` on. False when a handler said so.
+    // Hands over the sentences and findings that no more text can change. `text` is what is known
+    // of the text from `offset` on; `is_complete`: it is all of it. False when a handler returned
+    // false.
     bool read(std::string_view text, std::size_t offset, bool is_complete,
               const SentenceHandler& on_sentence, const DiagnosticHandler& on_diagnostic);
 
-    // Whether nothing of the text was passed over since the arena did not hold it.
+    // Whether no piece of the text was passed over for want of room in the arena.
     bool all_read() const { return all_read_; }
 
-    // Where in the text the next sentence begins, and where the text goes on that has not been fed.
+    // The offset in the text of the next sentence, and of the text that has not been fed.
     std::size_t sentence_begin() const { return sentence_begin_; }
     std::size_t fed_to() const { return window_.next_offset(); }
 
-    // No mark before this, in the text, ends the next sentence: unless the window has to be full
-    // for that to be known.
-    std::size_t searched_to() const;
+    // The next sentence cannot be read before the window is full, whatever marks there are.
     bool needs_full_window() const { return needs_full_window_; }
+
+    // Otherwise: no mark before this offset in the text ends the next sentence.
+    std::size_t searched_to() const;
 
   private:
     // Sentences that normalise to more are tried again as a shorter piece, so that there is always
@@ -90,7 +93,7 @@ class TextReader final : SentencePlaces {
     static constexpr std::size_t LONG_PIECE = 3000;  // the first such piece; then half, and so on
     static constexpr std::size_t SHORTEST_PIECE = 16;
 
-    // One call of read(): leaves the object fit for the next, whatever ends it.
+    // One call of read(). Releases what it used, whether it returns or throws.
     class Session {
       public:
         explicit Session(TextReader& reader) : reader_(reader) { reader_.is_reading_ = true; }
@@ -116,7 +119,7 @@ class TextReader final : SentencePlaces {
     void collect_diagnostics(bool done);
     bool report(std::size_t end, const DiagnosticHandler& on_diagnostic);
 
-    // Looks on while a sentence is read.
+    // Passes each step of reading a sentence to what notes places and findings.
     tn::ReadingObserver reading_observer() {
         return {[](void* context, std::string_view source, int output_length) {
                     static_cast<TextReader*>(context)->reading_places_.add_plain_text(
@@ -131,7 +134,7 @@ class TextReader final : SentencePlaces {
                 this};
     }
 
-    // While it is handed over, and before the window moves on.
+    // ---- SentencePlaces: for handlers, before the window moves on ----
     const std::vector<SourcePiece>& pieces() override;
     const WordPlace* words() override;
 
@@ -141,20 +144,20 @@ class TextReader final : SentencePlaces {
     bool is_reading_ = false;
     bool all_read_ = true;
     std::size_t sentence_begin_ = 0;  // of the next sentence's source
-    std::size_t searched_ = 0;        // in the window, before it no mark ends that sentence
-    bool needs_full_window_ = false;  // to be read
+    std::size_t searched_ = 0;        // no mark before this offset in the window ends it
+    bool needs_full_window_ = false;
     TextWindow window_;
     SentenceSource source_;
     ReadingFindings findings_;
     std::optional<tn::AbbreviationSearch> abbreviations_;  // of what is in the window
-    tn::CutSentence cut_ = {};                             // the last sentence
-    const char* rest_ = nullptr;                           // in the window, after that
-    std::vector<Diagnostic> diagnostics_;                  // of that
+    tn::CutSentence cut_ = {};                             // of the last sentence
+    const char* rest_ = nullptr;                           // where the window goes on after it
+    std::vector<Diagnostic> diagnostics_;                  // of it
     ReadingPlaces reading_places_;
     SentenceRecords records_;
     tn::TextEvents events_;                            // in the speakable text
     WordPlace places_[tn::TextEvents::WORDS_MAX + 1];  // of its records
-    bool was_passed_over_ = false;  // the last piece, since the arena did not hold it
+    bool was_passed_over_ = false;                     // the arena did not hold the last piece
     bool are_pieces_known_ = false;
     bool are_words_known_ = false;
     char normalized_[SZ_TEXT_MAX_LEN] = {};

@@ -19,8 +19,8 @@ constexpr std::size_t REMOVED_TAG_MAX = 500;
 
 constexpr std::size_t FOREIGN_TAG_MAX = 256;
 
-// Of bytes outside ASCII that are one finding; a longer stretch is reported in parts.
-constexpr std::size_t STRETCH_MAX = std::size_t{1} << 20U;
+// Bytes outside ASCII that are one finding, at most: a longer run is reported in parts.
+constexpr std::size_t FOREIGN_RUN_MAX = std::size_t{1} << 20U;
 
 bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
@@ -183,9 +183,9 @@ void TextWindow::begin(std::size_t offset, const TextRewriter* rewriter) {
 
 void TextWindow::give(std::string_view text, std::size_t offset, bool is_complete) {
     const std::size_t dropped = offset - text_offset_;
-    for (std::size_t* place : {&next_, &next_rewriting_, &decided_, &next_tag_, &next_tag_end_,
-                               &next_nul_, &not_spoken_end_}) {
-        *place -= std::min(*place, dropped);
+    for (std::size_t* at : {&next_, &next_rewriting_, &decided_, &next_tag_, &next_tag_end_,
+                            &next_nul_, &not_spoken_end_}) {
+        *at -= std::min(*at, dropped);
     }
     rewriting_.drop(dropped);
     text_ = text;
@@ -194,7 +194,7 @@ void TextWindow::give(std::string_view text, std::size_t offset, bool is_complet
     if (!has_rewriting_) find_rewriting();
 }
 
-// The next rewriting of what has not been fed. One that is inside a tag is passed over.
+// Finds the next rewriting of what has not been fed. One inside a tag is skipped.
 void TextWindow::find_rewriting() {
     words_fed_ = 0;
     has_rewriting_ = false;
@@ -245,7 +245,7 @@ bool TextWindow::feed() {
     }
 }
 
-// As much of the words as there is room for. They must not form a tag with the text before them.
+// Feeds as much of the words as there is room for. They must not form a tag with the text before.
 bool TextWindow::feed_rewriting() {
     const std::string_view words = std::string_view(rewriting_.words).substr(words_fed_, room());
     if (words_fed_ == 0) {
@@ -274,7 +274,7 @@ bool TextWindow::feed_run() {
     std::size_t end =
         std::min({find_ahead(text_, next_, '<', CAPACITY, next_tag_),
                   find_ahead(text_, next_, '\0', CAPACITY, next_nul_), next_rewriting_, decided_});
-    if (!is_complete_) end = without_open_stretch(end);
+    if (!is_complete_) end = without_open_run(end);
     if (end == next_) return false;
     const std::string_view run = text_.substr(next_, std::min(end - next_, room()));
     report_not_spoken(run);
@@ -283,23 +283,23 @@ bool TextWindow::feed_run() {
 
 // The end of a run limited to `end`, without trailing bytes outside ASCII while more of them may
 // arrive.
-std::size_t TextWindow::without_open_stretch(std::size_t end) const {
+std::size_t TextWindow::without_open_run(std::size_t end) const {
     const bool has_ended = end < text_.size() && (!is_outside_ascii(text_[end]) || has_rewriting_);
     if (has_ended) return end;
     const std::size_t first = std::max(next_, not_spoken_end_);
     std::size_t begin = end;
     while (begin > first && is_outside_ascii(text_[begin - 1])) --begin;
-    return begin + (end - begin) / STRETCH_MAX * STRETCH_MAX;
+    return begin + (end - begin) / FOREIGN_RUN_MAX * FOREIGN_RUN_MAX;
 }
 
-// Reports each stretch of bytes outside ASCII, to where it ends in the text; one that the last run
-// ended with has been reported.
+// Reports each run of bytes outside ASCII, to where it ends in the text. One that began in the text
+// fed before has been reported.
 void TextWindow::report_not_spoken(std::string_view run) {
     const std::size_t run_end = next_ + run.size();
     std::size_t at = std::max(next_, not_spoken_end_);
     while ((at = find_outside_ascii(text_, at, run_end)) < run_end) {
         not_spoken_end_ = at;
-        const std::size_t end = std::min(next_rewriting_, at + STRETCH_MAX);
+        const std::size_t end = std::min(next_rewriting_, at + FOREIGN_RUN_MAX);
         while (not_spoken_end_ < end && is_outside_ascii(text_[not_spoken_end_])) {
             ++not_spoken_end_;
         }
@@ -419,8 +419,8 @@ bool TextWindow::copy_without_nuls(std::string_view piece) {
     return true;
 }
 
-// Puts a blank in the place of what is left out: without it, the text before and after could
-// make a tag together.
+// Feeds a blank in the place of what is left out: without it, the text before and after could make
+// a tag together.
 bool TextWindow::leave_out(std::size_t length) {
     buffer_[end_++] = ' ';
     map_.replaced(1, {next_offset(), length});
@@ -438,8 +438,8 @@ std::size_t TextWindow::cut_position(std::size_t size, bool inside_rewritings) c
         return inside_rewritings || joints.is_joint(origin_ + begin_ + at);
     };
     std::size_t after_blank = 0;
-    std::size_t between = 0;  // words, numbers, characters or tags
-    std::size_t within = 0;   // a word that is longer than any that is read whole
+    std::size_t between = 0;  // two words, numbers, characters or tags
+    std::size_t within = 0;   // a word that is too long to be read whole
     char before = ' ';        // the last character that the engine does not remove
     for (std::size_t at = prefix_, next = 0; at < text.size(); at = next) {
         const std::string_view here = text.substr(at);

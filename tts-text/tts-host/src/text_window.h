@@ -1,4 +1,4 @@
-// The stretch of a long text that the engine is given next.
+// A window that slides over a long text: what the engine is given next.
 #ifndef KAVI_HOST_TEXT_WINDOW_H
 #define KAVI_HOST_TEXT_WINDOW_H
 
@@ -14,9 +14,9 @@
 
 namespace kavi::host {
 
-// The spans that are open where a text is fed, those included that are left out with their closing
-// tags. Bounded, however many tags are opened: of those left out deeper than that, only the number
-// is kept, and the kind of their closing tags is not checked.
+// The spans that are open at the end of the window, including those whose tags are left out. At
+// most SPANS_MAX are kept: of spans that are left out deeper than that, only the number is known,
+// so the kind of their closing tags is not checked.
 class FedSpans {
   public:
     void clear();
@@ -37,7 +37,7 @@ class FedSpans {
     bool innermost_is_left_out() const { return deeper_ > 0 || spans_.back().left_out; }
     void close_innermost();
 
-    // Adds a finding for each that is not left out, the outermost first.
+    // Adds Finding::span_never_closed for each span that is not left out, the outermost first.
     void report_open(std::list<Diagnostic>& findings) const;
 
     bool any() const { return !spans_.empty(); }
@@ -59,13 +59,14 @@ class FedSpans {
     std::size_t values_ = 0;   // of these, the lengths of the values with a tab after each
 };
 
-// Feeds a text of any length through a buffer: the opening tags of the spans that are open, then
-// text that has not been read yet. Rewrites it and checks the markup on the way in, leaves out what
-// the engine would stop at, and knows for every byte in the buffer where it came from.
+// Feeds a text of any length through a buffer, which holds the opening tags of the spans that are
+// open and then text that has not been read yet. Text is rewritten and its markup checked when it
+// is fed: what the engine would stop at is left out. A map has the source of every byte in the
+// buffer.
 class TextWindow {
   public:
-    // A new text, of which nothing is known yet; its first byte is at `offset`. `rewriter` may be
-    // null.
+    // Begins a text, of which nothing is known yet; its first byte is at `offset`. `rewriter` may
+    // be null.
     void begin(std::size_t offset, const TextRewriter* rewriter);
 
     // The text received so far, from `offset`: all not yet fed, and what rewriters may look back
@@ -88,7 +89,7 @@ class TextWindow {
     // Whether the rest of the text is in the buffer.
     bool holds_rest() const { return is_complete_ && next_ == text_.size(); }
 
-    // Where in the text it goes on after what has been fed.
+    // The offset in the text of the next byte to feed.
     std::size_t next_offset() const { return text_offset_ + next_; }
 
     // Where to cut so that at most about `size` bytes of new text are before the cut: after a
@@ -100,8 +101,7 @@ class TextWindow {
     // Moves on to `rest`, a place in the buffer where `open` are the tags that are open.
     void consume(const char* rest, const SsmlTagArr& open);
 
-    // Where in the text a byte of the buffer comes from; `text()` is the first that has not been
-    // consumed.
+    // The offset in the text of a byte of the buffer at or after text().
     std::size_t source_offset(const char* at) const { return map_.offset_of(position(at)); }
 
     // The source of a piece of the buffer from `text()` on.
@@ -112,7 +112,7 @@ class TextWindow {
     // Appends what the buffer has from `begin` to `end` to the map of a sentence.
     void append_sources(const char* begin, const char* end, SourceMap& sentence) const;
 
-    // What was found in what has been fed, in order; the reader takes them off.
+    // The findings in what has been fed, in order. The reader removes those it has reported.
     std::list<Diagnostic>& findings() { return findings_; }
 
     bool has_finding_at(std::size_t offset) const {
@@ -129,7 +129,8 @@ class TextWindow {
     std::string_view rest() const { return text_.substr(next_); }
     std::size_t room() const { return CAPACITY - end_; }
 
-    // In the fed text. The tags of open spans have no place of their own there.
+    // The position in the map of a byte of the buffer. The tags of open spans at the front have the
+    // position of the text after them.
     std::size_t position(const char* at) const {
         return origin_ + std::max(static_cast<std::size_t>(at - buffer_), begin_ + prefix_);
     }
@@ -140,7 +141,7 @@ class TextWindow {
     bool feed();
     bool feed_rewriting();
     bool feed_run();
-    std::size_t without_open_stretch(std::size_t end) const;
+    std::size_t without_open_run(std::size_t end) const;
     void report_not_spoken(std::string_view run);
     bool feed_tag();
     bool feed_other_tag();
@@ -153,40 +154,42 @@ class TextWindow {
     bool copy_without_nuls(std::string_view piece);
     bool leave_out(std::size_t length);
 
-    // From the last "<" on, where that is so near that a tag's name may not have ended yet.
+    // The end of the buffer from its last "<" on, if that is so near that a tag may begin there
+    // whose name has not ended; else empty.
     std::string_view tag_beginning() const;
     void report(Finding finding) { findings_.push_back({next_offset(), finding}); }
 
     std::list<Diagnostic> findings_;
     FedSpans spans_;
-    std::string_view text_;  // what is there of it; places are places in that
-    std::size_t text_offset_ = 0;
-    std::size_t first_offset_ = 0;  // of all of it
+    // Offsets below are offsets in text_, unless a comment says otherwise.
+    std::string_view text_;         // what is known of the text
+    std::size_t text_offset_ = 0;   // its offset in the whole text
+    std::size_t first_offset_ = 0;  // the offset of the whole text
     bool is_complete_ = false;
-    std::size_t next_ = 0;  // the next byte of the text to feed
+    std::size_t next_ = 0;  // the next byte to feed
 
     const TextRewriter* rewriter_ = nullptr;
     Rewriting rewriting_;  // the next, if there is one
     bool has_rewriting_ = false;
-    std::size_t next_rewriting_ = 0;  // where it begins in the text; the text's end for none
+    std::size_t next_rewriting_ = 0;  // where it begins; the end of the text for none
     std::size_t decided_ = 0;         // how far the text may be fed
-    std::size_t words_fed_ = 0;       // bytes of its words
+    std::size_t words_fed_ = 0;       // the bytes of its words that have been fed
 
     char buffer_[CAPACITY + 1] = {};
-    std::size_t begin_ = 0;   // of what has not been consumed, in the buffer
-    std::size_t prefix_ = 0;  // how much of that opens spans again
-    std::size_t end_ = 0;
-    bool is_full_ = false;  // the next piece has no room
+    std::size_t begin_ = 0;   // in the buffer: what has not been consumed
+    std::size_t prefix_ = 0;  // the bytes of that which open spans again
+    std::size_t end_ = 0;     // in the buffer
+    bool is_full_ = false;    // the next piece has no room
 
     SourceMap map_;           // of what has been fed
-    std::size_t origin_ = 0;  // the position there of the first byte of the buffer
+    std::size_t origin_ = 0;  // the position in it of the first byte of the buffer
 
-    // The position of the next of these in the text, as far as it is known.
+    // How far each search of find_ahead() has come.
     std::size_t next_tag_ = 0;
     std::size_t next_tag_end_ = 0;
     std::size_t next_nul_ = 0;
 
-    std::size_t not_spoken_end_ = 0;  // of the last stretch that was reported, in the text
+    std::size_t not_spoken_end_ = 0;  // of the last run outside ASCII that was reported
 };
 
 }  // namespace kavi::host

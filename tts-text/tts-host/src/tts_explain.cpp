@@ -44,13 +44,13 @@ constexpr RuleName RULE_NAMES[] = {
     {ReadingRule::silent, "not spoken"},
 };
 
-// A rule is found by its place.
+// The rows are indexed by rule.
 constexpr bool are_in_order() {
-    int place = 0;
+    int index = 0;
     for (const RuleName& row : RULE_NAMES) {
-        if (static_cast<int>(row.rule) != place++) return false;
+        if (static_cast<int>(row.rule) != index++) return false;
     }
-    return place == static_cast<int>(ReadingRule::silent) + 1;
+    return index == static_cast<int>(ReadingRule::silent) + 1;
 }
 static_assert(are_in_order());
 

@@ -39,7 +39,7 @@ constexpr PunctuationRow PUNCTUATION[] = {
     {POIB_FE, "POIB"},          {POIE_FE, "POIE"},
 };
 
-// Rows are found by their place, from the least value on.
+// The rows are indexed by value, from the least on.
 constexpr bool are_in_order() {
     int value = PAUSE_SYL_FE;
     for (const PauseRow& row : PAUSES) {
@@ -54,8 +54,8 @@ constexpr bool are_in_order() {
 static_assert(are_in_order());
 
 template <typename Row, int N>
-std::string_view name_at(const Row (&rows)[N], int place) {
-    return place >= 0 && place < N ? rows[place].name : "unknown";
+std::string_view name_at(const Row (&rows)[N], int index) {
+    return index >= 0 && index < N ? rows[index].name : "unknown";
 }
 
 }  // namespace

@@ -9,13 +9,15 @@ namespace kavi {
 
 namespace {
 
-// A piece is taken in parts of at most this, and so much is read at the latest though nothing may
-// be told.
+// A piece is taken in parts of at most this size, and so much is read at the latest, even if no
+// clause may have ended.
 constexpr std::size_t PART = 1024;
 
-// How much of what was told is kept: for rewriters, and blanks before a sentence for PlainForm.
+// The most that is kept of what was handed over: for rewriters, and the blanks before a sentence
+// for PlainForm.
 constexpr std::size_t TOLD_MAX = 4096;
-// Of a sentence so much before where it is fed.
+
+// The most that is kept of the sentence that is being read, before what has not been fed.
 constexpr std::size_t KEPT_MAX = 65536;
 
 bool is_blank(char c) {
@@ -48,7 +50,7 @@ bool TtsStream::add(std::string_view piece) {
     return take(piece);
 }
 
-// Pieces are short: most of them are kept, and that is all.
+// Most parts are short and end no clause: they are only kept.
 bool TtsStream::take(std::string_view part) {
     if (mark_ == kept_.size()) mark_ += host::find_clause_mark(part, 0);
     kept_.add(part);
@@ -75,8 +77,8 @@ void TtsStream::forget() {
     is_open_ = true;
 }
 
-// Whether the last `added` bytes may have shown the end of a clause that was not told when it was
-// read last. Where it is rewritten, the word after it has to end.
+// Whether the last `added` bytes may have ended a clause that the last read could not hand over.
+// With a rewriter, the word after the clause has to end.
 bool TtsStream::may_tell(std::size_t added) const {
     if (reader_.needs_full_window()) return false;
     if (!reader_.is_rewritten()) return true;
@@ -85,7 +87,7 @@ bool TtsStream::may_tell(std::size_t added) const {
     return std::any_of(text.begin(), text.end(), is_blank);
 }
 
-// It is closed for handlers, and stays so when one throws.
+// The stream is closed while handlers run, and stays so when one throws.
 bool TtsStream::read(bool is_complete) {
     is_open_ = false;
     const auto goes_on = [this](const auto& handler, const auto& told) {
@@ -105,7 +107,8 @@ bool TtsStream::read(bool is_complete) {
     return is_open_;
 }
 
-// What was told, but for what is looked back at; when it is much, so that each byte moves seldom.
+// Drops what was handed over, except what is looked back at. Only when that is much, so that the
+// bytes that are kept move seldom.
 void TtsStream::drop_told() {
     const std::size_t fed = reader_.fed_to() - kept_begin_;
     const std::size_t told =

@@ -1,5 +1,5 @@
-// What browser.js, node.js and inline.js share: the functions of kavi.h in WebAssembly, with JavaScript's own strings
-// and places. kavi.d.ts has the contract of what they export.
+// What browser.js, node.js and inline.js share: the functions of kavi.h in WebAssembly, with strings and UTF-16 offsets of
+// JavaScript. kavi.d.ts has the contracts of what they export.
 
 // The layout of the structures of kavi.h where pointers have four bytes, as tts-c/src/layout.cpp asserts it.
 const WORD = {size: 76, text: 0, after: 8, source: 16, pause: 24, nMarks: 28, marks: 32, breakTime: 44, attributes: 48};
@@ -21,7 +21,7 @@ const AMERICAN_DATES = 1 << 16;
 const encoder = new TextEncoder();
 const decoder = new TextDecoder('utf-8', {ignoreBOM: true});
 
-// Options that nobody knows are mistakes.
+// An unknown option is a mistake.
 function refuseOthers(options, known) {
   for (const name of Object.keys(options)) {
     if (!known.includes(name)) throw new TypeError(`no such option: ${name}`);
@@ -33,14 +33,14 @@ function bitsOf(everyday) {
   if (typeof everyday === 'boolean') return everyday ? (1 << EVERYDAY.length) - 1 : 0;
   const names = typeof everyday === 'string' ? [everyday] : everyday;
   return names.reduce((sum, name) => {
-    const place = EVERYDAY.indexOf(name);
-    if (place < 0) throw new TypeError(`no class of everyday English: ${name}`);
-    return sum | 1 << place;
+    const bit = EVERYDAY.indexOf(name);
+    if (bit < 0) throw new TypeError(`no class of everyday English: ${name}`);
+    return sum | 1 << bit;
   }, 0);
 }
 
-// Places in a text for places in its UTF-8 bytes; cheap for one after the other. What is there of the text begins at
-// `first`, and its bytes at `firstByte`; of what is before that, `before` has the places of tags.
+// Converts byte offsets in the UTF-8 of a text to indices of its UTF-16 units; cheap for one after the other. `text` begins
+// at the index `first` and the byte `firstByte` of the whole text; `before` has the indices of tags before it, by their bytes.
 class Units {
   constructor(bytes, text, first = 0, firstByte = 0, before = new Map()) {
     this.bytes = bytes;
@@ -52,9 +52,9 @@ class Units {
     this.byte = 0;
     this.unit = 0;
   }
-  at(place) {
-    const byte = place - this.firstByte;
-    if (byte < 0) return this.before.get(place) ?? this.before.get(place - 1) + 1; // a tag's begin, or its end
+  at(offset) {
+    const byte = offset - this.firstByte;
+    if (byte < 0) return this.before.get(offset) ?? this.before.get(offset - 1) + 1; // a tag's begin, or its end
     if (this.isAscii) return this.first + byte;
     if (byte < this.byte) this.byte = this.unit = 0;
     for (; this.byte < byte; ++this.byte) {
@@ -68,8 +68,53 @@ class Units {
   }
 }
 
-// A text that is still being written. `tell` has the module take a piece, or end for null, and answers what that tells;
-// `forget` and `free` are the module's.
+// The end of the text of a stream, from the begin of the next sentence on, for converting offsets.
+class KeptText {
+  #text = '';
+  #begin = 0; // its index in the whole text,
+  #beginByte = 0; // and its byte offset
+  #length = 0; // of the whole text so far,
+  #byteLength = 0; // and in bytes
+  // The index of each "<", by its byte offset: a tag that nothing closes is reported at the end, when its text is gone.
+  #tags = new Map();
+
+  add(piece) {
+    let byte = this.#byteLength;
+    let from = 0;
+    for (let at = piece.indexOf('<'); at >= 0; at = piece.indexOf('<', at + 1)) {
+      byte += encoder.encode(piece.slice(from, at)).length;
+      from = at;
+      this.#tags.set(byte, this.#length + at);
+    }
+    this.#length += piece.length;
+    this.#byteLength = byte + encoder.encode(piece.slice(from)).length;
+    this.#text += piece;
+  }
+  // A function that makes Units of the text as it is now.
+  unitsMaker() {
+    const bytes = encoder.encode(this.#text);
+    return () => new Units(bytes, this.#text, this.#begin, this.#beginByte, this.#tags);
+  }
+  // Drops what is before an index in the whole text.
+  dropBefore(index) {
+    const dropped = this.#text.slice(0, index - this.#begin);
+    this.#text = this.#text.slice(dropped.length);
+    this.#begin += dropped.length;
+    this.#beginByte += encoder.encode(dropped).length;
+  }
+  // Drops all; `more` units that have not been added count in the whole text.
+  clear(more) {
+    this.#begin += this.#text.length + more;
+    this.#beginByte += encoder.encode(this.#text).length;
+    this.#length = this.#begin;
+    this.#byteLength = this.#beginByte;
+    this.#tags = new Map();
+    this.#text = '';
+  }
+}
+
+// A text that is still being written. `tell` passes a piece to the module, or null for the end, and returns the sentences
+// and findings that it hands over; `forget` and `free` call the module's functions.
 class Stream {
   #tell;
   #forget;
@@ -147,8 +192,8 @@ async function* strings(chunks) {
   yield utf8.decode();
 }
 
-// What is inside of an instance, by address. One in which a function threw, for want of memory or stack, is in no
-// known state, and what was made in it is gone: it is the last of its generation.
+// The memory and functions of an instance of the module. An instance in which a function threw, since there was no memory or
+// stack left, is lost with all that was made in it: renew() makes another, of another generation.
 class Memory {
   #instantiate;
   #isLost = false;
@@ -175,7 +220,7 @@ class Memory {
     this.room = this.size = 0;
     this.#isLost = false;
   }
-  // Another instance in the place of one that is lost.
+  // Makes another instance when this one is lost.
   renew() {
     if (this.#isLost) this.#adopt(this.#instantiate());
   }
@@ -194,7 +239,7 @@ class Memory {
     const length = this.u32(at + 4);
     return length > 0 ? decoder.decode(this.bytes(this.u32(at), length)) : '';
   }
-  // NUL-terminated, at the address stored there.
+  // The NUL-terminated text whose address is stored at `at`.
   chars(at) {
     return this.charsOf(this.view(), at);
   }
@@ -206,7 +251,7 @@ class Memory {
     const bytes = new Uint8Array(this.exports.memory.buffer);
     return decoder.decode(bytes.subarray(begin, bytes.indexOf(0, begin)));
   }
-  // What a function says for a number; asked once.
+  // The name that a function returns for a number; cached.
   name(of, number) {
     let names = this.names.get(of);
     if (names === undefined) this.names.set(of, names = new Map());
@@ -219,7 +264,7 @@ class Memory {
     if (at === 0) throw new RangeError('not enough memory');
     return at;
   }
-  // The UTF-8 of a text in a room that the next one takes again.
+  // Writes the UTF-8 of a text to `room`, which the next call overwrites. Returns its length in bytes.
   put(text) {
     const most = 3 * text.length;
     if (most > this.size) {
@@ -237,7 +282,7 @@ class Reader {
   #memory;
   #generation; // of the instance that the reader is in
   #reader = 0;
-  #out; // where functions leave what they give
+  #out; // the address of two words for what functions return by pointer
   #capacity;
   #classes;
   #lexicon = '';
@@ -259,7 +304,7 @@ class Reader {
     }
   }
 
-  // In the instance that there is.
+  // Makes the reader, in a new instance when the last one is lost.
   #start() {
     this.#memory.renew();
     this.#generation = this.#memory.generation;
@@ -274,7 +319,7 @@ class Reader {
     if (this.#lexicon !== '') this.setLexicon(this.#lexicon);
   }
 
-  // Of the functions that only the larger module has.
+  // A function that only the larger module has.
   #everyday(name) {
     const found = this.#memory.exports[name];
     if (found === undefined) throw new TypeError('a lexicon and everyday English need load({everyday: true})');
@@ -355,53 +400,23 @@ class Reader {
       if (isFreed || this.#isFreed) throw new TypeError('the stream is freed');
       if (generation !== memory.generation) throw new RangeError('the stream is lost: there was no memory or stack left');
     };
-    // What is there of the text from where the next sentence begins.
-    let rest = '';
-    let first = 0;
-    let firstByte = 0;
-    // The index of each "<", by its byte offset: tags that nothing closes are told at the end, when the text is gone.
-    let tags = new Map();
-    let nUnits = 0;
-    let nBytes = 0;
-    const noteTags = piece => {
-      let byte = nBytes;
-      let from = 0;
-      for (let at = piece.indexOf('<'); at >= 0; at = piece.indexOf('<', at + 1)) {
-        byte += encoder.encode(piece.slice(from, at)).length;
-        from = at;
-        tags.set(byte, nUnits + at);
-      }
-      nUnits += piece.length;
-      nBytes = byte + encoder.encode(piece.slice(from)).length;
-    };
+    const kept = new KeptText();
     const tell = piece => {
       checkIsThere();
-      noteTags(piece ?? '');
-      rest += piece ?? '';
+      kept.add(piece ?? '');
       const length = memory.put(piece ?? '');
       this.#check(piece === null ? exports.kavi_stream_end(stream, this.#out)
         : exports.kavi_stream_add(stream, memory.room, length, this.#out));
       if (memory.u32(this.#out) === 0) return {sentences: [], findings: []};
-      const bytes = encoder.encode(rest);
-      const result = this.#result(() => new Units(bytes, rest, first, firstByte, tags));
+      const result = this.#result(kept.unitsMaker());
       const last = result.sentences.at(-1);
-      if (last !== undefined) {
-        const told = rest.slice(0, last.offset + last.length - first);
-        rest = rest.slice(told.length);
-        first += told.length;
-        firstByte += encoder.encode(told).length;
-      }
+      if (last !== undefined) kept.dropBefore(last.offset + last.length);
       return result;
     };
     const forget = more => {
       checkIsThere();
       this.#check(exports.kavi_stream_forget(stream));
-      first += rest.length + more.length;
-      firstByte += encoder.encode(rest).length;
-      nUnits = first;
-      nBytes = firstByte;
-      tags = new Map();
-      rest = '';
+      kept.clear(more.length);
     };
     const free = () => {
       if (!isFreed && generation === memory.generation) exports.kavi_stream_free(stream);
@@ -433,7 +448,7 @@ class Reader {
     });
   }
 
-  // What kavi-tn's page has for a line; in the playground's module only.
+  // The rows of kavi-tn's page for a line; in the playground's module only.
   rows(text, line) {
     const length = this.#put(text);
     const rows = this.#memory.exports.kavi_rows(this.#reader, this.#memory.room, length, line);
@@ -457,7 +472,7 @@ class Reader {
     throw new RangeError(said);
   }
 
-  // The length of the text in the memory's room.
+  // Writes a text to the memory's room, and makes the reader again if its instance is lost. Returns the length in bytes.
   #put(text) {
     if (typeof text !== 'string') throw new TypeError('a text is a string');
     if (this.#isFreed) throw new TypeError('the reader is freed');
@@ -489,21 +504,21 @@ class Reader {
       endsSentence: memory.u32(at + SENTENCE.endsSentence) !== 0};
   }
 
-  // The plain form is the text before the first word, then each word with the text after it. So it is
-  // decoded once, and where each of its bytes is a unit, the words are cut out of it.
+  // The plain form is the text before the first word, then each word with the text after it. It has been decoded; where it
+  // is ASCII, the words are cut out of it.
   #words(at, plain, before, units, view) {
     const memory = this.#memory;
     const isCut = view.getUint32(at + SENTENCE.plain + 4, true) === plain.length;
     const first = view.getUint32(at + SENTENCE.words, true);
     const words = [];
-    let place = before.length;
+    let begin = before.length;
     for (let i = 0, n = view.getUint32(at + SENTENCE.nWords, true); i < n; ++i) {
       const word = first + i * WORD.size;
       if (isCut) {
-        const end = place + view.getUint32(word + WORD.text + 4, true);
+        const end = begin + view.getUint32(word + WORD.text + 4, true);
         const next = end + view.getUint32(word + WORD.after + 4, true);
-        words.push(this.#word(word, plain.slice(place, end), plain.slice(end, next), units, view));
-        place = next;
+        words.push(this.#word(word, plain.slice(begin, end), plain.slice(end, next), units, view));
+        begin = next;
       } else {
         words.push(this.#word(word, memory.text(word + WORD.text), memory.text(word + WORD.after), units, view));
       }

@@ -47,10 +47,10 @@ need_compiler() {
     [ "${1:-}" = any ] && command -v clang++ >/dev/null || need g++ g++
 }
 
-# A tree of which git knows the files; a source tarball has none of it.
+# A tree whose files git knows: a clone, or a copy for which GIT_DIR names one (scripts/mutate); a source tarball is none.
 need_clone() {
     need git git
-    [ -e "$project/.git" ] || { say "This asks git for the files of the project: it needs a clone, and $project is none"; exit 1; }
+    [ -e "$project/.git" ] || [ -n "${GIT_DIR:-}" ] || { say "This asks git for the files of the project: it needs a clone, and $project is none"; exit 1; }
 }
 
 need_browser() {

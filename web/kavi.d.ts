@@ -1,4 +1,4 @@
-/** English text normalisation for text to speech. All places are UTF-16 units of the string, as in slice(). */
+/** English text normalisation for text to speech. All offsets and lengths are in UTF-16 units, as in slice(). */
 
 /** The classes of everyday English. */
 export const EVERYDAY: readonly string[];
@@ -26,7 +26,7 @@ export interface Word {
   quill_effect?: string;
 }
 
-/** A stretch that one rule has read. */
+/** A range that one rule has read. */
 export interface Run {
   offset: number;
   length: number;
@@ -38,7 +38,7 @@ export interface Sentence {
   source: string;
   offset: number;
   length: number;
-  /** With abbreviations written out, and its end marked. */
+  /** The sentence as cut, with abbreviations written out. */
   normalized: string;
   /** Words and punctuation tags. */
   speakable: string;
@@ -60,7 +60,7 @@ export interface Finding {
   message: string;
   offset: number;
   length: number;
-  /** Its number, from 0; the number of sentences for a finding after the last. */
+  /** The number, from 0, of the sentence it belongs to; the number of sentences for one after the last. */
   sentence: number;
 }
 
@@ -78,7 +78,7 @@ export interface Line {
   result: Result;
 }
 
-/** What a stream hands over at once: a sentence, or a clause of one. Places count from the begin of the stream. */
+/** What a stream hands over at once: a sentence, or a clause of one. Offsets count from the begin of the stream. */
 export interface Utterance {
   clauses: Sentence[];
   /** Each `sentence` is the number of one of the clauses. */
@@ -103,9 +103,9 @@ export interface Stream {
   add(piece: string): Utterance[];
   /** The text ends here: the rest of it, which may be findings alone. A RangeError after the end. */
   end(): Utterance[];
-  /** Interrupted: drops what was not handed over. What is added next begins a new text; its places go on. */
+  /** Drops what has not been handed over. What is added next begins a new text; its offsets go on. Also after the end. */
   forget(): void;
-  /** Gives its memory back. */
+  /** Frees the stream. A TypeError for calls after that. */
   free(): void;
 }
 
@@ -137,9 +137,9 @@ export interface Reader {
   stream(pieces: Iterable<string | Uint8Array> | AsyncIterable<string | Uint8Array>, options?: StreamOptions): AsyncGenerator<Utterance>;
   /** The same to pipe strings through: `texts.pipeThrough(reader.transform())`. */
   transform(options?: StreamOptions): TransformStream<string, Utterance>;
-  /** Another lexicon; when a line is wrong, a SyntaxError, and the last one stays. */
+  /** Replaces the lexicon. A SyntaxError when a line is wrong: then the last one stays. */
   setLexicon(lines: string): void;
-  /** Gives its memory back; after that it reads no text. */
+  /** Frees the reader and its memory. A TypeError for calls after that. */
   free(): void;
 }
 

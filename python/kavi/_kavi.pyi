@@ -17,7 +17,7 @@ class Sentence:
     def length(self) -> int: ...
     @property
     def normalized(self) -> str:
-        """With abbreviations written out, and its end marked."""
+        """The sentence as cut, with abbreviations written out."""
     @property
     def speakable(self) -> str:
         """Words and punctuation tags."""

@@ -57,7 +57,7 @@ class Stream:
         return utterances
 
     def forget(self) -> None:
-        """Interrupted: drops what was not handed over. What is added next begins a new text; its offsets go on."""
+        """Drops what has not been handed over. What is added next begins a new text; its offsets go on. Also after the end."""
         self._stream.forget()
         self._clear()
 

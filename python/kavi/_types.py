@@ -105,7 +105,7 @@ class Word(NamedTuple):
 
 
 class Run(NamedTuple):
-    """A stretch of the text that one rule has read."""
+    """A range of the text that one rule has read."""
 
     offset: int
     length: int
@@ -114,7 +114,7 @@ class Run(NamedTuple):
 
 
 class Finding(NamedTuple):
-    """Something that is worth a look, at its place in the text."""
+    """Something that was not read, or not as written, and the range of the text that it is about."""
 
     code: FindingCode
     message: str

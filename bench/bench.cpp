@@ -4,7 +4,9 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <cstring>
 #include <set>
+#include <vector>
 
 #include "calls.h"
 #include "corpus.h"

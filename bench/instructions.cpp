@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <numeric>
+#include <vector>
 
 #include "calls.h"
 #include "corpus.h"

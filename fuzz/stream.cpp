@@ -2,7 +2,9 @@
 // text and findings, however it is cut into pieces, also inside a tag or a character; with everyday
 // English and a lexicon on and off, with a small arena or a large one.
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 #include "host_reader.h"
 #include "tts_everyday.h"

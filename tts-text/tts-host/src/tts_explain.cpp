@@ -77,7 +77,7 @@ bool is_continuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
-// The rule of each character that is no letter or digit, by itself: in plain text, no mark depends
+// The rule of each character that is not a letter when it is alone: in plain text, no mark depends
 // on what is around it.
 std::array<ReadingRule, 256> find_rules_of_marks() {
     std::array<ReadingRule, 256> rules{};
@@ -102,7 +102,7 @@ ReadingRule rule_of_mark(std::string_view mark) {
     return mark.size() > 1 ? ReadingRule::markup_tag : rules[static_cast<unsigned char>(mark[0])];
 }
 
-// Makes runs of what is read of a sentence to `speakable`, and calls `on_run` with each, which may
+// Observes the reading of a sentence to `speakable`, and calls `on_run` with each run, which may
 // change its source.
 template <typename OnRun>
 class RunsOfSentence {
@@ -110,7 +110,7 @@ class RunsOfSentence {
     RunsOfSentence(const char* sentence, const char* speakable, OnRun& on_run)
         : sentence_(sentence), speakable_(speakable), next_(sentence), on_run_(on_run) {}
 
-    // There may be blanks of plain text before a step, or before more plain text.
+    // Blanks of plain text, which are not observed, may be before a step and before plain text.
     void add_step(const ReadingStep& step) {
         add_blanks(step.first->begin);
         const auto output_length = static_cast<std::size_t>(step.output_length);
@@ -122,7 +122,7 @@ class RunsOfSentence {
         end_reading(output_length);
     }
 
-    // Words, with a blank between two, or a tag or mark.
+    // `source` is words with a blank between two, or a tag, or a mark.
     void add_plain_text(std::string_view source, int output_length) {
         add_blanks(source.data());
         if (tn::is_letter(source[0])) {
@@ -150,7 +150,7 @@ class RunsOfSentence {
     }
 
   private:
-    // One in capitals is alone.
+    // A word in capitals comes by itself.
     void add_plain_words(std::string_view words) {
         hand_over();
         const bool is_in_capitals = std::all_of(words.begin(), words.end(), tn::is_upper);
@@ -166,7 +166,7 @@ class RunsOfSentence {
         }
     }
 
-    // A run of one section, read to `read` bytes. No run is open.
+    // Adds a run of one section whose reading has `read` bytes. No run is open.
     void add_alone(std::string_view section, ReadingRule rule, std::size_t read) {
         run_.sections.resize(1);
         run_.sections[0] = section;
@@ -180,7 +180,7 @@ class RunsOfSentence {
         on_run_(run_);
     }
 
-    // Opens a run at `section`; inside a character, the open run goes on.
+    // Opens a run at `section`. The open run goes on if `section` is inside a character of UTF-8.
     void begin(std::string_view section, std::string_view rule, bool is_word) {
         if (is_open_ && is_continuation(section[0])) return;
         hand_over();
@@ -203,7 +203,8 @@ class RunsOfSentence {
         next_ = section.data() + section.size();
     }
 
-    // A run that may go on keeps its reading: the end of the speakable text may yet be changed.
+    // Ends the run unless a character outside ASCII may go on. Then its reading is copied, since
+    // the end of the speakable text may still change.
     void end_reading(std::size_t output_length) {
         read_to_ = output_length;
         run_.reading = {speakable_ + run_.reading_at, read_to_ - run_.reading_at};
@@ -218,15 +219,15 @@ class RunsOfSentence {
 
     const char* sentence_;
     const char* speakable_;
-    const char* next_;  // to be read
+    const char* next_;  // where the sentence goes on
     OnRun& on_run_;
     ExplainedRun run_ = {};
-    bool is_open_ = false;     // the run has not been handed over, since a character may go on
-    std::string reading_;      // of that
-    std::size_t read_to_ = 0;  // of the output
+    bool is_open_ = false;     // run_ is not handed over yet, since a character may go on
+    std::string reading_;      // of run_, if it is open
+    std::size_t read_to_ = 0;  // where speakable_ goes on
 };
 
-// How a sentence is read to `runs`.
+// An observer that passes each reading to `runs`.
 template <typename Runs>
 tn::ReadingObserver observer_of(Runs& runs) {
     return {
@@ -249,7 +250,7 @@ class RunsOfText {
           piece_(sentence.places.pieces().data()),
           last_piece_(&sentence.places.pieces().back()) {}
 
-    // The next run of the sentence, whose source becomes that in the text.
+    // Adds the next run of the sentence. Its source becomes a range of the text.
     void add(ExplainedRun& run) {
         const std::size_t at = run.source.offset;
         if (sources_.is_copied(at, run.source.length)) {  // as most are
@@ -282,7 +283,8 @@ class RunsOfText {
     }
 
   private:
-    // The text at offset `at` of the sentence may be the words of a rewriting.
+    // Sets the rule and the section of a run at offset `at` of the sentence, if it has been
+    // rewritten.
     void rewrite(std::size_t at) {
         while (piece_ != last_piece_ && piece_->at + piece_->length <= at) ++piece_;
         const RuleId& by = piece_->by;
@@ -303,10 +305,10 @@ class RunsOfText {
     host::PieceCursor sources_;
     const SourcePiece* piece_;
     const SourcePiece* last_piece_;
-    ExplainedRun run_ = {};  // the last one, which the next may go on
+    ExplainedRun run_ = {};  // the last run, if any_: the next may belong to it
     bool any_ = false;
-    std::string reading_;  // of that
-    std::string rule_;     // of that, with the line that says so
+    std::string reading_;  // of run_
+    std::string rule_;     // of run_, with file and line
 };
 
 }  // namespace
@@ -321,8 +323,8 @@ void explain(std::string_view normalized, const RunHandler& on_run) {
     runs.hand_over();
 }
 
-// What is handed over while plain text and patterns are read in turn is as read: only after all of
-// it are characters that are no letters taken from the speakable text.
+// Runs are handed over while the sentence is read: characters that are not letters are removed from
+// the speakable text only after all of it.
 void explain(const HostSentence& sentence, std::string_view text, const RunHandler& on_run,
              std::size_t text_begin) {
     const char* const normalized = sentence.normalized.data();

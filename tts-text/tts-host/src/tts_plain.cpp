@@ -23,7 +23,7 @@ bool has(std::string_view characters, char c) {
     return characters.find(c) != std::string_view::npos;
 }
 
-// Whether a mark may begin with a character.
+// For each character, whether a mark may begin with it.
 constexpr std::array<bool, 256> begin_marks() {
     std::array<bool, 256> begins{};
     for (const char c : ASCII_MARKS) begins[static_cast<unsigned char>(c)] = true;
@@ -33,7 +33,7 @@ constexpr std::array<bool, 256> begin_marks() {
 }
 constexpr std::array<bool, 256> BEGINS_MARK = begin_marks();
 
-// How long the mark of English is that a text begins with; 0 for anything else.
+// The length of the punctuation mark that `text`, which is not empty, begins with; 0 for none.
 std::size_t mark_length(std::string_view text) {
     if (!BEGINS_MARK[static_cast<unsigned char>(text[0])]) return 0;
     const auto begins = [&](std::string_view first, std::string_view last) {
@@ -66,8 +66,8 @@ bool begins_tag(std::string_view text) {
     return text[1] == '/' || (letter >= 'a' && letter <= 'z');
 }
 
-// Where the blanks before a sentence begin, which no earlier one has written. Of many that are
-// nothing but blanks, none looks back.
+// The offset of the blanks before a sentence, which no earlier sentence has written. A sentence of
+// nothing but blanks does not look back, so that many in a row take linear time.
 std::size_t begin_of_blanks(std::string_view text, const TextRange& sentence) {
     const std::string_view source = text.substr(sentence.offset, sentence.length);
     std::size_t begin = sentence.offset;
@@ -121,7 +121,7 @@ void PlainForm::read(const HostSentence& sentence, std::string_view text, std::s
     if (all_.size() > 0) is_after_word_ = after(n_records - 1).empty();
 }
 
-// What has been added is the text before the first word; `text` precedes it.
+// Completes what was added for the text before the first word. `text` precedes that.
 void PlainForm::end_before(std::string_view text, bool is_last) {
     if (text.empty()) {
         all_.cut_front(std::min(all().find_first_not_of(' '), all_.size()));
@@ -130,10 +130,10 @@ void PlainForm::end_before(std::string_view text, bool is_last) {
     }
 }
 
-// Appends what of a gap between words is punctuation or a blank.
+// Appends the punctuation and blanks of the text between two words.
 void PlainForm::add_gap(std::string_view gap) {
-    std::size_t n_blanks = 0;  // in the run that has been read,
-    bool has_other = false;    // not only these
+    std::size_t n_blanks = 0;  // in the current run of characters that are no marks
+    bool has_other = false;    // that run has other characters
     bool may_have_tags = true;
     const auto end_run = [&] {
         if (has_other) n_blanks = std::min<std::size_t>(n_blanks, 1);

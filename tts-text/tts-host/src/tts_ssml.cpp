@@ -17,7 +17,7 @@ const char* const SSML_END = "</speak>\n";
 
 namespace {
 
-// What the standard knows by name.
+// The values that the standard names.
 constexpr std::string_view RATES[] = {"x-slow", "slow", "medium", "fast", "x-fast", "default"};
 constexpr std::string_view PITCHES[] = {"x-low", "low", "medium", "high", "x-high", "default"};
 constexpr std::string_view VOLUMES[] = {"silent", "x-soft", "soft",   "medium",
@@ -33,7 +33,7 @@ bool is_digit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// Digits, with a point among them at most.
+// Digits, with at most one point between them.
 bool is_number(std::string_view value) {
     if (value.empty() || !is_digit(value.front()) || !is_digit(value.back())) return false;
     return std::count(value.begin(), value.end(), '.') <= 1 &&
@@ -54,7 +54,7 @@ bool is_quantity(std::string_view value, std::string_view unit, Sign sign) {
     return is_number(value.substr(has_sign ? 1 : 0));
 }
 
-// A value as the standard has it, in two pieces; empty: it has none.
+// A value of the standard, in two pieces; both empty when it has none.
 struct Value {
     std::string_view number;
     std::string_view unit;
@@ -64,8 +64,8 @@ Value known(std::string_view value, bool is_known) {
     return {is_known ? value : std::string_view(), {}};
 }
 
-// Each gives the standard's value for one of ours. A number by itself is a factor of the usual
-// rate.
+// Each converts a value of the markup language to one of the standard. A whole number alone is a
+// factor of the default rate.
 Value rate_of(std::string_view value) {
     const bool is_factor =
         is_number(value) && value.size() <= 4 && value.find('.') == std::string_view::npos;
@@ -83,7 +83,7 @@ Value volume_of(std::string_view value) {
     return known(value, is_one_of(value, VOLUMES) || is_quantity(value, "dB", Sign::must));
 }
 
-// Any other value means that there is emphasis: the standard's usual level.
+// Any other value means emphasis: "moderate", the default level of the standard.
 std::string_view level_of(std::string_view value) {
     return value.empty() || is_one_of(value, LEVELS) ? value : LEVELS[1];
 }
@@ -111,8 +111,8 @@ bool have_same_attributes(const CssmlTag& a, const CssmlTag& b) {
 
 using Plain = PlainCharacters<'&', '<'>;
 
-// A word that an unclosed tag got into has more than letters, but no ">", which would end the tag.
-// What XML does not have, or is outside ASCII, is U+FFFD.
+// A word with a part of an unclosed tag has other characters than letters, but no ">", which would
+// end the tag. Control characters, which XML does not allow, and bytes outside ASCII become U+FFFD.
 void append_escaped(std::string_view word, TextBuffer& out) {
     if (out.add_plain(word, Plain())) return;
     for (const char c : word) {
@@ -126,7 +126,7 @@ void append_escaped(std::string_view word, TextBuffer& out) {
 
 }  // namespace
 
-// What the plain form has is copied in stretches, up to the next difference.
+// The plain form is copied in long pieces, up to the next element.
 void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::size_t text_begin) {
     plain_.read(sentence, text, text_begin);
     is_plain_ = Plain::are_all(plain_.all());
@@ -136,7 +136,7 @@ void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::si
     all_.clear();
     all_.add("<s>");
     bool has_break = false;
-    bool has_any = false;  // attributes, the last word
+    bool has_any = false;  // the last word has attributes
     for (std::size_t i = 0; i < n_records_; ++i) {
         const UtteranceSyllable& record = sentence.records[i];
         if (may_have_break(record)) {
@@ -162,9 +162,9 @@ void SsmlForm::read(const HostSentence& sentence, std::string_view text, std::si
     if (n_records_ <= 1 && !has_break) all_.clear();
 }
 
-// Of what follows a record, marks up to the first blank are its own; all of it after the last. What
-// is directly before the next word belongs to that; the blanks between to neither. Those before
-// the first word are not copied.
+// The offset in the plain form after the marks that belong to a record: up to the first blank after
+// it, or to the end for the last record. Marks directly before the next word belong to that word,
+// and blanks between the two to neither. The text before the first word has no closing marks.
 std::size_t SsmlForm::end_of_closing_marks(std::size_t record) const {
     const std::string_view after = plain_.after(record);
     const std::size_t begin = place_of(after);
@@ -173,6 +173,7 @@ std::size_t SsmlForm::end_of_closing_marks(std::size_t record) const {
     return begin + std::min(after.find(' '), after.size());
 }
 
+// The offset in the plain form of the marks that belong to the word after a record.
 std::size_t SsmlForm::begin_of_opening_marks(std::size_t record) const {
     const std::string_view after = plain_.after(record);
     const std::size_t after_blanks = place_of(after) + after.rfind(' ') + 1;
@@ -184,7 +185,7 @@ std::size_t SsmlForm::place_of(std::string_view part) const {
     return static_cast<std::size_t>(part.data() - plain_.all().data());
 }
 
-// The plain form up to a place that is in no word; words are escaped.
+// Copies the plain form up to an offset that is in no word. Words are escaped.
 void SsmlForm::copy_to(std::size_t end) {
     const std::string_view plain = plain_.all();
     if (is_plain_) {
@@ -205,8 +206,8 @@ void SsmlForm::copy_to(std::size_t end) {
     }
 }
 
-// The elements around the next word begin at an offset of the plain form; those that go on
-// stay open.
+// Closes and opens elements for the words from the offset `begin` of the plain form on, which have
+// the attributes of `tag`. Elements that are the same stay open.
 void SsmlForm::enter_elements(const CssmlTag& tag, std::size_t begin) {
     next_.prosody.clear();
     const auto add = [&](const char* name, const char* value, const Value& known) {
@@ -238,7 +239,7 @@ void SsmlForm::enter_elements(const CssmlTag& tag, std::size_t begin) {
     std::swap(open_, next_);
 }
 
-// Whether there is one.
+// Writes the break after a record, if there is one. Returns whether there is.
 bool SsmlForm::write_break(const UtteranceSyllable& record) {
     if (record.cssml_tag.breaktime[0] != '\0') {
         const std::string_view value = record.cssml_tag.breaktime;

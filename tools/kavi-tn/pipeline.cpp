@@ -39,7 +39,7 @@ class Run {
 
     int all() {
         had_pipe_signal_ = std::signal(SIGPIPE, SIG_IGN) != SIG_IGN;
-        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));  // the write fails, and is told
+        static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));  // the write fails instead
         take_interrupts([this] { leave_interrupted(); });
         if (const std::string faults = readings_.load(options_); !faults.empty()) {
             write_messages(faults);

@@ -48,8 +48,7 @@ extern "C" {
 /* The version of the library that runs, as KAVI_VERSION; a constant text. */
 KAVI_API const char* kavi_version(void);
 
-/* The version of the readings: another number in a library that reads anything otherwise. What the
- * same number has read is the same. */
+/* The version of the readings. Two libraries with the same number read every text the same. */
 KAVI_API int32_t kavi_readings_version(void);
 
 typedef enum kavi_status {
@@ -129,8 +128,10 @@ typedef struct kavi_sentence {
 typedef struct kavi_finding {
     int32_t code; /* kavi_finding_code(), kavi_finding_message() */
     size_t offset;
-    size_t length;   /* of what is not spoken, or of a foreign tag; else 1 */
-    size_t sentence; /* its number, from 0; the number of sentences for one after the last */
+    size_t length;   /* of what is not spoken, or of a foreign tag; else 1, or 0 for a tag that is
+                        not in the text, which closes a span where the text was cut */
+    size_t sentence; /* the number, from 0, of its sentence; the number of sentences for a finding
+                        after the last */
 } kavi_finding;
 
 /* Names for people and programs, which stay as they are; constant texts. "unknown" for any other

@@ -64,15 +64,14 @@ class TtsHost {
     // Reads a text of any length and any bytes, which must not change meanwhile, and calls
     // `on_sentence` for each sentence in order. The diagnostics of a sentence come directly before
     // it, in the order of their offsets, those after the last sentence at the end. The sources of
-    // the sentences cover the text, but for what was passed over and what is silent after the last
-    // sentence.
+    // the sentences cover the text, except pieces that were passed over and text without speech
+    // after the last sentence. Returns true unless a piece was passed over.
     //
     // A text of up to 4,095 bytes whose sentences have up to 3,000 when they are normalised comes
     // out as if the engine had been called by hand. A sentence that the engine's buffers or the
     // arena do not hold is cut at blanks, with its markup spans closed and opened again. Malformed
     // markup at which the engine would stop is left out, with a diagnostic. Where the arena is too
-    // small even for a short piece, that piece is passed over, with a diagnostic. True when there
-    // was none of these.
+    // small even for a short piece, that piece is passed over, with a diagnostic.
     //
     // When a handler returns false, the rest of the text is not read, no handler is called any
     // more, and read() returns false. What a handler throws comes through. Either way the object

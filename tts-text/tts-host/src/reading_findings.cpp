@@ -42,8 +42,8 @@ bool is_zero_number(const tn::Token& token) {
     return is_zero(token.text());
 }
 
-// Whether a zero among the numbers of a step is said, or not said by English either: the last ones
-// of "10:00" and "1,000", the first of "0.5", either of "$0.50" and "$5.00".
+// Whether a zero among the numbers of a step is read, or is one that English does not say: the last
+// zeros of "10:00" and "1,000", the first of "0.5", that of "$0.50" and of "$5.00".
 bool is_zero_read(const tn::ReadingStep& step, const tn::Token* zero) {
     if (step.reading.text().find("zero") != std::string_view::npos) return true;
     switch (step.rule) {

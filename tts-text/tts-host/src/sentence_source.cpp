@@ -17,8 +17,8 @@ bool is_same_in_any_case(std::string_view one, std::string_view other) {
                       [](char a, char b) { return tn::to_lower(a) == tn::to_lower(b); });
 }
 
-// Whether an abbreviation is written as in the first row that has it in any case: of that one, no
-// other case is looked for.
+// Whether an abbreviation is written exactly as in the first row that has it in any case. Then the
+// engine has not searched the text ahead for another case of it.
 bool is_in_first_case(std::string_view abbreviation) {
     const auto* const first =
         std::find_if(std::begin(s_spec_word_abbrevi), std::end(s_spec_word_abbrevi),

@@ -74,8 +74,8 @@ class TextWindow {
     void give(std::string_view text, std::size_t offset, bool is_complete);
 
     // Refills the buffer when little is left in it, with the text whose reading cannot depend on
-    // what follows. False when there is nothing left to read. `changed` tells
-    // whether bytes were added to the buffer or moved in it.
+    // what follows. False when there is nothing left to read. `changed` is set to whether bytes
+    // were added to the buffer or moved in it.
     bool fill(bool& changed);
 
     // Whether the buffer holds what it would hold if the whole text had been given at once.
@@ -137,7 +137,7 @@ class TextWindow {
 
     void find_rewriting();
 
-    // ---- each takes one piece of the text, or answers false when it needs more room or text ----
+    // ---- each takes one piece of the text, or returns false when it needs more room or text ----
     bool feed();
     bool feed_rewriting();
     bool feed_run();

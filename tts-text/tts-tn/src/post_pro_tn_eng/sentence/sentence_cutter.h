@@ -9,7 +9,7 @@
 
 namespace kavi::tn {
 
-// Is told where the sentence differs from its source. Everything else is a copy.
+// Receives where the sentence differs from its source. Everything else is a copy.
 struct CutObserver {
     // The sentence has `length` bytes at offset `target_at` for `source`, a part of the source
     // text: the expansion of an abbreviation, or 0 bytes for a removed tag or blank.

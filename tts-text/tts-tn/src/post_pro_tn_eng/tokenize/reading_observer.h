@@ -1,4 +1,4 @@
-// The observer of reading: is told what was read as what. Explanations, findings and offsets of
+// The observer of reading: receives what was read as what. Explanations, findings and offsets of
 // words come from it.
 #ifndef KAVI_TN_READING_OBSERVER_H
 #define KAVI_TN_READING_OBSERVER_H
@@ -52,7 +52,7 @@ struct ReadingStep {
     int output_length;       // of the output after the step, in bytes
 };
 
-// Is told, in order, what was read of the sentence: all of it, except blanks in plain text. Each
+// Receives, in order, what was read of the sentence: all of it, except blanks in plain text. Each
 // reading begins in the output where the one before it ends.
 struct ReadingObserver {
     // The output, now `output_length` bytes long, has the reading of `source`: a run of words, a

@@ -4,6 +4,12 @@
 
 namespace kavi::tool {
 
+std::string text_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
+                      const std::string& message) {
+    return std::string(input) + ":" + std::to_string(line) + ": byte " +
+           std::to_string(diagnostic.offset) + ": " + message + "\n";
+}
+
 std::string json_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
                       const std::string& message) {
     JsonLine object;

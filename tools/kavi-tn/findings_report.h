@@ -19,6 +19,10 @@ struct FindingMessage {
     std::string json = {};
 };
 
+// A line "INPUT:LINE: byte OFFSET: MESSAGE".
+std::string text_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
+                      const std::string& message);
+
 // A line of JSON: an object with input, line, offset, length, code and message.
 std::string json_line(const Diagnostic& diagnostic, std::string_view input, std::size_t line,
                       const std::string& message);

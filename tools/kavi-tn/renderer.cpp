@@ -63,9 +63,7 @@ void Renderer::render_text(Location location, After after) {
             const std::string message =
                 describe(diagnostic, location.part({diagnostic.offset, diagnostic.length}));
             piece_.findings.push_back(
-                {diagnostic.finding, shown_input_ + ":" + std::to_string(location.line) +
-                                         ": byte " + std::to_string(diagnostic.offset) + ": " +
-                                         message + "\n"});
+                {diagnostic.finding, text_line(diagnostic, shown_input_, location.line, message)});
             if (!writes_findings_) return true;
             piece_.findings.back().json =
                 json_line(diagnostic, location.input, location.line, message);

@@ -43,10 +43,9 @@ class Writer {
     void write(const TtsStream& stream, const Diagnostic& found) {
         locate(stream);
         diagnostics_.push_back(found);
+        const std::string message = describe(found, location_.part({found.offset, found.length}));
         write_messages(findings_.take(
-            {{found.finding, "standard input:1: byte " + std::to_string(found.offset) + ": " +
-                                 describe(found, location_.part({found.offset, found.length})) +
-                                 "\n"}}));
+            {{found.finding, text_line(found, location_.input, location_.line, message)}}));
     }
 
     // At the end of the text.

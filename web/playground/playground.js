@@ -1,5 +1,5 @@
-// The playground: reads again only the lines that have changed, a few milliseconds at a time, and puts
-// anew only the sentences that are others. The engine's own page makes the rows.
+// The playground. Only lines that have changed are read again, a few milliseconds at a time, and only sentences that differ
+// are replaced on the page. Rows are those of kavi-tn --format html.
 
 const SAMPLES = {
   'everyday': 'Dr. Smith paid $5.50 on 3/1/2020, ok?\nIt\'s 10:30 and 25°C; we won\'t leave before 5 p.m.',
@@ -7,14 +7,14 @@ const SAMPLES = {
   'numbers': '1,234,567 people, 3/4 of 1999, +86 10 12345678, 12.5% and No. 7',
   'findings': 'A stray </poem> tag, a café, and 1234567890123456789012345678901234567890 cats.',
 };
-const SLICE = 8; // milliseconds of work without a look at what was typed; more when a look takes more
+const SLICE = 8; // milliseconds of work before the browser handles input; more when that takes longer
 
 const byId = id => document.getElementById(id);
 const kavi = await globalThis.kavi.load();
 const reader = {plain: kavi.reader(), everyday: kavi.reader({everyday: true})};
 const current = () => reader[byId('everyday').checked ? 'everyday' : 'plain'];
 
-// The lines as they are shown: the text, the section, and its sentences' rows.
+// The lines on the page: text, section element, and the rows of its sentences.
 let lines = [];
 let lastKey = 1;
 const waiting = [];
@@ -27,7 +27,7 @@ function newLine(text) {
   return line;
 }
 
-// Of the rows that are others, each by itself.
+// Replaces the rows between the first and the last that differ.
 function show(line, rows) {
   const {section} = line;
   const template = document.createElement('template');
@@ -43,7 +43,7 @@ function show(line, rows) {
   number(line);
 }
 
-// Rows say the key of their line; people count lines.
+// Shows the number of a line in its rows, which have its key.
 function number(line) {
   if (line.shownAs === line.number && line.isNumbered === line.rows) return;
   for (const link of line.section.querySelectorAll('article > a')) link.textContent = `line ${line.number}`;
@@ -76,7 +76,7 @@ function counted() {
   return `${sentences} ${sentences === 1 ? 'sentence' : 'sentences'}`;
 }
 
-// What is the same at both ends stays.
+// Takes the text of the input field: lines that are the same at its begin and end stay.
 function update() {
   const texts = byId('text').value.split('\n');
   let begin = 0;
@@ -151,7 +151,7 @@ byId('link').onclick = () => {
   return copy('Link', location.href);
 };
 
-// What a link carries, or the first sample.
+// Takes the text and settings of the link, or the first sample.
 function begin() {
   const state = new URLSearchParams(location.hash.slice(1));
   byId('everyday').checked = state.get('everyday') === '1';

@@ -1,4 +1,4 @@
-// What kavi-tn's page has for one line, for the playground.
+// The rows of kavi-tn's page for one line, for the playground.
 
 #include <cstddef>
 #include <cstdlib>
@@ -7,8 +7,9 @@
 #include "format.h"
 #include "reader.h"
 
-// The articles of the sentences of a text, as line `line` of a page, NUL-terminated; to be freed.
-// Line 1 would have the name of its input before it. Null when there is no memory.
+// The article elements of the sentences of a text, as line `line` of a page: NUL-terminated, freed
+// by the caller with free(). `line` is 2 or more, since line 1 has the name of its input before it.
+// Null when there is no memory.
 extern "C" char* kavi_rows(kavi_reader* reader, const char* text, std::size_t length,
                            std::size_t line) {
     using namespace kavi;

@@ -46,7 +46,7 @@ class PlainForm {
 
     TextBuffer all_;
     std::vector<Range> after_;    // for each record, what follows it in all_; there may be more
-    bool is_after_word_ = false;  // nothing follows the last word, such as a mark read with it
+    bool is_after_word_ = false;  // nothing follows the last word: its marks were read with it
 };
 
 }  // namespace kavi

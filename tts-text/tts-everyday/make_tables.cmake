@@ -25,6 +25,7 @@ endfunction()
 macro(find_fault)
     string(REGEX REPLACE "[^\t]" "" tabs "${columns}")
     string(REGEX REPLACE "[^\t]" "" tabs_of_row "${line}")
+    string(LENGTH "${written}${spoken}" length_of_row)
     set(fault "")
     if(NOT columns MATCHES "^written(\tspoken)?(\tmany)?(\tkind)?$")
         set(fault "no remark before it names its columns")
@@ -34,6 +35,8 @@ macro(find_fault)
         set(fault "an empty field, or a blank beside a tab")
     elseif(DEFINED line_of_${key})
         set(fault "written in line ${line_of_${key}} too")
+    elseif(length_of_row GREATER 62)
+        set(fault "more than 62 bytes before the words for many")
     elseif(NOT written MATCHES "${pattern}")
         set(fault "never found: what is written does not match ${pattern}")
     elseif(NOT kind STREQUAL "none" AND NOT head MATCHES "\n#   ${kind} ")
@@ -42,15 +45,13 @@ macro(find_fault)
 endmacro()
 
 # Sets `row` to a row in C++: where its columns are in the text of all tables, with NUL between them, the length of
-# `written`, and the offsets of the others; that of an empty one is of the NUL after what comes before it. Appends them
-# to `text_of_tables`, which has `text_size` bytes.
+# `written`, and the offset of `many`, or of the NUL before it if it is empty. Appends them to `text_of_tables`, which
+# has `text_size` bytes, unless another table has the same columns.
 macro(make_row)
     set(columns_of_row "")
     set(end -1)
-    set(has_s FALSE)
-    if(NOT spoken STREQUAL "" AND many STREQUAL "${spoken}s")
-        set(has_s TRUE)
-        set(spoken "") # the begin of `many`
+    if(many STREQUAL "${spoken}s")
+        set(spoken "") # it is the begin of `many`
     endif()
     foreach(field written spoken many)
         string(REPLACE "␣" " " value "${${field}}")
@@ -64,12 +65,16 @@ macro(make_row)
         endif()
         set(${field}_end ${end})
     endforeach()
-    if(has_s)
-        set(spoken_at ${many_at})
+    string(HEX "${columns_of_row}" columns_key)
+    set(at ${text_size})
+    if(DEFINED at_of_${columns_key})
+        set(at ${at_of_${columns_key}})
+    else()
+        set(at_of_${columns_key} ${text_size} PARENT_SCOPE) # no table has the same twice
+        string(APPEND text_of_tables "   ${columns_of_row}\n")
+        math(EXPR text_size "${text_size} + ${end} + 1")
     endif()
-    set(row "    {${text_size}, ${written_end}, ${spoken_at}, ${many_at}, Kind::${kind}}, // \"${written}\"\n")
-    string(APPEND text_of_tables "   ${columns_of_row}\n")
-    math(EXPR text_size "${text_size} + ${end} + 1")
+    set(row "    {${at}, ${written_end}, ${many_at}, Kind::${kind}}, // \"${written}\"\n")
 endmacro()
 
 # Appends the array of a table to `made`.

@@ -12,7 +12,7 @@
 namespace kavi::everyday {
 
 // Where a row is read, or how; the head of each table says what its kinds mean.
-enum class Kind : unsigned char {
+enum class Kind : std::uint32_t {
     none,
     never,
     needed,
@@ -41,22 +41,31 @@ enum class Kind : unsigned char {
 // that a table does not have is empty, and its kind is none. There are many rows: each is small,
 // and has no pointer that would have to be relocated.
 struct Row {
-    std::uint16_t at;      // in that text
-    unsigned char length;  // of what is written
-    unsigned char spoken_at;
-    unsigned char many_at;
-    Kind kind;
+    std::uint32_t at : 15;      // in that text
+    std::uint32_t length : 6;   // of what is written
+    std::uint32_t many_at : 6;  // after `at`; at the NUL before it where there is no `many`
+    Kind kind : 5;
 
     // Not empty; no two of a table are the same.
     constexpr std::string_view written() const { return {TEXT_OF_TABLES + at, length}; }
     // NUL after it, unless the row has a word for many that goes on with an "s".
     std::string_view spoken() const {
+        const bool has_spoken = many_at > length;
+        const unsigned spoken_at = length + (has_spoken ? 1U : 0U);
         const std::string_view words = TEXT_OF_TABLES + at + spoken_at;
-        return words.substr(0, words.size() - (many_at == spoken_at && !words.empty() ? 1 : 0));
+        return words.substr(0, words.size() - (has_spoken && many_at == spoken_at ? 1 : 0));
     }
     const char* many() const { return TEXT_OF_TABLES + at + many_at; }
 };
-static_assert(sizeof TEXT_OF_TABLES <= 65536);
+static_assert(sizeof(Row) == 4 && sizeof TEXT_OF_TABLES <= 1U << 15U);
+
+// A bit of 64 for the first two bytes of a text that is not empty.
+constexpr std::uint64_t bit_of_pair(std::string_view text) {
+    constexpr unsigned FACTOR = 5;
+    const auto first = static_cast<unsigned char>(text[0]);
+    const auto second = static_cast<unsigned char>(text.size() > 1 ? text[1] : '\0');
+    return std::uint64_t{1} << ((first * FACTOR + second) % 64);
+}
 
 // All rows of a table, in the order of what is written.
 class Table {
@@ -82,13 +91,6 @@ class Table {
   private:
     static constexpr std::uint64_t bit_of(char c) {
         return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64);
-    }
-
-    static constexpr std::uint64_t bit_of_pair(std::string_view written) {
-        constexpr unsigned FACTOR = 5;
-        const auto first = static_cast<unsigned char>(written[0]);
-        const auto second = static_cast<unsigned char>(written.size() > 1 ? written[1] : '\0');
-        return std::uint64_t{1} << ((first * FACTOR + second) % 64);
     }
 
     const Row* first_;

@@ -16,7 +16,7 @@ bool may_end_number(const Place& place, std::size_t end) {
 // Whether a shape may begin with the digits at the cursor: one or three, or "0" and more, a mark,
 // and more.
 bool may_begin_shape(const Place& place) {
-    const std::size_t n_digits = place.run(is_digit);
+    const std::size_t n_digits = place.digits().size();
     const char second = place.peek(n_digits + 1);
     return (n_digits == 1 || n_digits == 3 || place.peek() == '0') &&
            (is_digit(second) || second == '(');
@@ -134,6 +134,12 @@ void read_address(const Place& place, Found& found) {
     const bool is_inside =
         (before == '@' || is_of_address(before)) && (is_letter(last) || is_digit(last));
     if (is_inside) return;
+    if (place.starts_with(":\\", 1)) {  // "C:\temp"
+        say(place.part(0, 1), found.words);
+        say("colon", found.words);
+        found.length = 2;
+        return;
+    }
     std::size_t scheme = 0;
     if (place.starts_with("https://")) scheme = 8;
     if (place.starts_with("http://")) scheme = 7;

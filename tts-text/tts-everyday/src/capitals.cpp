@@ -33,6 +33,7 @@ void read_capitals(const Place& place, Found& found) {
     if (row->kind == Kind::after_an && !has_an) return;
     found.say_name(0, end, row->spoken());
     found.length = end;
+    take_genitive(place, found);
 }
 
 }  // namespace kavi::everyday

@@ -15,20 +15,6 @@ void say_many(std::string& words) {
     }
 }
 
-// "seven forty seven", "one oh one", "four hundred", "fourteen ten"; others one by one.
-void say_in_pairs(std::string_view digits, std::string& out) {
-    constexpr std::size_t LONGEST = 4;
-    if (digits.size() < 3) return say_cardinal(digits, out);
-    if (digits.size() > LONGEST || digits[0] == '0') return say_digits(digits, out);
-    const std::string_view first = digits.substr(0, digits.size() - 2);
-    const std::string_view last = digits.substr(digits.size() - 2);
-    if (last == "00" && first.back() == '0') return say_cardinal(digits, out);
-    say_cardinal(first, out);
-    if (last == "00") return say("hundred", out);
-    if (last[0] == '0') say("oh", out);
-    say_cardinal(last, out);
-}
-
 constexpr std::size_t LONGEST_VERSION = 32;  // so that a chain of them is not read from each
 
 // A part of a version or an IP address.
@@ -160,7 +146,8 @@ std::size_t second_group(const Place& place, std::size_t ahead) {
 bool goes_on(const Place& place, std::size_t end) {
     const char after = place.peek(end);
     const bool is_mark = after == '.' || after == ',' || after == ':' || after == '/';
-    return place.is_joined(end) || place.dash(end) > 0 || after == '%' ||
+    const std::size_t dash = place.dash(end);
+    return place.is_joined(end) || (dash > 0 && is_digit(place.peek(end + dash))) || after == '%' ||
            (is_mark && is_digit(place.peek(end + 1)));
 }
 
@@ -168,17 +155,14 @@ bool goes_on(const Place& place, std::size_t end) {
 void read_after_name(const Place& place, std::string_view digits, Found& found) {
     const Row* row = numbered_before(place);
     if (row == nullptr) return;
-    const bool is_code = row->kind == Kind::glued;
-    const std::size_t end = digits.size() + (is_code ? second_group(place, digits.size()) : 0);
+    const std::size_t second = row->kind != Kind::words ? second_group(place, digits.size()) : 0;
+    const std::size_t end = digits.size() + second;
     if (goes_on(place, end)) return;
-    if (is_code) {
-        say_digits(digits, found.words);
-        if (end > digits.size()) say_digits(place.digits(digits.size() + 1), found.words);
-        found.length = end;
-    } else {
-        say_in_pairs(digits, found.words);
-        found.length = end + say_compass_after(place, end, found.words);
-    }
+    const auto say_part = row->kind == Kind::glued ? say_digits : say_in_pairs;
+    say_part(digits, found.words);
+    if (second > 0) say_part(place.digits(digits.size() + 1), found.words);
+    found.length = end;
+    if (row->kind == Kind::words) found.length += say_compass_after(place, end, found.words);
 }
 
 // "Flight 370", "Biology 101", "PO Box 1410", "call 911", "F-150", "401(k)"
@@ -190,6 +174,11 @@ void read_numbered(const Place& place, Found& found) {
         if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return;
         say_in_pairs(digits, found.words);
         found.length = end + say_compass_after(place, end, found.words);
+        return;
+    }
+    if (place.peek(end) == ' ' && is_street(place, end + 1)) {  // "1600 Oak Avenue"
+        say_in_pairs(digits, found.words);
+        found.length = end;
         return;
     }
     if (place.before() != ' ' || (place.peek(end) != '-' && goes_on(place, end))) return;

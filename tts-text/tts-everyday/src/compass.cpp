@@ -6,11 +6,11 @@ namespace kavi::everyday {
 
 namespace {
 
-// "22nd"
-bool is_ordinal(const Place& place, std::size_t ahead) {
-    const std::string_view digits = place.digits(ahead);
-    return !digits.empty() &&
-           find(ORDINAL_SUFFIXES, place.letters(ahead + digits.size())) != nullptr;
+// "12 E. Elm", "E. 42nd"
+bool is_of_address(const Place& place, std::size_t ahead) {
+    const bool has_name = place.before() == ' ' && is_digit(place.before(2)) &&
+                          is_upper(place.peek(ahead)) && is_lower(place.peek(ahead + 1));
+    return has_name || ordinal_length(place, ahead) > 0;
 }
 
 // "35 km SW of Hilo", "2 miles W of", "from the SW"; "vitamin E of" is none
@@ -26,17 +26,6 @@ bool is_direction(const Place& place, std::string_view letters) {
 
 }  // namespace
 
-// "22nd", "Oak Ln"
-bool is_street(const Place& place, std::size_t ahead) {
-    const std::string_view name = place.letters(ahead);
-    if (name.empty()) return is_ordinal(place, ahead);
-    const std::size_t blank = ahead + name.size();
-    if (!is_upper(name[0]) || place.peek(blank) != ' ') return false;
-    const std::string_view word = place.letters(blank + 1);
-    const Row* title = find(TITLES, word);
-    return word == "St" || word == "Street" || (title != nullptr && title->kind == Kind::after);
-}
-
 // "12 E. Elm St.", "E. 42nd St."
 bool read_compass_point(const Place& place, Found& found) {
     const std::string_view letters = place.letters();
@@ -44,25 +33,23 @@ bool read_compass_point(const Place& place, Found& found) {
     if (stop > 2 || place.peek(stop) != '.' || place.peek(stop + 1) != ' ') return false;
     const Row* row = find(COMPASS, letters);
     if (row == nullptr) return false;
-    const std::size_t street = stop + 2;
-    const bool has_name = place.before() == ' ' && is_digit(place.before(2)) &&
-                          is_upper(place.peek(street)) && is_lower(place.peek(street + 1));
-    if (!is_ordinal(place, street) && !has_name) return false;
+    if (!is_of_address(place, stop + 2)) return false;
     found.say_name(0, stop, row->spoken());
     found.length = stop + 1;
     return true;
 }
 
-// "40 W 22nd St", "305 W Oak Ln", "SW of Hilo"
+// "40 W 22nd St", "305 W Oak Ln", "Oak Avenue NW", "SW of Hilo"
 bool read_bare_compass_point(const Place& place, Found& found) {
     const std::string_view letters = place.letters();
     if (place.is_joined_before()) return false;
     const Row* row = find(COMPASS, letters);
     if (row == nullptr) return false;
-    const bool is_of_street = place.before() == ' ' && is_digit(place.before(2)) &&
-                              place.peek(letters.size()) == ' ' &&
-                              is_street(place, letters.size() + 1);
-    if (!is_of_street && !is_direction(place, letters)) return false;
+    if (place.is_joined(letters.size())) return false;
+    const bool is_before_street =
+        place.before() == ' ' && is_digit(place.before(2)) && is_street(place, letters.size() + 1);
+    const bool is_after_street = letters.size() > 1 && is_street_word(place.word_before());
+    if (!is_before_street && !is_after_street && !is_direction(place, letters)) return false;
     found.say_name(0, letters.size(), row->spoken());
     found.length = letters.size();
     return true;

@@ -105,6 +105,10 @@ void read_contraction(const Place& place, Found& found) {
         if (is_upper(place.peek())) capitalise(found.words);
         return;
     }
+    if (stem.empty() && is_digit(place.before()) && place.letters(mark) == "s") {
+        found.length = mark + 1;  // silent: "£5's worth"
+        return;
+    }
     if (stem.empty()) return read_quoted_letter(place, mark, found);
     const std::string_view ending = place.letters(stem.size() + mark);
     if (ending.empty()) {  // "the boys' bikes"
@@ -138,6 +142,11 @@ void read_contraction(const Place& place, Found& found) {
         say(is_has(place, found.length) ? "has" : "is", found.words);
     } else {
         found.words += ending;  // "Tom's", "O'Brien"
+        const std::size_t second = place.apostrophe(found.length);
+        if (second > 0 && place.letters(found.length + second) == "s") {  // "O'Brien's"
+            found.words += 's';
+            found.length += second + 1;
+        }
     }
 }
 

@@ -113,6 +113,12 @@ void read_currency(const Place& place, Found& found) {
     } else {
         say_amount(number, scale, *row, minus, found);
         found.length += say_per(place, found.length, found.words);
+        const std::size_t last = found.length + place.dash(found.length);
+        const bool is_range = last > found.length && place.starts_with(row->written(), last) &&
+                              is_digit(place.peek(last + row->written().size()));
+        if (!is_range) return;
+        say("to", found.words);  // "$1.5bn-$2bn": the last is read by itself
+        found.length = last;
     }
 }
 

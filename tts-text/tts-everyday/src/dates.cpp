@@ -112,12 +112,15 @@ bool is_month_and_day(const Place& place, std::string_view month, std::string_vi
     return is_above_months || before->kind == Kind::anywhere;
 }
 
-// "due 3/31", "by 12/25", "Fri. 6/9": no date of the other order, and no fraction that is written
+// "due 3/31", "by 12/25", "Fri. 6/9", "Fri 13/10"; no fraction that is written
 bool read_month_and_day(const Place& place, Found& found) {
-    const std::string_view month = place.digits();
-    const std::string_view day = place.digits(month.size() + 1);
-    const std::size_t end = month.size() + 1 + day.size();
-    if (place.peek(month.size()) != '/') return false;
+    const std::string_view first = place.digits();
+    if (place.peek(first.size()) != '/') return false;
+    const std::string_view second = place.digits(first.size() + 1);
+    const std::size_t end = first.size() + 1 + second.size();
+    const bool is_day_first = is_value(first, 13, 31);
+    const std::string_view month = is_day_first ? second : first;
+    const std::string_view day = is_day_first ? first : second;
     const bool is_date = is_value(month, 1, 12) && is_value(day, 1, 31) &&
                          find(FRACTIONS, place.part(0, end)) == nullptr &&
                          is_month_and_day(place, month, day, end);
@@ -125,7 +128,12 @@ bool read_month_and_day(const Place& place, Found& found) {
                          place.peek(end) == '"' || place.starts_with(" in", end) ||
                          place.starts_with(" of", end);
     if (!is_date || goes_on) return false;
-    say_month_first({tn::value_of(month)}, day, {}, found);
+    if (is_day_first) {
+        say("the", found.words);
+        say_day_first(day, {tn::value_of(month)}, {}, found);
+    } else {
+        say_month_first({tn::value_of(month)}, day, {}, found);
+    }
     found.length = end;
     return true;
 }
@@ -189,7 +197,18 @@ void read_days(const Place& place, const Month& month, std::size_t ahead, Found&
     found.length = end;
 }
 
-// "5 May 2021", "21st of June".
+// "14 to 16 July": the first of two days; `ahead` is after the link.
+void read_first_of_days(const Place& place, std::string_view first, std::size_t at,
+                        std::size_t ahead, Found& found) {
+    const std::string_view last = place.digits(ahead + 1);
+    const bool has_month = month_number(place.letters(ahead + 1 + last.size() + 1)) > 0;
+    if (!is_value(last, 1, 31) || !has_month) return;
+    say("the", found.words);
+    say_ordinal(first, found.words);
+    found.length = at;
+}
+
+// "5 May 2021", "21st of June", and the first day of "14 to 16 July".
 void read_day_first(const Place& place, Found& found) {
     const std::string_view day = place.digits();
     std::size_t at = day.size() + ordinal_suffix(place, day.size());
@@ -197,6 +216,7 @@ void read_day_first(const Place& place, Found& found) {
     if (place.starts_with(" of ", at)) at += 3;
     const std::string_view name = place.letters(at + 1);
     const Month month = {month_number(name), at + 1, name.size()};
+    if (is_link(name)) return read_first_of_days(place, day, at, at + 1 + name.size(), found);
     if (month.number == 0) return;
     std::size_t end = at + 1 + name.size();
     if (name.size() < 4 && name != "May" && place.peek(end) == '.') ++end;
@@ -214,9 +234,7 @@ bool read_dashed_date(const Place& place, Found& found) {
     const std::string_view name = place.letters(day.size() + 1);
     if (name.empty()) return false;
     const std::size_t dash = day.size() + 1 + name.size();
-    std::string title = in_lower_case(name);  // "15-MAR-2007"
-    title[0] = name[0];
-    const Month month = {month_number(title), day.size() + 1, name.size()};
+    const Month month = {month_number(name), day.size() + 1, name.size()};
     const std::string_view year = place.digits(dash + 1);
     const std::size_t end = dash + 1 + year.size();
     if (month.number == 0 || place.peek(dash) != '-' || place.is_joined(end)) return false;
@@ -247,8 +265,8 @@ bool read_months(const Place& place, std::string_view name, Found& found) {
 bool read_given_name(const Place& place, std::string_view name, Found& found) {
     const std::string_view next = place.letters(name.size() + 1);
     if (next.empty() || month_number(next) > 0 || is_digit(place.before(2))) return false;
-    const bool is_link = next == "and" || next == "or" || next == "to" || next == "through";
-    if (is_link && month_number(place.letters(name.size() + 2 + next.size())) > 0) return false;
+    if (is_link(next) && month_number(place.letters(name.size() + 2 + next.size())) > 0)
+        return false;
     const std::string before = in_lower_case(place.word_before());
     const bool has_surname = is_upper(next[0]) && next.size() > 2;
     const bool is_month = !has_surname && (find(BEFORE_MONTH, before) != nullptr ||

@@ -54,7 +54,7 @@ constexpr RuleEntry RULES[] = {
     {EverydayClass::titles, read_title, "aA", "."},
     {EverydayClass::titles, read_bare_title, "aA", ", Z9z-\n\x7f"},
     {EverydayClass::titles, read_capitals, "A", ""},
-    {EverydayClass::years, read_month, "A", ".9"},
+    {EverydayClass::years, read_month, "aA", ".9"},
     {EverydayClass::years, read_date, "0", "-./ Za"},
     {EverydayClass::numbers, read_version, "0", "."},
     {EverydayClass::numbers, read_long_code, "0", "-a"},
@@ -68,12 +68,12 @@ constexpr RuleEntry RULES[] = {
     {EverydayClass::numbers, read_plural_number, "0", "a,'\x7f"},
     {EverydayClass::numbers, read_number, "0", ""},
     {EverydayClass::numbers, read_point, ".", ""},
-    {EverydayClass::roman, read_roman, "A", ""},
+    {EverydayClass::roman, read_roman, "aA", ""},
     {EverydayClass::contractions, read_contraction, "aA'\x7f", "'\x7f"},
     {EverydayClass::numbers, read_code, "aA", "0"},
     {EverydayClass::numbers, read_sign, "-#~+&\x7f", ""},
     {EverydayClass::marks, read_slashed_words, "aA", "/"},
-    {EverydayClass::marks, read_mark, "*<>|#+~/.-=!^$\\\x7f", ""},
+    {EverydayClass::marks, read_mark, "*<>|#+~/.-=!^$_\\\x7f", ""},
     {EverydayClass::marks, read_named_mark, "(\x7f", ""},
     {EverydayClass::shields, read_shield, ".", ""},
     {EverydayClass::letters, read_letters, "aA\x7f", "\x7f"},
@@ -82,7 +82,10 @@ constexpr RuleEntry RULES[] = {
 constexpr std::size_t N_RULES = std::size(RULES);
 static_assert(N_RULES <= 32);
 
-// A word in small letters is most often none of these.
+constexpr bool has(std::string_view sorts, char sort) {
+    return sorts.find(sort) != std::string_view::npos;
+}
+
 constexpr bool begins_bare_title(char c) {
     for (const Row& row : TITLES) {
         if (is_bare_title(row) && row.written()[0] == c) return true;
@@ -90,8 +93,13 @@ constexpr bool begins_bare_title(char c) {
     return false;
 }
 
-constexpr bool has(std::string_view sorts, char sort) {
-    return sorts.find(sort) != std::string_view::npos;
+// Whether a rule reads words that begin with a letter: most words in small letters are none of
+// these.
+constexpr bool may_begin(Rule rule, char c) {
+    if (rule == read_bare_title) return begins_bare_title(c);
+    if (rule == read_month) return !is_lower(c) || has("adfjmnos", c);
+    if (rule == read_roman) return !is_lower(c) || has("ivx", c);
+    return true;
 }
 
 template <std::size_t N, typename May>
@@ -106,7 +114,7 @@ constexpr std::array<RuleSet, N> rules_by(May may) {
 }
 
 constexpr auto BY_FIRST = rules_by<SORTS>([](const RuleEntry& entry, char c) {
-    return has(entry.begins, sort_of(c)) && (entry.rule != read_bare_title || begins_bare_title(c));
+    return has(entry.begins, sort_of(c)) && may_begin(entry.rule, c);
 });
 constexpr auto BY_FOLLOWING = rules_by<SORTS>([](const RuleEntry& entry, char sort) {
     return entry.follows.empty() || has(entry.follows, sort);

@@ -106,6 +106,14 @@ bool read_dot(const Place& place, Found& found) {
     return true;
 }
 
+// "main_v2"
+bool read_underscore(const Place& place, Found& found) {
+    if (!place.is_joined_before() || !place.is_joined(1)) return false;
+    found.length = 1;
+    found.words = "underscore";
+    return true;
+}
+
 // "-n", "--with-x"; not the ending "-ing", nor "-I said".
 bool read_option(const Place& place, Found& found) {
     if (!begins_word(place) || place.before() == ',') return false;
@@ -147,6 +155,7 @@ bool read_one_mark(const Place& place, Found& found) {
         case '\\': return read_backslash(place, found);
         case '/': return read_operator(place, found) || read_slash(place, found);
         case '.': return read_dot(place, found);
+        case '_': return read_underscore(place, found);
         case '-':
             return read_operator(place, found) || read_option(place, found) ||
                    read_grade(place, found);

@@ -17,7 +17,10 @@ bool read_ordinal(const Place& place, const Number& number, Found& found) {
     if (place.is_joined(end)) return false;
     say_ordinal(number.digits(), found.words);
     if (is_many) found.words += 's';
-    found.length = end;
+    const std::size_t dash = place.dash(end);
+    const bool is_range = dash > 0 && ordinal_length(place, end + dash) > 0;
+    if (is_range) say("to", found.words);  // "4th-6th": the last is read by itself
+    found.length = end + (is_range ? dash : 0);
     return true;
 }
 
@@ -234,6 +237,13 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
 
 }  // namespace
 
+std::size_t ordinal_length(const Place& place, std::size_t ahead) {
+    const std::string_view digits = place.digits(ahead);
+    const std::string_view suffix = place.letters(ahead + digits.size());
+    const bool is_ordinal = !digits.empty() && find(ORDINAL_SUFFIXES, suffix) != nullptr;
+    return is_ordinal ? digits.size() + suffix.size() : 0;
+}
+
 void read_number(const Place& place, Found& found) {
     const Number number = number_at(place, 0);
     if (number.fraction.empty() && read_fraction(place, found)) return;
@@ -247,6 +257,8 @@ void read_number(const Place& place, Found& found) {
     const std::size_t scale = say_scale(place, number, found.words);
     end += scale;
     if (end == number.length) end += say_out_of(place, number, found.words);
+    if (end == number.length && place.peek(end) == '/' && is_letter(place.peek(end + 2)))
+        end += say_per(place, end, found.words);  // "120/km²"
     end += say_range(place, end, found.words);
     const std::size_t percent = say_percent(place, end, found.words);
     const std::size_t times = percent == 0 ? say_times(place, end, found.words) : 0;
@@ -286,7 +298,7 @@ void read_point(const Place& place, Found& found) {
     const bool is_average =
         verb == "bats" || verb == "batted" || verb == "batting" || verb == "hitting";
     if (is_average && number.fraction.size() == 3) {
-        say_cardinal(number.fraction, found.words);
+        say_in_pairs(number.fraction, found.words);
     } else {
         say("point", found.words);
         say_digits(number.fraction, found.words);

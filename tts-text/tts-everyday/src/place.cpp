@@ -53,9 +53,10 @@ std::string_view Place::word_before(std::size_t back) const {
 }
 
 bool Place::is_before_noun(std::size_t ahead) const {
-    if (peek(ahead) != ' ' || !is_lower(peek(ahead + 1))) return false;
+    if (peek(ahead) != ' ' || !is_letter(peek(ahead + 1))) return false;
     const Row* determiner = find_lower(DETERMINERS, word_before());
-    if (determiner == nullptr) return false;
+    const bool is_name = is_upper(peek(ahead + 1));  // "a 512 GB SSD", but "the $5 Ann owed"
+    if (determiner == nullptr || (is_name && determiner->kind == Kind::both)) return false;
     const std::string_view noun = letters(ahead + 1);
     // "the $5 owed", "his $5 leaving"
     const bool is_verb =

@@ -84,11 +84,13 @@ class Place {
         if (ahead + length > ahead_.size()) has_met_end_ = true;
         return ahead < ahead_.size() ? ahead_.substr(ahead, length) : std::string_view();
     }
-    std::string_view letters(std::size_t ahead = 0) const {
-        return part(ahead, run(is_letter, ahead));
-    }
-    std::string_view digits(std::size_t ahead = 0) const {
-        return part(ahead, run(is_digit, ahead));
+    // The letters at the cursor, and the digits: most rules begin with them.
+    std::string_view letters() const { return part(0, is_letter(peek()) ? first_run() : 0); }
+    std::string_view digits() const { return part(0, is_digit(peek()) ? first_run() : 0); }
+    // The same at `ahead`.
+    std::string_view letters(std::size_t ahead) const { return part(ahead, run(is_letter, ahead)); }
+    std::string_view digits(std::size_t ahead) const {
+        return ahead == 0 ? digits() : part(ahead, run(is_digit, ahead));
     }
     std::size_t blanks(std::size_t ahead) const {
         return run([](char c) { return c == ' '; }, ahead);
@@ -141,9 +143,17 @@ class Place {
     bool may_end_sentence(std::size_t ahead) const;
 
   private:
+    // The length of the run of letters, or of digits, at the cursor.
+    std::size_t first_run() const {
+        if (first_run_ == 0) first_run_ = is_digit(peek()) ? run(is_digit) : run(is_letter);
+        if (first_run_ == ahead_.size()) has_met_end_ = true;
+        return first_run_;
+    }
+
     std::string_view ahead_;
     std::string_view behind_;
-    bool is_cut_;  // the text has more
+    mutable std::size_t first_run_ = 0;  // 0 until somebody asks
+    bool is_cut_;                        // the text has more
     bool is_cut_behind_;
     mutable bool has_met_end_ = false;
 };

@@ -42,6 +42,17 @@ std::size_t cross_length(const Place& place, std::size_t ahead) {
     return 0;
 }
 
+// The second number of a size, "x 18\"", at offset `ahead`; `end` is set past its mark, to `ahead`
+// if there is none.
+Number second_of_size(const Place& place, std::size_t ahead, char mark, std::size_t& end) {
+    const std::size_t cross = cross_length(place, ahead);
+    const Number second = cross > 0 ? number_at(place, ahead + cross) : Number{};
+    const std::size_t second_end = ahead + cross + second.length;
+    const bool is_one = second.length > 0 && place.peek(second_end) == mark;
+    end = is_one ? second_end + 1 : ahead;
+    return is_one ? second : Number{};
+}
+
 // Whether a quotation may be open before the cursor. A mark after a digit or "½" opens none.
 bool may_be_quoted(const Place& place) {
     for (std::size_t back = 1; back < LOOK_BACK; ++back) {
@@ -51,24 +62,42 @@ bool may_be_quoted(const Place& place) {
     return false;
 }
 
+// "wide" after a length
+bool is_measured(std::string_view word) {
+    constexpr std::string_view MEASURED[] = {"deep", "high", "long", "tall", "thick", "wide"};
+    return std::find(std::begin(MEASURED), std::end(MEASURED), word) != std::end(MEASURED);
+}
+
 // "17\" disks", but "12\" long"
 bool is_adjective(const Place& place, std::size_t end, std::string_view next) {
-    constexpr std::string_view MEASURED[] = {"deep", "high", "long", "tall", "thick", "wide"};
     if (next.empty() || find_lower(NO_NOUNS, next) != nullptr) return false;
-    return place.is_before_noun(end) ||
-           std::find(std::begin(MEASURED), std::end(MEASURED), next) == std::end(MEASURED);
+    return place.is_before_noun(end) || !is_measured(next);
+}
+
+// "6' tall", "12' x 15'"
+bool read_feet(const Place& place, const Number& number, Found& found) {
+    if (place.peek(number.length) != '\'') return false;
+    std::size_t end = 0;
+    const Number second = second_of_size(place, number.length + 1, '\'', end);
+    const bool is_size = second.length > 0;
+    if (!is_size && (place.peek(end) != ' ' || !is_measured(place.letters(end + 1)))) return false;
+    number.say(found.words);
+    if (is_size) {
+        say("by", found.words);
+        second.say(found.words);
+    }
+    say(number.is_one() && !is_size ? "foot" : "feet", found.words);
+    found.length = end;
+    return true;
 }
 
 // "a 12\" pizza", "12\" x 18\""; a quotation may end in a number too
 bool read_inches(const Place& place, const Number& number, Found& found) {
     const bool is_after_feet = place.before() == '\'';
     if (place.peek(number.length) != '"' || is_after_feet || may_be_quoted(place)) return false;
-    std::size_t end = number.length + 1;
-    const std::size_t cross = cross_length(place, end);
-    const Number second = cross > 0 ? number_at(place, end + cross) : Number{};
-    const std::size_t second_end = end + cross + second.length;
-    const bool is_size = second.length > 0 && place.peek(second_end) == '"';
-    if (is_size) end = second_end + 1;
+    std::size_t end = 0;
+    const Number second = second_of_size(place, number.length + 1, '"', end);
+    const bool is_size = second.length > 0;
     const std::string_view next = place.peek(end) == ' ' ? place.letters(end + 1) : "";
     const std::string_view before = place.word_before();
     const bool is_clear = is_size || !number.fraction.empty() || before == "a" || before == "an";
@@ -132,7 +161,7 @@ bool read_inches_after(const Place& place, Found& found) {
 
 bool read_primes(const Place& place, const Number& number, Found& found) {
     return read_height(place, found) || read_angle(place, number, found) ||
-           read_inches(place, number, found);
+           read_inches(place, number, found) || read_feet(place, number, found);
 }
 
 }  // namespace kavi::everyday

@@ -43,10 +43,6 @@ bool is_name(std::string_view word) {
     return word.size() > 1 && is_upper(word[0]) && is_lower(word.back());
 }
 
-bool is_link(std::string_view word) {
-    return word == "and" || word == "or" || word == "to" || word == "through";
-}
-
 // How far before the cursor the first of several numerals begins: "I and " before "II", "I, II, and
 // " before "III".
 std::size_t numerals_before(const Place& place) {
@@ -98,17 +94,20 @@ bool may_be_speaker(const Place& place, std::string_view name) {
     return find(SPEAKER_VERBS, place.letters(2)) != nullptr;
 }
 
-// "Part", "Parts"
-bool is_counted_by_roman(std::string_view word) {
-    if (find(COUNTED_BY_ROMAN, word) != nullptr) return true;
-    if (word.empty() || word.back() != 's') return false;
-    word.remove_suffix(1);
-    return find(COUNTED_BY_ROMAN, word) != nullptr;
+// "Part", "Parts" with `kind` after, "century" before
+bool is_counted_by_roman(std::string_view word, Kind kind) {
+    const Row* row = find(COUNTED_BY_ROMAN, word);
+    if (row == nullptr && !word.empty() && word.back() == 's')
+        row = find(COUNTED_BY_ROMAN, word.substr(0, word.size() - 1));
+    return row != nullptr && row->kind == kind;
 }
 
 enum class Counting { none, ordinal, cardinal };
 
-Counting counting_after(const Place& place, std::string_view numeral) {
+Counting counting_of(const Place& place, std::string_view numeral) {
+    const bool has_noun = place.peek(numeral.size()) == ' ' &&
+                          is_counted_by_roman(place.letters(numeral.size() + 1), Kind::before);
+    if (has_noun) return Counting::ordinal;
     const std::size_t back = numeral != "I" ? numerals_before(place) : 0;
     if (place.before(back + 1) != ' ') return Counting::none;
     const std::string_view before = place.word_before(back);
@@ -122,9 +121,10 @@ Counting counting_after(const Place& place, std::string_view numeral) {
     const Row* title = has_stop ? find(TITLES, counted) : nullptr;
     const bool is_counted = has_stop ? title != nullptr && (title->kind == Kind::before_number ||
                                                             title->kind == Kind::both)
-                                     : is_counted_by_roman(counted);
+                                     : is_counted_by_roman(counted, Kind::after);
     if (is_counted) {
-        const bool is_speaker = is_lower(counted[0]) && numeral == "I" && !has_numeral_after(place);
+        const bool may_be_speaker = is_lower(counted[0]) || counted == "No";  // "No. I said"
+        const bool is_speaker = may_be_speaker && numeral == "I" && !has_numeral_after(place);
         return is_speaker ? Counting::none : Counting::cardinal;
     }
     constexpr std::size_t SHORTEST = 4;  // "The II Corps"
@@ -135,6 +135,19 @@ Counting counting_after(const Place& place, std::string_view numeral) {
 }
 
 }  // namespace
+
+bool is_link(std::string_view word) {
+    return word == "and" || word == "or" || word == "to" || word == "through";
+}
+
+int value_of_small_roman(std::string_view numeral) {
+    std::string capitals;
+    for (const char c : numeral) {
+        if (c != 'i' && c != 'v' && c != 'x') return 0;
+        capitals += static_cast<char>(c - 'a' + 'A');
+    }
+    return numeral.size() > 1 ? value_of_roman(capitals) : 0;
+}
 
 int value_of_roman(std::string_view numeral) {
     int value = 0;
@@ -149,7 +162,19 @@ int value_of_roman(std::string_view numeral) {
     return roman_of(value) == numeral ? value : 0;
 }
 
+// "scene ii", "pp. xi"
+void read_small_roman(const Place& place, Found& found) {
+    const std::string_view numeral = place.letters();
+    const int value = value_of_small_roman(numeral);
+    if (value == 0 || place.is_joined(numeral.size()) || place.apostrophe(numeral.size()) > 0)
+        return;
+    if (counting_of(place, numeral) != Counting::cardinal) return;
+    say_cardinal(std::to_string(value), found.words);
+    found.length = numeral.size();
+}
+
 void read_roman(const Place& place, Found& found) {
+    if (is_lower(place.peek())) return read_small_roman(place, found);
     const std::string_view numeral = place.letters();
     if (numeral == "WWI" || numeral == "WWII") {
         found.words = numeral.size() == 3 ? "World War one" : "World War two";
@@ -171,10 +196,10 @@ void read_roman(const Place& place, Found& found) {
     const bool is_genitive =
         mark > 0 && place.peek(end + mark) == 's' && !place.is_joined(end + mark + 1);
     if (mark > 0 && !is_genitive) return;
-    const Counting counting = counting_after(place, numeral);
+    const Counting counting = counting_of(place, numeral);
     if (counting == Counting::none) return;
     if (counting == Counting::ordinal) {
-        say("the", found.words);
+        if (find_lower(DETERMINERS, place.word_before()) == nullptr) say("the", found.words);
         say_ordinal(std::to_string(value), found.words);
     } else {
         say_cardinal(std::to_string(value), found.words);

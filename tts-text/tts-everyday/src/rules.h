@@ -89,14 +89,20 @@ bool read_compass_point(const Place& place, Found& found);
 bool read_bare_compass_point(const Place& place, Found& found);
 // Says one after a blank at offset `ahead`. Returns its length with the blank, 0 if none.
 std::size_t say_compass_after(const Place& place, std::size_t ahead, std::string& out);
-// Whether a street's name is at `ahead`, after a point of the compass.
+
+// Whether a street's name is at `ahead`: "Oak Ln", "N. 22nd St"; streets.cpp.
 bool is_street(const Place& place, std::size_t ahead);
+// Whether a street's name may end with a word: "Ln".
+bool is_street_word(std::string_view word);
 
 // Takes the inches after a fraction: "3/4" thick"; primes.cpp.
 bool read_inches_after(const Place& place, Found& found);
 
 // Reads feet and inches, or an angle, by the primes after the number at the cursor; primes.cpp.
 bool read_primes(const Place& place, const Number& number, Found& found);
+
+// Takes "'s" after what has been read, as an "s" of its words: "Corp.'s", "the U.S.'s"; titles.cpp.
+void take_genitive(const Place& place, Found& found);
 
 // Reads months in a range, and "Jan" as a name where it is no month, as small letters: the engine
 // takes "Jan" for one. `name` is the word at the cursor; dates.cpp.
@@ -109,11 +115,19 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
 bool may_be_year(std::string_view digits);
 bool is_value(std::string_view digits, int least, int most);
 
+// The length of an ordinal number in digits at `ahead`, "22nd"; 0 if none; numbers.cpp.
+std::size_t ordinal_length(const Place& place, std::size_t ahead);
+
 // Reads the sign of a row at the cursor, unless it is a letter of a word; numbers.cpp.
 void say_sign(const Place& place, const Row& sign, Found& found);
 
 // The value of a Roman numeral in its usual spelling, 0 for any other text; roman.cpp.
 int value_of_roman(std::string_view numeral);
+// The same in small letters, of two and more: "xi"; below 40.
+int value_of_small_roman(std::string_view numeral);
+
+// Whether a word links two of a kind: "to", "and"; roman.cpp.
+bool is_link(std::string_view word);
 
 // Whether the last of some words ends like one of the engine's abbreviations: "gift", "ft.".
 bool ends_like_abbreviation(std::string_view words);

@@ -13,12 +13,28 @@ namespace {
 void say_reading(const tn::Reading& reading, std::string& out) {
     char words[WORD_MAX_LEN];
     std::size_t length = 0;
+    char last = ' ';
     for (const char c : reading.text()) {
-        if (c != ' ' || (length > 0 && words[length - 1] != ' ')) words[length++] = c;
+        words[length] = c;
+        if (c != ' ' || last != ' ') ++length;
+        last = c;
     }
     if (length > 0 && words[length - 1] == ' ') --length;
     say({words, length}, out);
 }
+
+// By the first two letters, in any case.
+constexpr std::uint64_t bit_of_begin(std::string_view name) {
+    const char begin[] = {to_lower(name[0]), to_lower(name[1])};
+    return bit_of_pair({begin, 2});
+}
+
+// Those of the months: most other words have none of them.
+constexpr std::uint64_t MONTH_BEGINS = [] {
+    std::uint64_t begins = 0;
+    for (const auto& row : s_string_to_month) begins |= bit_of_begin(row[1]);
+    return begins;
+}();
 
 constexpr std::size_t GROUP = 3;
 
@@ -32,6 +48,19 @@ std::size_t run_of_groups(const Place& place, std::size_t ahead, char mark) {
            place.digits(ahead + length + 1).size() == GROUP)
         length += 1 + GROUP;
     return length;
+}
+
+// The length of the groups after the first digits of a number with lakhs: "1,21,08,977"; 0 if none.
+std::size_t groups_of_lakhs(const Place& place, std::size_t ahead) {
+    constexpr std::size_t PAIR = 2;
+    constexpr std::size_t LONGEST = 4 * (1 + PAIR);
+    std::size_t length = 0;
+    while (length < LONGEST && place.peek(ahead + length) == ',' &&
+           place.digits(ahead + length + 1).size() == PAIR)
+        length += 1 + PAIR;
+    const bool has_end = length > 0 && place.peek(ahead + length) == ',' &&
+                         place.digits(ahead + length + 1).size() == GROUP;
+    return has_end ? length + 1 + GROUP : 0;
 }
 
 // Whether a word may precede a number that has blanks in it: no month and no name, "May 12 200
@@ -69,7 +98,7 @@ bool are_points_of_number(const Place& place, std::size_t end, std::size_t group
 std::size_t groups_length(const Place& place, std::size_t ahead, std::size_t n_digits, char mark) {
     const std::size_t begin = ahead + n_digits;
     const std::size_t groups = run_of_groups(place, begin, mark);
-    if (groups == 0) return 0;
+    if (groups == 0) return mark == ',' ? groups_of_lakhs(place, begin) : 0;
     if (mark == ' ' && !are_blanks_of_number(place, ahead, n_digits, groups)) return 0;
     if (mark == '.' && !are_points_of_number(place, begin + groups, groups)) return 0;
     return groups;
@@ -119,6 +148,19 @@ void say_digits(std::string_view digits, std::string& out) {
     for (const char c : digits) say(s_number_to_char[c - '0'][1], out);
 }
 
+void say_in_pairs(std::string_view digits, std::string& out) {
+    constexpr std::size_t LONGEST = 4;
+    if (digits.size() < 3) return say_cardinal(digits, out);
+    if (digits.size() > LONGEST || digits[0] == '0') return say_digits(digits, out);
+    const std::string_view first = digits.substr(0, digits.size() - 2);
+    const std::string_view last = digits.substr(digits.size() - 2);
+    if (last == "00" && first.back() == '0') return say_cardinal(digits, out);
+    say_cardinal(first, out);
+    if (last == "00") return say("hundred", out);
+    if (last[0] == '0') say("oh", out);
+    say_cardinal(last, out);
+}
+
 void say_year(std::string_view year, std::string& out) {
     const std::string_view century = year.substr(0, 2);
     const std::string_view rest = year.substr(2);
@@ -144,7 +186,7 @@ std::string Number::digits() const {
 }
 
 Number number_at(const Place& place, std::size_t ahead) {
-    const std::size_t n_digits = place.run(is_digit, ahead);
+    const std::size_t n_digits = place.digits(ahead).size();
     std::size_t end = ahead + n_digits;
     const char mark = place.peek(end);
     const bool goes_on =
@@ -160,14 +202,16 @@ Number number_at(const Place& place, std::size_t ahead) {
 
 int month_number(std::string_view name) {
     constexpr std::size_t SHORTEST = 3;
-    if (name.size() < SHORTEST || !is_upper(name[0])) return 0;
+    if (name.size() < SHORTEST || (bit_of_begin(name) & MONTH_BEGINS) == 0) return 0;
+    if (name == "may" || name == "mar" || name == "march") return 0;
+    const auto is_alike = [](char a, char b) { return to_lower(a) == to_lower(b); };
     for (int i = 0; i < 12; ++i) {
-        const auto& [abbreviation, full_name] = s_string_to_month[i];
-        if (full_name[0] != name[0]) continue;
-        const std::string_view month = full_name;
-        const bool is_short =
-            name == abbreviation || (name.size() == SHORTEST && month.substr(0, SHORTEST) == name);
-        if (is_short || name == month) return i + 1;
+        const auto& [abbreviation, month] = s_string_to_month[i];
+        if (!std::equal(name.begin(), name.end(), month, is_alike)) continue;
+        const bool is_whole = month[name.size()] == '\0';
+        if (is_whole || name.size() == SHORTEST ||
+            name.size() == std::string_view(abbreviation).size())
+            return i + 1;
     }
     return 0;
 }

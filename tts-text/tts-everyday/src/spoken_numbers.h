@@ -15,6 +15,9 @@ void say(std::string_view words, std::string& out);
 void say_cardinal(std::string_view digits, std::string& out);
 void say_ordinal(std::string_view digits, std::string& out);
 void say_digits(std::string_view digits, std::string& out);
+// Of the name of a thing: "seven forty seven", "one oh one", "four hundred", "fourteen ten"; more
+// than four digits, and what begins with a zero, one by one.
+void say_in_pairs(std::string_view digits, std::string& out);
 
 // Of four digits: "nineteen ninety nine", "two thousand five".
 void say_year(std::string_view year, std::string& out);
@@ -36,7 +39,8 @@ struct Number {
 };
 Number number_at(const Place& place, std::size_t ahead);
 
-// The number of a month's name or abbreviation, from 1; 0 for none. Its name, from 1.
+// The number of a month's name or abbreviation, letters of any case, from 1; 0 for none, and for
+// what is another word in small letters: "may", "march". Its name, from 1.
 int month_number(std::string_view name);
 const char* month_word(int number);
 

@@ -202,6 +202,8 @@ void read_time(const Place& place, Found& found) {
     if (after == ':' && read_minutes_and_seconds(place, digits, found)) return;
     if (after == 'h' && read_hours_and_minutes(place, digits, found)) return;
     if (read_military(place, digits, found)) return;
+    const char next = to_lower(place.peek(digits.size() + 1));
+    if (after == ' ' && next != 'a' && next != 'p') return;  // as most numbers
     const Clock time = clock_at(place, 0);
     if (time.length == 0 || read_time_range(place, time, found)) return;
     if (time.half == nullptr && (time.minutes.empty() || place.letter(time.length) > 0)) return;

@@ -8,16 +8,6 @@ namespace kavi::everyday {
 
 namespace {
 
-// "Corp.'s", "the U.S.'s"
-void take_genitive(const Place& place, Found& found) {
-    const std::size_t mark = place.apostrophe(found.length);
-    const std::size_t end = found.length + mark + 1;
-    if (mark > 0 && place.peek(end - 1) == 's' && !place.is_joined(end)) {
-        found.words += 's';
-        found.length = end;
-    }
-}
-
 // Takes the full stop after `length` characters too, unless it may end the sentence.
 void take(const Place& place, std::size_t length, std::string_view spoken, bool may_end,
           Found& found) {
@@ -32,7 +22,7 @@ bool is_before_number(const Place& place, std::size_t ahead) {
     const std::size_t at = ahead + place.blanks(ahead);
     if (is_digit(place.peek(at))) return true;
     const std::string_view numeral = place.letters(at);
-    return numeral != "I" && value_of_roman(numeral) > 0;
+    return (numeral != "I" && value_of_roman(numeral) > 0) || value_of_small_roman(numeral) > 0;
 }
 
 // "Wed, Oct 02", "Sat 12 May", "(1.05am, Sat, BBC2)"
@@ -147,8 +137,9 @@ bool read_drive(const Place& place, Found& found) {
     if (!place.starts_with("Dr") || is_letter(place.peek(2)) || place.before() != ' ') return false;
     const bool is_after_name = is_capitalised(place.word_before());
     const bool is_bare = place.peek(2) == ' ' && is_lower(place.peek(3));
-    const bool has_stop = place.peek(2) == '.' && !is_upper(place.peek(4)) &&
-                          (is_lower(place.peek(4)) || place.may_end_sentence(3));
+    const bool has_stop =
+        place.peek(2) == '.' && !is_upper(place.peek(4)) &&
+        (is_lower(place.peek(4)) || place.peek(3) == ',' || place.may_end_sentence(3));
     if (!is_after_name || (!is_bare && !has_stop)) return false;
     take(place, 2, "drive", true, found);
     return true;
@@ -251,6 +242,15 @@ bool read_row(const Place& place, Found& found) {
 }
 
 }  // namespace
+
+void take_genitive(const Place& place, Found& found) {
+    const std::size_t mark = place.apostrophe(found.length);
+    const std::size_t end = found.length + mark + 1;
+    if (mark > 0 && place.peek(end - 1) == 's' && !place.is_joined(end)) {
+        found.words += 's';
+        found.length = end;
+    }
+}
 
 void read_title(const Place& place, Found& found) {
     if (read_drive(place, found) || read_sister(place, found) || read_compass_point(place, found) ||

@@ -19,12 +19,26 @@ bool may_begin_number(const Place& place) {
            (before == '\0' || before == ' ' || before == '(' || before == '\n');
 }
 
+// "6 ft 2 in", "8 x 11 in", "8×11 in"; not "8 x 11 in the", "0x0 in"
+bool is_after_feet(const Place& place, std::size_t end) {
+    const std::string_view before = place.word_before();
+    const bool is_hexadecimal = place.before(2) == '0' && !is_digit(place.before(3));
+    const bool is_after_cross = (before == "x" && !is_hexadecimal) || place.before() == "×"[1] ||
+                                (place.before() == ' ' && place.before(2) == "×"[1]);
+    return (is_after_cross || before == "ft" || before == "feet") &&
+           find_lower(DETERMINERS, place.letters(end + place.blanks(end))) == nullptr;
+}
+
 bool fits_unit(const Place& place, const Row& row, std::size_t ahead) {
     const std::size_t end = ahead + row.written().size();
     if (place.is_joined(end)) return false;
     if (row.written() == "g" && place.word_before() == "at") return false;  // "at 6 g"
-    if (row.written() == "W" && is_street(place, end + 1)) return false;    // "40 W 22nd St"
+    const bool is_of_word = place.peek(ahead - 1) == ' ' && place.peek(end) == '-';
+    if (is_of_word && is_letter(place.peek(end + 1))) return false;  // "3 t-shirts"
+    if (find(COMPASS, row.written()) != nullptr && is_street(place, end + 1))
+        return false;  // "40 W 22nd St"
     if (row.kind == Kind::words) return place.peek(end) == ' ' && is_lower(place.peek(end + 1));
+    if (row.kind == Kind::after) return is_after_feet(place, end);
     if (row.kind == Kind::before_noun) return place.is_before_noun(end);
     return row.kind != Kind::inside || place.peek(end) != ' ' || !is_upper(place.peek(end + 1));
 }

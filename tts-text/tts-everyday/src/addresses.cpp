@@ -143,6 +143,7 @@ void read_address(const Place& place, Found& found) {
     std::size_t scheme = 0;
     if (place.starts_with("https://")) scheme = 8;
     if (place.starts_with("http://")) scheme = 7;
+    if (place.starts_with("ftp://")) scheme = 6;
     std::string_view name = place.part(scheme, place.run(is_of_address, scheme));
     const bool is_mail = scheme == 0 && place.peek(name.size()) == '@';
     if (is_mail) {

@@ -43,11 +43,14 @@ void read_numeric_date(const Place& place, bool month_first, Found& found) {
     const std::size_t second_end = first.size() + 1 + second.size();
     if (place.peek(second_end) != mark) return;
     const std::string_view year = place.digits(second_end + 1);
-    const bool is_whole = year.size() == 4 || (year.size() == 2 && mark == '/');
+    const bool is_clear = mark == '/' || (second.size() == 2 && is_value(first, 13, 31));
+    const bool is_whole = year.size() == 4 || (year.size() == 2 && is_clear);  // "31.12.99"
     const std::string_view day = month_first ? second : first;
     const std::string_view month = month_first ? first : second;
     const std::size_t end = second_end + 1 + year.size();
-    if (!is_whole || place.peek(end) == '/' || place.is_joined(end)) return;
+    const bool goes_on = place.is_joined(end) || place.peek(end) == '/' ||
+                         (place.peek(end) == '.' && is_digit(place.peek(end + 1)));
+    if (!is_whole || goes_on) return;
     if (place.before() == '/' || !is_value(day, 1, 31)) return;
     if (!is_value(month, 1, 12)) {
         // Only the other order makes a date of it.

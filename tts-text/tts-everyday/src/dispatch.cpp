@@ -61,7 +61,7 @@ constexpr RuleEntry RULES[] = {
     {EverydayClass::numbers, read_resolution, "0", "a"},
     {EverydayClass::times, read_time, "0", ":.- ZaA\x7f"},
     {EverydayClass::currencies, read_amount_after, "0", ".,-$ Z9zaA\x7f"},
-    {EverydayClass::units, read_unit, "0.", ".,-'\" Z9zaA\x7f"},
+    {EverydayClass::units, read_unit, "0.", ".,-+'\" Z9zaA\x7f"},
     {EverydayClass::units, read_rate, "/", ""},
     {EverydayClass::numbers, read_numbered, "0", ""},
     {EverydayClass::years, read_year, "0'\x7f", ""},

@@ -67,7 +67,7 @@ std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& searc
 bool has_found(everyday::Rule rule, const Place& place, Found& found, bool& is_open) {
     found.length = 0;
     found.words.clear();
-    found.name = {};
+    found.name.length = 0;
     place.forget_bound();
     rule(place, found);
     is_open = is_open || place.has_met_end();

@@ -8,7 +8,7 @@ namespace kavi::everyday {
 namespace {
 
 bool read_ordinal(const Place& place, const Number& number, Found& found) {
-    if (!number.fraction.empty()) return false;
+    if (!number.fraction.empty() || is_letter(place.before())) return false;  // "passw0rd"
     const Row* suffix = place.find_row(ORDINAL_SUFFIXES, number.length);
     if (suffix == nullptr) return false;
     std::size_t end = number.length + suffix->written().size();
@@ -110,13 +110,10 @@ std::size_t say_percent(const Place& place, std::size_t ahead, std::string& out)
 
 // "10% - 15%", after the first sign
 std::size_t say_second_percent(const Place& place, std::size_t ahead, std::string& out) {
-    const std::size_t blank = place.peek(ahead) == ' ' ? 1 : 0;
-    const std::size_t dash = place.dash(ahead + blank);
-    if (dash == 0 || (place.peek(ahead + blank + dash) == ' ') != (blank > 0)) return 0;
-    const std::size_t at = ahead + 2 * blank + dash;
+    const std::size_t at = ahead + range_dash(place, ahead);
     const Number last = number_at(place, at);
     const std::size_t end = at + last.length;
-    if (last.length == 0 || place.peek(end) != '%') return 0;
+    if (at == ahead || last.length == 0 || place.peek(end) != '%') return 0;
     say("to", out);
     last.say(out);
     say("percent", out);
@@ -130,9 +127,11 @@ std::size_t times_length(const Place& place, std::size_t ahead) {
     if (place.starts_with(" × ", ahead)) return 1 + CROSS.size();
     if (place.starts_with(" x ", ahead) && is_digit(place.peek(ahead + 3))) return 2;
     if (place.peek(ahead) != 'x' || place.is_joined(ahead + 1)) return 0;
-    const char next = place.peek(ahead + 1 + place.blanks(ahead + 1));
-    constexpr std::string_view OPERATORS_AFTER = "+-=^)";  // "2x + 1"
-    return next != '\0' && OPERATORS_AFTER.find(next) != std::string_view::npos ? 0 : 1;
+    const std::size_t at = ahead + 1 + place.blanks(ahead + 1);
+    const char next = place.peek(at);
+    constexpr std::string_view OPERATORS_AFTER = "+-=^)";  // "2x + 1", "3x − 7"
+    const bool is_operator = next != '\0' && OPERATORS_AFTER.find(next) != std::string_view::npos;
+    return is_operator || (is_outside_ascii(next) && place.letter(at) == 0) ? 0 : 1;
 }
 
 // "1.5M", "5M users"; "a 5M cable", "3M makes" may be anything
@@ -236,6 +235,14 @@ void read_sign_before_number(const Place& place, const Row& sign, Found& found) 
 }
 
 }  // namespace
+
+std::size_t range_dash(const Place& place, std::size_t ahead) {
+    const std::size_t blank = place.peek(ahead) == ' ' ? 1 : 0;
+    const std::size_t dash = place.dash(ahead + blank);
+    if (dash == 0) return 0;
+    const bool has_blank_after = place.peek(ahead + blank + dash) == ' ';
+    return has_blank_after == (blank > 0) ? dash + 2 * blank : 0;
+}
 
 std::size_t ordinal_length(const Place& place, std::size_t ahead) {
     const std::string_view digits = place.digits(ahead);

@@ -72,7 +72,7 @@ constexpr bool is_bare_title(const Row& row) {
     const std::size_t end = row.written().find_first_of(" .");
     if (end != std::string_view::npos) return row.written()[end] == ' ';
     return row.kind == Kind::never || row.kind == Kind::before_date || row.kind == Kind::after ||
-           row.kind == Kind::both;
+           row.kind == Kind::both || row.kind == Kind::anywhere;
 }
 
 // Appends "per" and the unit after a slash at offset `ahead`. Returns their length, 0 if none;
@@ -114,6 +114,10 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
 // Whether digits are a year from 1000 to 2099, or one or two of a value in a range; years.cpp.
 bool may_be_year(std::string_view digits);
 bool is_value(std::string_view digits, int least, int most);
+
+// The length of the dash of a range at `ahead`, with a blank on both sides or on none; 0 if none;
+// numbers.cpp.
+std::size_t range_dash(const Place& place, std::size_t ahead);
 
 // The length of an ordinal number in digits at `ahead`, "22nd"; 0 if none; numbers.cpp.
 std::size_t ordinal_length(const Place& place, std::size_t ahead);

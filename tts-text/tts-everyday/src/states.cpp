@@ -50,6 +50,9 @@ void read_state(const Place& place, Found& found) {
     } else if (row->kind == Kind::needed || row->kind == Kind::inside) {
         return;
     }
+    const bool is_of_name =
+        place.peek(end) == ' ' && is_upper(place.peek(end + 1)) && is_lower(place.peek(end + 2));
+    if (is_of_name) return;  // "Revolution, AK Press"
     const std::size_t zip = zip_length(place, end);
     if (row->kind == Kind::before_number && zip == 0) return;
     const bool needs_more = row->kind == Kind::after_place || row->kind == Kind::both;

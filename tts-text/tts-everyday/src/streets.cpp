@@ -17,6 +17,7 @@ bool is_street(const Place& place, std::size_t ahead) {
         if (n_words > 0 && is_street_word(word)) return !place.is_joined(ahead + word.size());
         const bool is_name = !word.empty() && is_upper(word[0]);
         ahead += is_name ? word.size() : ordinal_length(place, ahead);
+        while (place.peek(ahead) == '-') ahead += 1 + place.letters(ahead + 1).size();
         if (is_name && place.peek(ahead) == '.') ++ahead;  // "N. Oak Ln"
         if (place.peek(ahead) != ' ') return false;
         ++ahead;

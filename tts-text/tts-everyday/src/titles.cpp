@@ -74,6 +74,13 @@ void read_initials(const Place& place, Found& found) {
         say(place.part(length, 1), words);
         length += 2;
     }
+    const bool is_of_number = length == 2 && is_upper(place.peek()) && is_digit(place.peek(2)) &&
+                              place.before() != '.' && !place.is_joined_before();
+    if (is_of_number) {  // "section B.2"
+        found.length = 2;
+        found.words = words + " point";
+        return;
+    }
     // "a CD-R. Our", but "J.-P. Sartre"
     const bool is_after_hyphen = place.before() == '-' && is_letter(place.before(2));
     const bool is_initial = length == 2 && is_upper(place.peek()) && place.peek(2) == ' ' &&
@@ -208,22 +215,23 @@ bool fits(const Place& place, const Row& row) {
     }
 }
 
-// Where BARE_BEGINS tells of the first two letters of a word.
+// Where BARE_BEGINS tells of a word, by its first three letters.
 constexpr std::size_t N_BEGINS = 256;
-constexpr std::size_t slot_of_begin(char first, char second) {
+constexpr std::size_t slot_of_begin(std::string_view word) {
     constexpr unsigned FACTOR = 37;
-    return (static_cast<unsigned char>(first) * FACTOR + static_cast<unsigned char>(second)) %
-           N_BEGINS;
+    unsigned slot = 0;
+    for (const char c : word.substr(0, 3)) slot = slot * FACTOR + static_cast<unsigned char>(c);
+    return slot % N_BEGINS;
 }
 
 // Whether a title that may have no full stop begins so: most other words do not.
 constexpr auto BARE_BEGINS = [] {
     std::array<bool, N_BEGINS> begins{};
-    begins[slot_of_begin('S', 't')] = true;  // "St Pancras"
+    begins[slot_of_begin("St")] = true;  // "St Pancras"
     for (const Row& row : TITLES) {
         const std::string_view written = row.written();
-        const char second = written.size() > 1 ? written[1] : '\0';
-        if (is_bare_title(row)) begins[slot_of_begin(written[0], second)] = true;
+        const std::string_view word = written.substr(0, written.find_first_of(" ."));
+        if (is_bare_title(row)) begins[slot_of_begin(word)] = true;
     }
     return begins;
 }();
@@ -261,7 +269,7 @@ void read_title(const Place& place, Found& found) {
 }
 
 void read_bare_title(const Place& place, Found& found) {
-    if (!BARE_BEGINS[slot_of_begin(place.peek(), place.peek(1))]) return;
+    if (!BARE_BEGINS[slot_of_begin(place.letters())]) return;
     if (read_drive(place, found) || read_days_of_week(place, found)) return;
     if (!read_bare_saint(place, found)) read_row(place, found);
 }

@@ -116,9 +116,11 @@ void read_unit(const Place& place, Found& found) {
     if (may_be_prime && read_primes(place, number, found)) return;
     std::size_t end = number.length;
     Number second;  // of a range
-    const std::size_t dash = place.dash(end);
+    const std::size_t dash = range_dash(place, end);
     if (dash > 0) second = number_at(place, end + dash);
     if (second.length > 0) end += dash + second.length;
+    const bool has_plus = place.peek(end) == '+';  // "2+ hrs"
+    if (has_plus) ++end;
     const std::size_t blank = place.peek(end) == ' ' || place.peek(end) == '-' ? 1 : 0;
     const bool is_duration = end < 3 && find(BEFORE_SECONDS, place.word_before()) != nullptr;
     const bool may_be_plural = blank == 0 && number.fraction.empty() && !is_duration;  // "the 5s"
@@ -132,9 +134,10 @@ void read_unit(const Place& place, Found& found) {
         say("to", found.words);
         second.say(found.words);
     }
+    if (has_plus) say("plus", found.words);
     const std::size_t after = end + blank + row->written().size();
     const bool is_adjective = place.peek(end) == '-' || place.is_before_noun(after);
-    const bool is_one = (number.is_one() && second.length == 0) || is_adjective;
+    const bool is_one = (number.is_one() && second.length == 0 && !has_plus) || is_adjective;
     say_unit(place, end + blank, *row, is_one, found);
 }
 

@@ -20,7 +20,7 @@ READERS = {"engine": [TOOL, "--plain"], "everyday": [TOOL, "--plain", "--everyda
 if not ONLY_RULES:
     READERS["flite"] = [FLITE]
 # The least share of the open cases that is right, in percent: what has been reached, so that no change loses it.
-GOALS = {"real": 97, "traps": 95, "modern": 69, "pairs": 79, "classes": 71}
+GOALS = {"real": 97, "traps": 95, "modern": 73, "pairs": 79, "classes": 83}
 REGRESSION_GOAL = 0.98
 
 

@@ -48,7 +48,8 @@ bool read_bare_compass_point(const Place& place, Found& found) {
     if (place.is_joined(letters.size())) return false;
     const bool is_before_street =
         place.before() == ' ' && is_digit(place.before(2)) && is_street(place, letters.size() + 1);
-    const bool is_after_street = letters.size() > 1 && is_street_word(place.word_before());
+    const std::size_t stop = place.before(2) == '.' ? 2 : 0;
+    const bool is_after_street = letters.size() > 1 && is_street_word(place.word_before(stop));
     if (!is_before_street && !is_after_street && !is_direction(place, letters)) return false;
     found.say_name(0, letters.size(), row->spoken());
     found.length = letters.size();

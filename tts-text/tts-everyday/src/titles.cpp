@@ -11,7 +11,8 @@ namespace {
 // Takes the full stop after `length` characters too, unless it may end the sentence.
 void take(const Place& place, std::size_t length, std::string_view spoken, bool may_end,
           Found& found) {
-    const bool keeps_stop = may_end && place.may_end_sentence(length + 1);
+    const bool keeps_stop = may_end && place.may_end_sentence(length + 1) &&
+                            find(COMPASS, place.letters(length + 2)) == nullptr;  // "Ave. NW"
     found.length = length + (place.peek(length) == '.' && !keeps_stop ? 1 : 0);
     found.say_name(0, length, spoken);
     take_genitive(place, found);

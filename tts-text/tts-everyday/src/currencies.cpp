@@ -8,9 +8,9 @@ namespace {
 
 // The scale word at offset `ahead`, after at most one blank; null if none, and then `length` stays.
 // `has_sign`: after "£5", the blank may be before a letter too, "£5 m".
-const char* scale_at(const Place& place, std::size_t ahead, bool has_sign, std::size_t& length) {
-    const std::size_t blank = place.peek(ahead) == ' ' || place.peek(ahead) == '-' ? 1 : 0;
-    const std::string_view word = place.letters(ahead + blank);
+const char* scale_at(const Cursor& cursor, std::size_t ahead, bool has_sign, std::size_t& length) {
+    const std::size_t blank = cursor.peek(ahead) == ' ' || cursor.peek(ahead) == '-' ? 1 : 0;
+    const std::string_view word = cursor.letters(ahead + blank);
     const Row* row = find(SCALES, word);
     if (row == nullptr || (blank > 0 && row->kind == Kind::glued && !has_sign)) return nullptr;
     length = blank + word.size();
@@ -46,20 +46,20 @@ void say_amount(const Number& number, const char* scale, const Row& currency, st
 }
 
 // A code before its amount, "USD 10 million", "EUR45"; its row, or null.
-const Row* code_before(const Place& place) {
-    const std::string_view code = place.letters();
-    if (code.size() != 3 || place.is_joined_before()) return nullptr;
+const Row* code_before(const Cursor& cursor) {
+    const std::string_view code = cursor.letters();
+    if (code.size() != 3 || cursor.is_joined_before()) return nullptr;
     const Row* row = find(CURRENCIES, code);
-    return row != nullptr && is_digit(place.peek(3 + place.blanks(3))) ? row : nullptr;
+    return row != nullptr && is_digit(cursor.peek(3 + cursor.blanks(3))) ? row : nullptr;
 }
 
 // An amount, which may have a decimal comma: "€3,50".
-Number amount_at(const Place& place, std::size_t ahead) {
-    Number number = number_at(place, ahead);
+Number amount_at(const Cursor& cursor, std::size_t ahead) {
+    Number number = number_at(cursor, ahead);
     const std::size_t comma = ahead + number.length;
-    if (number.length == 0 || !number.fraction.empty() || place.peek(comma) != ',') return number;
-    const std::string_view coins = place.digits(comma + 1);
-    if (coins.size() == 2 && !place.is_joined(comma + 3)) {
+    if (number.length == 0 || !number.fraction.empty() || cursor.peek(comma) != ',') return number;
+    const std::string_view coins = cursor.digits(comma + 1);
+    if (coins.size() == 2 && !cursor.is_joined(comma + 3)) {
         number.fraction = coins;
         number.length += 3;
     }
@@ -67,76 +67,76 @@ Number amount_at(const Place& place, std::size_t ahead) {
 }
 
 // The length of the blank between a sign and its amount: "$ 5".
-std::size_t gap_after_sign(const Place& place, const Row& row, std::size_t ahead) {
-    return place.peek(ahead) == ' ' && !is_letter(row.written().back()) ? 1 : 0;
+std::size_t gap_after_sign(const Cursor& cursor, const Row& row, std::size_t ahead) {
+    return cursor.peek(ahead) == ' ' && !is_letter(row.written().back()) ? 1 : 0;
 }
 
 }  // namespace
 
-void read_currency(const Place& place, Found& found) {
-    const std::size_t minus = place.peek() == '-' ? 1 : 0;
-    if (is_letter(place.before())) return;
-    const Row* row = place.find_row(CURRENCIES, minus, [&](const Row& candidate) {
+void read_currency(const Cursor& cursor, Found& found) {
+    const std::size_t minus = cursor.peek() == '-' ? 1 : 0;
+    if (is_letter(cursor.before())) return;
+    const Row* row = cursor.find_row(CURRENCIES, minus, [&](const Row& candidate) {
         const std::size_t end = minus + candidate.written().size();
         return (candidate.kind == Kind::before || candidate.kind == Kind::both) &&
-               number_at(place, end + gap_after_sign(place, candidate, end)).length > 0;
+               number_at(cursor, end + gap_after_sign(cursor, candidate, end)).length > 0;
     });
-    if (row == nullptr && minus == 0) row = code_before(place);
+    if (row == nullptr && minus == 0) row = code_before(cursor);
     if (row == nullptr) return;
     if (minus > 0) say("minus", found.words);
     const std::size_t symbol_end = minus + row->written().size();
-    const std::size_t begin = symbol_end + place.blanks(symbol_end);
-    const Number number = amount_at(place, begin);
+    const std::size_t begin = symbol_end + cursor.blanks(symbol_end);
+    const Number number = amount_at(cursor, begin);
     const std::size_t end = begin + number.length;
     std::size_t scale_length = 0;
     // "$5-10 million": both are of the same.
-    const std::size_t dash = place.dash(end);
+    const std::size_t dash = cursor.dash(end);
     const std::size_t second_symbol =
-        place.starts_with(row->written(), end + dash) ? row->written().size() : 0;
-    const Number second = dash > 0 ? amount_at(place, end + dash + second_symbol) : Number{};
+        cursor.starts_with(row->written(), end + dash) ? row->written().size() : 0;
+    const Number second = dash > 0 ? amount_at(cursor, end + dash + second_symbol) : Number{};
     if (second.length > 0) {
         const std::size_t second_end = end + dash + second_symbol + second.length;
-        const char* scale = scale_at(place, second_end, true, scale_length);
+        const char* scale = scale_at(cursor, second_end, true, scale_length);
         number.say(found.words);
         say("to", found.words);
         say_amount(second, scale, *row, minus, found);
         found.length = second_end + scale_length;
-        found.length += say_per(place, found.length, found.words);
+        found.length += say_per(cursor, found.length, found.words);
         return;
     }
-    const char* scale = scale_at(place, end, true, scale_length);
+    const char* scale = scale_at(cursor, end, true, scale_length);
     found.length = end + scale_length;
-    if (number.fraction.size() != 2 && place.is_before_noun(found.length)) {
+    if (number.fraction.size() != 2 && cursor.is_before_noun(found.length)) {
         number.say(found.words);
         if (scale != nullptr) say(scale, found.words);
         found.say_name(minus, row->written().size(), row->spoken());
     } else {
         say_amount(number, scale, *row, minus, found);
-        found.length += say_per(place, found.length, found.words);
-        const std::size_t last = found.length + place.dash(found.length);
-        const bool is_range = last > found.length && place.starts_with(row->written(), last) &&
-                              is_digit(place.peek(last + row->written().size()));
+        found.length += say_per(cursor, found.length, found.words);
+        const std::size_t last = found.length + cursor.dash(found.length);
+        const bool is_range = last > found.length && cursor.starts_with(row->written(), last) &&
+                              is_digit(cursor.peek(last + row->written().size()));
         if (!is_range) return;
         say("to", found.words);  // "$1.5bn-$2bn": the last is read by itself
         found.length = last;
     }
 }
 
-void read_amount_after(const Place& place, Found& found) {
-    const Number number = amount_at(place, 0);
+void read_amount_after(const Cursor& cursor, Found& found) {
+    const Number number = amount_at(cursor, 0);
     std::size_t scale_length = 0;
-    const char* scale = scale_at(place, number.length, false, scale_length);
+    const char* scale = scale_at(cursor, number.length, false, scale_length);
     const std::size_t end = number.length + scale_length;
-    const std::size_t blank = place.peek(end) == ' ' ? 1 : 0;
+    const std::size_t blank = cursor.peek(end) == ' ' ? 1 : 0;
     const bool is_glued = blank == 0 && scale == nullptr;
-    const Row* row = place.find_row(CURRENCIES, end + blank, [&](const Row& candidate) {
+    const Row* row = cursor.find_row(CURRENCIES, end + blank, [&](const Row& candidate) {
         return candidate.kind != Kind::before && (candidate.kind != Kind::glued || is_glued) &&
-               !place.is_joined(end + blank + candidate.written().size());
+               !cursor.is_joined(end + blank + candidate.written().size());
     });
     if (row == nullptr) return;
     say_amount(number, scale, *row, end + blank, found);
     found.length = end + blank + row->written().size();
-    found.length += say_per(place, found.length, found.words);
+    found.length += say_per(cursor, found.length, found.words);
 }
 
 }  // namespace kavi::everyday

@@ -1,5 +1,5 @@
-// Which rules may read what begins at a place. This is told by its first byte and, after a word or
-// a number, by what follows: for most of a text no rule is called.
+// Which rules may read what begins at an offset. This is told by its first byte and, after a word
+// or a number, by what follows: for most of a text no rule is called.
 #ifndef KAVI_EVERYDAY_DISPATCH_H
 #define KAVI_EVERYDAY_DISPATCH_H
 

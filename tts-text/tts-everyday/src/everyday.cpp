@@ -1,4 +1,4 @@
-// One pass over a text: at each place where a word, a number or a mark begins, the lexicon and the
+// One pass over a text: at each offset where a word, a number or a mark begins, the lexicon and the
 // rules that may read it.
 
 #include <algorithm>
@@ -13,12 +13,12 @@ namespace kavi {
 
 namespace {
 
+using everyday::Cursor;
 using everyday::Found;
 using everyday::is_digit;
 using everyday::is_letter;
 using everyday::is_outside_ascii;
 using everyday::OwnWords;
-using everyday::Place;
 using everyday::RuleRow;
 using everyday::RuleSet;
 
@@ -63,15 +63,15 @@ std::size_t tag_length(std::string_view text, std::size_t at, std::size_t& searc
     return 0;
 }
 
-// Whether a rule reads what begins at a place, within the bound of what it can see.
-bool has_found(everyday::Rule rule, const Place& place, Found& found, bool& is_open) {
+// Whether a rule reads what begins at an offset, within the bound of what it can see.
+bool has_found(everyday::Rule rule, const Cursor& cursor, Found& found, bool& is_open) {
     found.length = 0;
     found.words.clear();
     found.name.length = 0;
-    place.forget_bound();
-    rule(place, found);
-    is_open = is_open || place.has_met_end();
-    return found.length > 0 && !place.has_met_bound();
+    cursor.forget_bound();
+    rule(cursor, found);
+    is_open = is_open || cursor.has_met_end();
+    return found.length > 0 && !cursor.has_met_bound();
 }
 
 struct Settings {
@@ -84,13 +84,13 @@ struct Settings {
 const RuleRow* find_rule(std::string_view text, std::size_t at, RuleSet rules,
                          const Settings& settings, OwnWords& own_words, Found& found,
                          const Lexicon::Entry*& entry, bool& is_open) {
-    const Place place(text, at);
+    const Cursor cursor(text, at);
     while (rules != 0) {
         const RuleRow& row = everyday::take_first(rules);
         if ((settings.classes >> static_cast<unsigned>(row.everyday_class) & 1U) == 0) continue;
         const bool is_found = (settings.american_dates && row.rule == everyday::read_date &&
-                               has_found(everyday::read_american_date, place, found, is_open)) ||
-                              has_found(row.rule, place, found, is_open);
+                               has_found(everyday::read_american_date, cursor, found, is_open)) ||
+                              has_found(row.rule, cursor, found, is_open);
         if (!is_found) continue;
         // An address is one word, whatever is in it.
         entry = nullptr;
@@ -116,7 +116,7 @@ void set_apart(char before, char after, std::string& words) {
 
 // Where the next word, number or mark begins after that at `at`, past blanks; `run_end` is where
 // what it has of ASCII ends.
-std::size_t next_place(std::string_view text, std::size_t at, std::size_t run_end, bool& is_open) {
+std::size_t next_offset(std::string_view text, std::size_t at, std::size_t run_end, bool& is_open) {
     const bool is_whole =
         !is_outside_ascii(text[at]) && (run_end == text.size() || !is_outside_ascii(text[run_end]));
     std::size_t next = is_whole ? run_end : at + everyday::cluster_length(text, at);
@@ -172,7 +172,7 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
     bool is_open = false;  // more text could make the answer another
     if (rewriting.is_inside_word) {
         const std::size_t run_end = everyday::run_at(text, at).end;
-        const std::size_t next = next_place(text, at, run_end, is_open);
+        const std::size_t next = next_offset(text, at, run_end, is_open);
         if (is_open && rewriting.may_go_on) return wait_inside_word(text, rewriting);
         rewriting.is_inside_word = false;
         at = next;
@@ -203,7 +203,7 @@ bool Everyday::next(std::string_view text, Rewriting& rewriting) const {
         is_open = is_open || own_words.reaches_end() || (is_found && end == text.size());
         if (is_open && rewriting.may_go_on) return wait_at(at, rewriting);
         if (!is_found) {
-            const std::size_t next = next_place(text, at, run.end, is_open);
+            const std::size_t next = next_offset(text, at, run.end, is_open);
             if (is_open && rewriting.may_go_on) {
                 const bool is_long = text.size() - at > LONG_WORD;
                 return is_long ? wait_inside_word(text, rewriting) : wait_at(at, rewriting);

@@ -35,10 +35,10 @@ void say_whole_and(std::string_view whole, std::string& out) {
 }
 
 // "3½", "3 ½"
-bool read_whole_and_sign(const Place& place, std::string_view whole, Found& found) {
+bool read_whole_and_sign(const Cursor& cursor, std::string_view whole, Found& found) {
     constexpr std::string_view ONE = "one ";
-    const std::size_t at = whole.size() + (place.peek(whole.size()) == ' ' ? 1 : 0);
-    const Row* sign = fraction_sign_at(place, at);
+    const std::size_t at = whole.size() + (cursor.peek(whole.size()) == ' ' ? 1 : 0);
+    const Row* sign = fraction_sign_at(cursor, at);
     if (sign == nullptr) return false;
     say_whole_and(whole, found.words);
     std::string_view part = sign->spoken();
@@ -48,46 +48,46 @@ bool read_whole_and_sign(const Place& place, std::string_view whole, Found& foun
     }
     say(part, found.words);
     found.length = at + sign->written().size();
-    const std::size_t dash = place.dash(found.length);
-    if (dash > 0 && is_digit(place.peek(found.length + dash))) {  // "1½–2 hrs"
+    const std::size_t dash = cursor.dash(found.length);
+    if (dash > 0 && is_digit(cursor.peek(found.length + dash))) {  // "1½–2 hrs"
         say("to", found.words);
         found.length += dash;
         return true;
     }
-    read_unit_after(place, false, found);
+    read_unit_after(cursor, false, found);
     return true;
 }
 
 // "3 1/2", "3 5/16", "3-1/2"
-bool read_whole_and_slash(const Place& place, std::string_view whole, Found& found) {
-    const char gap = place.peek(whole.size());
+bool read_whole_and_slash(const Cursor& cursor, std::string_view whole, Found& found) {
+    const char gap = cursor.peek(whole.size());
     if (gap != ' ' && gap != '-') return false;
-    const std::string_view above = place.digits(whole.size() + 1);
+    const std::string_view above = cursor.digits(whole.size() + 1);
     const std::size_t slash = whole.size() + 1 + above.size();
-    const std::string_view below = place.digits(slash + 1);
-    if (above.empty() || place.peek(slash) != '/' || !is_less(above, below)) return false;
+    const std::string_view below = cursor.digits(slash + 1);
+    if (above.empty() || cursor.peek(slash) != '/' || !is_less(above, below)) return false;
     std::string words;
     say_whole_and(whole, words);
     if (!say_fraction(above, below, false, words)) return false;
     found.words = words;
     found.length = slash + 1 + below.size();
-    read_unit_after(place, false, found);
+    read_unit_after(cursor, false, found);
     return true;
 }
 
 // "a 7/10", "4/5 stars"
-bool is_rating(const Place& place, std::string_view above, std::string_view below,
+bool is_rating(const Cursor& cursor, std::string_view above, std::string_view below,
                std::size_t end) {
     if (!is_best_mark(below) || is_less(below, above)) return false;
-    const std::string_view before = place.word_before();
+    const std::string_view before = cursor.word_before();
     const bool has_article = (before == "a" || before == "an") && below != "5" && above != "1";
-    return has_article || place.starts_with(" stars", end) || place.starts_with(" points", end);
+    return has_article || cursor.starts_with(" stars", end) || cursor.starts_with(" points", end);
 }
 
 // "120/80", "355/113": three digits above; after a name they are two numbers, "Boeing 757/767".
-bool is_ratio(const Place& place, std::string_view above, std::string_view below) {
+bool is_ratio(const Cursor& cursor, std::string_view above, std::string_view below) {
     if (above.size() != 3 || above[0] == '0' || below.empty() || below[0] == '0') return false;
-    const std::string_view name = place.word_before();
+    const std::string_view name = cursor.word_before();
     return below.size() < 3 || (below.size() == 3 && (name.empty() || !is_upper(name[0])));
 }
 
@@ -97,65 +97,65 @@ bool is_time_signature(std::string_view below) {
 }
 
 // "the 33/1 shot", "a 7/2 favourite"
-bool has_odds(const Place& place, std::size_t end) {
-    if (place.peek(end) != ' ') return false;
-    const Row* noun = find(RATIO_NOUNS, place.letters(end + 1));
+bool has_odds(const Cursor& cursor, std::size_t end) {
+    if (cursor.peek(end) != ' ') return false;
+    const Row* noun = find(RATIO_NOUNS, cursor.letters(end + 1));
     return noun != nullptr && noun->kind == Kind::both;
 }
 
 // What is said between two numbers that are no fraction, perhaps nothing; null where they are one.
-const char* words_between(const Place& place, std::string_view above, std::string_view below,
+const char* words_between(const Cursor& cursor, std::string_view above, std::string_view below,
                           std::size_t end) {
-    if (is_rating(place, above, below, end)) return "out of";
-    if (has_odds(place, end) || (below == "1" && place.word_before() == "at")) return "to";
-    if (below == "1" && !place.is_joined(end)) return "over";
-    if (const Row* row = find_lower(BEFORE_SLASH, place.word_before())) {
+    if (is_rating(cursor, above, below, end)) return "out of";
+    if (has_odds(cursor, end) || (below == "1" && cursor.word_before() == "at")) return "to";
+    if (below == "1" && !cursor.is_joined(end)) return "over";
+    if (const Row* row = find_lower(BEFORE_SLASH, cursor.word_before())) {
         const bool is_mark = is_best_mark(below) && !is_less(below, above);
         if (is_mark || row->spoken() == "of") return row->spoken().data();
     }
     if (above == below && above.size() < 4 && above != "1") {  // "20/20"
         const bool is_sight =
-            place.starts_with(" vision", end) || place.starts_with(" hindsight", end);
+            cursor.starts_with(" vision", end) || cursor.starts_with(" hindsight", end);
         return is_sight ? "" : "out of";
     }
-    if (above != "1" && place.starts_with(" time", end) && is_time_signature(below)) return "";
-    return is_ratio(place, above, below) && !place.is_joined(end) ? "over" : nullptr;
+    if (above != "1" && cursor.starts_with(" time", end) && is_time_signature(below)) return "";
+    return is_ratio(cursor, above, below) && !cursor.is_joined(end) ? "over" : nullptr;
 }
 
 // Of "2/3rds", "1/4th".
-std::size_t suffix_length(const Place& place, std::size_t ahead) {
-    const std::string_view letters = place.letters(ahead);
+std::size_t suffix_length(const Cursor& cursor, std::size_t ahead) {
+    const std::string_view letters = cursor.letters(ahead);
     const bool is_many = !letters.empty() && letters.back() == 's';
     const std::string_view suffix = letters.substr(0, letters.size() - (is_many ? 1 : 0));
     return find(ORDINAL_SUFFIXES, suffix) != nullptr ? letters.size() : 0;
 }
 
 // "9/11 of them", "you get 9/11"
-bool is_plain_fraction(const Place& place, std::size_t end) {
-    const std::string_view verb = place.word_before();
-    return place.starts_with(" of ", end) || verb == "get" || verb == "gives" || verb == "equals";
+bool is_plain_fraction(const Cursor& cursor, std::size_t end) {
+    const std::string_view verb = cursor.word_before();
+    return cursor.starts_with(" of ", end) || verb == "get" || verb == "gives" || verb == "equals";
 }
 
 // "1/2", with no other slash before it or after it
-bool read_slash(const Place& place, std::string_view above, Found& found) {
-    if (place.peek(above.size()) != '/' || place.before() == '/') return false;
-    const std::string_view below = place.digits(above.size() + 1);
+bool read_slash(const Cursor& cursor, std::string_view above, Found& found) {
+    if (cursor.peek(above.size()) != '/' || cursor.before() == '/') return false;
+    const std::string_view below = cursor.digits(above.size() + 1);
     const std::size_t end = above.size() + 1 + below.size();
-    if (place.peek(end) == '/') return false;
-    const Row* named = find(FRACTIONS, place.part(0, end));
-    if (named != nullptr && !is_plain_fraction(place, end)) {
+    if (cursor.peek(end) == '/') return false;
+    const Row* named = find(FRACTIONS, cursor.part(0, end));
+    if (named != nullptr && !is_plain_fraction(cursor, end)) {
         say(named->spoken(), found.words);
-    } else if (const char* words = words_between(place, above, below, end)) {
+    } else if (const char* words = words_between(cursor, above, below, end)) {
         say_cardinal(above, found.words);
         if (*words != '\0') say(words, found.words);
         say_cardinal(below, found.words);
-    } else if (const bool is_adjective = place.peek(end) == '-' && is_letter(place.peek(end + 1));
+    } else if (const bool is_adjective = cursor.peek(end) == '-' && is_letter(cursor.peek(end + 1));
                !say_fraction(above, below, is_adjective, found.words)) {
         return false;
     }
-    const std::size_t suffix = suffix_length(place, end);
+    const std::size_t suffix = suffix_length(cursor, end);
     found.length = end + suffix;
-    if (suffix == 0) read_unit_after(place, true, found);
+    if (suffix == 0) read_unit_after(cursor, true, found);
     return true;
 }
 
@@ -165,15 +165,15 @@ bool is_best_mark(std::string_view digits) {
     return digits == "5" || digits == "10" || digits == "100";
 }
 
-const Row* fraction_sign_at(const Place& place, std::size_t ahead) {
-    if (!is_outside_ascii(place.peek(ahead))) return nullptr;
-    return place.find_row(FRACTIONS, ahead);
+const Row* fraction_sign_at(const Cursor& cursor, std::size_t ahead) {
+    if (!is_outside_ascii(cursor.peek(ahead))) return nullptr;
+    return cursor.find_row(FRACTIONS, ahead);
 }
 
-bool read_fraction(const Place& place, Found& found) {
-    const std::string_view digits = place.digits();
-    return read_whole_and_sign(place, digits, found) ||
-           read_whole_and_slash(place, digits, found) || read_slash(place, digits, found);
+bool read_fraction(const Cursor& cursor, Found& found) {
+    const std::string_view digits = cursor.digits();
+    return read_whole_and_sign(cursor, digits, found) ||
+           read_whole_and_slash(cursor, digits, found) || read_slash(cursor, digits, found);
 }
 
 }  // namespace kavi::everyday

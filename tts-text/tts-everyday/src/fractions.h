@@ -7,10 +7,10 @@
 namespace kavi::everyday {
 
 // The row of the fraction sign at offset `ahead`, such as "½", or null.
-const Row* fraction_sign_at(const Place& place, std::size_t ahead);
+const Row* fraction_sign_at(const Cursor& cursor, std::size_t ahead);
 
-// A fraction, by itself or after a whole number, that begins with the digits at a place.
-bool read_fraction(const Place& place, Found& found);
+// A fraction, by itself or after a whole number, that begins with the digits at an offset.
+bool read_fraction(const Cursor& cursor, Found& found);
 
 // Whether a number is usual as the best of all marks, as in "9/10".
 bool is_best_mark(std::string_view digits);

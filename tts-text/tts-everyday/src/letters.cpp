@@ -7,9 +7,9 @@ namespace kavi::everyday {
 
 // "café", "Nguyễn": Latin letters as those of ASCII, without what is upon them. Letters of other
 // scripts stay.
-void read_letters(const Place& place, Found& found) {
-    if (is_letter(place.peek()) && !is_outside_ascii(place.peek(place.run(is_letter)))) return;
-    const std::string_view word = place.part(0, place.word());
+void read_letters(const Cursor& cursor, Found& found) {
+    if (is_letter(cursor.peek()) && !is_outside_ascii(cursor.peek(cursor.run(is_letter)))) return;
+    const std::string_view word = cursor.part(0, cursor.word());
     bool has_any = false;
     for (std::size_t at = 0; at < word.size();) {
         const CodePoint c = code_point_at(word.substr(at));
@@ -27,16 +27,16 @@ void read_letters(const Place& place, Found& found) {
 }
 
 // One mark that is written in ASCII otherwise.
-void read_typography(const Place& place, Found& found) {
-    if (!is_outside_ascii(place.peek())) return;
-    const CodePoint c = code_point_at(place.part(0, CODE_POINT_BYTES));
-    const Row* row = find(TYPOGRAPHY, place.part(0, c.length));
+void read_typography(const Cursor& cursor, Found& found) {
+    if (!is_outside_ascii(cursor.peek())) return;
+    const CodePoint c = code_point_at(cursor.part(0, CODE_POINT_BYTES));
+    const Row* row = find(TYPOGRAPHY, cursor.part(0, c.length));
     if (row == nullptr) return;
     found.length = c.length;
     found.words = row->spoken();
     // In a sentence, an ellipsis is a pause.
-    const std::size_t next = c.length + place.blanks(c.length);
-    if (row->written() == "…" && is_lower(place.peek(next))) found.words = ", ";
+    const std::size_t next = c.length + cursor.blanks(c.length);
+    if (row->written() == "…" && is_lower(cursor.peek(next))) found.words = ", ";
 }
 
 }  // namespace kavi::everyday

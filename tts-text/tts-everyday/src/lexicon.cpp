@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "place.h"
+#include "cursor.h"
 #include "tokens.h"
 #include "tts_lexicon.h"
 

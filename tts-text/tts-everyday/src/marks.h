@@ -17,19 +17,19 @@ inline bool may_precede_word(char c) {
 }
 
 // The same of what ends at the cursor; curly quotes and dashes are outside ASCII.
-inline bool begins_word(const Place& place) {
-    const char before = place.before();
-    return may_precede_word(before) || (is_outside_ascii(before) && !place.is_joined_before());
+inline bool begins_word(const Cursor& cursor) {
+    const char before = cursor.before();
+    return may_precede_word(before) || (is_outside_ascii(before) && !cursor.is_joined_before());
 }
 
 // Each answers whether it has read the mark at the cursor.
-bool read_rule(const Place& place, Found& found);  // silent_marks.cpp
-bool read_stress(const Place& place, Found& found);
-bool read_silent_asterisk(const Place& place, Found& found);
-bool read_address_in_brackets(const Place& place, Found& found);
-bool read_quotation(const Place& place, Found& found);
-bool read_operator(const Place& place, Found& found);  // operators.cpp
-bool read_plus(const Place& place, Found& found);
+bool read_rule(const Cursor& cursor, Found& found);  // silent_marks.cpp
+bool read_stress(const Cursor& cursor, Found& found);
+bool read_silent_asterisk(const Cursor& cursor, Found& found);
+bool read_address_in_brackets(const Cursor& cursor, Found& found);
+bool read_quotation(const Cursor& cursor, Found& found);
+bool read_operator(const Cursor& cursor, Found& found);  // operators.cpp
+bool read_plus(const Cursor& cursor, Found& found);
 
 }  // namespace kavi::everyday
 

@@ -18,12 +18,12 @@ class OwnWords {
     OwnWords(const Lexicon* lexicon, std::string_view text)
         : lexicon_(lexicon != nullptr && !lexicon->empty() ? lexicon : nullptr), text_(text) {}
 
-    // The entry for what begins at a place, or none.
+    // The entry for what begins at an offset, or none.
     Lexicon::Match at(std::size_t at) {
         return lexicon_ != nullptr ? match_at(at) : Lexicon::Match();
     }
 
-    // Whether a rule may read what it found at a place: there is no entry in it, but for one for
+    // Whether a rule may read what it found at an offset: there is no entry in it, but for one for
     // the name that it found, which gets the user's word in its place: `entry` is set to
     // that one. Places do not go back.
     bool allow(std::size_t at, Found& found, const Lexicon::Entry*& entry);

@@ -53,15 +53,15 @@ bool ends_like_abbreviation(std::string_view words) {
     return abbreviation_at_end(words) > 0;
 }
 
-void read_shield(const Place& place, Found& found) {
-    if (place.peek() != '.' || !is_letter(place.before())) return;
-    const std::string_view word = place.letters_before();
+void read_shield(const Cursor& cursor, Found& found) {
+    if (cursor.peek() != '.' || !is_letter(cursor.before())) return;
+    const std::string_view word = cursor.letters_before();
     const std::size_t length = abbreviation_at_end(word);
     if (length == 0) return;
     // The abbreviation itself is left to the engine, but for words that are spelled alike.
-    const bool is_star = word == "Sun" && place.word_before(word.size()) == "the";
+    const bool is_star = word == "Sun" && cursor.word_before(word.size()) == "the";
     // "section 6b.", "b. The second"; "(b. 1970)" is somebody's birth.
-    const bool is_label = word == "b" && (is_digit(place.before(2)) || !is_digit(place.peek(2)));
+    const bool is_label = word == "b" && (is_digit(cursor.before(2)) || !is_digit(cursor.peek(2)));
     const bool is_word = word.size() > length || word == "May" || word == "may" || word == "mar" ||
                          word == "B" || is_star || is_label;
     if (!is_word) return;

@@ -40,67 +40,68 @@ constexpr std::size_t GROUP = 3;
 
 // The length of the groups of three digits at `ahead`, each after such a mark. After a blank there
 // may be a row of numbers, which is not looked through from each of them.
-std::size_t run_of_groups(const Place& place, std::size_t ahead, char mark) {
+std::size_t run_of_groups(const Cursor& cursor, std::size_t ahead, char mark) {
     constexpr std::size_t LONGEST_WITH_BLANKS = 4 * (1 + GROUP);
     const std::size_t longest = mark == ',' ? LOOK_AHEAD : LONGEST_WITH_BLANKS;
     std::size_t length = 0;
-    while (length < longest && place.peek(ahead + length) == mark &&
-           place.digits(ahead + length + 1).size() == GROUP)
+    while (length < longest && cursor.peek(ahead + length) == mark &&
+           cursor.digits(ahead + length + 1).size() == GROUP)
         length += 1 + GROUP;
     return length;
 }
 
 // The length of the groups after the first digits of a number with lakhs: "1,21,08,977"; 0 if none.
-std::size_t groups_of_lakhs(const Place& place, std::size_t ahead) {
+std::size_t groups_of_lakhs(const Cursor& cursor, std::size_t ahead) {
     constexpr std::size_t PAIR = 2;
     constexpr std::size_t LONGEST = 4 * (1 + PAIR);
     std::size_t length = 0;
-    while (length < LONGEST && place.peek(ahead + length) == ',' &&
-           place.digits(ahead + length + 1).size() == PAIR)
+    while (length < LONGEST && cursor.peek(ahead + length) == ',' &&
+           cursor.digits(ahead + length + 1).size() == PAIR)
         length += 1 + PAIR;
-    const bool has_end = length > 0 && place.peek(ahead + length) == ',' &&
-                         place.digits(ahead + length + 1).size() == GROUP;
+    const bool has_end = length > 0 && cursor.peek(ahead + length) == ',' &&
+                         cursor.digits(ahead + length + 1).size() == GROUP;
     return has_end ? length + 1 + GROUP : 0;
 }
 
 // Whether a word may precede a number that has blanks in it: no month and no name, "May 12 200
 // people", "Windows 10 100 times", nor another number.
-bool may_precede_blanks(const Place& place, std::size_t ahead) {
+bool may_precede_blanks(const Cursor& cursor, std::size_t ahead) {
     if (ahead > 0) return true;
-    const char before = place.before();
-    if (before == '-' || before == '.' || (before == ' ' && is_digit(place.before(2))))
+    const char before = cursor.before();
+    if (before == '-' || before == '.' || (before == ' ' && is_digit(cursor.before(2))))
         return false;
-    const std::string_view word = place.word_before();
+    const std::string_view word = cursor.word_before();
     return std::none_of(word.begin(), word.end(), is_upper);
 }
 
 // "10 000", "1 234 567"; not "rooms 101 102", "5 100 metre races", "555 123 4567".
-bool are_blanks_of_number(const Place& place, std::size_t ahead, std::size_t n_digits,
+bool are_blanks_of_number(const Cursor& cursor, std::size_t ahead, std::size_t n_digits,
                           std::size_t groups) {
     const std::size_t end = ahead + n_digits + groups;
-    const char after = place.peek(end);
-    const bool goes_on = place.is_joined(end) || after == '-' || after == '/' || after == ':' ||
-                         (after == ' ' && is_digit(place.peek(end + 1)));
-    const bool is_round = place.part(end - GROUP, GROUP) == "000";
+    const char after = cursor.peek(end);
+    const bool goes_on = cursor.is_joined(end) || after == '-' || after == '/' || after == ':' ||
+                         (after == ' ' && is_digit(cursor.peek(end + 1)));
+    const bool is_round = cursor.part(end - GROUP, GROUP) == "000";
     const bool is_clear = n_digits == 2 || (n_digits == 1 && groups > 1 + GROUP);
-    return place.peek(ahead) != '0' && !goes_on && (is_round || is_clear) &&
-           may_precede_blanks(place, ahead);
+    return cursor.peek(ahead) != '0' && !goes_on && (is_round || is_clear) &&
+           may_precede_blanks(cursor, ahead);
 }
 
 // "1.000.000"; four groups may be an address.
-bool are_points_of_number(const Place& place, std::size_t end, std::size_t groups) {
-    const bool goes_on = place.peek(end) == '.' && is_digit(place.peek(end + 1));
-    return groups == 2 * (1 + GROUP) && !place.is_joined(end) && !goes_on;
+bool are_points_of_number(const Cursor& cursor, std::size_t end, std::size_t groups) {
+    const bool goes_on = cursor.peek(end) == '.' && is_digit(cursor.peek(end + 1));
+    return groups == 2 * (1 + GROUP) && !cursor.is_joined(end) && !goes_on;
 }
 
 // The length of the groups after the first digits of a number, one to three at `ahead`, of which
 // the first is after `mark`.
-std::size_t groups_length(const Place& place, std::size_t ahead, std::size_t n_digits, char mark) {
+std::size_t groups_length(const Cursor& cursor, std::size_t ahead, std::size_t n_digits,
+                          char mark) {
     const std::size_t begin = ahead + n_digits;
-    const std::size_t groups = run_of_groups(place, begin, mark);
-    if (groups == 0) return mark == ',' ? groups_of_lakhs(place, begin) : 0;
-    if (mark == ' ' && !are_blanks_of_number(place, ahead, n_digits, groups)) return 0;
-    if (mark == '.' && !are_points_of_number(place, begin + groups, groups)) return 0;
+    const std::size_t groups = run_of_groups(cursor, begin, mark);
+    if (groups == 0) return mark == ',' ? groups_of_lakhs(cursor, begin) : 0;
+    if (mark == ' ' && !are_blanks_of_number(cursor, ahead, n_digits, groups)) return 0;
+    if (mark == '.' && !are_points_of_number(cursor, begin + groups, groups)) return 0;
     return groups;
 }
 
@@ -185,18 +186,18 @@ std::string Number::digits() const {
     return digits;
 }
 
-Number number_at(const Place& place, std::size_t ahead) {
-    const std::size_t n_digits = place.digits(ahead).size();
+Number number_at(const Cursor& cursor, std::size_t ahead) {
+    const std::size_t n_digits = cursor.digits(ahead).size();
     std::size_t end = ahead + n_digits;
-    const char mark = place.peek(end);
+    const char mark = cursor.peek(end);
     const bool goes_on =
-        (mark == ',' || mark == '.' || mark == ' ') && is_digit(place.peek(end + 1));
-    if (!goes_on) return {place.part(ahead, n_digits), {}, n_digits};
+        (mark == ',' || mark == '.' || mark == ' ') && is_digit(cursor.peek(end + 1));
+    if (!goes_on) return {cursor.part(ahead, n_digits), {}, n_digits};
     if (n_digits == 0 && mark != '.') return {};  // but ".35"
-    if (n_digits > 0 && n_digits <= GROUP) end += groups_length(place, ahead, n_digits, mark);
-    const std::string_view whole = place.part(ahead, end - ahead);
-    if (place.peek(end) != '.' || !is_digit(place.peek(end + 1))) return {whole, {}, end - ahead};
-    const std::string_view fraction = place.digits(end + 1);
+    if (n_digits > 0 && n_digits <= GROUP) end += groups_length(cursor, ahead, n_digits, mark);
+    const std::string_view whole = cursor.part(ahead, end - ahead);
+    if (cursor.peek(end) != '.' || !is_digit(cursor.peek(end + 1))) return {whole, {}, end - ahead};
+    const std::string_view fraction = cursor.digits(end + 1);
     return {whole, fraction, whole.size() + 1 + fraction.size()};
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "place.h"
+#include "cursor.h"
 
 namespace kavi::everyday {
 
@@ -37,7 +37,7 @@ struct Number {
     bool is_one() const { return whole == "1" && fraction.empty(); }
     void say(std::string& out) const { say_decimal(digits(), fraction, out); }
 };
-Number number_at(const Place& place, std::size_t ahead);
+Number number_at(const Cursor& cursor, std::size_t ahead);
 
 // The number of a month's name or abbreviation, letters of any case, from 1; 0 for none, and for
 // what is another word in small letters: "may", "march". Its name, from 1.

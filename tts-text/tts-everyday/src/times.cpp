@@ -7,16 +7,16 @@ namespace kavi::everyday {
 namespace {
 
 // The words for "p.m.", "pm" or "PM" at offset `ahead`, after at most one blank; null if none.
-const char* half_of_day(const Place& place, std::size_t ahead, std::size_t& length) {
-    const std::size_t blank = place.peek(ahead) == ' ' ? 1 : 0;
+const char* half_of_day(const Cursor& cursor, std::size_t ahead, std::size_t& length) {
+    const std::size_t blank = cursor.peek(ahead) == ' ' ? 1 : 0;
     const std::size_t at = ahead + blank;
-    const char first = to_lower(place.peek(at));
+    const char first = to_lower(cursor.peek(at));
     if (first != 'a' && first != 'p') return nullptr;
-    const bool has_stops = place.peek(at + 1) == '.' && to_lower(place.peek(at + 2)) == 'm';
-    const bool has_none = to_lower(place.peek(at + 1)) == 'm' && !place.is_joined(at + 2);
+    const bool has_stops = cursor.peek(at + 1) == '.' && to_lower(cursor.peek(at + 2)) == 'm';
+    const bool has_none = to_lower(cursor.peek(at + 1)) == 'm' && !cursor.is_joined(at + 2);
     if (!has_stops && !has_none) return nullptr;
     length = blank + (has_stops ? 3 : 2);
-    if (has_stops && place.peek(at + 3) == '.' && !place.may_end_sentence(at + 4)) ++length;
+    if (has_stops && cursor.peek(at + 3) == '.' && !cursor.may_end_sentence(at + 4)) ++length;
     return first == 'a' ? "a m" : "p m";
 }
 
@@ -30,29 +30,29 @@ struct Clock {
     std::size_t length = 0;
 };
 
-Clock clock_at(const Place& place, std::size_t ahead) {
+Clock clock_at(const Cursor& cursor, std::size_t ahead) {
     Clock clock;
-    clock.hour = place.digits(ahead);
+    clock.hour = cursor.digits(ahead);
     if (clock.hour.empty() || clock.hour.size() > 2 ||
         clock.hour > (clock.hour.size() == 2 ? "24" : "9"))
         return {};
     std::size_t end = ahead + clock.hour.size();
     const auto two_digits = [&](bool may_be_stop) -> std::string_view {
-        if (place.peek(end) != ':' && !(may_be_stop && place.peek(end) == '.')) return {};
-        const std::string_view digits = place.digits(end + 1);
+        if (cursor.peek(end) != ':' && !(may_be_stop && cursor.peek(end) == '.')) return {};
+        const std::string_view digits = cursor.digits(end + 1);
         if (digits.size() != 2 || digits > "59") return {};
         end += 3;
         return digits;
     };
-    clock.has_stop = place.peek(end) == '.';
+    clock.has_stop = cursor.peek(end) == '.';
     clock.minutes = two_digits(true);
     clock.has_stop = clock.has_stop && !clock.minutes.empty();
     if (!clock.minutes.empty() && !clock.has_stop) clock.seconds = two_digits(false);
     std::size_t half_length = 0;
-    clock.half = half_of_day(place, end, half_length);
+    clock.half = half_of_day(cursor, end, half_length);
     if (clock.half == nullptr && !clock.minutes.empty() && !clock.has_stop) {
-        const char half = to_lower(place.peek(end));  // "5:55a"
-        if ((half == 'a' || half == 'p') && !place.is_joined(end + 1)) {
+        const char half = to_lower(cursor.peek(end));  // "5:55a"
+        if ((half == 'a' || half == 'p') && !cursor.is_joined(end + 1)) {
             clock.half = half == 'a' ? "a m" : "p m";
             half_length = 1;
         }
@@ -94,9 +94,9 @@ void say_time(const Clock& clock, bool has_half, std::string& out) {
 }
 
 // "9-5 p.m.", "9:00–17:00"
-bool read_time_range(const Place& place, const Clock& first, Found& found) {
-    const std::size_t dash = place.dash(first.length);
-    const Clock last = dash > 0 ? clock_at(place, first.length + dash) : Clock{};
+bool read_time_range(const Cursor& cursor, const Clock& first, Found& found) {
+    const std::size_t dash = cursor.dash(first.length);
+    const Clock last = dash > 0 ? clock_at(cursor, first.length + dash) : Clock{};
     const bool is_range = last.length > 0 && (last.half != nullptr ||
                                               (!first.minutes.empty() && !last.minutes.empty()));
     if (!is_range) return false;
@@ -108,21 +108,22 @@ bool read_time_range(const Place& place, const Clock& first, Found& found) {
 }
 
 // "at 0830", "by 0830", "due 0830": what is before a date is before a time too.
-bool is_after_at(const Place& place) {
-    const std::string_view before = place.word_before();
+bool is_after_at(const Cursor& cursor) {
+    const std::string_view before = cursor.word_before();
     const Row* row = find_lower(BEFORE_DAY, before);
     return before == "at" || before == "At" || (row != nullptr && row->kind != Kind::may_end);
 }
 
 // "at 1200 hours", "0600 EST", "at 0830"; "for 1200 hours" is a length of time
-bool read_military(const Place& place, std::string_view digits, Found& found) {
-    if (digits.size() != 4 || digits > "2400" || digits[2] > '5' || place.is_joined(4))
+bool read_military(const Cursor& cursor, std::string_view digits, Found& found) {
+    if (digits.size() != 4 || digits > "2400" || digits[2] > '5' || cursor.is_joined(4))
         return false;
     const bool has_zero = digits[0] == '0' && digits[1] != '0';
-    const bool has_hours = place.starts_with(" hours", 4) || place.starts_with(" hrs", 4);
-    const bool has_zone = place.peek(4) == ' ' && find(ZONES, place.letters(5)) != nullptr;
-    const bool is_time = has_zone || (has_hours && has_zero) ||
-                         ((has_hours || (has_zero && place.peek(4) != '-')) && is_after_at(place));
+    const bool has_hours = cursor.starts_with(" hours", 4) || cursor.starts_with(" hrs", 4);
+    const bool has_zone = cursor.peek(4) == ' ' && find(ZONES, cursor.letters(5)) != nullptr;
+    const bool is_time =
+        has_zone || (has_hours && has_zero) ||
+        ((has_hours || (has_zero && cursor.peek(4) != '-')) && is_after_at(cursor));
     if (!is_time) return false;
     if (digits[0] == '0') say("oh", found.words);
     say_cardinal(digits.substr(0, 2), found.words);
@@ -134,7 +135,7 @@ bool read_military(const Place& place, std::string_view digits, Found& found) {
         say_cardinal(minutes, found.words);
     }
     found.length = digits.size();
-    if (place.starts_with(" hrs", 4)) {
+    if (cursor.starts_with(" hrs", 4)) {
         say("hours", found.words);
         found.length += 4;
     }
@@ -142,15 +143,15 @@ bool read_military(const Place& place, std::string_view digits, Found& found) {
 }
 
 // "in 35:20": minutes and seconds, since a day has 24 hours; "60:40" is a division
-bool read_minutes_and_seconds(const Place& place, std::string_view minutes, Found& found) {
-    const std::string_view seconds = place.digits(minutes.size() + 1);
+bool read_minutes_and_seconds(const Cursor& cursor, std::string_view minutes, Found& found) {
+    const std::string_view seconds = cursor.digits(minutes.size() + 1);
     const std::size_t end = minutes.size() + 1 + seconds.size();
     if (minutes.size() != 2 || minutes < "25" || seconds.size() != 2 || seconds > "59" ||
-        place.before() == ':')
+        cursor.before() == ':')
         return false;
     const bool goes_on =
-        place.is_joined(end) ||
-        ((place.peek(end) == ':' || place.peek(end) == '.') && is_digit(place.peek(end + 1)));
+        cursor.is_joined(end) ||
+        ((cursor.peek(end) == ':' || cursor.peek(end) == '.') && is_digit(cursor.peek(end + 1)));
     if (goes_on) return false;
     say_cardinal(minutes, found.words);
     if (tn::value_of(minutes) + tn::value_of(seconds) == 100) {
@@ -164,13 +165,13 @@ bool read_minutes_and_seconds(const Place& place, std::string_view minutes, Foun
 }
 
 // "2h16", "1h30m"
-bool read_hours_and_minutes(const Place& place, std::string_view hours, Found& found) {
-    const std::string_view minutes = place.digits(hours.size() + 1);
+bool read_hours_and_minutes(const Cursor& cursor, std::string_view hours, Found& found) {
+    const std::string_view minutes = cursor.digits(hours.size() + 1);
     const std::size_t m = hours.size() + 1 + minutes.size();
-    const std::string_view unit = place.letters(m);
+    const std::string_view unit = cursor.letters(m);
     const bool is_one =
-        place.peek(hours.size()) == 'h' && is_value(hours, 0, 24) && is_value(minutes, 0, 59) &&
-        (unit.empty() || unit == "m" || unit == "min") && !place.is_joined(m + unit.size());
+        cursor.peek(hours.size()) == 'h' && is_value(hours, 0, 24) && is_value(minutes, 0, 59) &&
+        (unit.empty() || unit == "m" || unit == "min") && !cursor.is_joined(m + unit.size());
     if (!is_one) return false;
     say_cardinal(hours, found.words);
     say(hours == "1" ? "hour" : "hours", found.words);
@@ -182,12 +183,12 @@ bool read_hours_and_minutes(const Place& place, std::string_view hours, Found& f
 
 }  // namespace
 
-std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out) {
-    const Clock clock = clock_at(place, ahead);
+std::size_t say_iso_time(const Cursor& cursor, std::size_t ahead, std::string& out) {
+    const Clock clock = clock_at(cursor, ahead);
     std::size_t end = ahead + clock.length;
-    const bool has_zone = place.peek(end) == 'Z' && !place.is_joined(end + 1);
-    if (clock.minutes.empty() || clock.has_stop || (place.is_joined(end) && !has_zone)) return 0;
-    if (place.peek(end) == '.' && is_digit(place.peek(end + 1))) return 0;
+    const bool has_zone = cursor.peek(end) == 'Z' && !cursor.is_joined(end + 1);
+    if (clock.minutes.empty() || clock.has_stop || (cursor.is_joined(end) && !has_zone)) return 0;
+    if (cursor.peek(end) == '.' && is_digit(cursor.peek(end + 1))) return 0;
     say_time(clock, clock.half != nullptr || !clock.seconds.empty(), out);
     if (has_zone) {
         say("U T C", out);
@@ -196,19 +197,19 @@ std::size_t say_iso_time(const Place& place, std::size_t ahead, std::string& out
     return end - ahead;
 }
 
-void read_time(const Place& place, Found& found) {
-    const std::string_view digits = place.digits();
-    const char after = place.peek(digits.size());
-    if (after == ':' && read_minutes_and_seconds(place, digits, found)) return;
-    if (after == 'h' && read_hours_and_minutes(place, digits, found)) return;
-    if (read_military(place, digits, found)) return;
-    const char next = to_lower(place.peek(digits.size() + 1));
+void read_time(const Cursor& cursor, Found& found) {
+    const std::string_view digits = cursor.digits();
+    const char after = cursor.peek(digits.size());
+    if (after == ':' && read_minutes_and_seconds(cursor, digits, found)) return;
+    if (after == 'h' && read_hours_and_minutes(cursor, digits, found)) return;
+    if (read_military(cursor, digits, found)) return;
+    const char next = to_lower(cursor.peek(digits.size() + 1));
     if (after == ' ' && next != 'a' && next != 'p') return;  // as most numbers
-    const Clock time = clock_at(place, 0);
-    if (time.length == 0 || read_time_range(place, time, found)) return;
-    if (time.half == nullptr && (time.minutes.empty() || place.letter(time.length) > 0)) return;
-    const bool is_ratio = place.peek(time.length) == ' ' &&
-                          find(RATIO_NOUNS, place.letters(time.length + 1)) != nullptr;
+    const Clock time = clock_at(cursor, 0);
+    if (time.length == 0 || read_time_range(cursor, time, found)) return;
+    if (time.half == nullptr && (time.minutes.empty() || cursor.letter(time.length) > 0)) return;
+    const bool is_ratio = cursor.peek(time.length) == ' ' &&
+                          find(RATIO_NOUNS, cursor.letters(time.length + 1)) != nullptr;
     if (is_ratio) return;  // "a 1:10 dilution"
     say_time(time, time.half != nullptr, found.words);
     found.length = time.length;

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <iterator>
 
-#include "place.h"
+#include "cursor.h"
 
 namespace kavi::everyday {
 

@@ -1,7 +1,7 @@
 // A cursor in a text and the bytes around it that a rule may read. `ahead` is an offset from the
 // cursor, `back` a distance before it.
-#ifndef KAVI_EVERYDAY_PLACE_H
-#define KAVI_EVERYDAY_PLACE_H
+#ifndef KAVI_EVERYDAY_CURSOR_H
+#define KAVI_EVERYDAY_CURSOR_H
 
 #include <algorithm>
 #include <cassert>
@@ -37,10 +37,10 @@ const Row* find_lower(const Table& table, std::string_view word);
 constexpr std::size_t LOOK_AHEAD = 256;
 constexpr std::size_t LOOK_BACK = 64;
 
-class Place {
+class Cursor {
   public:
     // `at` is at most the size of the text, which outlives the cursor.
-    Place(std::string_view text, std::size_t at)
+    Cursor(std::string_view text, std::size_t at)
         : ahead_(text.substr(at, LOOK_AHEAD)),
           behind_(text.substr(at - std::min(at, LOOK_BACK), std::min(at, LOOK_BACK))),
           is_cut_(text.size() - at > LOOK_AHEAD),
@@ -160,4 +160,4 @@ class Place {
 
 }  // namespace kavi::everyday
 
-#endif  // KAVI_EVERYDAY_PLACE_H
+#endif  // KAVI_EVERYDAY_CURSOR_H

@@ -15,7 +15,15 @@ struct Month {
     void say(Found& found) const { found.say_name(at, length, month_word(number)); }
 };
 
-void say_day_first(std::string_view day, const Month& month, std::string_view year, Found& found) {
+// "the", unless it is before the cursor.
+void say_article(const Cursor& cursor, Found& found) {
+    const std::string_view before = cursor.word_before();
+    if (before != "the" && before != "The") say("the", found.words);
+}
+
+void say_day_first(const Cursor& cursor, std::string_view day, const Month& month,
+                   std::string_view year, Found& found) {
+    say_article(cursor, found);
     say_ordinal(day, found.words);
     say("of", found.words);
     month.say(found);
@@ -59,8 +67,7 @@ void read_numeric_date(const Cursor& cursor, bool month_first, Found& found) {
     } else if (month_first) {
         say_month_first({tn::value_of(month)}, day, full_year(year), found);
     } else {
-        say("the", found.words);
-        say_day_first(day, {tn::value_of(month)}, full_year(year), found);
+        say_day_first(cursor, day, {tn::value_of(month)}, full_year(year), found);
     }
     found.length = end;
 }
@@ -132,8 +139,7 @@ bool read_month_and_day(const Cursor& cursor, Found& found) {
                          cursor.starts_with(" in", end) || cursor.starts_with(" of", end);
     if (!is_date || goes_on) return false;
     if (is_day_first) {
-        say("the", found.words);
-        say_day_first(day, {tn::value_of(month)}, {}, found);
+        say_day_first(cursor, day, {tn::value_of(month)}, {}, found);
     } else {
         say_month_first({tn::value_of(month)}, day, {}, found);
     }
@@ -206,7 +212,7 @@ void read_first_of_days(const Cursor& cursor, std::string_view first, std::size_
     const std::string_view last = cursor.digits(ahead + 1);
     const bool has_month = month_number(cursor.letters(ahead + 1 + last.size() + 1)) > 0;
     if (!is_value(last, 1, 31) || !has_month) return;
-    say("the", found.words);
+    say_article(cursor, found);
     say_ordinal(first, found.words);
     found.length = at;
 }
@@ -224,9 +230,7 @@ void read_day_first(const Cursor& cursor, Found& found) {
     std::size_t end = at + 1 + name.size();
     if (name.size() < 4 && name != "May" && cursor.peek(end) == '.') ++end;
     const std::string_view year = year_after(cursor, end, end);
-    const bool has_article = cursor.word_before() == "the" || cursor.word_before() == "The";
-    if (!has_article) say("the", found.words);
-    say_day_first(day, month, year, found);
+    say_day_first(cursor, day, month, year, found);
     found.length = end;
 }
 
@@ -242,8 +246,7 @@ bool read_dashed_date(const Cursor& cursor, Found& found) {
     const std::size_t end = dash + 1 + year.size();
     if (month.number == 0 || cursor.peek(dash) != '-' || cursor.is_joined(end)) return false;
     if (!may_be_year(year) && year.size() != 2) return false;
-    if (cursor.word_before() != "the") say("the", found.words);
-    say_day_first(day, month, full_year(year), found);
+    say_day_first(cursor, day, month, full_year(year), found);
     found.length = end;
     return true;
 }

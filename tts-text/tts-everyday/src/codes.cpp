@@ -123,6 +123,17 @@ bool is_section_of_law(const Cursor& cursor, std::size_t ahead) {
            cursor.peek(ahead + 2) == ')';
 }
 
+// "a 404 error", "the 502 response"; not "404 errors", "a 404 km walk"
+bool is_status(const Cursor& cursor) {
+    constexpr std::size_t LENGTH = 3;
+    const char begin = cursor.peek(LENGTH + 1);
+    if (cursor.digits().size() != LENGTH || (begin != 'e' && begin != 'r')) return false;
+    const std::string_view noun = cursor.letters(LENGTH + 1);
+    if (noun != "error" && noun != "response") return false;
+    const std::string article = in_lower_case(cursor.word_before());
+    return article == "a" || article == "the";
+}
+
 // The row of NUMBERED for the word before the cursor, or null. An abbreviation may have a full
 // stop, and after the word of a code there may be more: "your code is: 4821".
 const Row* numbered_before(const Cursor& cursor) {
@@ -166,7 +177,7 @@ void read_after_name(const Cursor& cursor, std::string_view digits, Found& found
     if (row->kind == Kind::words) found.length += say_compass_after(cursor, end, found.words);
 }
 
-// "Flight 370", "Biology 101", "PO Box 1410", "call 911", "F-150", "401(k)"
+// "Flight 370", "Biology 101", "PO Box 1410", "call 911", "F-150", "401(k)", "a 404 error"
 void read_numbered(const Cursor& cursor, Found& found) {
     const std::string_view digits = cursor.digits();
     const std::size_t end = digits.size();
@@ -177,7 +188,8 @@ void read_numbered(const Cursor& cursor, Found& found) {
         found.length = end + say_compass_after(cursor, end, found.words);
         return;
     }
-    if (cursor.peek(end) == ' ' && is_street(cursor, end + 1)) {  // "1600 Oak Avenue"
+    // "1600 Oak Avenue", "a 404 error"
+    if (cursor.peek(end) == ' ' && (is_street(cursor, end + 1) || is_status(cursor))) {
         say_in_pairs(digits, found.words);
         found.length = end;
         return;

@@ -237,7 +237,7 @@ void read_day_first(const Cursor& cursor, Found& found) {
 // "4-Jun-2011", "04-Jun-11"
 bool read_dashed_date(const Cursor& cursor, Found& found) {
     const std::string_view day = cursor.digits();
-    if (!is_value(day, 1, 31) || cursor.peek(day.size()) != '-') return false;
+    if (cursor.peek(day.size()) != '-' || !is_value(day, 1, 31)) return false;
     const std::string_view name = cursor.letters(day.size() + 1);
     if (name.empty()) return false;
     const std::size_t dash = day.size() + 1 + name.size();

@@ -195,6 +195,7 @@ bool fits(const Cursor& cursor, const Row& row) {
         (cursor.before() == '.' || cursor.before() == '/' || is_lower(cursor.peek(length + 1)));
     if (is_of_path) return false;  // "misc.c"
     if (row.kind == Kind::anywhere) return !cursor.is_joined(length);
+    // Kinds whose full stop may be left out: after a full stop, some have another condition.
     const bool is_day = row.kind == Kind::before_date;
     if (is_day && (cursor.word_before() == "the" || cursor.word_before() == "The")) return false;
     if (is_day && after != '.') return is_date_part(cursor, length);

@@ -28,5 +28,6 @@ told 'not as many fields as columns' "$good"'g\tgram\n'
 told 'an empty field' "$good"'g\t\tglued\n'
 told 'an empty field, or a blank beside a tab' "$good"'g \tgram\tglued\n'
 told 'written in line 5 too' "$good$good"
+told 'more than 62 bytes' "$good"'g\t'"$(printf 'gram %.0s' {1..13})"'m\tglued\n'
 told 'the head of the table has no such kind' "$good"'g\tgram\tafter\n'
 told 'never found' "$good"'G\tgram\tglued\n' 'written matches: ^[a-z]+$'

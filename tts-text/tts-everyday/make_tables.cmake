@@ -35,7 +35,7 @@ macro(find_fault)
         set(fault "an empty field, or a blank beside a tab")
     elseif(DEFINED line_of_${key})
         set(fault "written in line ${line_of_${key}} too")
-    elseif(length_of_row GREATER 62)
+    elseif(length_of_row GREATER 62) # with a NUL after each, the offset of `many` has six bits
         set(fault "more than 62 bytes before the words for many")
     elseif(NOT written MATCHES "${pattern}")
         set(fault "never found: what is written does not match ${pattern}")

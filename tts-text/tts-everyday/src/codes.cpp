@@ -126,8 +126,7 @@ bool is_section_of_law(const Cursor& cursor, std::size_t ahead) {
 // "a 404 error", "the 502 response"; not "404 errors", "a 404 km walk"
 bool is_status(const Cursor& cursor) {
     constexpr std::size_t LENGTH = 3;
-    const char begin = cursor.peek(LENGTH + 1);
-    if (cursor.digits().size() != LENGTH || (begin != 'e' && begin != 'r')) return false;
+    if (cursor.digits().size() != LENGTH) return false;
     const std::string_view noun = cursor.letters(LENGTH + 1);
     if (noun != "error" && noun != "response") return false;
     const std::string article = in_lower_case(cursor.word_before());

@@ -42,10 +42,9 @@ bool read_compass_point(const Cursor& cursor, Found& found) {
 // "40 W 22nd St", "305 W Oak Ln", "Oak Avenue NW", "SW of Hilo"
 bool read_bare_compass_point(const Cursor& cursor, Found& found) {
     const std::string_view letters = cursor.letters();
-    if (cursor.is_joined_before()) return false;
+    if (cursor.is_joined_before() || cursor.is_joined(letters.size())) return false;
     const Row* row = find(COMPASS, letters);
     if (row == nullptr) return false;
-    if (cursor.is_joined(letters.size())) return false;
     const bool is_before_street = cursor.before() == ' ' && is_digit(cursor.before(2)) &&
                                   is_street(cursor, letters.size() + 1);
     const std::size_t stop = cursor.before(2) == '.' ? 2 : 0;

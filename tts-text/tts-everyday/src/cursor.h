@@ -70,6 +70,12 @@ class Cursor {
     bool starts_with(std::string_view words, std::size_t ahead = 0) const {
         return peek(ahead) == words[0] && part(ahead, words.size()) == words;
     }
+    // Whether words end at `back`.
+    bool is_after(std::string_view words, std::size_t back = 0) const {
+        const std::size_t shown = behind_.size();
+        return back + words.size() <= shown &&
+               behind_.substr(shown - back - words.size(), words.size()) == words;
+    }
 
     // The length of the run at `ahead` whose bytes all belong.
     template <typename Belongs>
@@ -87,7 +93,7 @@ class Cursor {
     // The letters at the cursor, and the digits: most rules begin with them.
     std::string_view letters() const { return part(0, is_letter(peek()) ? first_run() : 0); }
     std::string_view digits() const { return part(0, is_digit(peek()) ? first_run() : 0); }
-    // The same at `ahead`.
+    // The same at `ahead`, which is 0 too where a number may be at the cursor or after it.
     std::string_view letters(std::size_t ahead) const { return part(ahead, run(is_letter, ahead)); }
     std::string_view digits(std::size_t ahead) const {
         return ahead == 0 ? digits() : part(ahead, run(is_digit, ahead));

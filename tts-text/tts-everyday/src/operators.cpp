@@ -21,15 +21,8 @@ bool is_quantity_after(const Cursor& cursor, std::size_t ahead) {
 
 // "x²", "10⁸"
 bool ends_in_superscript(const Cursor& cursor, std::size_t back) {
-    for (const Row& row : SUPERSCRIPTS) {
-        const std::string_view sign = row.written();
-        std::size_t n_alike = 0;
-        while (n_alike < sign.size() &&
-               cursor.before(back + sign.size() - n_alike) == sign[n_alike])
-            ++n_alike;
-        if (n_alike == sign.size()) return true;
-    }
-    return false;
+    return std::any_of(SUPERSCRIPTS.begin(), SUPERSCRIPTS.end(),
+                       [&](const Row& row) { return cursor.is_after(row.written(), back); });
 }
 
 bool is_quantity_before(const Cursor& cursor, std::size_t back) {

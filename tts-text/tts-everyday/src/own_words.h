@@ -25,7 +25,7 @@ class OwnWords {
 
     // Whether a rule may read what it found at an offset: there is no entry in it, but for one for
     // the name that it found, which gets the user's word in its place: `entry` is set to
-    // that one. Places do not go back.
+    // that one. Offsets do not go back.
     bool allow(std::size_t at, Found& found, const Lexicon::Entry*& entry);
 
     // Whether any of what was asked could be answered otherwise if the text had more at its end.

@@ -54,6 +54,14 @@ Number second_of_size(const Cursor& cursor, std::size_t ahead, char mark, std::s
     return is_one ? second : Number{};
 }
 
+// "twelve by eighteen", or a number alone
+void say_size(const Number& number, const Number& second, std::string& out) {
+    number.say(out);
+    if (second.length == 0) return;
+    say("by", out);
+    second.say(out);
+}
+
 // Whether a quotation may be open before the cursor. A mark after a digit or "½" opens none.
 bool may_be_quoted(const Cursor& cursor) {
     for (std::size_t back = 1; back < LOOK_BACK; ++back) {
@@ -83,11 +91,7 @@ bool read_feet(const Cursor& cursor, const Number& number, Found& found) {
     const bool is_size = second.length > 0;
     if (!is_size && (cursor.peek(end) != ' ' || !is_measured(cursor.letters(end + 1))))
         return false;
-    number.say(found.words);
-    if (is_size) {
-        say("by", found.words);
-        second.say(found.words);
-    }
+    say_size(number, second, found.words);
     say(number.is_one() && !is_size ? "foot" : "feet", found.words);
     found.length = end;
     return true;
@@ -105,11 +109,7 @@ bool read_inches(const Cursor& cursor, const Number& number, Found& found) {
     const bool is_clear = is_size || !number.fraction.empty() || before == "a" || before == "an";
     if (cursor.is_joined(end) || (next.empty() && !is_size) || (!is_clear && is_upper(next[0])))
         return false;
-    number.say(found.words);
-    if (is_size) {
-        say("by", found.words);
-        second.say(found.words);
-    }
+    say_size(number, second, found.words);
     const bool is_one = (number.is_one() && !is_size) || is_adjective(cursor, end, next);
     say(is_one ? "inch" : "inches", found.words);
     found.length = end;

@@ -123,8 +123,8 @@ Counting counting_of(const Cursor& cursor, std::string_view numeral) {
                                                             title->kind == Kind::both)
                                      : is_counted_by_roman(counted, Kind::after);
     if (is_counted) {
-        const bool may_be_speaker = is_lower(counted[0]) || counted == "No";  // "No. I said"
-        const bool is_speaker = may_be_speaker && numeral == "I" && !has_numeral_after(cursor);
+        const bool may_be_pronoun = is_lower(counted[0]) || counted == "No";  // "No. I said"
+        const bool is_speaker = may_be_pronoun && numeral == "I" && !has_numeral_after(cursor);
         return is_speaker ? Counting::none : Counting::cardinal;
     }
     constexpr std::size_t SHORTEST = 4;  // "The II Corps"
@@ -132,6 +132,17 @@ Counting counting_of(const Cursor& cursor, std::string_view numeral) {
         is_name(before) && before.size() >= SHORTEST && is_plain_numeral(numeral);
     if (!is_numbered_name) return Counting::none;
     return is_person(cursor, back, before) ? Counting::ordinal : Counting::cardinal;
+}
+
+// "scene ii", "pp. xi"
+void read_small_roman(const Cursor& cursor, Found& found) {
+    const std::string_view numeral = cursor.letters();
+    const int value = value_of_small_roman(numeral);
+    if (value == 0 || cursor.is_joined(numeral.size()) || cursor.apostrophe(numeral.size()) > 0)
+        return;
+    if (counting_of(cursor, numeral) != Counting::cardinal) return;
+    say_cardinal(std::to_string(value), found.words);
+    found.length = numeral.size();
 }
 
 }  // namespace
@@ -160,17 +171,6 @@ int value_of_roman(std::string_view numeral) {
         value += here < next ? -here : here;
     }
     return roman_of(value) == numeral ? value : 0;
-}
-
-// "scene ii", "pp. xi"
-void read_small_roman(const Cursor& cursor, Found& found) {
-    const std::string_view numeral = cursor.letters();
-    const int value = value_of_small_roman(numeral);
-    if (value == 0 || cursor.is_joined(numeral.size()) || cursor.apostrophe(numeral.size()) > 0)
-        return;
-    if (counting_of(cursor, numeral) != Counting::cardinal) return;
-    say_cardinal(std::to_string(value), found.words);
-    found.length = numeral.size();
 }
 
 void read_roman(const Cursor& cursor, Found& found) {

@@ -1,4 +1,4 @@
-// Names of streets: what is before and after them is of an address.
+// Names of streets, in addresses.
 
 #include "rules.h"
 

@@ -23,8 +23,8 @@ bool may_begin_number(const Cursor& cursor) {
 bool is_after_feet(const Cursor& cursor, std::size_t end) {
     const std::string_view before = cursor.word_before();
     const bool is_hexadecimal = cursor.before(2) == '0' && !is_digit(cursor.before(3));
-    const bool is_after_cross = (before == "x" && !is_hexadecimal) || cursor.before() == "×"[1] ||
-                                (cursor.before() == ' ' && cursor.before(2) == "×"[1]);
+    const bool is_after_cross =
+        (before == "x" && !is_hexadecimal) || cursor.is_after("×") || cursor.is_after("× ");
     return (is_after_cross || before == "ft" || before == "feet") &&
            find_lower(DETERMINERS, cursor.letters(end + cursor.blanks(end))) == nullptr;
 }
